@@ -1,0 +1,47 @@
+# Flags that every target of the project is compiled with.
+add_library(velmora_flags INTERFACE)
+target_include_directories(velmora_flags INTERFACE ${CMAKE_SOURCE_DIR}/src)
+target_compile_options(velmora_flags INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wcast-qual -Wnon-virtual-dtor -Woverloaded-virtual
+  -Wunused -Wnull-dereference -Wformat=2
+  $<$<BOOL:${VELMORA_WERROR}>:-Werror>)
+if(VELMORA_SANITIZE)
+  target_compile_options(velmora_flags INTERFACE
+    -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+  target_link_options(velmora_flags INTERFACE -fsanitize=address,undefined)
+endif()
+
+# velmora_library(NAME SOURCES a.cpp … [LIBS other …])
+# One layer of the program as a static library called velmora_NAME. LIBS name the layers below it:
+# what is not listed does not link, so the order of the layers is kept by the linker.
+function(velmora_library name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LIBS" ${ARGN})
+  add_library(velmora_${name} STATIC ${ARG_SOURCES})
+  target_link_libraries(velmora_${name} PUBLIC velmora_flags ${ARG_LIBS})
+endfunction()
+
+# velmora_test(NAME SOURCES a_test.cpp … [LIBS layer …])
+# One GoogleTest program of a folder; each test case becomes a test of its own in CTest.
+function(velmora_test name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LIBS" ${ARGN})
+  add_executable(${name} ${ARG_SOURCES})
+  target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
+  target_link_libraries(${name} PRIVATE velmora_flags ${ARG_LIBS} GTest::gmock GTest::gtest_main)
+  set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
+  gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST PROPERTIES TIMEOUT 120)
+  foreach(source ${ARG_SOURCES})
+    file(REAL_PATH ${source} path)
+    set_property(GLOBAL APPEND PROPERTY VELMORA_TEST_SOURCES ${path})
+  endforeach()
+endfunction()
+
+# Fails the configuration when a *_test.cpp below the folder belongs to no test program.
+function(velmora_check_every_test_is_built folder)
+  file(GLOB_RECURSE found ${folder}/*_test.cpp)
+  get_property(built GLOBAL PROPERTY VELMORA_TEST_SOURCES)
+  foreach(path ${found})
+    if(NOT path IN_LIST built)
+      message(FATAL_ERROR "${path} belongs to no test program")
+    endif()
+  endforeach()
+endfunction()

@@ -1,0 +1,44 @@
+// Cutting the stream of received bytes into frames.
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace velmora {
+
+/// The receive buffer of a link. Bytes go in as they come, whole frames come out; garbage between frames is
+/// dropped. The time spent is linear in the bytes given, however they are portioned.
+///
+/// A frame ends at a DLE ETX whose DLE is the last of an odd run of DLEs (in an even run every DLE is an
+/// escaped one of the body), once the two check bytes behind it have arrived.
+class FrameCutter {
+  public:
+    /// Most bytes kept while a frame has no end. Beyond it the oldest are dropped, up to the next header.
+    static constexpr std::size_t kCapacity = 64 * 1024;
+
+    /// Adds received bytes.
+    void append(std::string_view bytes);
+    /// The next complete frame, header to second check byte, or nothing. The view holds until the next call
+    /// of any other member or of next itself.
+    std::optional<std::string_view> next();
+    /// Forgets everything received.
+    void clear();
+
+    /// Bytes dropped so far because they belonged to no frame.
+    std::size_t droppedBytes() const { return dropped_; }
+
+  private:
+    bool findHeader();
+    void drop(std::size_t count);
+    void limit();
+
+    std::string buffer_;
+    std::size_t begin_ = 0;  // where the bytes that still count begin
+    bool inFrame_ = false;   // a header stands at begin_
+    std::size_t scan_ = 0;   // in a frame: where the search for its end goes on
+    std::size_t dropped_ = 0;
+};
+
+}  // namespace velmora

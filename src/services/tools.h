@@ -1,0 +1,38 @@
+// The names of files: from the Organiser's to paths of this machine.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "base/files.h"
+#include "base/path_rules.h"
+#include "services/transfer_settings.h"
+
+namespace velmora {
+
+/// Replaces, in place, each byte of `text` that occurs in `find` by the byte of `replace` at the same
+/// position; both sets have one length. Returns the changed text.
+std::string& translate_Chars(std::string& text, std::string_view find, std::string_view replace);
+
+/// Maps file names. Holds references only; the files, rules and settings must outlive it.
+class Tools {
+  public:
+    Tools(const Files& files, const PathRules& rules, const TransferSettings& settings);
+
+    /// The full path, in the system's encoding, for a name as the Organiser sent it (Windows-1252 bytes):
+    /// relative to the download folder unless it is rooted, with "/" for "\\", "_" for "%", "~" for ">", an
+    /// all-capitals name re-cased to one leading capital. Empty when the name is refused: a "*" that is not
+    /// allowed, a folder that does not exist, a name that the system cannot hold.
+    /// `resolveExisting`: an existing file is given with the letters as stored.
+    std::string map_FileName(std::string_view name, bool resolveExisting, bool allowWildcards) const;
+
+    /// The last component of a path as Windows-1252 bytes for a display; "?" for what has no byte.
+    std::string displayName(const std::string& path) const;
+
+  private:
+    const Files& files_;
+    const PathRules& rules_;
+    const TransferSettings& settings_;
+};
+
+}  // namespace velmora
