@@ -10,6 +10,11 @@ if(VELMORA_SANITIZE)
     -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
   target_link_options(velmora_flags INTERFACE -fsanitize=address,undefined)
 endif()
+if(VELMORA_FUZZ)
+  target_compile_options(velmora_flags INTERFACE
+    -fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=undefined)
+  target_link_options(velmora_flags INTERFACE -fsanitize=address,undefined)
+endif()
 
 # velmora_library(NAME SOURCES a.cpp … [LIBS other …])
 # One layer of the program as a static library called velmora_NAME. LIBS name the layers below it:
