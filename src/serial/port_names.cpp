@@ -1,0 +1,91 @@
+#include "serial/port_names.h"
+
+#include <array>
+#include <charconv>
+#include <limits>
+
+#include "base/byte_text.h"
+
+namespace velmora {
+
+namespace {
+
+constexpr int kLastPort = std::numeric_limits<std::int16_t>::max();
+
+struct DeviceRange {
+    int first;
+    int last;
+    const char* prefix;
+};
+
+constexpr std::array<DeviceRange, 3> kRanges = {{
+    {1, 4, "/dev/ttyS"},
+    {5, 20, "/dev/ttyUSB"},
+    {21, 36, "/dev/ttyACM"},
+}};
+constexpr int kFirstFreePort = kRanges.back().last + 1;
+
+}  // namespace
+
+std::optional<int> comNumber(std::string_view text) {
+    const std::string capitals = upperCase(trimBlanks(text));
+    constexpr std::string_view prefix = "COM";
+    if (!capitals.starts_with(prefix)) {
+        return std::nullopt;
+    }
+    int number = 0;
+    const char* const end = capitals.data() + capitals.size();
+    const auto [stopped, error] = std::from_chars(capitals.data() + prefix.size(), end, number);
+    if (error != std::errc() || stopped != end || number < 1 || number > kLastPort) {
+        return std::nullopt;
+    }
+    return number;
+}
+
+PortNames::PortNames(const Overrides& overrides) {
+    for (const auto& [name, path] : overrides) {
+        const std::optional<int> number = comNumber(name);
+        if (number && !path.empty()) {
+            overrides_[*number] = path;
+        }
+    }
+}
+
+std::optional<std::string> PortNames::device(int number) const {
+    if (const auto found = overrides_.find(number); found != overrides_.end()) {
+        return found->second;
+    }
+    for (const DeviceRange& range : kRanges) {
+        if (number >= range.first && number <= range.last) {
+            return range.prefix + std::to_string(number - range.first);
+        }
+    }
+    return std::nullopt;
+}
+
+std::optional<std::string> PortNames::device(std::string_view name) const {
+    const std::optional<int> number = comNumber(name);
+    return number ? device(*number) : std::nullopt;
+}
+
+int PortNames::numberFor(const std::string& nameOrDevice) {
+    if (const std::optional<int> number = comNumber(nameOrDevice)) {
+        return *number;
+    }
+    int firstFree = 0;
+    for (int number = 1; number <= kLastPort; ++number) {
+        const std::optional<std::string> path = device(number);
+        if (path == nameOrDevice) {
+            return number;
+        }
+        if (!path && firstFree == 0 && number >= kFirstFreePort) {
+            firstFree = number;
+        }
+    }
+    if (firstFree != 0) {
+        overrides_[firstFree] = nameOrDevice;
+    }
+    return firstFree;
+}
+
+}  // namespace velmora

@@ -1,0 +1,40 @@
+// Which device a port number stands for.
+#pragma once
+
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace velmora {
+
+/// The number in "COM<n>", in any case; nothing for any other text and for numbers outside 1 to 32,767.
+std::optional<int> comNumber(std::string_view text);
+
+/// Numbers of serial ports and the devices behind them. A number that is not given a device stands for
+/// /dev/ttyS0-3 (1 to 4), /dev/ttyUSB0-15 (5 to 20) or /dev/ttyACM0-15 (21 to 36); all others do not exist.
+class PortNames {
+  public:
+    /// Texts like "COM7" and the device paths that they stand for.
+    using Overrides = std::map<std::string, std::string>;
+
+    PortNames() = default;
+    /// `overrides` as the section [Ports] of the configuration file has them. Entries whose key is no port or
+    /// whose path is empty are left out.
+    explicit PortNames(const Overrides& overrides);
+
+    /// The device for a number; nothing when there is no such port.
+    std::optional<std::string> device(int number) const;
+    /// The device for a text "COM<n>"; nothing when there is no such port.
+    std::optional<std::string> device(std::string_view name) const;
+
+    /// The number for a text "COM<n>" or a device path as a user gives it: the lowest number that stands for
+    /// the path, otherwise the first free one from 37 on, which stands for it from now on. 0 when none is
+    /// free.
+    int numberFor(const std::string& nameOrDevice);
+
+  private:
+    std::map<int, std::string> overrides_;
+};
+
+}  // namespace velmora
