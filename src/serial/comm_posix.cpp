@@ -1,0 +1,402 @@
+#include "serial/comm_posix.h"
+
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/file.h>
+#include <sys/ioctl.h>
+#include <unistd.h>
+#ifdef __linux__
+#include <linux/serial.h>
+#endif
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cstring>
+#include <utility>
+
+#include "serial/device_facts.h"
+#include "serial/mode_string.h"
+#include "serial/open_diagnosis.h"
+#include "serial/port_names.h"
+
+namespace velmora {
+
+namespace {
+
+using std::chrono::milliseconds;
+using std::chrono::steady_clock;
+
+/// A driver may call itself not writable although there is room for some bytes, so a write is tried again
+/// this often however the poll answers.
+constexpr milliseconds kWriteRetry{50};
+/// How long closing waits for bytes that the driver still has to send.
+constexpr milliseconds kDrainLimit{1000};
+constexpr milliseconds kDrainStep{5};
+
+constexpr std::array<std::pair<std::uint32_t, speed_t>, 30> kRates = {{
+    {50, B50},           {75, B75},           {110, B110},         {134, B134},         {150, B150},
+    {200, B200},         {300, B300},         {600, B600},         {1200, B1200},       {1800, B1800},
+    {2400, B2400},       {4800, B4800},       {9600, B9600},       {19200, B19200},     {38400, B38400},
+    {57600, B57600},     {115200, B115200},   {230400, B230400},   {460800, B460800},   {500000, B500000},
+    {576000, B576000},   {921600, B921600},   {1000000, B1000000}, {1152000, B1152000}, {1500000, B1500000},
+    {2000000, B2000000}, {2500000, B2500000}, {3000000, B3000000}, {3500000, B3500000}, {4000000, B4000000},
+}};
+
+/// The one translator of system errors. EIO has the number that would mean "in use", so it gets its own.
+SystemError translated(int error) {
+    switch (error) {
+        case ENOENT:
+        case ENOTDIR:
+        case ENODEV:
+        case ENXIO:
+            return kNoSuchPort;
+        case EBUSY:
+        case EWOULDBLOCK:
+            return kPortInUse;
+        case EIO:
+            return kDeviceFailed;
+        case EPERM:
+            return EACCES;
+        default:
+            return error;
+    }
+}
+
+SystemError result(int returned) {
+    return returned < 0 ? translated(errno) : kSuccess;
+}
+
+void makeRaw(termios& block) {
+    cfmakeraw(&block);
+    block.c_iflag &= ~static_cast<tcflag_t>(IXOFF | IXANY | INPCK);
+    block.c_cflag &= ~static_cast<tcflag_t>(CRTSCTS);
+    block.c_cflag |= CREAD | CLOCAL | HUPCL;
+    block.c_cc[VMIN] = 0;
+    block.c_cc[VTIME] = 0;
+}
+
+bool applyBaud(termios& block, std::uint32_t baud) {
+    const auto* const rate =
+        std::find_if(kRates.begin(), kRates.end(), [baud](const auto& entry) { return entry.first == baud; });
+    return rate != kRates.end() && cfsetispeed(&block, rate->second) == 0 &&
+           cfsetospeed(&block, rate->second) == 0;
+}
+
+bool applyParity(termios& block, Parity parity) {
+    tcflag_t flags = 0;
+    switch (parity) {
+        case Parity::None:
+            break;
+        case Parity::Odd:
+            flags = PARENB | PARODD;
+            break;
+        case Parity::Even:
+            flags = PARENB;
+            break;
+        case Parity::Mark:
+            flags = PARENB | CMSPAR | PARODD;
+            break;
+        case Parity::Space:
+            flags = PARENB | CMSPAR;
+            break;
+    }
+    block.c_cflag &= ~static_cast<tcflag_t>(PARENB | PARODD | CMSPAR);
+    block.c_cflag |= flags;
+    return true;
+}
+
+bool applyDataBits(termios& block, int dataBits) {
+    constexpr std::array<tcflag_t, 4> sizes = {CS5, CS6, CS7, CS8};
+    block.c_cflag &= ~static_cast<tcflag_t>(CSIZE);
+    block.c_cflag |= sizes.at(static_cast<std::size_t>(dataBits - 5));
+    return true;
+}
+
+/// With five data bits the hardware makes one and a half stop bits of CSTOPB.
+bool applyStopBits(termios& block, StopBits stopBits) {
+    if (stopBits == StopBits::One) {
+        block.c_cflag &= ~static_cast<tcflag_t>(CSTOPB);
+    } else {
+        block.c_cflag |= CSTOPB;
+    }
+    return true;
+}
+
+}  // namespace
+
+std::unique_ptr<CommDevice> makeCommDevice(const PortNames& names) {
+    return std::make_unique<PosixCommDevice>(names);
+}
+
+SystemError PosixCommDevice::open(const std::string& name) {
+    close();
+    const std::optional<std::string> path = names_.device(name);
+    path_ = path.value_or(name);
+    if (!path) {
+        return kNoSuchPort;
+    }
+    do {
+        fd_ = ::open(path_.c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC);
+    } while (fd_ < 0 && errno == EINTR);
+    if (fd_ < 0) {
+        return translated(errno);
+    }
+    const SystemError error = acquire();
+    if (error != kSuccess) {
+        ::close(fd_);
+        fd_ = -1;
+    }
+    return error;
+}
+
+/// Takes the opened device for this program. What another program did to it is not undone on failure.
+SystemError PosixCommDevice::acquire() {
+    if (tcgetattr(fd_, &saved_) < 0) {
+        // The standard ports have device files whether or not there is hardware behind them.
+        return errno == EIO ? kNoSuchPort : translated(errno);
+    }
+    if (flock(fd_, LOCK_EX | LOCK_NB) < 0) {
+        return translated(errno);
+    }
+    // The system lets a privileged program open a device that another one holds exclusively.
+#ifdef TIOCGEXCL
+    int exclusive = 0;
+    if (ioctl(fd_, TIOCGEXCL, &exclusive) == 0 && exclusive != 0) {
+        return kPortInUse;
+    }
+#endif
+    ioctl(fd_, TIOCEXCL);
+    errorCounts_ = readErrorCounts().value_or(ErrorCounts{});
+    return kSuccess;
+}
+
+SystemError PosixCommDevice::setupQueues(std::size_t, std::size_t) {
+    return result(fcntl(fd_, F_GETFD));
+}
+
+SystemError PosixCommDevice::purge() {
+    return result(tcflush(fd_, TCIOFLUSH));
+}
+
+SystemError PosixCommDevice::setTimeouts(const CommTimeouts& timeouts) {
+    writeStall_ = milliseconds(timeouts.writeTotalMultiplier) + milliseconds(timeouts.writeTotalConstant);
+    return result(fcntl(fd_, F_GETFD));
+}
+
+SystemError PosixCommDevice::getState() {
+    dtrControl_.reset();
+    return result(tcgetattr(fd_, &block_));
+}
+
+SystemError PosixCommDevice::buildState(const std::string& settings) {
+    const std::optional<LineSettings> line = parseModeString(settings);
+    if (!line) {
+        return kInvalidParameter;
+    }
+    makeRaw(block_);
+    const bool possible = applyBaud(block_, line->baud) && applyParity(block_, line->parity) &&
+                          applyDataBits(block_, line->dataBits) && applyStopBits(block_, line->stopBits);
+    return possible ? kSuccess : kInvalidParameter;
+}
+
+SystemError PosixCommDevice::setState() {
+    if (tcsetattr(fd_, TCSANOW, &block_) < 0) {
+        return errno == EINVAL ? kInvalidParameter : translated(errno);
+    }
+    // The call succeeds when any of the settings was taken. A pseudo-terminal has no parity and no stop bits
+    // of its own and works all the same; a wrong rate never does.
+    termios taken{};
+    if (tcgetattr(fd_, &taken) < 0) {
+        return translated(errno);
+    }
+    if (cfgetospeed(&taken) != cfgetospeed(&block_)) {
+        return kInvalidParameter;
+    }
+    if (dtrControl_) {
+        setModemLine(TIOCM_DTR, *dtrControl_);
+    }
+    return kSuccess;
+}
+
+SystemError PosixCommDevice::close() {
+    if (fd_ < 0) {
+        return EBADF;
+    }
+    drain();
+    tcsetattr(fd_, TCSANOW, &saved_);
+    ioctl(fd_, TIOCNXCL);
+    flock(fd_, LOCK_UN);
+    // The descriptor is gone whatever close answers.
+    ::close(std::exchange(fd_, -1));
+    return kSuccess;
+}
+
+SystemError PosixCommDevice::clearError(CommStatus& status) {
+    status = CommStatus{};
+    int waiting = 0;
+    if (ioctl(fd_, FIONREAD, &waiting) < 0) {
+        return translated(errno);
+    }
+    status.inQueue = static_cast<std::size_t>(std::max(waiting, 0));
+    status.errorFlags = newErrorFlags();
+    return waiting <= 0 && hungUp() ? kDeviceFailed : kSuccess;
+}
+
+SystemError PosixCommDevice::read(char* buffer, std::size_t count, std::size_t& transferred) {
+    transferred = 0;
+    ssize_t got = 0;
+    do {
+        got = ::read(fd_, buffer, count);
+    } while (got < 0 && errno == EINTR);
+    if (got < 0) {
+        return errno == EAGAIN ? kSuccess : translated(errno);
+    }
+    transferred = static_cast<std::size_t>(got);
+    return kSuccess;
+}
+
+SystemError PosixCommDevice::write(std::string_view data, std::size_t& transferred) {
+    transferred = 0;
+    steady_clock::time_point progress = steady_clock::now();
+    while (transferred < data.size()) {
+        const ssize_t put = ::write(fd_, data.data() + transferred, data.size() - transferred);
+        if (put > 0) {
+            transferred += static_cast<std::size_t>(put);
+            progress = steady_clock::now();
+            continue;
+        }
+        if (put < 0 && errno == EINTR) {
+            continue;
+        }
+        if (put < 0 && errno != EAGAIN) {
+            return translated(errno);
+        }
+        const auto left =
+            writeStall_ - std::chrono::duration_cast<milliseconds>(steady_clock::now() - progress);
+        if (left <= milliseconds::zero()) {
+            return ETIMEDOUT;
+        }
+        if (const SystemError error = waitWritable(std::min(left, kWriteRetry))) {
+            return error;
+        }
+    }
+    return kSuccess;
+}
+
+SystemError PosixCommDevice::modemStatus(std::uint32_t& lines) {
+    constexpr std::array<std::pair<int, std::uint32_t>, 4> bits = {{
+        {TIOCM_CTS, kCtsOn},
+        {TIOCM_DSR, kDsrOn},
+        {TIOCM_RNG, kRingOn},
+        {TIOCM_CAR, kCarrierOn},
+    }};
+    lines = 0;
+    int status = 0;
+    if (ioctl(fd_, TIOCMGET, &status) < 0) {
+        return translated(errno);
+    }
+    for (const auto& [bit, line] : bits) {
+        if ((status & bit) != 0) {
+            lines |= line;
+        }
+    }
+    return kSuccess;
+}
+
+SystemError PosixCommDevice::escapeFunction(CommFunction function) {
+    switch (function) {
+        case CommFunction::None:
+            return kInvalidParameter;
+        case CommFunction::SetRts:
+            return setModemLine(TIOCM_RTS, true);
+        case CommFunction::ClearRts:
+            return setModemLine(TIOCM_RTS, false);
+        case CommFunction::SetDtr:
+            return setModemLine(TIOCM_DTR, true);
+        case CommFunction::ClearDtr:
+            return setModemLine(TIOCM_DTR, false);
+        case CommFunction::SetBreak:
+            return result(ioctl(fd_, TIOCSBRK));
+        case CommFunction::ClearBreak:
+            return result(ioctl(fd_, TIOCCBRK));
+    }
+    return kInvalidParameter;
+}
+
+std::string PosixCommDevice::errorMessage(SystemError number) const {
+    switch (number) {
+        case kNoSuchPort:
+            return "There is no such port";
+        case kPortInUse:
+            return "The port is in use";
+        case EACCES:
+            return permissionSentence(path_, gatherDeviceFacts(path_));
+        case kInvalidParameter:
+            return "The port does not take these settings";
+        case ETIMEDOUT:
+            return "The line did not take the bytes in time";
+        case ENOTTY:
+            return "The device has no such function";
+        case kDeviceFailed:
+            return "The line was cut or the device failed";
+        default:
+            return std::strerror(number);
+    }
+}
+
+SystemError PosixCommDevice::waitWritable(milliseconds atMost) const {
+    pollfd watched{fd_, POLLOUT, 0};
+    if (poll(&watched, 1, static_cast<int>(atMost.count())) < 0) {
+        return errno == EINTR ? kSuccess : translated(errno);
+    }
+    return (watched.revents & (POLLHUP | POLLERR | POLLNVAL)) != 0 ? kDeviceFailed : kSuccess;
+}
+
+bool PosixCommDevice::hungUp() const {
+    pollfd watched{fd_, 0, 0};
+    return poll(&watched, 1, 0) > 0 && (watched.revents & (POLLHUP | POLLERR | POLLNVAL)) != 0;
+}
+
+std::uint32_t PosixCommDevice::newErrorFlags() {
+    const std::optional<ErrorCounts> now = readErrorCounts();
+    if (!now) {
+        return 0;
+    }
+    const ErrorCounts before = std::exchange(errorCounts_, *now);
+    std::uint32_t flags = 0;
+    flags |= now->queueOverflow != before.queueOverflow ? 1U : 0U;
+    flags |= now->overrun != before.overrun ? 2U : 0U;
+    flags |= now->parity != before.parity ? 4U : 0U;
+    flags |= now->framing != before.framing ? 8U : 0U;
+    flags |= now->breaks != before.breaks ? 16U : 0U;
+    return flags;
+}
+
+std::optional<PosixCommDevice::ErrorCounts> PosixCommDevice::readErrorCounts() const {
+#ifdef TIOCGICOUNT
+    serial_icounter_struct counts{};
+    if (ioctl(fd_, TIOCGICOUNT, &counts) == 0) {
+        return ErrorCounts{counts.buf_overrun, counts.overrun, counts.parity, counts.frame, counts.brk};
+    }
+#endif
+    return std::nullopt;
+}
+
+SystemError PosixCommDevice::setModemLine(int line, bool on) const {
+    return result(ioctl(fd_, on ? TIOCMBIS : TIOCMBIC, &line));
+}
+
+/// Lets the last bytes go out before the rate is set back under them; the system's own wait has no end.
+void PosixCommDevice::drain() const {
+    int waiting = 0;
+    for (milliseconds waited{0}; waited < kDrainLimit; waited += kDrainStep) {
+        if (ioctl(fd_, TIOCOUTQ, &waiting) < 0 || waiting <= 0) {
+            return;
+        }
+        poll(nullptr, 0, static_cast<int>(kDrainStep.count()));
+    }
+    tcflush(fd_, TCOFLUSH);
+}
+
+}  // namespace velmora

@@ -1,0 +1,99 @@
+#include "serial/open_diagnosis.h"
+
+#include <cerrno>
+#include <system_error>
+
+#include "serial/comm_device.h"
+#include "serial/serial_port.h"
+
+namespace velmora {
+
+namespace {
+
+enum class Cause { Absent, NoPermission, Busy, Settings, Failed };
+
+Cause causeOf(std::int32_t code, const DeviceFacts& facts) {
+    switch (code) {
+        case kPortInUse:
+        case kCommAlreadyOpen:
+            return Cause::Busy;
+        case kInvalidParameter:
+        case kCommInvalidSettings:
+            return Cause::Settings;
+        case kNoSuchPort:
+        case kCommInvalidPort:
+            return Cause::Absent;
+        default:
+            break;
+    }
+    if (!facts.exists) {
+        return Cause::Absent;
+    }
+    return facts.mayOpen ? Cause::Failed : Cause::NoPermission;
+}
+
+std::string absentSentence(const std::string& device, const DeviceFacts& facts) {
+    if (facts.exists) {
+        return device + " has no serial hardware behind it; choose another port.";
+    }
+    return device + " does not exist; is the adapter plugged in, and is it the right port?";
+}
+
+std::string failedSentence(const std::string& device, std::int32_t code) {
+    if (code == kDeviceFailed) {
+        return device + " does not respond; is the adapter still plugged in?";
+    }
+    if (code == ENOTTY) {
+        return device + " is not a serial port.";
+    }
+    if (code <= 0) {
+        return device + " cannot be opened.";
+    }
+    return device + " cannot be opened: " + std::system_category().message(code) + ".";
+}
+
+}  // namespace
+
+std::string permissionSentence(const std::string& device, const DeviceFacts& facts) {
+    const std::string start = "No permission to open " + device;
+    if (facts.owner.empty()) {
+        return start + ".";
+    }
+    const std::string owned = start + ", which belongs to user " + facts.owner + " and group " + facts.group;
+    if (!facts.groupMayOpen) {
+        return owned + "; the group may not open it either.";
+    }
+    if (facts.sessionIsMember) {
+        return owned + "; " + facts.login + " is in that group, so something else forbids it.";
+    }
+    if (facts.loginIsMember) {
+        return owned + "; " + facts.login + " is in that group from the next login on: log out and in again.";
+    }
+    return owned + "; " + facts.login + " is not in that group: run \"sudo usermod -aG " + facts.group + " " +
+           facts.login + "\", then log out and in again.";
+}
+
+std::string describeOpenFailure(const std::string& device, std::int32_t code, const DeviceFacts& facts,
+                                const std::string& holder) {
+    switch (causeOf(code, facts)) {
+        case Cause::Absent:
+            return absentSentence(device, facts);
+        case Cause::NoPermission:
+            return permissionSentence(device, facts);
+        case Cause::Busy:
+            return device + " is in use by " + (holder.empty() ? "another program" : holder) + ".";
+        case Cause::Settings:
+            return device + " does not take these line settings; choose another speed.";
+        case Cause::Failed:
+            return failedSentence(device, code);
+    }
+    return {};
+}
+
+std::string describeOpenFailure(const std::string& device, std::int32_t code) {
+    const DeviceFacts facts = gatherDeviceFacts(device);
+    const bool busy = causeOf(code, facts) == Cause::Busy;
+    return describeOpenFailure(device, code, facts, busy ? findHolder(device) : std::string());
+}
+
+}  // namespace velmora
