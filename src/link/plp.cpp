@@ -1,5 +1,7 @@
 #include "link/plp.h"
 
+#include <utility>
+
 #include "link/server_state.h"
 
 namespace velmora {
@@ -12,11 +14,11 @@ PLP::PLP(const Crc& crc, ServerWindow& window, Timer& comTimer, Trace& trace, Ev
 // Start and stop
 
 int PLP::PLP_Start(SerialPort& port, Timer& timer) {
+    if (port_ != nullptr) {
+        return kLinkStarted;
+    }
     ++run_;
     const Run run(*this);
-    if (timer_ != nullptr) {
-        timer_->setEnabled(false);
-    }
     port_ = &port;
     timer_ = &timer;
     timer_->setEnabled(false);
@@ -47,7 +49,8 @@ int PLP::PLP_Start(SerialPort& port, Timer& timer) {
     }
     comTimer_.setEnabled(true);
     PLP_InitLink();
-    return kLinkStarted;
+    // A link request that could not be written may have stopped the link already.
+    return port_ != nullptr ? kLinkStarted : kPortOpenError;
 }
 
 void PLP::openPort() {
@@ -127,7 +130,7 @@ void PLP::PLP_Timeout() {
             PLP_InitLink();
             break;
         case LinkState::WaitLink:
-            PLP_Send(FrameType::Connect, {});
+            sendFrame(FrameType::Connect, {});
             break;
         case LinkState::Linking:
         case LinkState::Ready:
@@ -234,6 +237,11 @@ bool PLP::takeBytes(std::string_view bytes) {
 // Sending
 
 bool PLP::PLP_Send(FrameType type, std::string_view data) {
+    const bool repliesToAnEarlierRun = eventRun_ && *eventRun_ != run_;
+    return !repliesToAnEarlierRun && sendFrame(type, data);
+}
+
+bool PLP::sendFrame(FrameType type, std::string_view data) {
     if (port_ == nullptr) {
         return false;
     }
@@ -312,7 +320,7 @@ void PLP::PLP_InitLink() {
     trace_.trace("PLP", "PLP INITLINK", {});
     state_ = LinkState::WaitLink;
     armTimer(kAnswerTime);
-    PLP_Send(FrameType::Connect, {});
+    sendFrame(FrameType::Connect, {});
 }
 
 void PLP::PLP_Down() {
@@ -336,7 +344,7 @@ void PLP::PLP_Error() {
         case LinkState::Linking:
             break;
         case LinkState::Ready:
-            PLP_Send(FrameType::Ack, {});
+            sendFrame(FrameType::Ack, {});
             break;
         case LinkState::WaitAck:
             if (resendBudget_ > 0) {
@@ -352,7 +360,7 @@ void PLP::PLP_Error() {
 /// Drops a link on which a DATA frame was never acknowledged, says so, and seeks a new one.
 void PLP::giveUp() {
     const Run run(*this);
-    PLP_Send(FrameType::Discon, std::string_view(&kReasonTooManyErrors, 1));
+    sendFrame(FrameType::Discon, std::string_view(&kReasonTooManyErrors, 1));
     if (run.over()) {
         return;
     }
@@ -366,7 +374,7 @@ void PLP::giveUp() {
     }
     PLP_Down();
     if (!run.over()) {
-        PLP_Send(FrameType::Connect, {});
+        sendFrame(FrameType::Connect, {});
     }
 }
 
@@ -402,8 +410,10 @@ void PLP::giveEvent(ServiceEventCode code, std::string payload) {
     if (services_ == nullptr) {
         return;
     }
+    const auto outerEvent = std::exchange(eventRun_, run_);
     std::int32_t changeableCode = code;
     services_->Services(changeableCode, payload);
+    eventRun_ = outerEvent;
 }
 
 bool PLP::isConsistent() const {

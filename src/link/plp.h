@@ -4,6 +4,7 @@
 
 #include <chrono>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -58,7 +59,8 @@ class PLP : public FrameSender {
 
     /// Opens the port, raises DTR and begins to seek a link; `timer` is the protocol timer. Both stay in use
     /// until PLP_Stop. Returns a LinkStartResult; when it is not kLinkStarted, neither is used any more.
-    /// Forgets the stop requests of an earlier run.
+    /// Forgets the stop requests of an earlier run. A link that runs is left alone and counts as started: a
+    /// second click on Start can arrive while the first one's link request is being written.
     int PLP_Start(SerialPort& port, Timer& timer);
     /// Ends the service, closes the port and lets go of port and timer.
     void PLP_Stop();
@@ -69,7 +71,8 @@ class PLP : public FrameSender {
     /// The protocol timer's tick. Nothing when the link is stopped.
     void PLP_Timeout();
 
-    /// The only way frames leave. False when the link is stopped or the port refused the bytes.
+    /// The way out for the services. False when the link is stopped, when the port refused the bytes, and
+    /// when the event that is being answered belongs to a run of the link that has ended meanwhile.
     bool PLP_Send(FrameType type, std::string_view data) override;
 
     /// Flags for the services that ask the server to stop.
@@ -106,6 +109,7 @@ class PLP : public FrameSender {
 
     void openPort();
     void letGo();
+    bool sendFrame(FrameType type, std::string_view data);
     bool write(const std::string& frame);
     void readWhatWaits(const Run& run);
     bool takeBytes(std::string_view bytes);
@@ -134,7 +138,8 @@ class PLP : public FrameSender {
 
     SerialPort* port_ = nullptr;  // null while stopped, and so is timer_
     Timer* timer_ = nullptr;
-    std::uint64_t run_ = 0;  // changes with every start and stop
+    std::uint64_t run_ = 0;                  // changes with every start and stop
+    std::optional<std::uint64_t> eventRun_;  // the run of the event that the services are handling
     LinkState state_ = LinkState::Idle;
     std::uint8_t sendSequence_ = 0;     // of the next DATA frame, or of the one that awaits its ACK
     std::uint8_t receiveSequence_ = 0;  // of the last DATA frame accepted

@@ -1,4 +1,6 @@
 // What the link does with each frame that passed its check, by the frame's type and the link's state.
+#include <utility>
+
 #include "link/plp.h"
 #include "link/server_state.h"
 
@@ -84,7 +86,7 @@ PLP::Verdict PLP::answerLinkRequest(std::uint8_t sequence) {
     const Run run(*this);
     receiveSequence_ = sequence;
     sendSequence_ = kFirstSequence;
-    const bool sent = PLP_Send(FrameType::Ack, {});
+    const bool sent = sendFrame(FrameType::Ack, {});
     if (run.over()) {
         return Verdict::Ignore;
     }
@@ -99,7 +101,7 @@ PLP::Verdict PLP::takeData(ParsedFrame& frame) {
     switch (state_) {
         case LinkState::Idle:
             // The text of the number 0 goes along here and nowhere else; the Organiser ignores it.
-            PLP_Send(FrameType::Connect, "0");
+            sendFrame(FrameType::Connect, "0");
             return Verdict::Accept;
         case LinkState::WaitLink:
         case LinkState::Linking:
@@ -119,7 +121,7 @@ PLP::Verdict PLP::takeData(ParsedFrame& frame) {
 PLP::Verdict PLP::takeFirstData(ParsedFrame& frame) {
     const Run run(*this);
     if (frame.sequence != kFirstSequence) {
-        PLP_Send(FrameType::Discon, std::string_view(&kReasonWrongSequence, 1));
+        sendFrame(FrameType::Discon, std::string_view(&kReasonWrongSequence, 1));
         if (!run.over()) {
             PLP_Down();
         }
@@ -128,7 +130,7 @@ PLP::Verdict PLP::takeFirstData(ParsedFrame& frame) {
     state_ = LinkState::Ready;
     receiveSequence_ = kFirstSequence;
     sendSequence_ = kFirstSequence;
-    const bool sent = PLP_Send(FrameType::Ack, {});
+    const bool sent = sendFrame(FrameType::Ack, {});
     if (sent && !run.over()) {
         window_.setState(Connect);
     }
@@ -141,7 +143,7 @@ PLP::Verdict PLP::takeFirstData(ParsedFrame& frame) {
 PLP::Verdict PLP::takeNextData(ParsedFrame& frame) {
     const Run run(*this);
     receiveSequence_ = frame.sequence;
-    PLP_Send(FrameType::Ack, {});
+    sendFrame(FrameType::Ack, {});
     if (!run.over()) {
         giveEvent(PLP_EV_DATA, std::move(frame.data));
     }

@@ -34,7 +34,8 @@ class RecordingServices : public ServiceEvents {
     std::function<void(std::int32_t&, std::string&)> onEvent;
 };
 
-/// A window in which other handlers run while its state is set, as they do behind a message box.
+/// A window in which other handlers run while its state is set or a warning shown, as they do behind a
+/// message box.
 class BusyWindow : public RecordingWindow {
   public:
     void setState(std::int32_t newState) override {
@@ -43,7 +44,14 @@ class BusyWindow : public RecordingWindow {
             onState(newState);
         }
     }
+    void ShowWarning(const std::string& text2, const std::string& text3) override {
+        RecordingWindow::ShowWarning(text2, text3);
+        if (onWarning) {
+            onWarning();
+        }
+    }
     std::function<void(std::int32_t)> onState;
+    std::function<void()> onWarning;
 };
 
 /// A port in which other handlers run during a read.
@@ -99,7 +107,9 @@ class LinkRig {
     }
     /// Stops it as the controller does.
     void stop() {
+        stopping = true;
         plp.PLP_Stop();
+        stopping = false;
         window.current = Offline;
     }
     /// The tick of the receive poll, as the controller handles it.
@@ -174,6 +184,7 @@ class LinkRig {
         return count;
     }
 
+    bool stopping = false;
     FakeTime time;
     FakeTime::FakeTimer& comTimer = time.makeTimer();
     FakeTime::FakeTimer& plpTimer = time.makeTimer();
