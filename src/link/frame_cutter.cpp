@@ -2,22 +2,16 @@
 
 #include <algorithm>
 
+#include "link/control_bytes.h"
 #include "link/frames.h"
 
 namespace velmora {
-namespace {
-
-constexpr std::string_view kHeader("\x16\x10\x02", kHeaderLength);
-
-}  // namespace
 
 void FrameCutter::append(std::string_view bytes) {
-    // Bytes already handed out go first, so that the buffer never grows with the age of the link.
-    if (begin_ == buffer_.size()) {
-        buffer_.clear();
-        scan_ = 0;
-        begin_ = 0;
-    } else if (begin_ >= kCapacity) {
+    // What was handed out or dropped goes as soon as it outweighs what is moved for it: the time stays linear
+    // and the buffer never grows with the age of the link.
+    constexpr std::size_t kWorthAMove = 1024;
+    if (begin_ >= std::max(kWorthAMove, heldBytes())) {
         buffer_.erase(0, begin_);
         scan_ -= std::min(scan_, begin_);
         begin_ = 0;
@@ -37,44 +31,34 @@ void FrameCutter::drop(std::size_t count) {
     dropped_ += count;
 }
 
-bool FrameCutter::findHeader() {
-    const std::size_t found = buffer_.find(kHeader, begin_);
-    if (found != std::string::npos) {
+/// Drops what stands before the next header. Without one the last two bytes stay: they may be the start of a
+/// header that is split across reads.
+bool FrameCutter::seekHeader() {
+    const std::size_t found = findHeader(buffer_, begin_);
+    inFrame_ = found < buffer_.size();
+    if (inFrame_) {
         drop(found - begin_);
-        inFrame_ = true;
         // What was searched behind an earlier header holds no end for this one either.
         scan_ = std::max(scan_, begin_ + kHeaderLength);
-        return true;
+    } else {
+        constexpr std::size_t kKeep = kHeaderLength - 1;
+        drop(heldBytes() - std::min(heldBytes(), kKeep));
     }
-    // The last two bytes may be the start of a header that is split across reads.
-    const std::size_t keep = kHeaderLength - 1;
-    if (buffer_.size() - begin_ > keep) {
-        drop(buffer_.size() - begin_ - keep);
-    }
-    return false;
+    return inFrame_;
 }
 
-/// Bounds an endless frame: past the capacity its header is given up and the next one looked for.
-void FrameCutter::limit() {
-    while (inFrame_ && buffer_.size() - begin_ > kCapacity) {
-        inFrame_ = false;
-        drop(1);
-        if (!findHeader()) {
-            return;
-        }
-    }
+/// Gives a header up and looks for the next one.
+bool FrameCutter::skipHeader() {
+    drop(1);
+    return seekHeader();
 }
 
 std::optional<std::string_view> FrameCutter::next() {
-    if (!inFrame_ && !findHeader()) {
+    if (!inFrame_ && !seekHeader()) {
         return std::nullopt;
     }
     while (true) {
-        const std::size_t dle = buffer_.find(kDle, scan_);
-        if (dle == std::string::npos) {
-            scan_ = buffer_.size();
-            break;
-        }
+        const std::size_t dle = findDle(buffer_, scan_);
         std::size_t end = dle;
         while (end < buffer_.size() && buffer_[end] == kDle) {
             ++end;
@@ -85,20 +69,30 @@ std::optional<std::string_view> FrameCutter::next() {
             scan_ = odd ? end - 1 : end;
             break;
         }
-        if (odd && buffer_[end] == kEtx) {
-            constexpr std::size_t kCheckLength = 2;
-            if (end + 1 + kCheckLength > buffer_.size()) {
-                scan_ = end - 1;
-                break;
-            }
-            const std::string_view frame(buffer_.data() + begin_, end + 1 + kCheckLength - begin_);
-            begin_ += frame.size();
-            inFrame_ = false;
-            return frame;
+        if (!odd || buffer_[end] != kEtx) {
+            scan_ = end;
+            continue;
         }
-        scan_ = end;
+        scan_ = end - 1;
+        constexpr std::size_t kCheckLength = 2;
+        const std::size_t length = end + 1 + kCheckLength - begin_;
+        if (length > kCapacity) {
+            // The same as if the bytes had come one by one: this header was given up before its end came.
+            if (!skipHeader()) {
+                return std::nullopt;
+            }
+            continue;
+        }
+        if (length > heldBytes()) {
+            break;
+        }
+        const std::string_view frame(buffer_.data() + begin_, length);
+        begin_ += length;
+        inFrame_ = false;
+        return frame;
     }
-    limit();
+    while (heldBytes() > kCapacity && skipHeader()) {
+    }
     return std::nullopt;
 }
 

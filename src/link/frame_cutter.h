@@ -15,7 +15,8 @@ namespace velmora {
 /// escaped one of the body), once the two check bytes behind it have arrived.
 class FrameCutter {
   public:
-    /// Most bytes kept while a frame has no end. Beyond it the oldest are dropped, up to the next header.
+    /// Longest frame, and so the most bytes kept while a frame has no end. Beyond it the oldest are dropped,
+    /// up to the next header.
     static constexpr std::size_t kCapacity = 64 * 1024;
 
     /// Adds received bytes.
@@ -26,13 +27,15 @@ class FrameCutter {
     /// Forgets everything received.
     void clear();
 
+    /// Bytes that wait for the rest of their frame: at most kCapacity once next() has returned nothing.
+    std::size_t heldBytes() const { return buffer_.size() - begin_; }
     /// Bytes dropped so far because they belonged to no frame.
     std::size_t droppedBytes() const { return dropped_; }
 
   private:
-    bool findHeader();
+    bool seekHeader();
+    bool skipHeader();
     void drop(std::size_t count);
-    void limit();
 
     std::string buffer_;
     std::size_t begin_ = 0;  // where the bytes that still count begin

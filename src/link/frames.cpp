@@ -1,6 +1,10 @@
 #include "link/frames.h"
 
+#include <algorithm>
 #include <cstring>
+#include <utility>
+
+#include "link/control_bytes.h"
 
 namespace velmora {
 namespace {
@@ -22,6 +26,20 @@ void appendStuffed(std::string& out, std::string_view bytes) {
     }
 }
 
+/// Unstuffs into `out`, which has room for all of `bytes`; returns the length.
+std::size_t unstuffTo(char* out, std::string_view bytes) {
+    const char* const start = out;
+    std::size_t from = 0;
+    while (from < bytes.size()) {
+        const std::size_t dle = findDle(bytes, from);
+        const std::size_t length = std::min(dle + 1, bytes.size()) - from;
+        std::memcpy(out, bytes.data() + from, length);
+        out += length;
+        from = dle + 2;
+    }
+    return static_cast<std::size_t>(out - start);
+}
+
 }  // namespace
 
 std::string stuff(std::string_view bytes) {
@@ -32,17 +50,8 @@ std::string stuff(std::string_view bytes) {
 }
 
 std::string unstuff(std::string_view bytes) {
-    std::string out;
-    out.reserve(bytes.size());
-    while (!bytes.empty()) {
-        const std::size_t dle = bytes.find(kDle);
-        if (dle == std::string_view::npos) {
-            out.append(bytes);
-            break;
-        }
-        out.append(bytes.substr(0, dle + 1));
-        bytes.remove_prefix(dle + 2 <= bytes.size() ? dle + 2 : bytes.size());
-    }
+    std::string out(bytes.size(), '\0');
+    out.resize(unstuffTo(out.data(), bytes));
     return out;
 }
 

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <random>
 #include <string>
 #include <vector>
 
@@ -29,15 +30,16 @@ class FrameCutterTest : public testing::Test {
         }
         return payloads;
     }
-    std::vector<std::string> feedByteByByte(std::string_view bytes) {
+    std::vector<std::string> feedIn(std::size_t portion, std::string_view bytes) {
         std::vector<std::string> payloads;
-        for (const char c : bytes) {
-            for (std::string& payload : feed(std::string_view(&c, 1))) {
+        for (std::size_t at = 0; at < bytes.size(); at += portion) {
+            for (std::string& payload : feed(bytes.substr(at, portion))) {
                 payloads.push_back(std::move(payload));
             }
         }
         return payloads;
     }
+    std::vector<std::string> feedByteByByte(std::string_view bytes) { return feedIn(1, bytes); }
     using Payloads = std::vector<std::string>;
 
     Crc crc;
@@ -137,6 +139,51 @@ TEST_F(FrameCutterTest, HeadersWithoutAnEndAreDroppedOneByOne) {
         EXPECT_EQ(feed(headers.substr(i, 1024)), Payloads{});
     }
     EXPECT_GE(cutter.droppedBytes(), headers.size() - FrameCutter::kCapacity);
+}
+
+TEST_F(FrameCutterTest, TheLongestFrameIsTheSameHoweverItArrives) {
+    const std::size_t most = FrameCutter::kCapacity - frame("").size();
+    for (const std::size_t portion : {std::size_t{1}, std::size_t{1024}, 3 * FrameCutter::kCapacity}) {
+        cutter.clear();
+        const std::string fits(most, 'x');
+        EXPECT_EQ(feedIn(portion, frame(fits)), Payloads{fits}) << portion;
+        EXPECT_EQ(feedIn(portion, frame(fits + "y")), Payloads{}) << portion;
+        EXPECT_EQ(feedIn(portion, frame("next")), Payloads{"next"}) << portion;
+    }
+}
+
+TEST_F(FrameCutterTest, AHeaderInsideATooLongFrameTakesOver) {
+    const std::string stream = "\x16\x10\x02" + std::string(FrameCutter::kCapacity, 'x') + frame("good");
+    for (const std::size_t portion : {std::size_t{1}, std::size_t{1024}, stream.size()}) {
+        cutter.clear();
+        EXPECT_EQ(feedIn(portion, stream), Payloads{"good"}) << portion;
+    }
+}
+
+TEST_F(FrameCutterTest, PortionsDoNotMatterInAnyMixtureOfControlBytes) {
+    const std::string likely = "\x16\x10\x02\x03\x01x"s;
+    std::mt19937 random(7);
+    for (int round = 0; round < 200; ++round) {
+        std::string stream;
+        while (stream.size() < 2000) {
+            stream += random() % 20 == 0 ? frame("good") : std::string(1, likely[random() % likely.size()]);
+        }
+        cutter.clear();
+        const Payloads whole = feed(stream);
+        cutter.clear();
+        EXPECT_EQ(feedIn(1, stream), whole);
+        cutter.clear();
+        EXPECT_EQ(feedIn(1 + random() % 100, stream), whole);
+    }
+}
+
+TEST_F(FrameCutterTest, WhatIsHeldStaysWithinTheCapacity) {
+    for (int i = 0; i < 300; ++i) {
+        feed(i % 50 == 0 ? "\x16\x10\x02" + std::string(1021, 'x') : std::string(1024, '\x16'));
+        EXPECT_LE(cutter.heldBytes(), FrameCutter::kCapacity);
+    }
+    cutter.clear();
+    EXPECT_EQ(cutter.heldBytes(), 0U);
 }
 
 TEST_F(FrameCutterTest, ClearForgetsAHalfFrame) {
