@@ -19,8 +19,9 @@ class RecordingSender : public FrameSender {
     };
     bool PLP_Send(FrameType type, std::string_view data) override {
         frames.push_back({type, std::string(data)});
-        if (onSend) {
-            onSend();
+        // A copy, since what runs may set another.
+        if (const std::function<void()> action = onSend) {
+            action();
         }
         return works;
     }
