@@ -30,8 +30,8 @@ void DebugLogModel::startlog() {
     startTime_ = toInt32(clock_.secondsSinceMidnight());
 }
 
-void DebugLogModel::addline(std::string_view text) {
-    view_.appendLine(secondsText(clock_.secondsSinceMidnight() - startTime_) + "\t" + std::string(text));
+void DebugLogModel::addline(const std::string& text) {
+    view_.appendLine(secondsText(clock_.secondsSinceMidnight() - startTime_) + "\t" + text);
 }
 
 bool DebugLogModel::categoryEnabled(std::string_view category) {

@@ -56,10 +56,10 @@ class DebugLogModel {
     void startlog();
     /// Appends a line: seconds since the start time ("######0.00"), a tab, the text. After midnight the
     /// seconds are negative.
-    void addline(std::string_view text);
+    void addline(const std::string& text);
 
     /// Whether anybody sees the log: lines are to be produced only then. A minimised window shows nothing.
-    bool loggingOn() const { return shown_ && windowState_ != WindowState::Minimised; }
+    bool logging() const { return shown_ && windowState_ != WindowState::Minimised; }
     /// Whether entries of this category (in capitals) are wanted. One that was never met gets a check box, as
     /// long as there is one. "Everything" wants all, "Data" the category DATA, "Custom" those whose box is
     /// on.

@@ -14,17 +14,17 @@ constexpr Colour kDarkRed{192, 0, 0};
 PortMark portMark(const std::string& number, std::int32_t status) {
     const std::string port = "COM" + number;
     switch (status) {
-        case kPortAvailable:
+        case kStatusAvailable:
             return {kGreen, port + " is available"};
-        case kPortModem:
+        case kStatusModem:
             return {kOrange, port + " is used (modem)"};
-        case kPortDevice:
+        case kStatusDevice:
             return {kOrange, port + " is used (device)"};
-        case kPortInUse:
+        case kStatusInUse:
             return {kRed, port + " is in use"};
-        case kPortNotAccessible:
+        case kStatusNotAccessible:
             return {kDarkRed, port + " is not accessible"};
-        case kPortFailed:
+        case kStatusError:
             return {kRed, port + " reports error"};
         default:  // not checked, or no status at all
             return {};

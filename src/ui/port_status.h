@@ -8,13 +8,13 @@ namespace velmora {
 
 /// Answers of checkPort.
 enum PortStatusNumber : std::int32_t {
-    kPortNotChecked = 0,
-    kPortAvailable = 1,
-    kPortModem = 2,          ///< a modem echoed or answered
-    kPortDevice = 3,         ///< something else answered
-    kPortInUse = 4,          ///< held by another program
-    kPortNotAccessible = 5,  ///< no such port
-    kPortFailed = 6,
+    kStatusNotChecked = 0,
+    kStatusAvailable = 1,
+    kStatusModem = 2,          ///< a modem echoed or answered
+    kStatusDevice = 3,         ///< something else answered
+    kStatusInUse = 4,          ///< held by another program
+    kStatusNotAccessible = 5,  ///< no such port
+    kStatusError = 6,
 };
 
 /// A text colour, each part 0 to 255.

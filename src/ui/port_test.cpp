@@ -43,23 +43,23 @@ class AnswerTime {
 
 std::optional<std::int32_t> judge(const std::string& answer) {
     if (answer.starts_with("AT") || answer.substr(0, 10).find("OK") != std::string::npos) {
-        return kPortModem;
+        return kStatusModem;
     }
     if (!answer.empty()) {
-        return kPortDevice;
+        return kStatusDevice;
     }
     return std::nullopt;
 }
 
 std::int32_t probeModem(SerialPort& port, const Clock& clock, EventYield& yield) {
     if (!port.Send("AT\r")) {
-        return kPortFailed;
+        return kStatusError;
     }
     std::string answer;
     for (AnswerTime time(clock); time.lasts();) {
         std::string bytes;
         if (!port.GetInput(kReadBytes, bytes)) {
-            return kPortFailed;
+            return kStatusError;
         }
         answer += bytes;
         if (const auto status = judge(answer)) {
@@ -67,20 +67,20 @@ std::int32_t probeModem(SerialPort& port, const Clock& clock, EventYield& yield)
         }
         yield.processEvents();
     }
-    return kPortAvailable;
+    return kStatusAvailable;
 }
 
 std::int32_t openPort(SerialPort& port) {
     try {
-        return port.OpenPort() ? kPortAvailable : kPortFailed;
+        return port.OpenPort() ? kStatusAvailable : kStatusError;
     } catch (const CommError& error) {
         switch (error.number()) {
             case kCommInvalidPort:
-                return kPortNotAccessible;
+                return kStatusNotAccessible;
             case kCommAlreadyOpen:
-                return kPortInUse;
+                return kStatusInUse;
             default:
-                return kPortFailed;
+                return kStatusError;
         }
     }
 }
@@ -96,14 +96,14 @@ std::int32_t testPort(SerialPort& port, std::int16_t number, bool probe, const C
                       EventYield& yield) {
     port.setCommPort(number);
     std::int32_t status = openPort(port);
-    if (status != kPortAvailable) {
+    if (status != kStatusAvailable) {
         return status;
     }
     if (probe) {
         try {
             status = probeModem(port, clock, yield);
         } catch (const CommError&) {
-            status = kPortFailed;
+            status = kStatusError;
         }
     }
     port.ClosePort();

@@ -104,7 +104,7 @@ void ServerController::setDebugMode(bool on) {
 
 std::int32_t ServerController::checkPort(std::int16_t port, std::int16_t flags) {
     if (running() || starting_ > 0) {
-        return kPortInUse;
+        return kStatusInUse;
     }
     return testPort(parts_.port, port, portTestProbes(flags, parts_.options.DontTestModem), parts_.clock,
                     parts_.yield);

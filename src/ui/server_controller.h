@@ -109,7 +109,7 @@ class ServerController : public ServerWindow {
     void setDebugMode(bool on);
 
     /// Tests one serial port (PortStatusNumber). Sets the number of the server's port object, so the caller
-    /// sets the wanted one again. A running server keeps its port: the answer is then kPortInUse.
+    /// sets the wanted one again. A running server keeps its port: the answer is then kStatusInUse.
     std::int32_t checkPort(std::int16_t port, std::int16_t flags);
 
     /// The window has appeared: with AutoStart, a stopped server (state Offline) starts.

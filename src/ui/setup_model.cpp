@@ -1,7 +1,6 @@
 #include "ui/setup_model.h"
 
 #include <algorithm>
-#include <cmath>
 #include <limits>
 #include <utility>
 
@@ -56,7 +55,7 @@ void SetupModel::probePorts(std::int16_t& port) {
         if (!standard && !search) {
             break;
         }
-        const std::int32_t status = probe(number);
+        const std::int32_t status = probe_(number);
         if (closed_) {
             return;
         }
@@ -64,7 +63,7 @@ void SetupModel::probePorts(std::int16_t& port) {
             ShowPortStatus(number, status);
             changed();
         }
-        if (search && status == kPortAvailable) {
+        if (search && status == kStatusAvailable) {
             port = number;
             search = false;
         }
@@ -81,16 +80,12 @@ void SetupModel::probePorts(std::int16_t& port) {
     }
     setPortText(std::to_string(port));
     selectPort(kOtherPort);
-    const std::int32_t status = probe(port);
+    const std::int32_t status = probe_(port);
     if (closed_) {
         return;
     }
     ShowPortStatus(kOtherPort, status);
     showStatusOfSelected();
-}
-
-std::int32_t SetupModel::probe(std::int16_t port) {
-    return probe_(port);
 }
 
 void SetupModel::activated() {
@@ -111,7 +106,7 @@ void SetupModel::selectPort(int index) {
 
 void SetupModel::setPortText(const std::string& text) {
     portText_ = text;
-    ShowPortStatus(kOtherPort, kPortNotChecked);
+    ShowPortStatus(kOtherPort, kStatusNotChecked);
     okEnabled_ = !text.empty();
     changed();
 }
@@ -132,7 +127,7 @@ void SetupModel::pbCheckPort_Click() {
     }
     probing_ = true;
     changed();
-    const std::int32_t status = probe(otherPortNumber());
+    const std::int32_t status = probe_(otherPortNumber());
     probing_ = false;
     if (closed_) {
         port_.setCommPort(portAtOpening_);

@@ -86,7 +86,6 @@ class SetupModel {
 
   private:
     void probePorts(std::int16_t& port);
-    std::int32_t probe(std::int16_t port);
     void ShowPortStatus(int index, std::int32_t status);
     void showStatusOfSelected();
     std::int16_t otherPortNumber() const;
