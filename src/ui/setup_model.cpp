@@ -1,0 +1,188 @@
+#include "ui/setup_model.h"
+
+#include <algorithm>
+#include <limits>
+#include <utility>
+
+#include "base/number_text.h"
+
+namespace velmora {
+
+namespace {
+
+void call(const std::function<void()>& function) {
+    if (function) {
+        function();
+    }
+}
+
+}  // namespace
+
+SetupModel::SetupModel(SerialPort& port, ServerOptions& options, TransferSettings& transfer, Probe probe,
+                       DialogCalls dialog)
+    : port_(port),
+      options_(options),
+      transfer_(transfer),
+      probe_(std::move(probe)),
+      dialog_(std::move(dialog)) {}
+
+void SetupModel::load() {
+    const double rate = numericValue(port_.Settings());
+    for (const int baud : kBaudRates) {
+        if (rate == baud) {
+            baud_ = baud;
+        }
+    }
+    portAtOpening_ = port_.CommPort();
+    fileType_ = transfer_.DataFileType;
+    autoStart_ = options_.AutoStart;
+
+    std::int16_t port = portAtOpening_;
+    probing_ = true;
+    probePorts(port);
+    probing_ = false;
+    if (closed_) {
+        port_.setCommPort(portAtOpening_);
+        return;
+    }
+    changed();
+}
+
+void SetupModel::probePorts(std::int16_t& port) {
+    bool search = options_.AutoSelectPort;
+    for (std::int16_t number = 1; number <= kLastSearchedPort; ++number) {
+        const bool standard = number <= kStandardPorts;
+        if (!standard && !search) {
+            break;
+        }
+        const std::int32_t status = probe_(number);
+        if (closed_) {
+            return;
+        }
+        if (standard) {
+            ShowPortStatus(number, status);
+            changed();
+        }
+        if (search && status == kStatusAvailable) {
+            port = number;
+            search = false;
+        }
+    }
+    // A number below 1 is no port that could be shown.
+    if (search || port < 1) {
+        selectPort(kOtherPort);
+        setPortText("");
+        return;
+    }
+    if (port <= kStandardPorts) {
+        selectPort(port);
+        return;
+    }
+    setPortText(std::to_string(port));
+    selectPort(kOtherPort);
+    const std::int32_t status = probe_(port);
+    if (closed_) {
+        return;
+    }
+    ShowPortStatus(kOtherPort, status);
+    showStatusOfSelected();
+}
+
+void SetupModel::activated() {
+    if (selected_ == kOtherPort) {
+        call(dialog_.focusPortText);
+    }
+}
+
+void SetupModel::selectPort(int index) {
+    selected_ = index;
+    okEnabled_ = index != kOtherPort || !portText_.empty();
+    showStatusOfSelected();
+    changed();
+    if (index == kOtherPort) {
+        call(dialog_.focusPortText);
+    }
+}
+
+void SetupModel::setPortText(const std::string& text) {
+    portText_ = text;
+    ShowPortStatus(kOtherPort, kStatusNotChecked);
+    okEnabled_ = !text.empty();
+    changed();
+}
+
+void SetupModel::portTextPressed() {
+    if (selected_ != kOtherPort) {
+        selectPort(kOtherPort);
+    }
+}
+
+void SetupModel::pbCheckPort_Click() {
+    if (portText_.empty()) {
+        call(dialog_.beep);
+        return;
+    }
+    if (probing_ || closed_) {
+        return;
+    }
+    probing_ = true;
+    changed();
+    const std::int32_t status = probe_(otherPortNumber());
+    probing_ = false;
+    if (closed_) {
+        port_.setCommPort(portAtOpening_);
+        return;
+    }
+    ShowPortStatus(kOtherPort, status);
+    statusText_ = mark(kOtherPort).toolTip;
+    changed();
+}
+
+void SetupModel::pbOK_Click() {
+    if (probing_ || closed_ || !okEnabled_) {
+        return;
+    }
+    port_.setCommPort(selected_ == kOtherPort ? otherPortNumber() : static_cast<std::int16_t>(selected_));
+    if (baud_) {
+        port_.setSettings(std::to_string(*baud_) + ",N,8,1");
+    }
+    options_.AutoStart = autoStart_;
+    options_.AutoSelectPort = false;
+    transfer_.DataFileType = fileType_;
+    close();
+}
+
+void SetupModel::pbCancel_Click() {
+    if (closed_) {
+        return;
+    }
+    port_.setCommPort(portAtOpening_);
+    close();
+}
+
+void SetupModel::ShowPortStatus(int index, std::int32_t status) {
+    const std::string number =
+        index == kOtherPort ? plainText(numericValue(portText_)) : std::to_string(index);
+    marks_[static_cast<std::size_t>(index - 1)] = portMark(number, status);
+}
+
+void SetupModel::showStatusOfSelected() {
+    statusText_ = mark(selected_).toolTip;
+}
+
+// A number too large for a port number is answered as the largest one is: there is no such port.
+std::int16_t SetupModel::otherPortNumber() const {
+    constexpr double kLargest = std::numeric_limits<std::int16_t>::max();
+    return toInt16(std::clamp(numericValue(portText_), -kLargest, kLargest));
+}
+
+void SetupModel::changed() const {
+    call(dialog_.changed);
+}
+
+void SetupModel::close() {
+    closed_ = true;
+    call(dialog_.close);
+}
+
+}  // namespace velmora
