@@ -58,6 +58,7 @@ void OrganiserLink::connect() {
     if (up_) {
         return;
     }
+    settle();
     const Time giveUp = line_.now() + kConnectLimit;
     for (int requests = 0; line_.now() < giveUp; ++requests) {
         if (requests > 0 && requests % kRequestsBeforeDisconnect == 0) {
@@ -83,6 +84,7 @@ void OrganiserLink::connect() {
 
 void OrganiserLink::drop(const LinkFailure& failure) {
     up_ = false;
+    unsettled_ = failure.kind() != LinkFailure::Kind::NoLink;
     throw failure;
 }
 
@@ -140,8 +142,7 @@ std::optional<std::string> OrganiserLink::takeData(const ParsedFrame& frame, Out
     // Once the server has acknowledged the request on its way, it surely had the acknowledgement before.
     if (frame.sequence == receiveSequence_ && !outstanding.acknowledged) {
         outstanding.acknowledgeAgain = true;
-        const Time grace = std::clamp(2 * roundTrip_, kShortestGrace, kLongestGrace);
-        outstanding.deadline = std::min(outstanding.deadline, line_.now() + grace);
+        outstanding.deadline = std::min(outstanding.deadline, line_.now() + grace());
     }
     return std::nullopt;
 }
@@ -194,16 +195,30 @@ std::string OrganiserLink::request(std::string_view payload) {
     }
 }
 
-void OrganiserLink::end() {
-    if (!std::exchange(up_, false)) {
-        return;
+OrganiserLink::Time OrganiserLink::grace() const {
+    return std::clamp(2 * roundTrip_, kShortestGrace, kLongestGrace);
+}
+
+/// A copy of the last request that reaches the server after it dropped the link looks to it like a new link's
+/// beginning, and the answer to that, taken for one to the next request, would be a refusal out of nowhere.
+void OrganiserLink::settle() {
+    if (std::exchange(unsettled_, false)) {
+        const Time giveUp = line_.now() + kSettleLimit;
+        while (line_.now() < giveUp && receive(line_.now() + grace())) {
+        }
+        cutter_.clear();
     }
+}
+
+void OrganiserLink::end() {
     try {
-        for (int sent = 0; sent < kGoodbyes; ++sent) {
+        settle();
+        for (int sent = 0; up_ && sent < kGoodbyes; ++sent) {
             sendControl(FrameType::Discon, 0, std::string_view(&kReasonNone, 1));
             const Time deadline = line_.now() + kRepeatAfter;
             while (const auto frame = receive(deadline)) {
                 if (frame->type == static_cast<std::uint8_t>(FrameType::Connect)) {
+                    up_ = false;
                     return;
                 }
             }
@@ -211,6 +226,7 @@ void OrganiserLink::end() {
     } catch (const LineError&) {
         // The server was asked to stop and took the line with it.
     }
+    up_ = false;
 }
 
 }  // namespace velmora

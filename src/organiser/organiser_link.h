@@ -42,6 +42,8 @@ class OrganiserLink {
     /// repeat would draw the next one.
     static constexpr Time kShortestGrace = std::chrono::milliseconds(50);
     static constexpr Time kLongestGrace = kRepeatAfter;
+    /// Longest wait for a silent line.
+    static constexpr Time kSettleLimit = std::chrono::seconds(1);
     /// Link requests without an answer before the server is told to drop what it holds for a link: once it
     /// has acknowledged a request it ignores further ones, also when its acknowledgement was lost.
     static constexpr int kRequestsBeforeDisconnect = 3;
@@ -61,7 +63,8 @@ class OrganiserLink {
     /// Sends one request and waits for the reply to it. Requires: the link is up.
     std::string request(std::string_view payload);
     /// Drops the link and waits until the server has noticed; gives up silently when it stays silent, since a
-    /// server that was asked to stop may have closed its port. Nothing when the link is down.
+    /// server that was asked to stop may have closed its port. When the server has dropped the link, waits
+    /// until the line is silent. Nothing when there was no link.
     void end();
 
     bool up() const { return up_; }
@@ -90,6 +93,8 @@ class OrganiserLink {
     std::optional<std::string> take(const ParsedFrame& frame, Outstanding& outstanding);
     std::optional<std::string> takeData(const ParsedFrame& frame, Outstanding& outstanding);
     void acknowledged(Outstanding& outstanding);
+    Time grace() const;
+    void settle();
     [[noreturn]] void drop(const LinkFailure& failure);
 
     OrganiserLine& line_;
@@ -98,6 +103,7 @@ class OrganiserLink {
     Crc crc_;
     FrameCutter cutter_;
     bool up_ = false;
+    bool unsettled_ = false;         ///< the server dropped the link and may still be answering a copy
     bool proven_ = false;            ///< a DATA frame of this link was acknowledged
     std::uint8_t sendSequence_ = 1;  ///< of the next DATA frame, or of the one on its way
     std::uint8_t receiveSequence_ = 0;

@@ -180,7 +180,7 @@ class ModelFile : public ModelFileService {
         }
         contents_.clear();
         for (const auto& [name, contents] : folder_) {
-            if (likePattern(name, upperCase(argument.substr(2)))) {
+            if (likeMatches(name, upperCase(argument.substr(2)))) {
                 contents_ += name + "\r\n";
             }
         }
