@@ -1,0 +1,67 @@
+// velmora-organiser: the virtual Organiser on the command line.
+#include <unistd.h>
+
+#include <cstdio>
+#include <iostream>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "organiser/command_line.h"
+#include "organiser/commands.h"
+#include "organiser/fault_injector.h"
+#include "organiser/frame_text.h"
+#include "organiser/organiser_link.h"
+#include "organiser/posix_line.h"
+#include "organiser/progress.h"
+
+namespace {
+
+using namespace velmora;
+
+void printFrame(FrameDirection direction, std::string_view frame) {
+    std::cerr << (direction == FrameDirection::Sent ? "send  " : "recv  ") << frameText(frame) << '\n';
+}
+
+ExitStatus run(const CommandLine& line) {
+    PosixLine device(line.device, line.baud);
+    std::optional<FaultInjector> faults;
+    if (line.faults.any()) {
+        faults.emplace(device, line.faults);
+    }
+    OrganiserLine& used = faults ? static_cast<OrganiserLine&>(*faults) : device;
+    // A byte takes ten bits on the wire.
+    const OrganiserLine::Time byteTime(10 * 1'000'000 / line.baud);
+    OrganiserLink link(used, byteTime, line.trace ? printFrame : OrganiserLink::FrameTrace());
+
+    const bool tour = line.command.kind == CommandKind::Tour;
+    const bool terminal = isatty(tour ? STDOUT_FILENO : STDERR_FILENO) != 0;
+    Progress silent;
+    ProgressBar bar(tour ? std::cout : std::cerr, terminal && !line.trace);
+    const Console console{std::cout, std::cerr, tour || terminal ? bar : silent};
+    return runCommand(line, link, console);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    try {
+        const CommandLine line = parseCommandLine(std::vector<std::string>(argv + 1, argv + argc));
+        if (line.command.kind == CommandKind::Help) {
+            std::cout << helpText();
+            return kDone;
+        }
+        ExitStatus status = kDone;
+        const ExitStatus failed = guarded(std::cerr, [&] { status = run(line); });
+        std::cout.flush();
+        if (!std::cout) {
+            std::cerr << "Standard output cannot be written.\n";
+            return kLocalProblem;
+        }
+        return failed != kDone ? failed : status;
+    } catch (const UsageError& error) {
+        std::cerr << "velmora-organiser: " << error.what()
+                  << "\nvelmora-organiser --help tells what there is.\n";
+        return kWrongUsage;
+    }
+}

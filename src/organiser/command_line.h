@@ -1,0 +1,77 @@
+// The command line of velmora-organiser.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "organiser/fault_injector.h"
+#include "organiser/file_client.h"
+#include "organiser/ftran_client.h"
+
+namespace velmora {
+
+/// The command line cannot be understood. The text is one sentence.
+class UsageError : public std::runtime_error {
+  public:
+    using std::runtime_error::runtime_error;
+};
+
+enum class CommandKind : std::uint8_t {
+    Help,
+    Save,
+    Load,
+    Dir,
+    Read,
+    Write,
+    Formats,
+    Exit,
+    Shutdown,
+    Service,
+    Time,
+    Gmt,
+    TimeInfo,
+    Boot,
+    SheetSave,
+    SheetLoad,
+    Tour,
+};
+
+/// What is to be done. Names of the server's files are Windows-1252 bytes, paths are as they were typed.
+struct Command {
+    CommandKind kind = CommandKind::Help;
+    std::string file;                      ///< FILE or CELLS: a path on this side
+    std::string name;                      ///< NAME, PATTERN or --as: a name on the server
+    int fileType = 0;                      ///< --type: 0 data, 1 procedure, 2 to 16 block file
+    FileMode mode = FileMode::Create;      ///< --mode
+    std::optional<std::string> output;     ///< -o: a path on this side; without it, standard output
+    bool text = false;                     ///< --text
+    bool longNames = false;                ///< --long
+    bool crLf = false;                     ///< --crlf
+    std::optional<Seek> seek;              ///< --seek
+    std::optional<std::uint16_t> address;  ///< --address
+    int sheetFormat = 0;                   ///< --format: 2 WKS, 3 DIF, 4 CSV, 5 TXT, 6 TXT with tabs
+    std::optional<std::string> bootName;   ///< --boot
+};
+
+struct CommandLine {
+    std::string device;
+    int baud = 9600;
+    FaultOptions faults;
+    bool trace = false;
+    int tries = 3;
+    Command command;
+};
+
+/// Understands the arguments behind the program's name. Throws UsageError.
+CommandLine parseCommandLine(const std::vector<std::string>& arguments);
+
+/// What --help prints.
+std::string helpText();
+
+/// The line speeds that serial devices know.
+const std::vector<int>& knownLineSpeeds();
+
+}  // namespace velmora
