@@ -1,0 +1,7 @@
+#!/usr/bin/env bash
+# Fails when a source file is not laid out as .clang-format says. "scripts/check-format.sh --fix" lays it out.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+mode=(--dry-run --Werror)
+[[ "${1:-}" == --fix ]] && mode=(-i)
+git ls-files -z '*.h' '*.cpp' | xargs -0 clang-format "${mode[@]}"

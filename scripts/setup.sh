@@ -1,0 +1,30 @@
+#!/usr/bin/env bash
+# Installs what is missing on a Debian or Ubuntu machine.
+#   scripts/setup.sh          what it takes to build and run the programs
+#   scripts/setup.sh tests    that, and what the tests and checks need
+set -euo pipefail
+
+packages=(g++ cmake ninja-build qt6-base-dev ccache)
+if [[ "${1:-}" == tests ]]; then
+  packages+=(libgtest-dev libgmock-dev libbenchmark-dev clang clang-format clang-tidy libclang-rt-dev
+    xvfb xauth libwps-tools gnumeric)
+fi
+
+missing=()
+for package in "${packages[@]}"; do
+  if [[ "$(dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null || true)" != installed ]]; then
+    missing+=("$package")
+  fi
+done
+if ((${#missing[@]} == 0)); then
+  exit 0
+fi
+
+as_root=()
+if ((EUID != 0)); then
+  as_root=(sudo)
+fi
+echo "Installing: ${missing[*]}"
+export DEBIAN_FRONTEND=noninteractive
+"${as_root[@]}" apt-get update -q
+"${as_root[@]}" apt-get install -qy --no-install-recommends "${missing[@]}"

@@ -1,0 +1,169 @@
+#include "e2e/support/process.h"
+
+#include <fcntl.h>
+#include <poll.h>
+#include <signal.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <array>
+#include <cerrno>
+#include <cstdlib>
+#include <system_error>
+
+namespace velmora::e2e {
+namespace {
+
+using SteadyClock = std::chrono::steady_clock;
+
+struct Pipe {
+    Pipe() {
+        if (::pipe2(ends.data(), O_CLOEXEC) != 0) {
+            throw std::system_error(errno, std::generic_category(), "pipe2");
+        }
+    }
+    std::array<int, 2> ends{};
+};
+
+}  // namespace
+
+Process::Process(const std::vector<std::string>& arguments,
+                 const std::map<std::string, std::string>& environment) {
+    Pipe in;
+    Pipe out;
+    Pipe err;
+    std::vector<char*> argv;
+    for (const std::string& argument : arguments) {
+        argv.push_back(const_cast<char*>(argument.c_str()));
+    }
+    argv.push_back(nullptr);
+    id_ = ::fork();
+    if (id_ < 0) {
+        throw std::system_error(errno, std::generic_category(), "fork");
+    }
+    if (id_ == 0) {
+        ::dup2(in.ends[0], STDIN_FILENO);
+        ::dup2(out.ends[1], STDOUT_FILENO);
+        ::dup2(err.ends[1], STDERR_FILENO);
+        for (const auto& [name, value] : environment) {
+            ::setenv(name.c_str(), value.c_str(), 1);
+        }
+        ::execv(argv[0], argv.data());
+        ::_exit(127);
+    }
+    ::close(in.ends[0]);
+    ::close(out.ends[1]);
+    ::close(err.ends[1]);
+    input_ = in.ends[1];
+    outputPipe_ = out.ends[0];
+    errorPipe_ = err.ends[0];
+}
+
+Process::~Process() {
+    if (!reaped_) {
+        ::kill(id_, SIGKILL);
+        ::waitpid(id_, nullptr, 0);
+    }
+    for (const int pipe : {input_, outputPipe_, errorPipe_}) {
+        if (pipe >= 0) {
+            ::close(pipe);
+        }
+    }
+}
+
+/// Reads what comes next from either pipe; false at the end of both or at the deadline.
+bool Process::readSome(SteadyClock::time_point deadline) {
+    std::array<pollfd, 2> watched = {pollfd{outputPipe_, POLLIN, 0}, pollfd{errorPipe_, POLLIN, 0}};
+    const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(deadline - SteadyClock::now());
+    if ((outputPipe_ < 0 && errorPipe_ < 0) || left.count() <= 0) {
+        return false;
+    }
+    if (::poll(watched.data(), watched.size(), static_cast<int>(left.count())) <= 0) {
+        return false;
+    }
+    const auto take = [](const pollfd& polled, int& pipe, std::string& text) {
+        if (polled.revents == 0) {
+            return;
+        }
+        std::array<char, 65536> buffer{};
+        const ssize_t count = ::read(pipe, buffer.data(), buffer.size());
+        if (count > 0) {
+            text.append(buffer.data(), static_cast<std::size_t>(count));
+        } else {
+            ::close(pipe);
+            pipe = -1;
+        }
+    };
+    take(watched[0], outputPipe_, output_);
+    take(watched[1], errorPipe_, error_);
+    return true;
+}
+
+bool Process::waitFor(const std::string& text, const std::string& where, std::size_t from) {
+    const auto deadline = SteadyClock::now() + kPatience;
+    while (where.find(text, from) == std::string::npos) {
+        if (!readSome(deadline)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+bool Process::waitForOutput(const std::string& text) {
+    return waitFor(text, output_, 0);
+}
+
+bool Process::waitForError(const std::string& text) {
+    return waitFor(text, error_, 0);
+}
+
+bool Process::waitForNextOutput(const std::string& text) {
+    if (!waitFor(text, output_, seen_)) {
+        return false;
+    }
+    seen_ = output_.find(text, seen_) + text.size();
+    return true;
+}
+
+int Process::wait() {
+    const auto deadline = SteadyClock::now() + kPatience;
+    while (readSome(deadline)) {
+    }
+    if (!reaped_) {
+        if (SteadyClock::now() >= deadline) {
+            ::kill(id_, SIGKILL);
+        }
+        int status = 0;
+        ::waitpid(id_, &status, 0);
+        reaped_ = true;
+        status_ = WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
+    }
+    return status_;
+}
+
+void Process::signal(int number) const {
+    ::kill(id_, number);
+}
+
+bool Process::running() {
+    if (!reaped_) {
+        int status = 0;
+        if (::waitpid(id_, &status, WNOHANG) == id_) {
+            reaped_ = true;
+            status_ = WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
+        }
+    }
+    return !reaped_;
+}
+
+Finished run(const std::vector<std::string>& arguments,
+             const std::map<std::string, std::string>& environment) {
+    Process process(arguments, environment);
+    Finished finished;
+    finished.status = process.wait();
+    finished.output = process.output();
+    finished.error = process.error();
+    return finished;
+}
+
+}  // namespace velmora::e2e

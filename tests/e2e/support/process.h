@@ -1,0 +1,68 @@
+// A child process that a test starts, reads and waits for.
+#pragma once
+
+#include <sys/types.h>
+
+#include <chrono>
+#include <map>
+#include <string>
+#include <vector>
+
+namespace velmora::e2e {
+
+/// How long a test waits for something that must happen; only a failing test ever waits so long.
+constexpr std::chrono::seconds kPatience{60};
+
+/// Starts a program with its output and error output on pipes and its standard input on a pipe that stays
+/// open. Destroying it kills the program.
+class Process {
+  public:
+    /// `arguments[0]` is the program. `environment` entries are added to the test's own.
+    explicit Process(const std::vector<std::string>& arguments,
+                     const std::map<std::string, std::string>& environment = {});
+    ~Process();
+    Process(const Process&) = delete;
+    Process& operator=(const Process&) = delete;
+
+    /// Reads until the output (or error output) contains `text`; false when the program ended without it.
+    bool waitForOutput(const std::string& text);
+    bool waitForError(const std::string& text);
+    /// As waitForOutput, but only looks at what came after the last match of this call.
+    bool waitForNextOutput(const std::string& text);
+
+    /// Reads everything, waits for the end and returns the exit status (128 + signal when it was killed).
+    int wait();
+    void signal(int number) const;
+    bool running();
+    pid_t id() const { return id_; }
+
+    const std::string& output() const { return output_; }
+    const std::string& error() const { return error_; }
+
+  private:
+    bool readSome(std::chrono::steady_clock::time_point deadline);
+    bool waitFor(const std::string& text, const std::string& where, std::size_t from);
+
+    pid_t id_ = -1;
+    int input_ = -1;
+    int outputPipe_ = -1;
+    int errorPipe_ = -1;
+    std::string output_;
+    std::string error_;
+    std::size_t seen_ = 0;
+    bool reaped_ = false;
+    int status_ = 0;
+};
+
+/// What a finished program left.
+struct Finished {
+    int status = 0;
+    std::string output;
+    std::string error;
+};
+
+/// Runs a program to its end.
+Finished run(const std::vector<std::string>& arguments,
+             const std::map<std::string, std::string>& environment = {});
+
+}  // namespace velmora::e2e

@@ -1,0 +1,117 @@
+#include "cable.h"
+
+#include <fcntl.h>
+#include <stdlib.h>
+#include <termios.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <system_error>
+
+namespace velmora::tools {
+namespace {
+
+constexpr std::size_t kMostWaiting = 64 * 1024;
+constexpr std::chrono::milliseconds kRetry{1};  // before a full buffer is tried again
+constexpr int kBitsPerByte = 10;                // start bit, eight data bits, stop bit
+
+[[noreturn]] void fail(const char* what) {
+    throw std::system_error(errno, std::generic_category(), what);
+}
+
+}  // namespace
+
+CableEnd::CableEnd() {
+    master_ = ::posix_openpt(O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC);
+    if (master_ < 0 || ::grantpt(master_) != 0 || ::unlockpt(master_) != 0) {
+        fail("posix_openpt");
+    }
+    std::array<char, 128> name{};
+    if (::ptsname_r(master_, name.data(), name.size()) != 0) {
+        fail("ptsname_r");
+    }
+    device_ = name.data();
+    slave_ = ::open(device_.c_str(), O_RDWR | O_NOCTTY | O_CLOEXEC);
+    if (slave_ < 0) {
+        fail("open");
+    }
+    termios mode{};
+    if (::tcgetattr(slave_, &mode) != 0) {
+        fail("tcgetattr");
+    }
+    ::cfmakeraw(&mode);
+    if (::tcsetattr(slave_, TCSANOW, &mode) != 0) {
+        fail("tcsetattr");
+    }
+}
+
+CableEnd::~CableEnd() {
+    ::close(slave_);
+    ::close(master_);
+}
+
+CableDirection::CableDirection(CableEnd& from, CableEnd& to, unsigned baud)
+    : from_(from),
+      to_(to),
+      byteTime_(baud == 0 ? 0 : std::chrono::nanoseconds(std::chrono::seconds(kBitsPerByte)).count() / baud) {
+}
+
+bool CableDirection::receive(Time now) {
+    std::array<char, 4096> buffer{};
+    const ssize_t count = ::read(from_.master(), buffer.data(), buffer.size());
+    if (count < 0) {
+        return errno == EAGAIN || errno == EINTR;
+    }
+    if (count > 0) {
+        const Time start = std::max(now, lineFree_);
+        lineFree_ = start + byteTime_ * count;
+        waiting_ += static_cast<std::size_t>(count);
+        bursts_.push_back({std::string(buffer.data(), static_cast<std::size_t>(count)), 0, start});
+    }
+    return count > 0;
+}
+
+CableDirection::Time CableDirection::nextArrival() const {
+    if (bursts_.empty()) {
+        return Time::max();
+    }
+    const Burst& burst = bursts_.front();
+    if (blocked_) {
+        return retry_;
+    }
+    return burst.start + byteTime_ * (burst.done + 1);
+}
+
+void CableDirection::deliver(Time now) {
+    while (!bursts_.empty()) {
+        Burst& burst = bursts_.front();
+        std::size_t arrived = burst.bytes.size();
+        if (byteTime_.count() > 0) {
+            arrived = now <= burst.start
+                          ? 0
+                          : std::min(arrived, static_cast<std::size_t>((now - burst.start) / byteTime_));
+        }
+        if (arrived > burst.done) {
+            const ssize_t count =
+                ::write(to_.master(), burst.bytes.data() + burst.done, arrived - burst.done);
+            blocked_ = count <= 0 && waiting_ <= kMostWaiting;
+            if (blocked_) {
+                retry_ = now + kRetry;
+                return;
+            }
+            // Nobody listens and the buffer is full: as on a real line, the bytes are gone.
+            const std::size_t gone = count > 0 ? static_cast<std::size_t>(count) : arrived - burst.done;
+            burst.done += gone;
+            waiting_ -= gone;
+            carried_ += count > 0 ? gone : 0;
+        }
+        if (burst.done < burst.bytes.size()) {
+            return;
+        }
+        bursts_.pop_front();
+    }
+}
+
+}  // namespace velmora::tools
