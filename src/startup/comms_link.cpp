@@ -1,0 +1,194 @@
+#include "startup/comms_link.h"
+
+#include <exception>
+#include <new>
+#include <optional>
+
+#include "base/byte_text.h"
+#include "base/run_time_error.h"
+#include "link/server_state.h"
+#include "platform/profile/profile_encoding.h"
+#include "platform/profile/replace_contents.h"
+#include "serial/serial_port.h"
+#include "startup/default_ini.h"
+#include "startup/messages.h"
+
+namespace velmora {
+namespace {
+
+// Set by packagers.
+constexpr const char* kContact = VELMORA_CONTACT;
+constexpr int kRevision = VELMORA_REVISION;
+
+constexpr const char* kVersion = "beta3";
+constexpr const char* kErrorTitle = "Oops, Velmora Error";
+constexpr std::int16_t kLastSearchedPort = 64;
+constexpr std::int32_t kPortFree = 1;
+
+/// A folder as it is kept: without one final separator. A backslash goes on every system, since the same file
+/// may be used on several.
+std::string withoutFinalSeparator(std::string path, char separator) {
+    if (path.size() > 1 && (path.back() == '\\' || path.back() == separator)) {
+        path.pop_back();
+    }
+    return path;
+}
+
+}  // namespace
+
+CommsLink::CommsLink(const StartupParts& parts, const RunOverrides& overrides)
+    : parts_(parts), overrides_(overrides) {}
+
+StartupReport CommsLink::Main(const std::string& commandLine) {
+    if (parts_.files == nullptr) {
+        return failWithoutFiles();
+    }
+    try {
+        runSteps();
+    } catch (const RunTimeError& error) {
+        return fail(error.number(), error.what());
+    } catch (const CommError& error) {
+        return fail(error.number(), error.what());
+    } catch (const std::bad_alloc& error) {
+        return fail(static_cast<int>(ErrorNumber::OutOfMemory), error.what());
+    } catch (const std::exception& error) {
+        return fail(static_cast<int>(ErrorNumber::DeviceIoError), error.what());
+    }
+    if (abandoned_) {
+        parts_.form.unload();
+        return {StartupOutcome::Abandoned, step_, 0, {}};
+    }
+    parts_.form.setDebugMode(lowerCase(commandLine) == "-debug");
+    parts_.form.show();
+    parts_.form.applyAutoStart();
+    return {};
+}
+
+void CommsLink::runSteps() {
+    step_ = "load_Form";
+    parts_.form.load();
+    step_ = "load_INIfile";
+    load_INIfile();
+    step_ = "get_Messages";
+    get_Messages(parts_.ini, parts_.strings);
+    step_ = "get_Settings";
+    abandoned_ = !get_Settings();
+    if (abandoned_) {
+        return;
+    }
+    step_ = "load_CRCtable";
+    parts_.crc.load_CRCtable();
+    step_ = "init_Ports";
+    parts_.form.setState(init_Ports());
+    step_ = "get_WindowPos";
+    parts_.form.loadWindowPos();
+}
+
+void CommsLink::load_INIfile() {
+    Files& files = *parts_.files;
+    const std::string usual = parts_.rules.join(parts_.folders.applicationData, "Velmora.ini");
+    iniPath_ = parts_.rules.absolute(overrides_.configPath.value_or(usual));
+    if (!files.fileExists(iniPath_) || files.fileSize(iniPath_) < kSmallestIni) {
+        // On a fresh account even the application-data folder may be missing.
+        files.createFolder(parts_.rules.parentFolder(iniPath_));
+        replaceContents(files, parts_.rules, iniPath_, defaultIni());
+    }
+    parts_.ini.setIniFile(iniPath_);
+}
+
+bool CommsLink::get_Settings() {
+    parts_.form.setVersionTexts(kVersion, "build " + std::to_string(kRevision));
+    settings_ = Settings();
+    readSettings(parts_.ini, SettingStep::get_Settings, settings_);
+    settings_.ports = readPortDevices(parts_.ini);
+    parts_.form.setPortDevices(settings_.ports);
+
+    settings_.options.AutoStart = overrides_.autoStart.value_or(settings_.options.AutoStart);
+    // The search flag is the port step's to decide.
+    settings_.options.AutoSelectPort = parts_.form.options().AutoSelectPort;
+    parts_.form.options() = settings_.options;
+
+    const std::int32_t fileType = overrides_.fileType.value_or(settings_.DataFileType);
+    parts_.transfer.DataFileType = fileType < 0 || fileType > 3 ? 0 : fileType;
+    chooseDownloadFolder();
+    // The only way to abandon would be an Abort button, which the box about a missing folder does not have.
+    return true;
+}
+
+void CommsLink::chooseDownloadFolder() {
+    Files& files = *parts_.files;
+    const PathRules& rules = parts_.rules;
+    std::string folder = withoutFinalSeparator(settings_.DownloadPath, rules.separator());
+    if (overrides_.folder) {
+        folder = withoutFinalSeparator(rules.absolute(*overrides_.folder), rules.separator());
+    }
+    if (folder.empty() || !files.folderExists(folder)) {
+        if (!folder.empty()) {
+            const std::string shown = rules.hasDrives() ? folder : decodeText(folder, ProfileEncoding::Utf8);
+            parts_.box.inform(
+                BoxIcon::Exclamation, "Velmora Warning",
+                std::string(Strings::kDLPathNotFound1) + "\n   " + shown + "\n" + Strings::kDLPathNotFound2);
+        }
+        folder = rules.join(parts_.folders.documents, "Psion Files");
+        files.createFolder(folder);
+    }
+    parts_.transfer.DownloadPath = folder;
+}
+
+std::int32_t CommsLink::init_Ports() {
+    StartupForm& form = parts_.form;
+    readSettings(parts_.ini, SettingStep::init_Ports, settings_);
+    int port = settings_.Port;
+    if (overrides_.port) {
+        port = form.portNumber(*overrides_.port);
+        if (port < 1 || port > 32'767) {
+            throw RunTimeError(ErrorNumber::DeviceUnavailable, *overrides_.port);
+        }
+    }
+    const bool search = port < 1;
+    form.options().AutoSelectPort = search;
+    form.port().setCommPort(static_cast<std::int16_t>(search ? 1 : port));
+    form.port().setSettings(std::to_string(overrides_.baud.value_or(settings_.Baud)) + ",N,8,1");
+    if (!search) {
+        return Offline;
+    }
+    if (searchPort()) {
+        form.ShowClear();
+        return WaitLink;
+    }
+    form.options().AutoSelectPort = false;
+    form.ShowWarning("No port selected!", "");
+    return NoPort;
+}
+
+bool CommsLink::searchPort() {
+    StartupForm& form = parts_.form;
+    for (std::int16_t port = 1; port <= kLastSearchedPort; ++port) {
+        std::int32_t status = 0;
+        form.checkPort(port, 0, status);
+        if (status == kPortFree) {
+            form.port().setCommPort(port);
+            return true;
+        }
+    }
+    form.port().setCommPort(1);
+    return false;
+}
+
+StartupReport CommsLink::fail(std::int32_t number, const std::string& detail) {
+    parts_.box.inform(BoxIcon::Critical, kErrorTitle,
+                      "Error " + std::to_string(number) + " in " + step_ + ":\nPlease report this error to " +
+                          kContact + "!");
+    parts_.form.unload();
+    return {StartupOutcome::Failed, step_, number, detail};
+}
+
+StartupReport CommsLink::failWithoutFiles() {
+    parts_.box.inform(BoxIcon::Critical, kErrorTitle,
+                      "A component is missing!\n\n"
+                      "Please download 'Microsoft Scripting Runtime' from the Velmora homepage\n"
+                      "or directly from Microsoft, install it and re-run Velmora.");
+    return {StartupOutcome::Failed, step_, 0, "the file layer could not be set up"};
+}
+
+}  // namespace velmora

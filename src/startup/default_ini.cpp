@@ -1,0 +1,170 @@
+#include "startup/default_ini.h"
+
+#include <string_view>
+
+namespace velmora {
+namespace {
+
+// clang-format off
+constexpr std::string_view kLines =
+R"ini(;************************************************************************
+; Velmora.ini:  INI file for Velmora
+;************************************************************************
+;
+; If you want to restore the default settings, delete or rename this file
+;
+
+;************************************************************************
+[Settings]
+; General Settings
+
+; DownloadPath: path to an existing folder
+;      if empty or not existing, 'My Files\Psion Files' is used
+DownloadPath=
+
+; Port: Number of COM port at program start, values:
+;       zero for automatic detection of ports:
+;               All ports are checked for modems and availability,
+;               the first good port is selected.
+Port=0
+
+; Baud: Baud rate (transfer speed)
+;       valid: 9600,2400,1200, but what for ? (;-)
+Baud=9600
+
+; DataFileType: How data files are saved (extension & format)
+;       0  ODB (default Psion datafile, tab- delimited)
+;       1  TXT (text file, tab-delimited)
+;       2  CSV (delimiter: comma)
+;       3  CSV (delimiter: semicolon)
+;     Note: CSV is ideal for importing Data files to speradsheet programs
+DataFileType = 0
+
+; AutoSave: save port number at program shutdown
+AutoSave=True
+
+; AutoStart: start server at program start (disabled if Port=0)
+AutoStart=False
+
+; AutoHide: minimize window when server is started
+AutoHide=False
+
+; AutoPopup: restore and/or bring window to front when server not idle
+AutoPopup=False
+
+; DontTestModem: disable modem check
+;     If enabled, the selected port is opened and 'AT' is output.
+;     If the echo is 'AT' or 'OK', the port state is set to yellow.
+;     This procedure may cause short delays when loading the Setup dialog
+;   Set this to True if you don't need modem recognition.
+DontTestModem=False
+
+;************************************************************************
+[OnExit]
+; This section tells Velmora what to do if it receives an EXIT
+; or SHUTDOWN request from the organiser, e.g from OPL:
+;          XLCON: :XLPUT:("EXIT") :XLDIS:
+;   The main use of the EXIT request is to allow the organiser to shut
+;   itself off. Note: Auto shutoff is disabled while the Organiser is
+;   connected to a running server (DSR/DTR high).
+
+; Window reaction
+; RestoreWin: restore window if minimized
+RestoreWin=True
+; HideWin: the opposite
+HideWin=False
+; Otherwise (or if confusing): leave as is
+
+; AskUser: popup a yes/no messagebox
+AskUser=False
+; otherwise
+; StopServer: whether to accept or to ignore the EXIT request
+StopServer=True
+; AllowShutdown: whether to accept or to ignore the SHUTDOWN request
+AllowShutdown=True
+
+;************************************************************************
+; Internationalisation
+;    The following sections contain all texts and warnings used.
+;************************************************************************
+
+[DisplayStrings]
+; This section contains all strings for the Psion display.
+;
+; Either one or two lines may be specified.
+; Missing or empty lines don't change the display.
+; To display an empty line, specify at least one space.
+; Lines are centered if not padded with spaces.
+;
+; Rules for scrolling:
+; - only one line scrolls
+; - if both lines are too long, line 1 scrolls
+; - if line 1 is too long and line 2 contains only spaces,
+;   line 1 is wordwrapped to line 2, which may scroll
+;
+; Note: Generally line2 should be empty as it is used for filenames.
+
+Welcome="Please set PROTOCOL to PSION in organiser menu COMMS/SETUP...","and click Start!"
+Offline=" Server offline","  Click Start!"
+WaitLink="Waiting for link"," "
+Connect="","  Connecting..."
+FileAccess=" Accessing file"
+Upload=" Uploading file"
+Downld="Downloading file"
+SendDir="    Sending","   directory"
+SendMenu="    Sending","      menu"
+Error="","Waiting for link"    ;first line is for error message, do not use!
+NoPort="No port selected","The server could not find a free serial port!"
+OnExit="Server was stopped by Organiser!","  Click Start!"
+
+;************************************************************************
+[InfoStrings]
+; This section contains all strings for the info messages and statistics
+
+Files="Files"
+Bytes="Bytes"
+Received="Received"
+Sent="Sent"
+Warning="Warning"
+Error="Error"
+InUse="is in use by another application!"
+Modem="is used by a modem!"
+NoPort="is not available!"
+PortError="open error!"
+
+;************************************************************************
+[Dialogs]
+; This section contains all strings for the dialogs
+
+FolderCaption="Select folder"
+DownloadPath="Select the folder for up/downloading files:"
+
+;************************************************************************
+[ErrorMessages]
+; This section contains some error messages used.
+; Some others are generated by windows and cannot be customized.
+
+FileNotFound="File not found"
+DLPathNotFound1="The downloadpath specified in Velmora.INI doesn't exist:"
+DLPathNotFound2="Velmora is using 'My Files\Psion Files' instead!"
+BadBlockFile="Invalid file"
+BadBootFile="Invalid boot file"
+LineDown="Lost contact to Organiser!"
+TooManyErrors="Too many send errors"
+UserInterrupt="Transaction in progress! Do you really want to stop the server?"
+OnExitAskText="EXIT requested by Organiser, stop server?"
+OnShutdownAskText="SHUTDOWN requested by Organiser, terminate Velmora?"
+)ini";
+// clang-format on
+
+}  // namespace
+
+std::string defaultIni() {
+    std::string file;
+    for (const char c : kLines) {
+        file += c == '\n' ? "\r\n" : std::string(1, c);
+    }
+    return file;
+}
+
+}  // namespace velmora

@@ -1,0 +1,21 @@
+// What a command line says instead of the configuration file, for one run.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+namespace velmora {
+
+/// Each value that is given takes the place of the file's and is not written back. Paths are in the system's
+/// encoding.
+struct RunOverrides {
+    std::optional<std::string> configPath;  ///< the configuration file itself
+    std::optional<std::string> port;        ///< "COM<n>" or a device path
+    std::optional<std::int32_t> baud;       ///< bits per second, used as it is
+    std::optional<std::string> folder;      ///< DownloadPath; relative to the current folder
+    std::optional<std::int32_t> fileType;   ///< DataFileType; outside 0 to 3 it is 0
+    std::optional<bool> autoStart;          ///< AutoStart: whether the server starts with the program
+};
+
+}  // namespace velmora

@@ -1,0 +1,154 @@
+#include "startup/settings.h"
+
+#include <algorithm>
+#include <charconv>
+
+#include "base/byte_text.h"
+
+namespace velmora {
+namespace {
+
+constexpr std::string_view kSettings = "Settings";
+constexpr std::string_view kOnExit = "OnExit";
+constexpr std::string_view kPorts = "Ports";
+
+std::int16_t anyNumber(std::int16_t value) {
+    return value;
+}
+
+/// A rate counts as known when it occurs, with a blank before it, in the list of rates. That lets the
+/// beginnings of known rates pass as well (96, 24, 1), which files out there may rely on.
+std::int16_t knownRate(std::int16_t rate) {
+    constexpr std::string_view kRates = " 9600 2400 1200";
+    const bool known = kRates.find(' ' + std::to_string(rate)) != std::string_view::npos;
+    return known ? rate : std::int16_t{9600};
+}
+
+std::int16_t upToThree(std::int16_t value) {
+    return value < 0 || value > 3 ? std::int16_t{0} : value;
+}
+
+std::int16_t zeroOrOne(std::int16_t value) {
+    return value == 1 ? std::int16_t{1} : std::int16_t{0};
+}
+
+SettingRow flagRow(std::string_view section, std::string_view key, bool ServerOptions::*flag,
+                   bool defaultValue) {
+    SettingRow row{section, key, SettingType::Boolean, SettingStep::get_Settings,
+                   defaultValue ? "True" : "False"};
+    row.flag = flag;
+    return row;
+}
+
+SettingRow numberRow(std::string_view key, SettingStep step, std::string_view defaultText,
+                     std::int16_t Settings::*number, std::int16_t (*check)(std::int16_t)) {
+    SettingRow row{kSettings, key, SettingType::Integer, step, defaultText};
+    row.number = number;
+    row.check = check;
+    return row;
+}
+
+std::vector<SettingRow> makeTable() {
+    SettingRow downloadPath{kSettings, "DownloadPath", SettingType::Path, SettingStep::get_Settings, ""};
+    downloadPath.path = &Settings::DownloadPath;
+    SettingRow wksDialect{kSettings, "WksDialect", SettingType::Integer, SettingStep::get_Settings, ""};
+    wksDialect.optionalNumber = &Settings::WksDialect;
+    wksDialect.check = zeroOrOne;
+    using Options = ServerOptions;
+    constexpr SettingStep kSettingsStep = SettingStep::get_Settings;
+    constexpr SettingStep kPortsStep = SettingStep::init_Ports;
+    return {downloadPath,
+            numberRow("DataFileType", kSettingsStep, "0", &Settings::DataFileType, upToThree),
+            flagRow(kSettings, "AutoStart", &Options::AutoStart, false),
+            flagRow(kSettings, "AutoSave", &Options::AutoSave, true),
+            flagRow(kSettings, "AutoHide", &Options::AutoHide, false),
+            flagRow(kSettings, "AutoPopup", &Options::AutoPopup, false),
+            flagRow(kSettings, "DontTestModem", &Options::DontTestModem, false),
+            wksDialect,
+            flagRow(kOnExit, "RestoreWin", &Options::RestoreWin, true),
+            flagRow(kOnExit, "HideWin", &Options::HideWin, false),
+            flagRow(kOnExit, "AskUser", &Options::AskUser, false),
+            flagRow(kOnExit, "StopServer", &Options::StopServer, true),
+            flagRow(kOnExit, "AllowShutdown", &Options::AllowShutdown, true),
+            numberRow("Port", kPortsStep, "-1", &Settings::Port, anyNumber),
+            numberRow("Baud", kPortsStep, "9600", &Settings::Baud, knownRate)};
+}
+
+/// A default of the table as a number; the table holds nothing else for integers.
+std::int16_t defaultNumber(const SettingRow& row) {
+    std::int16_t number = 0;
+    std::from_chars(row.defaultText.data(), row.defaultText.data() + row.defaultText.size(), number);
+    return number;
+}
+
+void readRow(clsIniFile& ini, const SettingRow& row, Settings& settings) {
+    const std::string key(row.key);
+    switch (row.type) {
+        case SettingType::Path:
+            settings.*row.path = trimBlanks(ini.GetPath(key, std::string(row.defaultText)));
+            return;
+        case SettingType::Boolean:
+            settings.options.*row.flag = ini.GetBool(key, row.defaultText == "True");
+            return;
+        case SettingType::Integer:
+            break;
+    }
+    if (row.number != nullptr) {
+        settings.*row.number = row.check(ini.GetInt(key, defaultNumber(row)));
+    } else if (!ini.GetString(key, {}).empty()) {
+        settings.*row.optionalNumber = row.check(ini.GetInt(key, 0));
+    }
+}
+
+/// Whether a text in capitals is "COM" and a number from 1 to 32767.
+bool isPortName(std::string_view name) {
+    if (!name.starts_with("COM")) {
+        return false;
+    }
+    std::int16_t number = 0;
+    const char* end = name.data() + name.size();
+    const auto [stop, error] = std::from_chars(name.data() + 3, end, number);
+    return error == std::errc() && stop == end && number >= 1;
+}
+
+}  // namespace
+
+const std::vector<SettingRow>& settingsTable() {
+    static const std::vector<SettingRow> kTable = makeTable();
+    return kTable;
+}
+
+const SettingRow* findSetting(std::string_view section, std::string_view key) {
+    const auto same = [](std::string_view a, std::string_view b) { return upperCase(a) == upperCase(b); };
+    const auto& table = settingsTable();
+    const auto row = std::find_if(table.begin(), table.end(), [&](const SettingRow& candidate) {
+        return same(candidate.section, section) && same(candidate.key, key);
+    });
+    return row == table.end() ? nullptr : &*row;
+}
+
+void readSettings(clsIniFile& ini, SettingStep step, Settings& settings) {
+    for (const SettingRow& row : settingsTable()) {
+        if (row.step == step) {
+            ini.setSectionName(std::string(row.section));
+            readRow(ini, row, settings);
+        }
+    }
+}
+
+PortDevices readPortDevices(clsIniFile& ini) {
+    ini.setSectionName(std::string(kPorts));
+    SectionDictionary entries;
+    ini.GetSectEntriesDict(entries);
+    PortDevices devices;
+    for (const auto& [key, text] : entries) {
+        const std::string name = upperCase(key);
+        const std::string device = isPortName(name) ? trimBlanks(ini.GetPath(key, {})) : std::string();
+        if (!device.empty()) {
+            devices[name] = device;
+        }
+    }
+    return devices;
+}
+
+}  // namespace velmora

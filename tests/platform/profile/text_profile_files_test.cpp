@@ -1,0 +1,418 @@
+#include "platform/profile/text_profile_files.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "base/run_time_error.h"
+#include "support/failing_files.h"
+#include "support/memory_files.h"
+#include "support/plain_path_rules.h"
+#include "support/profile_cases.h"
+
+namespace velmora {
+namespace {
+
+using test::FileCall;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+const std::string kFile = "/home/velmora.ini";
+
+class Profile : public ::testing::Test {
+  protected:
+    void given(const std::string& contents) { memory_.addFile(kFile, contents); }
+    std::string contents() const { return memory_.content(kFile); }
+    std::string text(const std::string& section, const std::string& key, const std::string& otherwise = "DEF",
+                     std::size_t buffer = 255) {
+        return profiles_.getString(section, key, otherwise, buffer, kFile);
+    }
+    std::int32_t number(const std::string& key) { return profiles_.getInt("S", key, 42, kFile); }
+    std::string path() { return profiles_.getPath("S", "Path", "none", kFile); }
+    std::vector<std::string> entries(const std::string& section) {
+        return profiles_.getSection(section, kFile);
+    }
+    void put(const std::string& section, const std::string& key, const std::string& value) {
+        profiles_.writeString(section, key, value, kFile);
+    }
+    void putPath(const std::string& value) { profiles_.writePath("S", "Path", value, kFile); }
+    void expectError(ErrorNumber number, const std::function<void()>& action) {
+        try {
+            action();
+            ADD_FAILURE() << "no error";
+        } catch (const RunTimeError& error) {
+            EXPECT_EQ(error.errorNumber(), number) << error.what();
+        }
+    }
+
+    test::MemoryFiles memory_;
+    test::FailingFiles files_{memory_};
+    test::PlainPathRules rules_;
+    TextProfileFiles profiles_{files_, rules_};
+};
+
+// --- Reading one line
+
+class ProfileLine : public Profile, public ::testing::WithParamInterface<test::ProfileCase> {};
+
+TEST_P(ProfileLine, ReadsAsTheTableSays) {
+    const test::ProfileCase& row = GetParam();
+    given("[S]\r\n" + row.lines);
+    EXPECT_EQ(text("S", row.key), row.text);
+    EXPECT_EQ(number(row.key), row.number);
+    EXPECT_EQ(entries("S"), row.entries);
+}
+
+INSTANTIATE_TEST_SUITE_P(All, ProfileLine, ::testing::ValuesIn(test::profileCases()),
+                         [](const auto& row) { return std::string(row.param.name); });
+
+TEST_F(Profile, ADefaultLosesTrailingBlanksOnly) {
+    EXPECT_EQ(text("S", "A", "  \"DEF\"  "), "  \"DEF\"");
+}
+
+TEST_F(Profile, ADefaultIsCutToTheBufferToo) {
+    EXPECT_EQ(text("S", "A", "12345", 4), "123");
+}
+
+TEST_F(Profile, ABufferWithoutRoomGivesNothing) {
+    given("[S]\r\nA=1\r\n");
+    EXPECT_EQ(text("S", "A", "DEF", 1), "");
+    EXPECT_EQ(text("S", "A", "DEF", 0), "");
+}
+
+TEST_F(Profile, NumbersBeyondThirtyTwoBitsAreTheNearest) {
+    given("[S]\r\nA=99999999999999999999999\r\nB=-99999999999999999999999\r\nC=0xFFFFFFFFFFFFFFFFFFF\r\n");
+    EXPECT_EQ(number("A"), 2'147'483'647);
+    EXPECT_EQ(number("B"), -2'147'483'647 - 1);
+    EXPECT_EQ(number("C"), 2'147'483'647);
+}
+
+// --- Sections
+
+TEST_F(Profile, AMissingFileReadsAsEmpty) {
+    EXPECT_EQ(text("S", "A"), "DEF");
+    EXPECT_EQ(number("A"), 42);
+    EXPECT_THAT(entries("S"), IsEmpty());
+}
+
+TEST_F(Profile, SectionNamesMatchInAnyCase) {
+    given("[sEttings]\r\nA=1\r\n");
+    EXPECT_EQ(text("SETTINGS", "a"), "1");
+}
+
+TEST_F(Profile, TheFirstOfTwoLikeSectionsWins) {
+    given("[S]\r\nA=1\r\n[T]\r\n[s]\r\nA=2\r\nB=3\r\n");
+    EXPECT_EQ(text("S", "A"), "1");
+    EXPECT_EQ(text("S", "B"), "DEF");
+}
+
+TEST_F(Profile, BlanksAroundASectionLineDoNotCount) {
+    given("  [S]  \r\nA=1\r\n");
+    EXPECT_EQ(text("S", "A"), "1");
+}
+
+TEST_F(Profile, ASectionLineMayHaveAComment) {
+    given("[S] ; with a ] in it\r\nA=1\r\n");
+    EXPECT_EQ(text("S", "A"), "1");
+}
+
+TEST_F(Profile, ASectionNeverClosedIsAnOrdinaryLine) {
+    given("[S]\r\nA=1\r\n[T\r\nB=2\r\n");
+    EXPECT_EQ(text("S", "B"), "2");
+    EXPECT_THAT(entries("S"), ElementsAre("A=1", "[T", "B=2"));
+}
+
+TEST_F(Profile, EntriesBeforeTheFirstSectionBelongToNone) {
+    given("A=1\r\n[S]\r\n");
+    EXPECT_EQ(text("S", "A"), "DEF");
+    EXPECT_EQ(text("", "A"), "DEF");
+}
+
+TEST_F(Profile, LikeKeysOfTwoSectionsAreTwo) {
+    given("[S]\r\nA=1\r\n[T]\r\nA=2\r\n");
+    EXPECT_EQ(text("T", "A"), "2");
+}
+
+TEST_F(Profile, AnEditByAnotherProgramIsSeenAtOnce) {
+    given("[S]\r\nA=1\r\n");
+    EXPECT_EQ(text("S", "A"), "1");
+    given("[S]\r\nA=2\r\n");
+    EXPECT_EQ(text("S", "A"), "2");
+}
+
+TEST_F(Profile, TheWholeTextIsGivenWithoutItsMark) {
+    given("\xEF\xBB\xBF[S] ; \xC3\xA9\r\n");
+    EXPECT_EQ(profiles_.text(kFile), "[S] ; \xE9\r\n");
+}
+
+// --- Writing
+
+struct Edit {
+    const char* name;
+    std::string before;
+    std::optional<std::string> key;
+    std::optional<std::string> value;
+    std::string after;
+};
+
+class ProfileEdit : public Profile, public ::testing::WithParamInterface<Edit> {};
+
+TEST_P(ProfileEdit, ChangesOneLineAndNoOther) {
+    given(GetParam().before);
+    profiles_.writeString("S", GetParam().key, GetParam().value, kFile);
+    EXPECT_EQ(contents(), GetParam().after);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    All, ProfileEdit,
+    ::testing::Values(
+        Edit{"ReplacesTheFirstLine", "; c\r\n\r\n[S]\r\n;A=0\r\nA = 1\r\nA=2\r\n", "A", "9",
+             "; c\r\n\r\n[S]\r\n;A=0\r\nA=9\r\nA=2\r\n"},
+        Edit{"KeepsTheSpellingOfTheKey", "[S]\nbaud=1\n", "Baud", "2", "[S]\nbaud=2\n"},
+        Edit{"KeepsALastLineWithoutItsEnd", "[S]\r\nA=1", "A", "2", "[S]\r\nA=2"},
+        Edit{"AddsBehindTheLastEntry", "[S]\r\nA=1\r\n\r\n;***\r\n[T]\r\nA=3\r\n", "B", "2",
+             "[S]\r\nA=1\r\nB=2\r\n\r\n;***\r\n[T]\r\nA=3\r\n"},
+        Edit{"AddsToAnEmptySection", "[S]\r\n[T]\r\n", "B", "2", "[S]\r\nB=2\r\n[T]\r\n"},
+        Edit{"AddsBehindAnOpenLine", "[S]\nA=1", "B", "2", "[S]\nA=1\nB=2\n"},
+        Edit{"AddsBehindAnOpenHeader", "[S]", "B", "2", "[S]\r\nB=2\r\n"},
+        Edit{"AddsASectionAtTheEnd", "[T]\nA=1\n\n", "B", "2", "[T]\nA=1\n\n[S]\nB=2\n"},
+        Edit{"AddsASectionBehindAnOpenLine", "[T]\r\nA=1", "B", "2", "[T]\r\nA=1\r\n[S]\r\nB=2\r\n"},
+        Edit{"AddsASectionToAnEmptyFile", "", "B", "2", "[S]\r\nB=2\r\n"},
+        Edit{"AddsASectionToAFileOfOneByte", "x", "B", "2", "x\r\n[S]\r\nB=2\r\n"},
+        Edit{"AddsASectionBehindALoneMark", "\xEF\xBB\xBF", "B", "2", "\xEF\xBB\xBF[S]\r\nB=2\r\n"},
+        Edit{"WritesAnEmptyValue", "[S]\r\nA=1\r\n", "A", "", "[S]\r\nA=\r\n"},
+        Edit{"DeletesTheFirstSuchLine", "[S]\nA=1\n;c\nA=2\n", "A", std::nullopt, "[S]\n;c\nA=2\n"},
+        Edit{"DeletesNothingThatIsMissing", "[S]\nA=1\n", "B", std::nullopt, "[S]\nA=1\n"},
+        Edit{"DeletesASection", "[R]\nA=1\n[S]\nA=1\n;c\n\n[T]\n", std::nullopt, std::nullopt,
+             "[R]\nA=1\n[T]\n"},
+        Edit{"DeletesTheLastSection", "[R]\nA=1\n[S]\nA=1", std::nullopt, std::nullopt, "[R]\nA=1\n"},
+        Edit{"KeepsMixedLineEndsAndOddBytes", std::string("[S]\nA=1\r\n\x01\x00\xFF\r\r\nB=2\n", 19), "A",
+             "5", std::string("[S]\nA=5\r\n\x01\x00\xFF\r\r\nB=2\n", 19)}),
+    [](const auto& row) { return std::string(row.param.name); });
+
+TEST_F(Profile, WritingMakesAMissingFile) {
+    memory_.addFolder("/home");
+    put("S", "A", "1");
+    EXPECT_EQ(contents(), "[S]\r\nA=1\r\n");
+}
+
+TEST_F(Profile, WritingWhatIsThereTouchesNothing) {
+    given("[S]\r\nA=1\r\n");
+    put("S", "A", "1");
+    EXPECT_EQ(files_.calls(FileCall::CreateTemporary), 0);
+}
+
+TEST_F(Profile, WritingLeavesNoTemporaryFile) {
+    given("[S]\r\nA=1\r\n");
+    put("S", "A", "2");
+    EXPECT_THAT(memory_.paths(), ElementsAre(kFile));
+}
+
+class UnstorableEntry : public Profile, public ::testing::WithParamInterface<std::array<std::string, 3>> {};
+
+TEST_P(UnstorableEntry, IsRefusedAndTheFileStands) {
+    given("[S]\r\nA=1\r\n");
+    const auto& [section, key, value] = GetParam();
+    expectError(ErrorNumber::InvalidProcedureCall, [&] { put(section, key, value); });
+    EXPECT_EQ(contents(), "[S]\r\nA=1\r\n");
+}
+
+using Words = std::array<std::string, 3>;
+INSTANTIATE_TEST_SUITE_P(All, UnstorableEntry,
+                         ::testing::Values(Words{"S", "A", "1\r\n[T]"}, Words{"S", "A", std::string(1, '\0')},
+                                           Words{"S", "A=B", "1"}, Words{"S", "", "1"}, Words{"S", ";A", "1"},
+                                           Words{"S", "[A", "1"}, Words{"S", " A", "1"},
+                                           Words{"S", "A\t", "1"}, Words{"S]", "A", "1"},
+                                           Words{"S\n", "A", "1"}));
+
+// --- Failures: the old file stands
+
+struct FailedCall {
+    const char* name;
+    FileCall call;
+};
+class FailedWrite : public Profile, public ::testing::WithParamInterface<FailedCall> {};
+
+TEST_P(FailedWrite, IsAnErrorAndTheOldFileStands) {
+    given("[S]\r\nA=1\r\n");
+    // Of the two files that are opened the first is the one being read.
+    const int call = GetParam().call == FileCall::Open ? 2 : 1;
+    files_.failAtCall(GetParam().call, call, ErrorNumber::PathFileAccess);
+    expectError(ErrorNumber::PathFileAccess, [&] { put("S", "A", "2"); });
+    EXPECT_EQ(contents(), "[S]\r\nA=1\r\n");
+    EXPECT_THAT(memory_.paths(), ElementsAre(kFile));
+    EXPECT_EQ(memory_.openFiles(), 0);
+    put("S", "A", "3");
+    EXPECT_EQ(text("S", "A"), "3");
+}
+
+INSTANTIATE_TEST_SUITE_P(All, FailedWrite,
+                         ::testing::Values(FailedCall{"ReadOnlyFolder", FileCall::CreateTemporary},
+                                           FailedCall{"Open", FileCall::Open},
+                                           FailedCall{"Write", FileCall::Write},
+                                           FailedCall{"Close", FileCall::Close},
+                                           FailedCall{"Rename", FileCall::Replace}),
+                         [](const auto& row) { return std::string(row.param.name); });
+
+TEST_F(Profile, AFullDiskIsAnErrorAndTheOldFileStands) {
+    given("[S]\r\nA=1\r\n");
+    files_.failAfterBytes(4, ErrorNumber::DiskFull);
+    expectError(ErrorNumber::DiskFull, [&] { put("S", "A", "2"); });
+    EXPECT_EQ(contents(), "[S]\r\nA=1\r\n");
+    EXPECT_THAT(memory_.paths(), ElementsAre(kFile));
+}
+
+TEST_F(Profile, TheFirstFailureIsReportedWhenTheTemporaryFileStaysToo) {
+    given("[S]\r\nA=1\r\n");
+    files_.failAfterBytes(4, ErrorNumber::DiskFull);
+    files_.failAtCall(FileCall::Delete, 1, ErrorNumber::PermissionDenied);
+    expectError(ErrorNumber::DiskFull, [&] { put("S", "A", "2"); });
+}
+
+TEST_F(Profile, AnUnreadableFileIsAnError) {
+    given("[S]\r\nA=1\r\n");
+    files_.failAtCall(FileCall::Open, 1, ErrorNumber::PathFileAccess);
+    expectError(ErrorNumber::PathFileAccess, [&] { text("S", "A"); });
+}
+
+TEST_F(Profile, AFolderInTheFilesPlaceIsAnError) {
+    memory_.addFolder(kFile);
+    expectError(ErrorNumber::PathFileAccess, [&] { text("S", "A"); });
+    expectError(ErrorNumber::PathFileAccess, [&] { put("S", "A", "1"); });
+    EXPECT_THAT(memory_.paths(), IsEmpty());
+}
+
+TEST_F(Profile, AMissingFolderIsAnErrorOfTheWrite) {
+    expectError(ErrorNumber::PathNotFound, [&] { put("S", "A", "1"); });
+}
+
+TEST_F(Profile, AFileAboveTheLimitIsRefused) {
+    given(std::string(ProfileText::kLargest + 1, 'x'));
+    expectError(ErrorNumber::OutOfMemory, [&] { text("S", "A"); });
+}
+
+// --- Encodings
+
+TEST_F(Profile, BytesAboveAsciiAreWindows1252) {
+    given("[S]\r\nA=caf\xE9 \x80\r\n");
+    EXPECT_EQ(text("S", "A"), "caf\xE9 \x80");
+}
+
+TEST_F(Profile, ValidUtf8IsConverted) {
+    given("[S]\r\nA=caf\xC3\xA9 \xE2\x82\xAC\r\n");
+    EXPECT_EQ(text("S", "A"), "caf\xE9 \x80");
+    EXPECT_THAT(entries("S"), ElementsAre("A=caf\xE9 \x80"));
+}
+
+TEST_F(Profile, CharactersWithoutAByteBecomeQuestionMarks) {
+    given("[S]\r\nA=\xE2\x98\x83 and \xF0\x9F\x98\x80\r\n");
+    EXPECT_EQ(text("S", "A"), "? and ?");
+}
+
+TEST_F(Profile, AMarkMakesItUtf8EvenWithABrokenByte) {
+    given("\xEF\xBB\xBF[S]\r\nA=\xC3\xA9 \xE9\r\n");
+    EXPECT_EQ(text("S", "A"), "\xE9 ?");
+}
+
+TEST_F(Profile, OverlongFormsAndSurrogatesAreNotUtf8) {
+    for (const std::string bytes : {"\xC0\xAF", "\xE0\x80\xAF", "\xED\xA0\x80", "\xF4\x90\x80\x80", "\xC3"}) {
+        given("[S]\r\nA=" + bytes + "\r\n");
+        EXPECT_EQ(text("S", "A"), bytes);
+    }
+}
+
+TEST_F(Profile, NamesAreMatchedInTheFilesEncoding) {
+    given("[\xC3\x84]\r\nSchl\xC3\xBCssel=1\r\n");
+    EXPECT_EQ(text("\xE4", "SCHL\xDCSSEL"), "1");
+    put("\xE4", "schl\xFCssel", "2");
+    EXPECT_EQ(contents(), "[\xC3\x84]\r\nSchl\xC3\xBCssel=2\r\n");
+}
+
+TEST_F(Profile, AnEditKeepsTheEncoding) {
+    given("[S]\r\nA=\xC3\xA9\r\n");
+    put("S", "B", "\xFC");
+    EXPECT_EQ(contents(), "[S]\r\nA=\xC3\xA9\r\nB=\xC3\xBC\r\n");
+    given("[S]\r\nA=\xE9\r\n");
+    put("S", "B", "\xFC");
+    EXPECT_EQ(contents(), "[S]\r\nA=\xE9\r\nB=\xFC\r\n");
+}
+
+TEST_F(Profile, ATextThatLooksLikeUtf8ComesBack) {
+    given("[S]\r\n");
+    put("S", "A", "\xC3\xA9");
+    EXPECT_EQ(text("S", "A"), "\xC3\xA9");
+}
+
+TEST_F(Profile, APathKeepsEveryCharacter) {
+    for (const std::string before : {"[S]\r\n", "[S]\r\nA=\xC3\xA9\r\n", "[S]\r\nA=\xE9\r\n"}) {
+        given(before);
+        const std::string otherText = text("S", "A");
+        putPath("/home/\xE2\x98\x83/\xC3\xBC");
+        EXPECT_EQ(path(), "/home/\xE2\x98\x83/\xC3\xBC");
+        EXPECT_EQ(text("S", "A"), otherText);
+    }
+}
+
+TEST_F(Profile, APathTypedInWindows1252IsFound) {
+    given(
+        "[S]\r\nPath=\"/home/b\xFC"
+        "cher\"\r\n");
+    EXPECT_EQ(path(),
+              "/home/b\xC3\xBC"
+              "cher");
+}
+
+TEST_F(Profile, APathHasNoLimit) {
+    given("[S]\r\nPath=/" + std::string(1000, 'x') + "\r\n");
+    EXPECT_EQ(path().size(), 1001U);
+}
+
+TEST_F(Profile, AMissingPathIsItsDefault) {
+    EXPECT_EQ(path(), "none");
+}
+
+TEST_F(Profile, APathThatIsNotUtf8IsRefused) {
+    given("[S]\r\n");
+    expectError(ErrorNumber::BadFileName, [&] { putPath("/home/\xE9"); });
+    expectError(ErrorNumber::BadFileName, [&] { putPath("/home/a\nb"); });
+    EXPECT_EQ(contents(), "[S]\r\n");
+}
+
+TEST_F(Profile, OnASystemWithWindows1252PathsAPathIsAText) {
+    TextProfileFiles profiles(files_, rules_, PathEncoding::Windows1252);
+    given("[S]\r\nA=\xC3\xA9\r\n");
+    profiles.writePath("S", "Path", "C:\\\xFC", kFile);
+    EXPECT_EQ(contents(), "[S]\r\nA=\xC3\xA9\r\nPath=C:\\\xC3\xBC\r\n");
+    EXPECT_EQ(profiles.getPath("S", "Path", "", kFile), "C:\\\xFC");
+}
+
+// --- Files that are no profile files
+
+std::string randomBytes(std::size_t count) {
+    std::mt19937 random(7);
+    std::string bytes(count, '\0');
+    for (char& byte : bytes) {
+        byte = static_cast<char>(random());
+    }
+    return bytes;
+}
+
+TEST_F(Profile, AStrangeFileIsReadAndAnEntryAddedWithoutDamage) {
+    const std::string strange[] = {randomBytes(100'000),         std::string(10'000'000, '\n'),
+                                   std::string(10'000'000, 'x'), std::string(1000, '['),
+                                   std::string(1000, '\0'),      "[S\r\nA=1"};
+    for (const std::string& bytes : strange) {
+        given(bytes);
+        EXPECT_EQ(text("Velmora", "A"), "DEF");
+        put("Velmora", "A", "1");
+        EXPECT_EQ(text("Velmora", "A"), "1");
+        ASSERT_TRUE(contents().starts_with(bytes));
+        profiles_.writeString("Velmora", std::nullopt, std::nullopt, kFile);
+        ASSERT_TRUE(contents().starts_with(bytes));
+        EXPECT_LE(contents().size(), bytes.size() + 2);
+    }
+}
+
+}  // namespace
+}  // namespace velmora
