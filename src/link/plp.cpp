@@ -40,17 +40,17 @@ int PLP::PLP_Start(SerialPort& port, Timer& timer) {
         }
         switch (error.number()) {
             case kCommInvalidPort:
-                return kPortNotAccessible;
+                return kStartPortNotAccessible;
             case kCommAlreadyOpen:
-                return kPortInUse;
+                return kStartPortInUse;
             default:
-                return kPortOpenError;
+                return kStartPortOpenError;
         }
     }
     comTimer_.setEnabled(true);
     PLP_InitLink();
     // A link request that could not be written may have stopped the link already.
-    return port_ != nullptr ? kLinkStarted : kPortOpenError;
+    return port_ != nullptr ? kLinkStarted : kStartPortOpenError;
 }
 
 void PLP::openPort() {

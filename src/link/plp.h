@@ -35,9 +35,9 @@ constexpr std::size_t kReadLength = 1024;
 /// Results of PLP_Start; those above 1 are also the numbers of the port's status texts.
 enum LinkStartResult : int {
     kLinkStarted = 1,
-    kPortInUse = 4,
-    kPortNotAccessible = 5,
-    kPortOpenError = 6,
+    kStartPortInUse = 4,
+    kStartPortNotAccessible = 5,
+    kStartPortOpenError = 6,
 };
 
 /// The link state machine. It has no thread and no clock: it is driven by the ticks of two timers (the

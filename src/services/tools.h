@@ -6,6 +6,7 @@
 
 #include "base/files.h"
 #include "base/path_rules.h"
+#include "services/file_name_mapper.h"
 #include "services/transfer_settings.h"
 
 namespace velmora {
@@ -15,7 +16,7 @@ namespace velmora {
 std::string& translate_Chars(std::string& text, std::string_view find, std::string_view replace);
 
 /// Maps file names. Holds references only; the files, rules and settings must outlive it.
-class Tools {
+class Tools : public FileNameMapper {
   public:
     Tools(const Files& files, const PathRules& rules, const TransferSettings& settings);
 
@@ -24,10 +25,10 @@ class Tools {
     /// all-capitals name re-cased to one leading capital. Empty when the name is refused: a "*" that is not
     /// allowed, a folder that does not exist, a name that the system cannot hold.
     /// `resolveExisting`: an existing file is given with the letters as stored.
-    std::string map_FileName(std::string_view name, bool resolveExisting, bool allowWildcards) const;
+    std::string map_FileName(std::string_view name, bool resolveExisting, bool allowWildcards) const override;
 
     /// The last component of a path as Windows-1252 bytes for a display; "?" for what has no byte.
-    std::string displayName(const std::string& path) const;
+    std::string displayName(const std::string& path) const override;
 
   private:
     const Files& files_;

@@ -1,0 +1,56 @@
+#!/usr/bin/env bash
+# The main job, end to end: builds, starts the server, and lets a virtual Organiser save and load files over
+# a line of two pseudo-terminals. What is left: build/demo/psion (the PC's side) and build/demo/organiser
+# (what came back), compared at the end.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+scripts/setup.sh
+scripts/build.sh build -DCMAKE_BUILD_TYPE=RelWithDebInfo -- velmorad velmora-organiser velmora-cable
+
+bin=$PWD/build/bin
+demo=$PWD/build/demo
+rm -rf "$demo"
+mkdir -p "$demo"/{psion,organiser}
+
+# The cable ends when its standard input closes, so nothing is left behind however this script ends.
+mkfifo "$demo/hold"
+build/tools/velmora-cable --link "$demo/pc" "$demo/handheld" < "$demo/hold" > "$demo/cable.log" &
+exec 3> "$demo/hold"
+until [[ -e "$demo/handheld" ]]; do sleep 0.05; done
+
+export XDG_CONFIG_HOME="$demo/config"
+"$bin/velmorad" --port "$demo/pc" --folder "$demo/psion" > "$demo/server.log" 2>&1 &
+server=$!
+trap 'kill $server 2> /dev/null || true; exec 3>&-' EXIT
+until grep -q "Waiting for link" "$demo/server.log"; do
+  kill -0 $server 2> /dev/null || { cat "$demo/server.log"; exit 1; }
+  sleep 0.05
+done
+
+organiser() {
+  echo
+  echo "\$ velmora-organiser $*"
+  "$bin/velmora-organiser" --device "$demo/handheld" "$@"
+}
+
+printf 'Babbage\t1 Dorset St\t01 2345\r\nLovelace\t12 St James Sq\t01 6789\r\n' > "$demo/organiser/contacts.txt"
+printf 'hello:\r\nPRINT "HELLO FROM"\r\nPRINT "THE PC"\r\nGET\r\n' > "$demo/organiser/hello.txt"
+
+cd "$demo/organiser"
+organiser save contacts.txt --as CONTACTS
+organiser load CONTACTS -o contacts-again.txt
+organiser save hello.txt --as HELLO --type procedure
+organiser load HELLO --type procedure -o hello-again.txt
+organiser dir --long
+organiser tour
+
+kill $server
+wait $server
+echo
+echo "What the server showed meanwhile (build/demo/server.log):"
+sort -u "$demo/server.log" | head -12 | sed 's/^/    /'
+echo
+cmp contacts.txt contacts-again.txt && cmp hello.txt hello-again.txt
+cmp contacts.txt "$demo/psion/Contacts.odb" && cmp hello.txt "$demo/psion/Hello.opl"
+echo "Every file came back as it went. They are in build/demo/psion:"
+ls -l "$demo/psion" | sed 1d

@@ -1,0 +1,150 @@
+#include "apps/headless_server.h"
+
+#include <QCoreApplication>
+#include <cerrno>
+#include <cstring>
+#include <system_error>
+
+#include "serial/open_diagnosis.h"
+
+namespace velmora {
+namespace {
+
+RunOverrides overridesOf(const ServerArguments& arguments) {
+    RunOverrides overrides;
+    overrides.configPath = arguments.config;
+    overrides.port = arguments.port;
+    overrides.baud = arguments.baud;
+    overrides.folder = arguments.folder;
+    overrides.fileType = arguments.fileType;
+    overrides.autoStart = true;  // this program exists to serve
+    return overrides;
+}
+
+void printLine(std::FILE* file, const std::string& line) {
+    // One write a line, so that lines of several programs on one console do not mix.
+    const std::string text = line + '\n';
+    std::fwrite(text.data(), 1, text.size(), file);
+    std::fflush(file);
+}
+
+}  // namespace
+
+HeadlessServer::HeadlessServer(const ServerArguments& arguments)
+    : arguments_(arguments),
+      overrides_(overridesOf(arguments)),
+      folders_(processEnvironment()),
+      files_(folders_.temporary()),
+      rules_(currentFolder()),
+      profiles_(files_, rules_),
+      device_(portNames_),
+      watcher_([this] { core_.controller().ComTimer_Tick(); }),
+      port_(device_, yield_, &watcher_),
+      ComTimer_(watcher_),
+      traceSink_(clock_, arguments.traceCategories, traceOutput()),
+      debug_(traceSink_),
+      view_([](const std::string& line) { printLine(stdout, line); },
+            [this](const std::string& line) { printError(line); },
+            {[this] {
+                 if (core_.controller().queryUnload(CloseReason::Program)) {
+                     quit(0);
+                 }
+             },
+             [this](std::int32_t state) { stateChanged(state); }}),
+      box_([this](const std::string& line) { printError(line); }),
+      core_({view_, box_, files_, rules_, port_, debug_, ComTimer_, PLPtimer_, DisplayTimer_, clock_, zone_, yield_}),
+      form_(core_.controller(), view_, core_.options, port_, portNames_),
+      ini_(profiles_, rules_, box_),
+      settingsStore_(ini_, overrides_),
+      start_({&files_, rules_, ini_, box_, form_, core_.crc, core_.strings, core_.transfer,
+              {folders_.applicationData(), folders_.documents()}},
+             overrides_) {
+    debug_.showStateOf([this] { return core_.link().linkState(); });
+    core_.controller().setClosingActions({&settingsStore_, {}, {}});
+    core_.controller().onPortFailure([this] { portFailed(); });
+}
+
+HeadlessServer::~HeadlessServer() {
+    if (traceFile_ != nullptr) {
+        std::fclose(traceFile_);
+    }
+}
+
+/// Where trace lines go; throws std::system_error when the trace file cannot be made.
+std::function<void(const std::string&)> HeadlessServer::traceOutput() {
+    if (!arguments_.trace) {
+        return {};
+    }
+    if (!arguments_.traceFile) {
+        return [](const std::string& line) { printLine(stderr, line); };
+    }
+    traceFile_ = std::fopen(arguments_.traceFile->c_str(), "w");
+    if (traceFile_ == nullptr) {
+        throw std::system_error(errno, std::generic_category(), *arguments_.traceFile);
+    }
+    return [this](const std::string& line) { printLine(traceFile_, line); };
+}
+
+/// Prints a warning. A server whose port failed ends, and says so in one line.
+void HeadlessServer::printError(const std::string& line) {
+    if (failed_) {
+        return;
+    }
+    std::string text = line;
+    const std::string start = "Port COM" + std::to_string(port_.CommPort()) + " ";
+    if (line.starts_with(start)) {
+        const std::string device =
+            portNames_.device(static_cast<int>(port_.CommPort())).value_or("COM" + std::to_string(port_.CommPort()));
+        text += " " + describeOpenFailure(device, port_.lastErrorNumber());
+    }
+    errorPrinted_ = true;
+    printLine(stderr, "velmorad: " + text);
+}
+
+void HeadlessServer::portFailed() {
+    if (!errorPrinted_) {
+        printError("COM" + std::to_string(port_.CommPort()) + " failed: " + port_.lastErrorDescription());
+    }
+    failed_ = true;
+    quit(1);
+}
+
+void HeadlessServer::stateChanged(std::int32_t state) {
+    if (state == NoPort) {
+        printError("no free serial port was found; name one with --port");
+        quit(1);
+    } else if (state == OnExit) {
+        quit(0);
+    }
+}
+
+/// Ends the event loop, or keeps it from beginning; the first reason counts.
+void HeadlessServer::quit(int status) {
+    if (!quitting_) {
+        quitting_ = true;
+        exitStatus_ = status;
+        QCoreApplication::exit(status);
+    }
+}
+
+void HeadlessServer::stop() {
+    core_.controller().queryUnload(CloseReason::Terminated);
+    quit(0);
+}
+
+int HeadlessServer::run() {
+    const StartupReport report = start_.Main("");
+    if (report.outcome != StartupOutcome::Running) {
+        if (!errorPrinted_) {
+            printError("start-up failed in " + report.step + ": " + report.detail);
+        }
+        return 1;
+    }
+    if (!quitting_) {
+        QCoreApplication::exec();
+    }
+    core_.controller().queryUnload(CloseReason::Terminated);
+    return exitStatus_;
+}
+
+}  // namespace velmora

@@ -1,0 +1,88 @@
+// The server of velmorad: everything that it is made of, from the port to the exit status.
+#pragma once
+
+#include <cstdio>
+#include <memory>
+#include <string>
+
+#include "apps/console_trace.h"
+#include "apps/controller_form.h"
+#include "apps/server_arguments.h"
+#include "apps/server_core.h"
+#include "apps/system_zone.h"
+#include "eventloop/port_watcher.h"
+#include "eventloop/qt_event_yield.h"
+#include "eventloop/qt_timer.h"
+#include "link/debug.h"
+#include "platform/known_folders.h"
+#include "platform/posix/posix_files.h"
+#include "platform/posix/posix_paths.h"
+#include "platform/profile/text_profile_files.h"
+#include "platform/system_clock.h"
+#include "serial/comm_posix.h"
+#include "serial/my_comm.h"
+#include "serial/port_names.h"
+#include "startup/comms_link.h"
+#include "startup/ini_file.h"
+#include "startup/ini_settings_store.h"
+#include "startup/run_overrides.h"
+#include "ui/console_view.h"
+#include "ui/no_user_box.h"
+
+namespace velmora {
+
+/// Serves until it is told to stop; needs a QCoreApplication. It prints the display on standard output, and
+/// on standard error warnings and the trace.
+class HeadlessServer {
+  public:
+    explicit HeadlessServer(const ServerArguments& arguments);
+    ~HeadlessServer();
+    HeadlessServer(const HeadlessServer&) = delete;
+    HeadlessServer& operator=(const HeadlessServer&) = delete;
+
+    /// Starts up and serves; returns the exit status of the program.
+    int run();
+    /// Ends serving: closes the file and the port, saves nothing, asks nothing. For signals.
+    void stop();
+
+  private:
+    std::function<void(const std::string& line)> traceOutput();
+    void printError(const std::string& line);
+    void portFailed();
+    void stateChanged(std::int32_t state);
+    void quit(int status);
+
+    std::FILE* traceFile_ = nullptr;
+    bool quitting_ = false;
+    bool failed_ = false;       // the port cannot be opened or failed
+    bool errorPrinted_ = false;
+    int exitStatus_ = 0;
+
+    ServerArguments arguments_;
+    RunOverrides overrides_;
+    KnownFolders folders_;
+    PosixFiles files_;
+    PosixPaths rules_;
+    TextProfileFiles profiles_;
+    SystemClock clock_;
+    SystemZone zone_;
+    QtEventYield yield_;
+    PortNames portNames_;
+    PosixCommDevice device_;
+    PortWatcher watcher_;
+    myComm port_;
+    WatchedTimer<QtTimer> ComTimer_;
+    QtTimer PLPtimer_;
+    QtTimer DisplayTimer_;
+    ConsoleTrace traceSink_;
+    Debug debug_;
+    ConsoleView view_;
+    NoUserBox box_;
+    ServerCore core_;
+    ControllerForm form_;
+    clsIniFile ini_;
+    IniSettingsStore settingsStore_;
+    CommsLink start_;
+};
+
+}  // namespace velmora

@@ -1,0 +1,52 @@
+#include "apps/server_core.h"
+
+#include <vector>
+
+namespace velmora {
+namespace {
+
+/// The worksheet formats offered to the Organiser.
+std::vector<SheetFormatEntry> offeredFormats() {
+    return {{2, "WKS"}, {3, "DIF"}, {4, "CSV"}, {5, "TXT"}, {6, "TXT(tab)"}};
+}
+
+}  // namespace
+
+ServerCore::ServerCore(const ServerCoreParts& parts)
+    : tools_(parts.files, parts.rules, transfer),
+      controller_({parts.view, parts.box, strings, options, transfer, parts.port, parts.ComTimer, parts.PLPtimer,
+                   parts.DisplayTimer, parts.clock, parts.yield,
+                   [this](const std::string& path) { return tools_.displayName(path); }}),
+      link_(crc, controller_, parts.ComTimer, parts.trace, parts.yield, parts.clock),
+      linkControl_(link_),
+      dispatcher_(link_, controller_, parts.trace),
+      openFile_(parts.files, parts.rules, controller_),
+      timeServices_(parts.clock, parts.zone),
+      ftran_(link_, controller_, openFile_, tools_, transfer),
+      file_(link_, controller_, openFile_, tools_),
+      boot_(link_, controller_, parts.files, tools_),
+      exit_(link_, link_.stopRequests().exit),
+      shutdown_(link_, link_.stopRequests().shutdown),
+      planm_(link_, offeredFormats()),
+      time_(link_, controller_, timeServices_, TimeReply::Local),
+      gmt_(link_, controller_, timeServices_, TimeReply::Universal),
+      timeInfo_(link_, controller_, timeServices_, TimeReply::LocalWithZone) {
+    controller_.attachLink(linkControl_);
+    link_.setServices(dispatcher_);
+    dispatcher_.add("FTRAN", ftran_);
+    dispatcher_.add("FILE", file_);
+    dispatcher_.add("BOOT", boot_);
+    dispatcher_.add("EXIT", exit_);
+    dispatcher_.add("SHUTDOWN", shutdown_);
+    dispatcher_.add("PLANM", planm_);
+    dispatcher_.add("TIME", time_);
+    dispatcher_.add("GMT", gmt_);
+    dispatcher_.add("TIMEINFO", timeInfo_);
+}
+
+ServerCore::~ServerCore() {
+    // The link may still be up when a program ends early; the services must be there for its last event.
+    link_.PLP_Stop();
+}
+
+}  // namespace velmora

@@ -1,0 +1,102 @@
+// The server's objects and how they meet, for every program that serves.
+#pragma once
+
+#include <map>
+#include <memory>
+#include <string>
+
+#include "base/clock.h"
+#include "base/event_yield.h"
+#include "base/files.h"
+#include "base/message_box.h"
+#include "base/path_rules.h"
+#include "base/timer.h"
+#include "link/crc.h"
+#include "link/plp.h"
+#include "link/trace.h"
+#include "serial/serial_port.h"
+#include "services/boot_service.h"
+#include "services/dispatcher.h"
+#include "services/file_service.h"
+#include "services/ftran_service.h"
+#include "services/open_file.h"
+#include "services/planm_service.h"
+#include "services/stop_request_service.h"
+#include "services/strings.h"
+#include "services/time_services.h"
+#include "services/tools.h"
+#include "services/transfer_settings.h"
+#include "ui/link_control.h"
+#include "ui/main_view.h"
+#include "ui/server_controller.h"
+#include "ui/server_options.h"
+
+namespace velmora {
+
+/// What a program gives its server; all of it must outlive the server.
+struct ServerCoreParts {
+    MainView& view;
+    MessageBox& box;
+    Files& files;
+    const PathRules& rules;
+    SerialPort& port;
+    Trace& trace;
+    Timer& ComTimer;
+    Timer& PLPtimer;
+    Timer& DisplayTimer;
+    const Clock& clock;
+    const ZoneSource& zone;
+    EventYield& yield;
+};
+
+/// One object of each kind, from the settings to the services, connected.
+class ServerCore {
+  public:
+    explicit ServerCore(const ServerCoreParts& parts);
+    ~ServerCore();
+    ServerCore(const ServerCore&) = delete;
+    ServerCore& operator=(const ServerCore&) = delete;
+
+    // Filled by start-up before the server first starts.
+    Strings strings;
+    ServerOptions options;
+    TransferSettings transfer;
+    Crc crc;
+
+    ServerController& controller() { return controller_; }
+    const PLP& link() const { return link_; }
+
+  private:
+    /// The link as the controller drives it.
+    class LinkOfController : public LinkControl {
+      public:
+        explicit LinkOfController(PLP& link) : link_(link) {}
+        std::int32_t PLP_Start(SerialPort& port, Timer& timer) override { return link_.PLP_Start(port, timer); }
+        void PLP_Stop() override { link_.PLP_Stop(); }
+        std::int32_t PLP_ReceiveEvent() override { return link_.PLP_ReceiveEvent(); }
+        void PLP_Timeout() override { link_.PLP_Timeout(); }
+
+      private:
+        PLP& link_;
+    };
+
+    Tools tools_;
+    ServerController controller_;
+    PLP link_;
+    LinkOfController linkControl_;
+    ServiceDispatcher dispatcher_;
+    OpenFile openFile_;
+    TimeServices timeServices_;
+
+    FtranService ftran_;
+    FileService file_;
+    BootService boot_;
+    StopRequestService exit_;
+    StopRequestService shutdown_;
+    PlanmService planm_;
+    TimeService time_;
+    TimeService gmt_;
+    TimeService timeInfo_;
+};
+
+}  // namespace velmora

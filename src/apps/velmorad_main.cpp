@@ -1,0 +1,38 @@
+// velmorad: the server without a window.
+#include <QCoreApplication>
+#include <cstdio>
+#include <exception>
+#include <string>
+#include <vector>
+
+#include "apps/headless_server.h"
+#include "apps/server_arguments.h"
+#include "eventloop/stop_signals.h"
+
+int main(int argc, char** argv) {
+    using namespace velmora;
+    ServerArguments arguments;
+    try {
+        arguments = parseServerArguments(std::vector<std::string>(argv + 1, argv + argc));
+    } catch (const UsageError& error) {
+        std::fprintf(stderr, "velmorad: %s\nTry --help.\n", error.what());
+        return 2;
+    }
+    if (arguments.help) {
+        std::fputs(serverUsage().c_str(), stdout);
+        return 0;
+    }
+    if (arguments.version) {
+        std::puts("velmorad " VELMORA_VERSION);
+        return 0;
+    }
+    QCoreApplication application(argc, argv);
+    try {
+        HeadlessServer server(arguments);
+        const StopSignals stopSignals([&server] { server.stop(); });
+        return server.run();
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "velmorad: %s\n", error.what());
+        return 1;
+    }
+}
