@@ -69,7 +69,14 @@ std::string decodeText(std::string_view bytes, ProfileEncoding encoding) {
         return std::string(bytes);
     }
     std::string text;
+    text.reserve(bytes.size());
     while (!bytes.empty()) {
+        const auto plain = std::find_if_not(bytes.begin(), bytes.end(), [](char c) { return isAscii(c); });
+        text.append(bytes.begin(), plain);
+        bytes.remove_prefix(static_cast<std::size_t>(plain - bytes.begin()));
+        if (bytes.empty()) {
+            break;
+        }
         const std::size_t length = sequenceLength(bytes);
         text += length == 0 ? "?" : fromUtf8(bytes.substr(0, length)).value_or("?");
         bytes.remove_prefix(std::max<std::size_t>(length, 1));

@@ -213,8 +213,8 @@ class UnstorableEntry : public Profile, public ::testing::WithParamInterface<std
 
 TEST_P(UnstorableEntry, IsRefusedAndTheFileStands) {
     given("[S]\r\nA=1\r\n");
-    const auto& [section, key, value] = GetParam();
-    expectError(ErrorNumber::InvalidProcedureCall, [&] { put(section, key, value); });
+    const auto& words = GetParam();
+    expectError(ErrorNumber::InvalidProcedureCall, [&] { put(words[0], words[1], words[2]); });
     EXPECT_EQ(contents(), "[S]\r\nA=1\r\n");
 }
 
