@@ -76,7 +76,7 @@ std::optional<std::string_view> FrameCutter::next() {
         scan_ = end - 1;
         constexpr std::size_t kCheckLength = 2;
         const std::size_t length = end + 1 + kCheckLength - begin_;
-        if (length > kCapacity) {
+        if (length > capacity_) {
             // The same as if the bytes had come one by one: this header was given up before its end came.
             if (!skipHeader()) {
                 return std::nullopt;
@@ -91,7 +91,7 @@ std::optional<std::string_view> FrameCutter::next() {
         inFrame_ = false;
         return frame;
     }
-    while (heldBytes() > kCapacity && skipHeader()) {
+    while (heldBytes() > capacity_ && skipHeader()) {
     }
     return std::nullopt;
 }

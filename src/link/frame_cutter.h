@@ -19,6 +19,9 @@ class FrameCutter {
     /// up to the next header.
     static constexpr std::size_t kCapacity = 64 * 1024;
 
+    /// `capacity` takes the place of kCapacity.
+    explicit FrameCutter(std::size_t capacity = kCapacity) : capacity_(capacity) {}
+
     /// Adds received bytes.
     void append(std::string_view bytes);
     /// The next complete frame, header to second check byte, or nothing. The view holds until the next call
@@ -27,7 +30,7 @@ class FrameCutter {
     /// Forgets everything received.
     void clear();
 
-    /// Bytes that wait for the rest of their frame: at most kCapacity once next() has returned nothing.
+    /// Bytes that wait for the rest of their frame: at most the capacity once next() has returned nothing.
     std::size_t heldBytes() const { return buffer_.size() - begin_; }
     /// Bytes dropped so far because they belonged to no frame.
     std::size_t droppedBytes() const { return dropped_; }
@@ -37,6 +40,7 @@ class FrameCutter {
     bool skipHeader();
     void drop(std::size_t count);
 
+    std::size_t capacity_;
     std::string buffer_;
     std::size_t begin_ = 0;  // where the bytes that still count begin
     bool inFrame_ = false;   // a header stands at begin_

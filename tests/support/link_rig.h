@@ -116,8 +116,16 @@ class LinkRig {
     void poll() {
         if (window.current == LinkFailed) {
             stop();
-        } else if (window.current > Offline && port.InBufferCount() > 0) {
-            window.setState(plp.PLP_ReceiveEvent());
+        } else if (window.current > Offline) {
+            bool waiting = false;
+            try {
+                waiting = port.InBufferCount() > 0;
+            } catch (const CommError&) {
+                stop();
+            }
+            if (waiting) {
+                window.setState(plp.PLP_ReceiveEvent());
+            }
         }
     }
     /// Starts the link and takes it to a state; then forgets everything recorded on the way. In Ready and
