@@ -40,6 +40,17 @@ std::size_t driveLength(std::string_view path) {
     return std::min(path.find_first_of(kSeparators, std::min(server + 1, path.size())), path.size());
 }
 
+/// Whether a network path names a server and a share; "." and "?" as the server are the roots of devices.
+bool namesShare(std::string_view path) {
+    const std::size_t serverEnd = std::min(path.find_first_of(kSeparators, 2), path.size());
+    const std::size_t shareStart = std::min(serverEnd + 1, path.size());
+    const auto isName = [](std::string_view component) {
+        return component.find_first_not_of(".?* ") != std::string_view::npos;
+    };
+    return isName(path.substr(2, serverEnd - 2)) &&
+           isName(path.substr(shareStart, driveLength(path) - shareStart));
+}
+
 /// Windows opens a device, not a file, for these names, whatever extension follows.
 bool isDeviceName(std::string_view component) {
     constexpr std::array<std::string_view, 7> kDevices = {"CON",    "PRN",     "AUX",   "NUL",
@@ -69,7 +80,7 @@ std::optional<std::string> WindowsPaths::fromOrganiser(std::string_view name) co
     if (holdsControlCode(name) || !toUtf8Exact(name)) {
         return std::nullopt;
     }
-    if (isNetworkPath(name) && name.size() > 2 && (name[2] == '.' || name[2] == '?')) {
+    if (isNetworkPath(name) && !namesShare(name)) {
         return std::nullopt;
     }
     std::string_view rest = beginsWithDrive(name) ? name.substr(2) : name;

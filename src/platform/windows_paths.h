@@ -16,8 +16,9 @@ class WindowsPaths : public PathRules {
     char separator() const override { return '\\'; }
     bool hasDrives() const override { return true; }
     /// Refuses codes below 32, bytes without a character, the characters <, >, | and ", a ":" that does not
-    /// end a drive, device names (NUL, COM1, "CON.TXT", "\\.\PIPE"), and components of nothing but dots and
-    /// blanks. "*" and "?" pass: they are wildcards, and a file of such a name is refused by the system.
+    /// end a drive, device names (NUL, COM1, "CON.TXT"), network paths that do not name a server and a share
+    /// ("\\.\PIPE" among them), and components of nothing but dots and blanks. "*" and "?" pass: they are
+    /// wildcards, and a file of such a name is refused by the system.
     std::optional<std::string> fromOrganiser(std::string_view name) const override;
     /// Nothing when a byte has no character.
     std::optional<std::string> toOrganiser(std::string_view name) const override;

@@ -7,7 +7,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <chrono>
+#include <cstdlib>
+#include <ctime>
 #include <filesystem>
 
 #include "support/run_time_errors.h"
@@ -231,6 +232,10 @@ TEST_F(PosixFilesTest, AFileThatAnotherProgramReadsCanBeReadToo) {
 
 TEST_F(PosixFilesTest, TooManyOpenFilesIsSaidSo) {
     folder.write("file");
+    // A rehearsal: sanitizers take a descriptor to look at each type for the first time.
+    EXPECT_EQ(openError("file"), 0);
+    EXPECT_EQ(openError("none"), 53);
+    EXPECT_TRUE(files.fileExists(folder.path("FILE")));
     rlimit old{};
     ASSERT_EQ(getrlimit(RLIMIT_NOFILE, &old), 0);
     const rlimit none{0, old.rlim_max};
@@ -276,7 +281,7 @@ TEST_F(PosixFilesTest, AFileDeletedWhileItIsListedDoesNoHarm) {
 
 // Size.
 
-TEST_F(PosixFilesTest, AHundredThousandFilesTakeUnderASecondEach) {
+TEST_F(PosixFilesTest, AHundredThousandFilesAreFoundAndListedInNoTime) {
     constexpr int kCount = 100'000;
     for (int i = 0; i < kCount; ++i) {
         const int file = ::open(folder.path("Measurement " + std::to_string(i)).c_str(),
@@ -284,12 +289,13 @@ TEST_F(PosixFilesTest, AHundredThousandFilesTakeUnderASecondEach) {
         ASSERT_NE(file, -1);
         ::close(file);
     }
+    // Processor time, so that a busy machine does not count.
     const auto seconds = [](const auto& call) {
-        const auto start = std::chrono::steady_clock::now();
+        const std::clock_t start = std::clock();
         call();
-        return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+        return static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
     };
-    // Generous: sanitizers and a busy machine must pass too; a quadratic search would take minutes.
+    // Room for sanitizers; a quadratic search would take minutes.
     constexpr double kLimit = 4;
     EXPECT_LT(seconds([&] { EXPECT_FALSE(files.fileExists(folder.path("NO SUCH FILE"))); }), kLimit);
     EXPECT_LT(seconds([&] { EXPECT_TRUE(files.fileExists(folder.path("MEASUREMENT 77777"))); }), kLimit);

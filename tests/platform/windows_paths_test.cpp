@@ -49,6 +49,13 @@ TEST(WindowsPaths, RefuseNamesThatNoFileCanHave) {
         "//./X",
         "C:COM1.X",
         "CLOCK$",
+        "\\\\",
+        "\\\\\\\\X",
+        "\\\\server",
+        "\\\\..\\share\\X",
+        "\\\\server\\..\\X",
+        "\\\\server\\\\X",
+        "\\\\\\share\\X",
     };
     for (const std::string& name : names) {
         EXPECT_FALSE(kRules.fromOrganiser(name)) << name;
