@@ -15,11 +15,11 @@ std::size_t word(std::string_view bytes) {
 /// the same.
 void expectEnd(OrganiserLink& link, std::string_view request) {
     try {
-        if (requestUntil(link, request, kCodeNone)) {
+        if (amidTransfer([&] { return requestUntil(link, request, kCodeNone); })) {
             throw LinkFailure::unexpected("The server sent more code than it announced.");
         }
     } catch (const LinkFailure& failure) {
-        if (failure.kind() != LinkFailure::Kind::Lost) {
+        if (!failure.worthAnotherTry()) {
             throw;
         }
     }
@@ -40,16 +40,19 @@ BootCode fetchBootCode(OrganiserLink& link, Progress& progress, std::string_view
     const std::string request{static_cast<char>(address / 256), static_cast<char>(address % 256)};
     const ProgressScope scope(progress, "Loading " + toUtf8(name), length, "bytes");
     BootCode result;
-    while (result.code.size() < length) {
-        const std::string chunk = link.request(request);
-        if (chunk.size() <= kWord || chunk.size() - kWord > length - result.code.size() ||
-            word(chunk) != (address + result.code.size()) % 65'536) {
-            throw LinkFailure::unexpected("The server sent a piece of code that does not follow the last.");
+    amidTransfer([&] {
+        while (result.code.size() < length) {
+            const std::string chunk = link.request(request);
+            if (chunk.size() <= kWord || chunk.size() - kWord > length - result.code.size() ||
+                word(chunk) != (address + result.code.size()) % 65'536) {
+                throw LinkFailure::unexpected(
+                    "The server sent a piece of code that does not follow the last.");
+            }
+            result.code.append(chunk, kWord);
+            result.chunks.push_back(chunk.size() - kWord);
+            progress.advance(result.code.size());
         }
-        result.code.append(chunk, kWord);
-        result.chunks.push_back(chunk.size() - kWord);
-        progress.advance(result.code.size());
-    }
+    });
     expectEnd(link, request);
     return result;
 }

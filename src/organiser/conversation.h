@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "organiser/organiser_link.h"
+#include "services/service_codes.h"
 
 namespace velmora {
 
@@ -25,6 +26,20 @@ void requestExpecting(OrganiserLink& link, std::string_view request, std::string
 
 /// One request; nothing when the server ends the link with `endCode` instead of a reply.
 std::optional<std::string> requestUntil(OrganiserLink& link, std::string_view request, int endCode);
+
+/// Runs requests that a server which knows of the transfer cannot call invalid. When it does, it has lost the
+/// link in between (its farewell did not arrive) and took the request for the name of a service: Lost.
+template <typename Action>
+auto amidTransfer(Action action) {
+    try {
+        return action();
+    } catch (const LinkFailure& failure) {
+        if (failure.kind() == LinkFailure::Kind::Refused && failure.code() == kCodeInvalidRequest) {
+            throw LinkFailure::lost();
+        }
+        throw;
+    }
+}
 
 /// Repeats whole conversations whose link broke. A transfer that ends because the server drops the link (end
 /// of file) cannot be told from a broken link when that last frame is lost, so it is simply done again.

@@ -63,17 +63,19 @@ std::vector<std::string> FtranClient::loadRecords(std::string_view name) {
 /// Reads as many bytes as were announced and closes the file.
 std::string FtranClient::readBytes(std::string_view name, std::size_t length) {
     const ProgressScope scope(progress_, title("Loading", name), length, "bytes");
-    std::string bytes;
-    while (bytes.size() < length) {
-        const std::string block = link_.request(readRequest(kMostData));
-        if (block.empty() || block.size() > length - bytes.size()) {
-            throw LinkFailure::unexpected("The file has another length than the server announced.");
+    return amidTransfer([&] {
+        std::string bytes;
+        while (bytes.size() < length) {
+            const std::string block = link_.request(readRequest(kMostData));
+            if (block.empty() || block.size() > length - bytes.size()) {
+                throw LinkFailure::unexpected("The file has another length than the server announced.");
+            }
+            bytes += block;
+            progress_.advance(bytes.size());
         }
-        bytes += block;
-        progress_.advance(bytes.size());
-    }
-    requestExpecting(link_, std::string(1, kClose), "");
-    return bytes;
+        requestExpecting(link_, std::string(1, kClose), "");
+        return bytes;
+    });
 }
 
 std::vector<std::string> FtranClient::loadProcedure(std::string_view name) {

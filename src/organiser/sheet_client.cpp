@@ -89,6 +89,14 @@ void SheetClient::save(std::string_view name, int format, const std::vector<Shee
     openService(link_, "PLAN");
     std::string header(1, static_cast<char>(kOrganiserSends + format));
     requestExpecting(link_, header.append(name), kAccepted);
+    try {
+        amidTransfer([&] { sendCells(name, cells); });
+    } catch (const LinkFailure& failure) {
+        rethrowExportFailure(failure);
+    }
+}
+
+void SheetClient::sendCells(std::string_view name, const std::vector<SheetCell>& cells) {
     int columns = 0;
     int rows = 0;
     for (const SheetCell& cell : cells) {
@@ -102,11 +110,7 @@ void SheetClient::save(std::string_view name, int format, const std::vector<Shee
         requestExpecting(link_, message(cell), kAccepted);
         progress_.advance(++done);
     }
-    try {
-        requestExpecting(link_, std::string(1, kEndMark), kEndOfSheet);
-    } catch (const LinkFailure& failure) {
-        rethrowExportFailure(failure);
-    }
+    requestExpecting(link_, std::string(1, kEndMark), kEndOfSheet);
 }
 
 std::vector<SheetCell> SheetClient::load(std::string_view name, int format) {
@@ -118,15 +122,15 @@ std::vector<SheetCell> SheetClient::load(std::string_view name, int format) {
         rethrowImportFailure(failure);
     }
     const ProgressScope scope(progress_, "Loading " + toUtf8(name), 0, "cells");
-    std::vector<SheetCell> cells;
-    while (true) {
-        const std::string reply = link_.request(kAccepted);
-        if (reply == kEndOfSheet) {
-            return cells;
+    return amidTransfer([&] {
+        std::vector<SheetCell> cells;
+        for (std::string reply = link_.request(kAccepted); reply != kEndOfSheet;
+             reply = link_.request(kAccepted)) {
+            cells.push_back(cellOf(reply));
+            progress_.advance(cells.size());
         }
-        cells.push_back(cellOf(reply));
-        progress_.advance(cells.size());
-    }
+        return cells;
+    });
 }
 
 }  // namespace velmora

@@ -51,6 +51,8 @@ class SheetClient {
     std::vector<SheetCell> load(std::string_view name, int format);
 
   private:
+    void sendCells(std::string_view name, const std::vector<SheetCell>& cells);
+
     OrganiserLink& link_;
     Progress& progress_;
 };
