@@ -69,8 +69,9 @@ class Files {
     /// Renames `from` over `to` in one step, so that `to` is always either the old or the new file.
     /// Both must lie on one volume.
     virtual void replaceFile(const std::string& from, const std::string& to) = 0;
-    /// Makes a new empty file with a generated name in the folder (the system's temporary folder when
-    /// `folder` is empty) and returns its path. The caller deletes it.
+    /// Makes a new empty file with a generated name in the folder, with the rights of any new file there, and
+    /// returns its path. Without a folder it is made in the system's temporary folder, for this user alone.
+    /// The caller deletes it.
     virtual std::string createTemporaryFile(const std::string& folder = {}) = 0;
     /// Calls `visit` for every file of the folder, not for folders, in the order of their names.
     /// A file that vanishes meanwhile is left out; an exception of `visit` ends the listing.

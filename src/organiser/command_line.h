@@ -49,7 +49,7 @@ struct Command {
     std::optional<std::string> output;     ///< -o: a path on this side; without it, standard output
     bool text = false;                     ///< --text
     bool longNames = false;                ///< --long
-    bool crLf = false;                     ///< --crlf
+    bool crLf = true;                      ///< not --lf
     std::optional<Seek> seek;              ///< --seek
     std::optional<std::uint16_t> address;  ///< --address
     int sheetFormat = 0;                   ///< --format: 2 WKS, 3 DIF, 4 CSV, 5 TXT, 6 TXT with tabs

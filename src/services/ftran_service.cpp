@@ -86,7 +86,8 @@ void FtranService::open(std::string_view argument) {
 
 std::string FtranService::withExtension(std::string_view name) {
     std::string whole = trimBlanks(name);
-    if (hasExtension(whole)) {
+    // Without a last component there is nothing to extend; the mapping refuses such a name.
+    if (whole.empty() || whole.back() == '/' || whole.back() == '\\' || hasExtension(whole)) {
         return whole;
     }
     if (fileType_ == kTypeData) {

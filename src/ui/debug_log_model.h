@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "base/clock.h"
+#include "link/debug.h"
 
 namespace velmora {
 
@@ -25,7 +26,7 @@ class DebugLogView {
 
 /// Stamps lines, knows what is to be logged and how the filter's controls look. It keeps no lines: the log is
 /// never shortened, and how much it holds is the view's affair.
-class DebugLogModel {
+class DebugLogModel : public TraceSink {
   public:
     /// The option buttons obShowWhat; the number is their index.
     enum class ShowWhat { Everything = 1, Data = 2, Custom = 3 };
@@ -56,14 +57,14 @@ class DebugLogModel {
     void startlog();
     /// Appends a line: seconds since the start time ("######0.00"), a tab, the text. After midnight the
     /// seconds are negative.
-    void addline(const std::string& text);
+    void addline(const std::string& text) override;
 
     /// Whether anybody sees the log: lines are to be produced only then. A minimised window shows nothing.
-    bool logging() const { return shown_ && windowState_ != WindowState::Minimised; }
+    bool logging() const override { return shown_ && windowState_ != WindowState::Minimised; }
     /// Whether entries of this category (in capitals) are wanted. One that was never met gets a check box, as
     /// long as there is one. "Everything" wants all, "Data" the category DATA, "Custom" those whose box is
     /// on.
-    bool categoryEnabled(std::string_view category);
+    bool categoryEnabled(std::string_view category) override;
 
     bool shown() const { return shown_; }
     void setShown(bool shown) { shown_ = shown; }

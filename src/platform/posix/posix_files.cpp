@@ -252,6 +252,14 @@ std::string PosixFiles::createTemporaryFile(const std::string& folder) {
     if (file.number() == -1) {
         throw systemError(errno, path);
     }
+    if (!folder.empty()) {
+        // It is going to be a file of its folder, so it gets the rights that any new file gets there.
+        const mode_t mask = umask(0);
+        umask(mask);
+        if (fchmod(file.number(), 0666 & ~mask) != 0) {
+            throw systemError(errno, path);
+        }
+    }
     return path;
 }
 

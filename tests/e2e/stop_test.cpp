@@ -1,0 +1,115 @@
+// How the server ends: by request of the Organiser, by a signal, by a port that is not there or goes away.
+#include <gtest/gtest.h>
+#include <signal.h>
+
+#include <string>
+
+#include "e2e/support/server_fixture.h"
+
+namespace velmora::e2e {
+namespace {
+
+class StopTest : public ServerFixture {
+  protected:
+    /// Starts a save that is slow enough to be interrupted and waits until the server is at it.
+    std::unique_ptr<Process> startLongSave() {
+        std::string records;
+        for (int i = 0; i < 2000; ++i) {
+            records += "record " + std::to_string(i) + "\r\n";
+        }
+        writeFile(home / "local", records);
+        auto save = std::make_unique<Process>(
+            std::vector<std::string>{program("velmora-organiser"), "--device", organiserDevice, "--delay", "5", "save",
+                                     (home / "local").string(), "--as", "LONG"},
+            environment());
+        EXPECT_TRUE(server->waitForOutput("Downloading file"));
+        return save;
+    }
+};
+
+TEST_F(StopTest, AnAcceptedExitEndsTheServerWithStatusZero) {
+    startServer();
+    EXPECT_EQ(organiser({"exit"}).status, 0);
+    EXPECT_EQ(server->wait(), 0) << server->error();
+}
+
+TEST_F(StopTest, AnAcceptedShutdownEndsTheServerWithStatusZero) {
+    startServer();
+    EXPECT_EQ(organiser({"shutdown"}).status, 0);
+    EXPECT_EQ(server->wait(), 0) << server->error();
+}
+
+TEST_F(StopTest, ASignalWhileWaitingEndsTheServerWithStatusZero) {
+    for (const int number : {SIGINT, SIGTERM}) {
+        startServer();
+        server->signal(number);
+        EXPECT_EQ(server->wait(), 0) << server->error();
+    }
+}
+
+TEST_F(StopTest, ASignalInTheMiddleOfASaveClosesTheFileAndLeavesWholeRecords) {
+    startServer();
+    const auto save = startLongSave();
+    server->signal(SIGTERM);
+    EXPECT_EQ(server->wait(), 0) << server->error();
+    const std::string stored = contentsOf(psion / "Long.odb");
+    EXPECT_EQ(stored, contentsOf(home / "local").substr(0, stored.size()));
+    EXPECT_TRUE(stored.empty() || stored.ends_with("\r\n"));
+    startServer();  // the port was released
+}
+
+TEST_F(StopTest, AnOrganiserThatVanishesLeavesWholeRecordsAndTheNextOneIsServed) {
+    startServer();
+    auto save = startLongSave();
+    save->signal(SIGKILL);
+    save->wait();
+    EXPECT_EQ(organiser({"formats"}).status, 0);
+    const std::string stored = contentsOf(psion / "Long.odb");
+    EXPECT_EQ(stored, contentsOf(home / "local").substr(0, stored.size()));
+    EXPECT_TRUE(stored.empty() || stored.ends_with("\r\n"));
+}
+
+TEST_F(StopTest, AMissingPortEndsTheServerWithOneAndOneLine) {
+    const Finished done = run({program("velmorad"), "--port", (home / "none").string(), "--folder", psion.string()},
+                              environment());
+    EXPECT_EQ(done.status, 1);
+    EXPECT_EQ(std::count(done.error.begin(), done.error.end(), '\n'), 1) << done.error;
+    EXPECT_NE(done.error.find((home / "none").string()), std::string::npos) << done.error;
+}
+
+TEST_F(StopTest, AMissingPortNumberEndsTheServerWithOne) {
+    const Finished done = run({program("velmorad"), "--port", "COM99", "--folder", psion.string()}, environment());
+    EXPECT_EQ(done.status, 1);
+    EXPECT_NE(done.error.find("COM99"), std::string::npos) << done.error;
+}
+
+TEST_F(StopTest, APortThatAnotherServerHoldsEndsTheSecondWithOne) {
+    startServer();
+    const Finished done =
+        run({program("velmorad"), "--port", serverDevice, "--folder", psion.string()}, environment());
+    EXPECT_EQ(done.status, 1);
+    EXPECT_NE(done.error.find("in use"), std::string::npos) << done.error;
+    EXPECT_EQ(organiser({"formats"}).status, 0) << "the first goes on serving";
+}
+
+TEST_F(StopTest, ALineThatGoesAwayEndsTheServerWithOneAndOneLine) {
+    startServer();
+    cable->signal(SIGKILL);
+    cable->wait();
+    EXPECT_EQ(server->wait(), 1);
+    EXPECT_EQ(std::count(server->error().begin(), server->error().end(), '\n'), 1) << server->error();
+}
+
+TEST_F(StopTest, WithoutAServerTheOrganiserReportsNoLink) {
+    const Finished done = organiser({"formats"});
+    EXPECT_EQ(done.status, 4) << done.output << done.error;
+}
+
+TEST_F(StopTest, ANonsensicalCommandLineEndsWithTwo) {
+    const Finished done = run({program("velmorad"), "--bogus"}, environment());
+    EXPECT_EQ(done.status, 2);
+    EXPECT_NE(done.error.find("--bogus"), std::string::npos) << done.error;
+}
+
+}  // namespace
+}  // namespace velmora::e2e
