@@ -61,7 +61,7 @@ void OrganiserLink::connect() {
     settle();
     const Time giveUp = line_.now() + kConnectLimit;
     for (int requests = 0; line_.now() < giveUp; ++requests) {
-        if (requests > 0 && requests % kRequestsBeforeDisconnect == 0) {
+        if (requests >= kRequestsBeforeDisconnect) {
             sendControl(FrameType::Discon, 0, std::string_view(&kReasonNone, 1));
         }
         sendControl(FrameType::Connect, 0);

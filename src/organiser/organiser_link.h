@@ -46,6 +46,7 @@ class OrganiserLink {
     static constexpr Time kSettleLimit = std::chrono::seconds(1);
     /// Link requests without an answer before the server is told to drop what it holds for a link: once it
     /// has acknowledged a request it ignores further ones, also when its acknowledgement was lost.
+    /// From then on each request is preceded by that.
     static constexpr int kRequestsBeforeDisconnect = 3;
     /// How long a link is asked for.
     static constexpr Time kConnectLimit = std::chrono::seconds(10);

@@ -209,12 +209,12 @@ void Tour::clock() {
         std::string service;
         std::string words;
     };
-    for (const auto& [service, words] :
+    for (const Question& question :
          {Question{"TIME", "Local time:         "}, Question{"GMT", "Universal time:     "},
           Question{"TIMEINFO", "Local time and zone:"}}) {
         std::string reply;
-        attempts_.run([&] { reply = openService(link_, service); });
-        say(words + " " + printable(reply));
+        attempts_.run([&] { reply = openService(link_, question.service); });
+        say(question.words + " " + printable(reply));
     }
     say("A \"*\" stands for daylight-saving time.");
 }

@@ -122,6 +122,13 @@ TEST_F(OrganiserLinkTest, ServerThatIgnoresRequestsIsToldToDropItsLink) {
     EXPECT_EQ(sentAtMs()[3], 1500);
 }
 
+TEST_F(OrganiserLinkTest, EveryFurtherRequestIsPrecededByADisconnect) {
+    answer({{}, {}, {}, {}, {}, {}, {ack(0)}});
+    link.connect();
+    EXPECT_EQ(sent(),
+              (Frames{"CONNECT", "CONNECT", "CONNECT", "DISCON 00", "CONNECT", "DISCON 00", "CONNECT"}));
+}
+
 TEST_F(OrganiserLinkTest, FramesOfAnOlderLinkDoNotBringTheLinkUp) {
     answer({{data(3, "old"), ack(3), discon("\xEE"), damaged(ack(0))}, {ack(0)}});
     link.connect();
@@ -341,6 +348,41 @@ TEST_F(OrganiserLinkTest, TraceSeesEveryFrameDamagedOnesToo) {
     answer({{damaged(ack(0)), ack(0)}});
     traced.connect();
     EXPECT_EQ(seen, (Frames{"> CONNECT", "< damaged", "< ACK 0"}));
+}
+
+TEST_F(OrganiserLinkTest, AnswerToALateCopyIsNotTakenForOneOnTheNextLink) {
+    serviceOpen();
+    // The server dropped the link and then met a copy of the request, which it took for a new link's first.
+    answer({{ack(2), discon("\xEE"), connect(), ack(1), discon("\xBE"), connect()}});
+    EXPECT_EQ(failureOf("x").code(), 238);
+    linkUp();
+    answer({{ack(1), data(1, "hello")}});
+    EXPECT_EQ(link.request("TIME"), "hello");
+}
+
+TEST_F(OrganiserLinkTest, EndAfterARefusalWaitsForSilenceAndSendsNothing) {
+    serviceOpen();
+    answer({{discon("\xEE")}});
+    failureOf("x");
+    line.sent.clear();
+    line.arrive(connect(), 30ms);
+    line.arrive(connect(), 530ms);
+    const auto begin = line.clock;
+    link.end();
+    EXPECT_TRUE(line.sent.empty());
+    EXPECT_EQ(line.clock - begin, 80ms);
+}
+
+TEST_F(OrganiserLinkTest, LineThatNeverFallsSilentIsWaitedForOneSecond) {
+    serviceOpen();
+    answer({{discon("\xEE")}});
+    failureOf("x");
+    for (int ms = 0; ms < 3'000; ms += 10) {
+        line.arrive(connect(), std::chrono::milliseconds(ms));
+    }
+    const auto begin = line.clock;
+    link.end();
+    EXPECT_EQ(line.clock - begin, 1s);
 }
 
 // --- saying goodbye ---

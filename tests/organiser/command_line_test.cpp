@@ -1,0 +1,145 @@
+#include "organiser/command_line.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace velmora {
+namespace {
+
+using namespace std::chrono_literals;
+
+CommandLine parse(std::vector<std::string> arguments) {
+    arguments.insert(arguments.begin(), {"--device", "/dev/ttyS0"});
+    return parseCommandLine(arguments);
+}
+Command command(const std::vector<std::string>& arguments) {
+    return parse(arguments).command;
+}
+
+TEST(OrganiserCommandLine, DefaultsOfACommand) {
+    const CommandLine line = parse({"time"});
+    EXPECT_EQ(line.device, "/dev/ttyS0");
+    EXPECT_EQ(line.baud, 9600);
+    EXPECT_EQ(line.tries, 3);
+    EXPECT_FALSE(line.trace);
+    EXPECT_FALSE(line.faults.any());
+    EXPECT_EQ(line.command.kind, CommandKind::Time);
+}
+
+TEST(OrganiserCommandLine, OptionsMayStandAnywhereAndTakeTheirValueEitherWay) {
+    const CommandLine line =
+        parse({"--drop=0.25", "dir", "--corrupt", "1", "*.TXT", "--duplicate", "0", "--delay=30", "--seed",
+               "18446744073709551615", "--long", "--trace", "--baud=19200", "--tries", "7"});
+    EXPECT_EQ(line.faults.drop, 0.25);
+    EXPECT_EQ(line.faults.corrupt, 1);
+    EXPECT_EQ(line.faults.duplicate, 0);
+    EXPECT_EQ(line.faults.delay, 30ms);
+    EXPECT_EQ(line.faults.seed, ~std::uint64_t{0});
+    EXPECT_TRUE(line.trace);
+    EXPECT_EQ(line.baud, 19200);
+    EXPECT_EQ(line.tries, 7);
+    EXPECT_TRUE(line.command.longNames);
+    EXPECT_EQ(line.command.name, "*.TXT");
+}
+
+TEST(OrganiserCommandLine, SaveTakesItsNameFromTheFile) {
+    EXPECT_EQ(command({"save", "some/notes.txt"}).name, "NOTES");
+    EXPECT_EQ(command({"save", "notes.txt", "--as", "Memo"}).name, "Memo");
+    EXPECT_EQ(command({"save", "some/notes.txt"}).file, "some/notes.txt");
+}
+
+TEST(OrganiserCommandLine, TypesOfFiles) {
+    EXPECT_EQ(command({"save", "f"}).fileType, 0);
+    EXPECT_EQ(command({"save", "f", "--type", "data"}).fileType, 0);
+    EXPECT_EQ(command({"load", "f", "--type", "procedure"}).fileType, 1);
+    EXPECT_EQ(command({"load", "f", "--type", "block:16"}).fileType, 16);
+}
+
+TEST(OrganiserCommandLine, ModeOfAWriteThatSeeksKeepsTheFile) {
+    EXPECT_EQ(command({"write", "N", "f"}).mode, FileMode::Create);
+    EXPECT_EQ(command({"write", "N", "f", "--seek", "2:-10"}).mode, FileMode::Append);
+    EXPECT_EQ(command({"write", "N", "f", "--seek", "2:-10", "--mode", "2"}).mode, FileMode::Replace);
+    EXPECT_EQ(command({"write", "N", "f", "--seek", "2:-10"}).seek->from, Seek::From::End);
+    EXPECT_EQ(command({"write", "N", "f", "--seek", "2:-10"}).seek->offset, -10);
+}
+
+TEST(OrganiserCommandLine, AddressesAndFormats) {
+    EXPECT_EQ(command({"boot", "N", "--address", "2000"}).address, 0x2000);
+    EXPECT_EQ(command({"boot", "N", "--address", "0xfFfF"}).address, 0xFFFF);
+    EXPECT_EQ(command({"sheet-load", "N", "--format", "wks"}).sheetFormat, 2);
+    EXPECT_EQ(command({"sheet-save", "f", "--as", "N", "--format", "TAB"}).sheetFormat, 6);
+}
+
+TEST(OrganiserCommandLine, NamesBecomeBytesOfTheOrganiser) {
+    EXPECT_EQ(command({"load", "CAF\xC3\x89"}).name, "CAF\xC9");
+}
+
+TEST(OrganiserCommandLine, NothingIsAnOptionBehindTwoDashes) {
+    EXPECT_EQ(command({"load", "--", "--long"}).name, "--long");
+}
+
+TEST(OrganiserCommandLine, HelpNeedsNothingElse) {
+    EXPECT_EQ(parseCommandLine({"--help"}).command.kind, CommandKind::Help);
+    EXPECT_EQ(parseCommandLine({"save", "-h"}).command.kind, CommandKind::Help);
+    EXPECT_NE(helpText().find("  --baud <rate>           Line speed (default: 9600)\n"), std::string::npos);
+    EXPECT_NE(helpText().find("sheet-save"), std::string::npos);
+}
+
+struct BadRow {
+    const char* name;
+    std::vector<std::string> arguments;
+    const char* problem;
+};
+class BadCommandLine : public testing::TestWithParam<BadRow> {};
+
+TEST_P(BadCommandLine, IsToldClearly) {
+    try {
+        parse(GetParam().arguments);
+        FAIL() << "accepted";
+    } catch (const UsageError& error) {
+        EXPECT_NE(std::string(error.what()).find(GetParam().problem), std::string::npos) << error.what();
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, BadCommandLine,
+    testing::Values(
+        BadRow{"NoCommand", {}, "A command is missing."},
+        BadRow{"UnknownCommand", {"sing"}, "no command \"sing\""},
+        BadRow{"UnknownOption", {"time", "--loud"}, "no option --loud"},
+        BadRow{"NoValue", {"time", "--baud"}, "--baud needs a value"},
+        BadRow{"ValueForASwitch", {"time", "--trace=1"}, "--trace takes no value"},
+        BadRow{"StrangeSpeed", {"time", "--baud", "9601"}, "\"9601\" is not a line speed"},
+        BadRow{"ProbabilityAboveOne", {"time", "--drop", "1.5"}, "not a probability"},
+        BadRow{"NegativeProbability", {"time", "--drop", "-0.1"}, "not a probability"},
+        BadRow{"ProbabilityNan", {"time", "--corrupt", "nan"}, "not a probability"},
+        BadRow{"NegativeSeed", {"time", "--seed", "-1"}, "not a whole number"},
+        BadRow{"NegativeDelay", {"time", "--delay", "-1"}, "not a number of milliseconds"},
+        BadRow{"NoTries", {"time", "--tries", "0"}, "from 1 to 100"},
+        BadRow{"BlockTypeOne", {"save", "f", "--type", "block:1"}, "block:2 to block:16"},
+        BadRow{"BlockTypeSeventeen", {"save", "f", "--type", "block:17"}, "block:2 to block:16"},
+        BadRow{"UnknownType", {"save", "f", "--type", "photo"}, "block:2 to block:16"},
+        BadRow{"ModeFive", {"save", "f", "--mode", "5"}, "0 to 4"},
+        BadRow{"SeekModeThree", {"read", "N", "--seek", "3:0"}, "MODE:OFFSET"},
+        BadRow{"SeekWithoutOffset", {"read", "N", "--seek", "2:"}, "MODE:OFFSET"},
+        BadRow{"SeekInText", {"read", "N", "--seek", "0:1", "--text"}, "does not go with --text"},
+        BadRow{"AddressTooLarge", {"boot", "N", "--address", "10000"}, "address in hexadecimal"},
+        BadRow{"BootWithoutAddress", {"boot", "N"}, "boot needs --address"},
+        BadRow{"SheetWithoutFormat", {"sheet-load", "N"}, "sheet-load needs --format"},
+        BadRow{"SheetWithoutName", {"sheet-save", "f", "--format", "wks"}, "sheet-save needs --as"},
+        BadRow{"UnknownFormat", {"sheet-load", "N", "--format", "xls"}, "wks, dif, csv, txt or tab"},
+        BadRow{"OptionOfAnotherCommand", {"time", "--long"}, "--long does not go with time"},
+        BadRow{"TooMuch", {"load", "A", "B"}, "It is: load NAME"},
+        BadRow{"TooLittle", {"write", "A"}, "It is: write NAME FILE"},
+        BadRow{"ForeignCharacter", {"load", "\xE2\x98\x83"}, "does not know"},
+        BadRow{"BrokenUtf8", {"load", "\xC3"}, "does not know"}),
+    [](const auto& row) { return std::string(row.param.name); });
+
+TEST(OrganiserCommandLine, DeviceIsNeeded) {
+    EXPECT_THROW(parseCommandLine({"time"}), UsageError);
+}
+
+}  // namespace
+}  // namespace velmora

@@ -1,0 +1,225 @@
+#include "organiser/commands.h"
+
+#include <unistd.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "conversation_fixture.h"
+#include "organiser/local_files.h"
+
+namespace velmora {
+namespace {
+
+using namespace std::string_literals;
+
+class CommandsTest : public test::ConversationFixture {
+  protected:
+    void SetUp() override {
+        std::string pattern = testing::TempDir() + "organiserXXXXXX";
+        ASSERT_NE(mkdtemp(pattern.data()), nullptr);
+        directory = pattern;
+        server.serve("EXIT", exitService);
+        server.serve("TIME", timeService);
+        server.serve("PLAN", plan);
+    }
+    void TearDown() override { std::filesystem::remove_all(directory); }
+
+    std::string path(const std::string& name) { return directory + "/" + name; }
+    std::string local(const std::string& name, const std::string& contents) {
+        writeLocalFile(path(name), contents);
+        return path(name);
+    }
+    ExitStatus run(std::vector<std::string> arguments) {
+        arguments.insert(arguments.begin(), {"--device", "line"});
+        out.str("");
+        error.str("");
+        return runCommand(parseCommandLine(arguments), link(), {out, error, progress});
+    }
+
+    std::string directory;
+    std::ostringstream out;
+    std::ostringstream error;
+    test::ScriptedService exitService{test::reply("")};
+    test::ScriptedService timeService{test::reply("2010-03-28 14:05:09")};
+    test::ModelPlan plan;
+};
+
+TEST_F(CommandsTest, DataFileGoesThereAndBack) {
+    EXPECT_EQ(run({"save", local("memo.txt", "a\tb\nc\n")}), kDone);
+    EXPECT_EQ(folder["MEMO.ODB"], "a\tb\r\nc\r\n");
+    EXPECT_EQ(out.str(), "Saved MEMO, 2 records.\n");
+    EXPECT_EQ(run({"load", "MEMO", "-o", path("back.txt")}), kDone);
+    EXPECT_EQ(readLocalFile(path("back.txt")), "a\tb\nc\n");
+    EXPECT_EQ(out.str(), "Loaded MEMO, 2 records.\n");
+}
+
+TEST_F(CommandsTest, ContentsOnStandardOutputAreAlone) {
+    folder["MEMO.ODB"] = "a\r\n";
+    EXPECT_EQ(run({"load", "MEMO", "--crlf"}), kDone);
+    EXPECT_EQ(out.str(), "a\r\n");
+    EXPECT_EQ(error.str(), "Loaded MEMO, 1 record.\n");
+}
+
+TEST_F(CommandsTest, ProceduresAndBlocksGoThereAndBack) {
+    EXPECT_EQ(run({"save", local("p", "A\nBC\n"), "--type", "procedure"}), kDone);
+    EXPECT_EQ(run({"load", "P", "--type", "procedure"}), kDone);
+    EXPECT_EQ(out.str(), "A\nBC\n");
+    const std::string bytes("\0\x10\x03\xFF", 4);
+    EXPECT_EQ(run({"save", local("b", bytes), "--type", "block:3", "--as", "CODE"}), kDone);
+    EXPECT_EQ(run({"load", "CODE", "--type", "block:3"}), kDone);
+    EXPECT_EQ(out.str(), bytes);
+}
+
+TEST_F(CommandsTest, AnyFileIsWrittenReadAndListed) {
+    EXPECT_EQ(run({"write", "A.DAT", local("a", "0123456789")}), kDone);
+    EXPECT_EQ(run({"write", "A.DAT", local("x", "xy"), "--seek", "0:4"}), kDone);
+    EXPECT_EQ(run({"read", "A.DAT", "--seek", "2:-7"}), kDone);
+    EXPECT_EQ(out.str(), "3xy6789");
+    EXPECT_EQ(run({"write", "B.TXT", local("b", "one\ntwo"), "--text"}), kDone);
+    EXPECT_EQ(run({"read", "B.TXT", "--text"}), kDone);
+    EXPECT_EQ(out.str(), "one\ntwo\n");
+    EXPECT_EQ(run({"dir"}), kDone);
+    EXPECT_EQ(out.str(), "A.DAT\nB.TXT\n");
+}
+
+TEST_F(CommandsTest, SheetGoesThereAndBack) {
+    const std::string cells = "A1 'Price\nB1 12.5\nB2 =B1*2\n";
+    EXPECT_EQ(run({"sheet-save", local("s", cells), "--as", "S", "--format", "wks"}), kDone);
+    EXPECT_EQ(run({"sheet-load", "S", "--format", "wks"}), kDone);
+    EXPECT_EQ(out.str(), cells);
+}
+
+TEST_F(CommandsTest, ClockAndUnknownServices) {
+    EXPECT_EQ(run({"time"}), kDone);
+    EXPECT_EQ(out.str(), "2010-03-28 14:05:09\n");
+    EXPECT_EQ(run({"service", "time"}), kDone);
+    EXPECT_EQ(out.str().substr(0, 36), "time answered 19 bytes.\nhex:  32 30 ");
+    EXPECT_EQ(run({"gmt"}), kRefused);
+    EXPECT_EQ(error.str(), "Refused by the server: 190, invalid request, or unknown service.\n");
+}
+
+TEST_F(CommandsTest, BootCodeIsWrittenAndCounted) {
+    test::ModelBoot boot(std::string(450, 'x'));
+    server.serve("BOOT", boot);
+    EXPECT_EQ(run({"boot", "LOADER", "--address", "2000", "-o", path("code")}), kDone);
+    EXPECT_EQ(readLocalFile(path("code")), std::string(450, 'x'));
+    EXPECT_EQ(out.str(), "Loaded LOADER, 450 bytes of code in 3 pieces (200, 200, 50).\n");
+}
+
+TEST_F(CommandsTest, ExitOpensTheServiceAndDropsTheLink) {
+    EXPECT_EQ(run({"exit"}), kDone);
+    EXPECT_EQ(exitService.timesClosed, 1);
+    EXPECT_EQ(server.linksDropped, 1);
+}
+
+TEST_F(CommandsTest, StatusTellsWhatWentWrong) {
+    EXPECT_EQ(run({"load", "NOTHING"}), kRefused);
+    EXPECT_NE(error.str().find("189"), std::string::npos);
+    EXPECT_EQ(run({"save", path("absent")}), kLocalProblem);
+    EXPECT_NE(error.str().find("absent cannot be read: No such file"), std::string::npos);
+    EXPECT_EQ(run({"save", directory}), kLocalProblem);
+    EXPECT_EQ(run({"save", local("long", std::string(251, 'x'))}), kLocalProblem);
+    EXPECT_NE(error.str().find("line 1: 251 bytes"), std::string::npos);
+    folder["MEMO.ODB"] = "a\r\n";
+    EXPECT_EQ(run({"load", "MEMO", "-o", path("no/folder")}), kLocalProblem);
+    line.gone = true;
+    EXPECT_EQ(run({"time"}), kNoLink);
+}
+
+TEST_F(CommandsTest, SilentServerIsNoLink) {
+    line.onWrite = {};
+    line.alarm.reset();
+    line.read(line.clock);
+    EXPECT_EQ(run({"time"}), kNoLink);
+    EXPECT_EQ(error.str(), "No link: no server answers on this line.\n");
+}
+
+/// Breaks the link once, when the n-th message of data has been taken.
+class BreakingFtran : public test::ModelFtran {
+  public:
+    BreakingFtran(test::ModelFolder& files, int n) : ModelFtran(files), left_(n) {}
+    test::Answer message(const std::string& payload) override {
+        test::Answer answer = ModelFtran::message(payload);
+        if (!payload.empty() && payload[0] == 2 && --left_ == 0) {
+            return test::refuse(192);
+        }
+        return answer;
+    }
+
+  private:
+    int left_;
+};
+
+TEST_F(CommandsTest, BrokenSaveIsDoneAgainAlsoWhenItMadeTheFileItself) {
+    for (const char* mode : {"1", "3"}) {
+        folder.clear();
+        BreakingFtran breaking(folder, 2);
+        server.serve("FTRAN", breaking);
+        EXPECT_EQ(run({"save", local("memo", "a\nb\nc\n"), "--mode", mode}), kDone) << mode;
+        EXPECT_EQ(folder["MEMO.ODB"], "a\r\nb\r\nc\r\n");
+        EXPECT_NE(error.str().find("Trying again (2 of 3)."), std::string::npos);
+    }
+}
+
+TEST_F(CommandsTest, BrokenAppendIsNotDoneAgain) {
+    folder["MEMO.ODB"] = "old\r\n";
+    BreakingFtran breaking(folder, 2);
+    server.serve("FTRAN", breaking);
+    EXPECT_EQ(run({"save", local("memo", "a\nb\nc\n"), "--mode", "4"}), kRefused);
+    EXPECT_EQ(folder["MEMO.ODB"], "old\r\na\r\nb\r\n");
+    EXPECT_NE(error.str().find("Not tried again"), std::string::npos);
+}
+
+TEST_F(CommandsTest, TourTriesEverythingAndLeavesItsFiles) {
+    test::ScriptedService menu(test::reply("\3WKS\0\2\0"s));
+    test::ModelBoot boot(std::string(450, 'x'));
+    server.serve("PLANM", menu);
+    server.serve("BOOT", boot);
+    server.serve("GMT", timeService);
+    server.serve("TIMEINFO", timeService);
+    EXPECT_EQ(run({"tour", "--boot", "LOADER"}), kDone);
+    for (const char* told : {"The data file TOUR, 200 records, came back exactly as sent.",
+                             "The procedure TOUR, 7 lines, came back exactly as sent.",
+                             "The block file TOUR, type 3, 4000 bytes, came back exactly as sent.",
+                             "from byte 900 on, came back exactly as sent.", "TOUR.OB3", "B3 =B1*B2",
+                             "Universal time:      2010-03-28 14:05:09",
+                             "450 bytes of code in 3 pieces, relocated to 2000.", "All done."}) {
+        EXPECT_NE(out.str().find(told), std::string::npos) << told << "\n" << out.str();
+    }
+    EXPECT_EQ(folder.count("TOUR.ODB"), 1U);
+}
+
+TEST_F(CommandsTest, TourSkipsServicesThatTheServerDoesNotKnow) {
+    EXPECT_EQ(run({"tour"}), kDone);
+    EXPECT_NE(out.str().find("Skipped: the server answers 190"), std::string::npos);
+    EXPECT_NE(out.str().find("Skipped: name a boot file"), std::string::npos);
+}
+
+TEST_F(CommandsTest, TourThatFindsADifferenceSaysSoAndGoesOn) {
+    class Forgetful : public test::ModelFtran {
+      public:
+        using ModelFtran::ModelFtran;
+        test::Answer message(const std::string& payload) override {
+            const bool forgotten = payload.find("Person 7\t") != std::string::npos;
+            return forgotten ? test::reply("") : ModelFtran::message(payload);
+        }
+    } forgetful(folder);
+    server.serve("FTRAN", forgetful);
+    EXPECT_EQ(run({"tour"}), kLocalProblem);
+    EXPECT_NE(out.str().find("The data file TOUR, 200 records, came back changed."), std::string::npos);
+    EXPECT_NE(out.str().find("The procedure TOUR, 7 lines, came back exactly as sent."), std::string::npos);
+    EXPECT_NE(out.str().find("Not all of it worked."), std::string::npos);
+}
+
+TEST_F(CommandsTest, TourEndsWithoutALink) {
+    line.gone = true;
+    EXPECT_EQ(run({"tour"}), kNoLink);
+    EXPECT_EQ(out.str().find("Procedure, there and back"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace velmora

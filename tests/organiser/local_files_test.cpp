@@ -1,0 +1,43 @@
+#include "organiser/local_files.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace velmora {
+namespace {
+
+using namespace std::string_literals;
+using Lines = std::vector<std::string>;
+
+TEST(LocalFiles, LinesEndWithEitherEndOrNone) {
+    EXPECT_EQ(splitLines("a\nb\r\nc"), (Lines{"a", "b", "c"}));
+    EXPECT_EQ(splitLines("a\n\n"), (Lines{"a", ""}));
+    EXPECT_EQ(splitLines("a\rb"), Lines{"a\rb"});
+    EXPECT_EQ(splitLines(""), Lines{});
+}
+
+TEST(LocalFiles, LinesAreJoinedWithTheEndAskedFor) {
+    EXPECT_EQ(joinLines({"a", ""}, false), "a\n\n");
+    EXPECT_EQ(joinLines({"a", "b"}, true), "a\r\nb\r\n");
+}
+
+TEST(LocalFiles, LinesThatNoMessageHoldsAreRefused) {
+    EXPECT_NO_THROW(checkLines("f", {std::string(250, 'x')}, 250));
+    EXPECT_THROW(checkLines("f", {std::string(251, 'x')}, 250), LocalFileError);
+    EXPECT_THROW(checkLines("f", {"a\0b"s}, 250), LocalFileError);
+}
+
+TEST(LocalFiles, EmptyFileIsReadAsEmpty) {
+    const std::string path = testing::TempDir() + "velmora-empty";
+    writeLocalFile(path, "");
+    EXPECT_EQ(readLocalFile(path), "");
+}
+
+TEST(LocalFiles, FullDiskIsToldAndNotTakenForSuccess) {
+    EXPECT_THROW(writeLocalFile("/dev/full", "x"), LocalFileError);
+}
+
+}  // namespace
+}  // namespace velmora

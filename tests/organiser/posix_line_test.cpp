@@ -1,0 +1,134 @@
+#include "organiser/posix_line.h"
+
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <stdlib.h>
+#include <sys/file.h>
+#include <unistd.h>
+
+#include <array>
+#include <string>
+
+namespace velmora {
+namespace {
+
+using namespace std::chrono_literals;
+
+/// A pseudo-terminal whose other end the test holds.
+class PosixLineTest : public testing::Test {
+  protected:
+    void SetUp() override {
+        other = posix_openpt(O_RDWR | O_NOCTTY);
+        ASSERT_GE(other, 0);
+        ASSERT_EQ(grantpt(other), 0);
+        ASSERT_EQ(unlockpt(other), 0);
+        path = ptsname(other);
+    }
+    void TearDown() override { hangUp(); }
+
+    void hangUp() {
+        if (other >= 0) {
+            close(other);
+            other = -1;
+        }
+    }
+    void otherSends(const std::string& bytes) {
+        ASSERT_EQ(write(other, bytes.data(), bytes.size()), static_cast<ssize_t>(bytes.size()));
+    }
+    std::string otherReads(std::size_t count) {
+        std::string bytes(count, '\0');
+        const ssize_t got = read(other, bytes.data(), count);
+        bytes.resize(got > 0 ? static_cast<std::size_t>(got) : 0);
+        return bytes;
+    }
+    static std::string problemWith(const std::string& device, int baud = 9600) {
+        try {
+            PosixLine line(device, baud);
+        } catch (const LineError& error) {
+            return error.what();
+        }
+        return "";
+    }
+
+    int other = -1;
+    std::string path;
+};
+
+TEST_F(PosixLineTest, EveryByteValuePassesBothWays) {
+    std::string bytes;
+    for (int i = 0; i < 256; ++i) {
+        bytes += static_cast<char>(i);
+    }
+    PosixLine line(path, 9600);
+    line.write(bytes);
+    EXPECT_EQ(otherReads(1'000), bytes);
+    otherSends(bytes);
+    std::string got;
+    while (got.size() < bytes.size()) {
+        const std::string part = line.read(line.now() + 2s);
+        ASSERT_FALSE(part.empty());
+        got += part;
+    }
+    EXPECT_EQ(got, bytes);
+}
+
+TEST_F(PosixLineTest, ReadEndsAtItsDeadline) {
+    PosixLine line(path, 9600);
+    const auto begin = line.now();
+    EXPECT_EQ(line.read(begin + 20ms), "");
+    EXPECT_GE(line.now() - begin, 20ms);
+    EXPECT_EQ(line.read(begin), "");
+}
+
+TEST_F(PosixLineTest, BytesFromBeforeTheOpeningAreForgotten) {
+    const int slave = open(path.c_str(), O_RDWR | O_NOCTTY);
+    ASSERT_GE(slave, 0);
+    otherSends("old\n");
+    PosixLine line(path, 9600);
+    otherSends("new");
+    EXPECT_EQ(line.read(line.now() + 2s), "new");
+    close(slave);
+}
+
+TEST_F(PosixLineTest, OtherSideThatHangsUpIsALineError) {
+    PosixLine line(path, 9600);
+    hangUp();
+    EXPECT_THROW(line.read(line.now() + 2s), LineError);
+    EXPECT_THROW(line.write("x"), LineError);
+}
+
+TEST_F(PosixLineTest, LockedDeviceIsInUse) {
+    const int holder = open(path.c_str(), O_RDWR | O_NOCTTY);
+    ASSERT_EQ(flock(holder, LOCK_EX), 0);
+    EXPECT_EQ(problemWith(path), path + " is in use by another program.");
+    close(holder);
+}
+
+TEST_F(PosixLineTest, SettingsAreGivenBackOnClosing) {
+    const int slave = open(path.c_str(), O_RDWR | O_NOCTTY);
+    ASSERT_GE(slave, 0);
+    termios before{};
+    termios during{};
+    termios after{};
+    ASSERT_EQ(tcgetattr(slave, &before), 0);
+    {
+        PosixLine line(path, 1200);
+        ASSERT_EQ(tcgetattr(slave, &during), 0);
+    }
+    ASSERT_EQ(tcgetattr(slave, &after), 0);
+    EXPECT_EQ(cfgetospeed(&during), static_cast<speed_t>(B1200));
+    EXPECT_EQ(during.c_lflag & ICANON, 0U);
+    EXPECT_EQ(after.c_lflag, before.c_lflag);
+    EXPECT_EQ(cfgetospeed(&after), cfgetospeed(&before));
+    close(slave);
+}
+
+TEST_F(PosixLineTest, WhatCannotBeOpenedIsToldInOneSentence) {
+    EXPECT_EQ(problemWith("/dev/no-such-device"), "There is no device /dev/no-such-device.");
+    EXPECT_EQ(problemWith("/dev/null"), "/dev/null is not a serial device.");
+    EXPECT_EQ(problemWith(path, 12345), path + " cannot run at 12345 baud.");
+    EXPECT_EQ(problemWith(path), "") << "an unsuccessful opening must leave the device free";
+}
+
+}  // namespace
+}  // namespace velmora
