@@ -7,7 +7,7 @@ set -euo pipefail
 packages=(g++ cmake ninja-build qt6-base-dev ccache)
 if [[ "${1:-}" == tests ]]; then
   packages+=(libgtest-dev libgmock-dev libbenchmark-dev clang clang-format clang-tidy libclang-rt-dev
-    xvfb xauth libwps-tools gnumeric)
+    xvfb xauth fonts-dejavu-core tzdata libwps-tools gnumeric)
 fi
 
 missing=()

@@ -53,21 +53,21 @@ TEST_F(CommandsTest, DataFileGoesThereAndBack) {
     EXPECT_EQ(folder["MEMO.ODB"], "a\tb\r\nc\r\n");
     EXPECT_EQ(out.str(), "Saved MEMO, 2 records.\n");
     EXPECT_EQ(run({"load", "MEMO", "-o", path("back.txt")}), kDone);
-    EXPECT_EQ(readLocalFile(path("back.txt")), "a\tb\nc\n");
+    EXPECT_EQ(readLocalFile(path("back.txt")), "a\tb\r\nc\r\n");
     EXPECT_EQ(out.str(), "Loaded MEMO, 2 records.\n");
 }
 
 TEST_F(CommandsTest, ContentsOnStandardOutputAreAlone) {
     folder["MEMO.ODB"] = "a\r\n";
-    EXPECT_EQ(run({"load", "MEMO", "--crlf"}), kDone);
-    EXPECT_EQ(out.str(), "a\r\n");
+    EXPECT_EQ(run({"load", "MEMO", "--lf"}), kDone);
+    EXPECT_EQ(out.str(), "a\n");
     EXPECT_EQ(error.str(), "Loaded MEMO, 1 record.\n");
 }
 
 TEST_F(CommandsTest, ProceduresAndBlocksGoThereAndBack) {
     EXPECT_EQ(run({"save", local("p", "A\nBC\n"), "--type", "procedure"}), kDone);
     EXPECT_EQ(run({"load", "P", "--type", "procedure"}), kDone);
-    EXPECT_EQ(out.str(), "A\nBC\n");
+    EXPECT_EQ(out.str(), "A\r\nBC\r\n");
     const std::string bytes("\0\x10\x03\xFF", 4);
     EXPECT_EQ(run({"save", local("b", bytes), "--type", "block:3", "--as", "CODE"}), kDone);
     EXPECT_EQ(run({"load", "CODE", "--type", "block:3"}), kDone);
@@ -81,13 +81,13 @@ TEST_F(CommandsTest, AnyFileIsWrittenReadAndListed) {
     EXPECT_EQ(out.str(), "3xy6789");
     EXPECT_EQ(run({"write", "B.TXT", local("b", "one\ntwo"), "--text"}), kDone);
     EXPECT_EQ(run({"read", "B.TXT", "--text"}), kDone);
-    EXPECT_EQ(out.str(), "one\ntwo\n");
+    EXPECT_EQ(out.str(), "one\r\ntwo\r\n");
     EXPECT_EQ(run({"dir"}), kDone);
     EXPECT_EQ(out.str(), "A.DAT\nB.TXT\n");
 }
 
 TEST_F(CommandsTest, SheetGoesThereAndBack) {
-    const std::string cells = "A1 'Price\nB1 12.5\nB2 =B1*2\n";
+    const std::string cells = "A1 'Price\r\nB1 12.5\r\nB2 =B1*2\r\n";
     EXPECT_EQ(run({"sheet-save", local("s", cells), "--as", "S", "--format", "wks"}), kDone);
     EXPECT_EQ(run({"sheet-load", "S", "--format", "wks"}), kDone);
     EXPECT_EQ(out.str(), cells);
