@@ -1,0 +1,91 @@
+#include "services/file_requests.h"
+
+#include <optional>
+#include <utility>
+
+#include "services/running_server.h"
+
+namespace velmora {
+
+void FileRequests::handle(std::int32_t& code, std::string& payload) {
+    ended_ = code == PLP_EV_RESET;
+    if (code == kServiceOpened) {
+        closeFile();
+        begin();
+        reply({});
+    } else if (code == PLP_EV_DATA) {
+        if (payload.empty()) {
+            refuse(kCodeInvalidRequest);
+        } else {
+            request(static_cast<std::uint8_t>(payload[0]), std::string_view(payload).substr(1));
+        }
+    }
+    if (ended_) {
+        closeFile();
+        code = PLP_EV_RESET;
+    }
+}
+
+bool FileRequests::reply(std::string_view data) {
+    return sender_.PLP_Send(FrameType::Data, data);
+}
+
+void FileRequests::refuse(int code) {
+    sender_.PLP_Send(FrameType::Discon, codePayload(code));
+    end();
+}
+
+void FileRequests::replyOpened(std::string_view header, ServerState state, const std::string& path) {
+    if (reply(header) && setStateWhileRunning(window_, state)) {
+        window_.setCurrentFile(path);
+    }
+}
+
+void FileRequests::closeFile() {
+    if (file_.isOpen()) {
+        window_.setCurrentFile({});
+    }
+    file_.close();
+}
+
+bool FileRequests::writeAndReply(std::string_view record) {
+    const ServiceCode failure =
+        file_.status() == kOpenForWriting ? file_.writeRecord(record) : kCodeNotPossible;
+    if (failure != kCodeNone) {
+        refuse(failure);
+        return false;
+    }
+    reply({});
+    return true;
+}
+
+ServiceCode FileRequests::readAndReply(std::string_view argument) {
+    std::string record;
+    const ServiceCode refusal = readRecord(argument, record);
+    if (refusal == kCodeNone) {
+        reply(record);
+    } else {
+        refuse(refusal);
+    }
+    return refusal;
+}
+
+ServiceCode FileRequests::readRecord(std::string_view argument, std::string& record) {
+    if (argument.empty()) {
+        return kCodeInvalidRequest;
+    }
+    if (file_.status() != kOpenForReading) {
+        return kCodeNotPossible;
+    }
+    if (file_.atEnd()) {
+        return kCodeEndOfFile;
+    }
+    std::optional<std::string> block = file_.readBlock(static_cast<std::size_t>(byteAt(argument, 0)));
+    if (!block) {
+        return kCodeRecordTooLong;
+    }
+    record = std::move(*block);
+    return kCodeNone;
+}
+
+}  // namespace velmora

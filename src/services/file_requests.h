@@ -1,0 +1,68 @@
+// What FTRAN and FILE have in common: the events, the requests' form, reading and writing.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "link/frame_sender.h"
+#include "link/server_state.h"
+#include "link/server_window.h"
+#include "services/open_file.h"
+#include "services/service_codes.h"
+#include "services/service_handler.h"
+
+namespace velmora {
+
+/// A service over the open file. Each data message is one request: an operation byte and its argument. It is
+/// answered with one DATA frame, or refused with a DISCON frame carrying one code, after which the service
+/// ends. Whenever the service ends, for whatever reason, the file is closed.
+class FileRequests : public ServiceHandler {
+  public:
+    void handle(std::int32_t& code, std::string& payload) override;
+
+  protected:
+    /// All must outlive this object; the file may be shared with other services.
+    FileRequests(FrameSender& sender, ServerWindow& window, OpenFile& file)
+        : sender_(sender), window_(window), file_(file) {}
+
+    /// The service was opened; the empty reply has not been sent yet.
+    virtual void begin() {}
+    /// Answers one request.
+    virtual void request(std::uint8_t operation, std::string_view argument) = 0;
+
+    /// Answers; false when the port refused the bytes.
+    bool reply(std::string_view data);
+    /// Refuses and ends the service.
+    void refuse(int code);
+    void end() { ended_ = true; }
+
+    /// Replies to a successful open, then shows the file and what is done to it.
+    void replyOpened(std::string_view header, ServerState state, const std::string& path);
+    /// Closes the file and forgets its name.
+    void closeFile();
+
+    /// Writes a record and replies empty; false when it was refused.
+    bool writeAndReply(std::string_view record);
+    /// Reads a record of up to the maximum in the argument's first byte and replies with it. Returns
+    /// kCodeNone or the code with which it was refused.
+    ServiceCode readAndReply(std::string_view argument);
+
+    ServerWindow& window() { return window_; }
+    OpenFile& file() { return file_; }
+
+  private:
+    ServiceCode readRecord(std::string_view argument, std::string& record);
+
+    FrameSender& sender_;
+    ServerWindow& window_;
+    OpenFile& file_;
+    bool ended_ = false;
+};
+
+/// The byte at `offset` as a number. Requires: it lies in `bytes`.
+inline int byteAt(std::string_view bytes, std::size_t offset) {
+    return static_cast<unsigned char>(bytes[offset]);
+}
+
+}  // namespace velmora

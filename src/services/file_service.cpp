@@ -1,0 +1,106 @@
+#include "services/file_service.h"
+
+#include "base/number_text.h"
+
+namespace velmora {
+namespace {
+
+enum Operation : std::uint8_t { Open = 0, Close = 1, Write = 2, Read = 3, Seek = 4 };
+enum SeekMode : int { FromStart = 0, FromPosition = 1, FromEnd = 2 };
+
+/// The number with at least eight digits.
+std::string eightDigits(std::int32_t number) {
+    constexpr std::size_t kDigits = 8;
+    std::string digits = std::to_string(number);
+    if (digits.size() < kDigits) {
+        digits.insert(0, kDigits - digits.size(), '0');
+    }
+    return digits;
+}
+
+}  // namespace
+
+void FileService::request(std::uint8_t operation, std::string_view argument) {
+    switch (operation) {
+        case Open:
+            open(argument);
+            break;
+        case Close:
+            close();
+            break;
+        case Write:
+            writeAndReply(argument);
+            break;
+        case Read:
+            readAndReply(argument);
+            break;
+        case Seek:
+            seek(argument);
+            break;
+        default:
+            refuse(kCodeInvalidRequest);
+    }
+}
+
+void FileService::open(std::string_view argument) {
+    if (file().isOpen()) {
+        refuse(kCodeAlreadyOpen);
+        return;
+    }
+    if (argument.size() < 2 || byteAt(argument, 0) > kModeAppend || byteAt(argument, 1) > kKindLongListing) {
+        refuse(kCodeInvalidRequest);
+        return;
+    }
+    const int mode = byteAt(argument, 0);
+    const int kind = byteAt(argument, 1);
+    const bool listing = kind == kKindShortListing || kind == kKindLongListing;
+    const bool mustExist = mode == kModeRead || mode == kModeAppend;
+    const std::string path = names_.map_FileName(argument.substr(2), mustExist, listing);
+    const int status = file().open_File(path, mode, kind);
+    if (status > 0) {
+        refuse(status);
+        return;
+    }
+    replyOpened({}, listing ? SendDir : FileAccess, path);
+}
+
+void FileService::close() {
+    reply({});
+    end();
+}
+
+ServiceCode FileService::checkSeek(std::string_view argument) {
+    if (argument.empty()) {
+        return kCodeInvalidRequest;
+    }
+    if (!file().isOpen()) {
+        return kCodeNotPossible;
+    }
+    return file().textMode() || byteAt(argument, 0) > FromEnd ? kCodeInvalidRequest : kCodeNone;
+}
+
+void FileService::seek(std::string_view argument) {
+    if (const ServiceCode refusal = checkSeek(argument); refusal != kCodeNone) {
+        refuse(refusal);
+        return;
+    }
+    const std::string_view offset = argument.substr(1);
+    addToStats(window(), StatsBytesReceived, offset.size());
+    std::uint64_t base = 0;
+    if (byteAt(argument, 0) == FromPosition) {
+        base = file().position();
+    } else if (byteAt(argument, 0) == FromEnd) {
+        base = file().size();
+    }
+    // The position is counted from 1 up to here and from 0 in the reply.
+    const std::int32_t position = toInt32(static_cast<double>(base) + 1 + numericValue(offset));
+    if (position < 1) {
+        refuse(kCodeNotPossible);
+        return;
+    }
+    file().seek(static_cast<std::uint64_t>(position) - 1);
+    reply(eightDigits(position - 1));
+    window().SetStats(StatsBytesSent, 8);
+}
+
+}  // namespace velmora

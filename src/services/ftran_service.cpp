@@ -1,0 +1,142 @@
+#include "services/ftran_service.h"
+
+#include "base/byte_text.h"
+#include "services/block_file.h"
+#include "services/procedure_image.h"
+
+namespace velmora {
+namespace {
+
+enum Operation : std::uint8_t { Open = 0, Close = 1, Write = 2, Read = 3 };
+
+constexpr int kTypeData = 0;
+constexpr int kTypeProcedure = 1;
+constexpr int kTypeLast = 16;
+constexpr std::size_t kLongestExtension = 4;
+
+struct DataFileForm {
+    const char* extension;
+    char separator;
+};
+
+/// By DataFileType; a value outside the table stands for the first.
+constexpr DataFileForm kDataFileForms[] = {{".odb", '\0'}, {".txt", '\0'}, {".csv", ','}, {".csv", ';'}};
+
+DataFileForm dataFileForm(std::int32_t dataFileType) {
+    const bool known =
+        dataFileType >= 0 && dataFileType < static_cast<std::int32_t>(std::size(kDataFileForms));
+    return kDataFileForms[known ? dataFileType : 0];
+}
+
+std::string blockExtension(int type) {
+    constexpr const char* kDigits = "0123456789abcdef";
+    std::string extension = ".ob";
+    if (type >= 16) {
+        extension += kDigits[type / 16];
+    }
+    return extension + kDigits[type % 16];
+}
+
+bool hasExtension(std::string_view name) {
+    const std::size_t dot = name.rfind('.');
+    return dot != std::string_view::npos && name.size() - dot - 1 <= kLongestExtension;
+}
+
+}  // namespace
+
+void FtranService::request(std::uint8_t operation, std::string_view argument) {
+    switch (operation) {
+        case Open:
+            open(argument);
+            break;
+        case Close:
+            closeRequest();
+            break;
+        case Write:
+            write(argument);
+            break;
+        case Read:
+            read(argument);
+            break;
+        default:
+            refuse(kCodeInvalidRequest);
+    }
+}
+
+void FtranService::open(std::string_view argument) {
+    closeFile();
+    dataWritten_ = false;
+    file().setFieldSeparator('\0');
+    if (argument.size() < 2 || byteAt(argument, 0) > kModeAppend || byteAt(argument, 1) > kTypeLast) {
+        refuse(kCodeInvalidRequest);
+        return;
+    }
+    openMode_ = byteAt(argument, 0);
+    fileType_ = byteAt(argument, 1);
+    const bool mustExist = openMode_ == kModeRead || openMode_ == kModeAppend;
+    const std::string path = names_.map_FileName(withExtension(argument.substr(2)), mustExist, false);
+    const int kind = fileType_ == kTypeData ? static_cast<int>(kKindText) : -fileType_;
+    const int status = file().open_File(path, openMode_, kind);
+    if (status > 0) {
+        refuse(status);
+        return;
+    }
+    answerOpened(path);
+}
+
+std::string FtranService::withExtension(std::string_view name) {
+    std::string whole = trimBlanks(name);
+    if (hasExtension(whole)) {
+        return whole;
+    }
+    if (fileType_ == kTypeData) {
+        const DataFileForm form = dataFileForm(settings_.DataFileType);
+        file().setFieldSeparator(form.separator);
+        return whole + form.extension;
+    }
+    return whole + (fileType_ == kTypeProcedure ? ".opl" : blockExtension(fileType_));
+}
+
+void FtranService::answerOpened(const std::string& path) {
+    if (file().status() == kOpenForWriting) {
+        replyOpened({}, Downld, path);
+        return;
+    }
+    std::string header;
+    if (fileType_ == kTypeProcedure) {
+        header = file().readImageHeader(kProcedureHeaderLength - kImageMark);
+    } else if (fileType_ != kTypeData) {
+        header = file().readImageHeader(kImageHeaderLength - kImageMark);
+        if (!blockHeaderFits(header, fileType_, file().size())) {
+            refuse(kCodeInvalidRequest);
+            return;
+        }
+    }
+    replyOpened(header, Upload, path);
+}
+
+void FtranService::closeRequest() {
+    reply({});
+    const bool nothingAppended = openMode_ == kModeAppend && !dataWritten_;
+    if (file().isOpen() && !nothingAppended) {
+        window().SetStats(file().status() == kOpenForWriting ? StatsFilesReceived : StatsFilesSent, 1);
+    }
+    window().setCurrentFile({});
+}
+
+void FtranService::write(std::string_view argument) {
+    const bool written =
+        fileType_ == kTypeProcedure ? writeAndReply(procedureText(argument)) : writeAndReply(argument);
+    dataWritten_ = dataWritten_ || written;
+}
+
+void FtranService::read(std::string_view argument) {
+    const ServiceCode refusal = readAndReply(argument);
+    if (refusal == kCodeNone) {
+        dataWritten_ = true;
+    } else if (refusal == kCodeEndOfFile) {
+        window().SetStats(StatsFilesSent, 1);
+    }
+}
+
+}  // namespace velmora

@@ -1,0 +1,63 @@
+#include "services/time_services.h"
+
+#include <cstdlib>
+#include <string_view>
+
+#include "base/number_text.h"
+
+namespace velmora {
+namespace {
+
+std::string digits(int number, std::size_t width) {
+    std::string text = std::to_string(number);
+    if (text.size() < width) {
+        text.insert(0, width - text.size(), '0');
+    }
+    return text;
+}
+
+const char* daylightMark(bool daylight) {
+    return daylight ? " *" : "  ";
+}
+
+}  // namespace
+
+std::string timeStamp(const DateTime& time) {
+    return digits(time.year, 4) + '-' + digits(time.month, 2) + '-' + digits(time.day, 2) + ' ' +
+           digits(time.hour, 2) + ':' + digits(time.minute, 2) + ':' + digits(time.second, 2);
+}
+
+bool TimeServices::zoneInformation(std::string& offset) const {
+    constexpr int kMinutesOfADay = 24 * 60;
+    const int minutes = toInt16(zone_.offsetMinutes());
+    const int timeOfDay = std::abs(minutes) % kMinutesOfADay;
+    offset = (minutes < 0 ? "-" : "+") + digits(timeOfDay / 60, 2) + digits(timeOfDay % 60, 2);
+    return zone_.daylight();
+}
+
+void TimeService::handle(std::int32_t& code, std::string& /*payload*/) {
+    if (code != kServiceOpened) {
+        code = PLP_EV_RESET;
+        return;
+    }
+    const std::string reply = replyText();
+    sender_.PLP_Send(FrameType::Data, reply);
+    window_.SetStats(StatsBytesSent, static_cast<std::int16_t>(reply.size()));
+}
+
+std::string TimeService::replyText() const {
+    std::string offset;
+    switch (reply_) {
+        case TimeReply::Local:
+            return timeStamp(time_.localTime());
+        case TimeReply::Universal:
+            return timeStamp(time_.universalTime()) + daylightMark(time_.zoneInformation(offset));
+        case TimeReply::LocalWithZone: {
+            const bool daylight = time_.zoneInformation(offset);
+            return timeStamp(time_.localTime()) + ' ' + offset + daylightMark(daylight);
+        }
+    }
+    return {};
+}
+
+}  // namespace velmora
