@@ -4,8 +4,8 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <random>
+#include <sstream>
 #include <stdexcept>
 #include <string>
 #include <system_error>
@@ -54,7 +54,9 @@ class TempFolder {
         if (!file) {
             throw std::runtime_error("cannot read " + path(name));
         }
-        return std::string(std::istreambuf_iterator<char>(file), {});
+        std::ostringstream bytes;
+        bytes << file.rdbuf();
+        return bytes.str();
     }
     /// The names in it, in order.
     std::vector<std::string> names() const {

@@ -1,0 +1,30 @@
+// Finding what a path names without regard to case, as users of the Organiser expect it of a PC.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace velmora {
+
+/// Whether two names are equal without regard to case: the letters of Windows-1252 when both names consist of
+/// its characters, otherwise those of ASCII.
+bool sameLetters(std::string_view a, std::string_view b);
+
+/// The entry of a folder that a name stands for, as stored: the exact name, else the first in byte order
+/// that differs only by case, else the one with this short name. Nothing when there is none or the folder
+/// cannot be read for lack of access; any other failure to read it is thrown.
+std::optional<std::string> findEntry(const std::string& folder, std::string_view name);
+
+/// What a path stands for on disk.
+struct FoundPath {
+    std::string path;  ///< with the letters as stored, as far as the path exists
+    bool exists;       ///< whether all of it does; a link counts as existing wherever it leads
+};
+
+/// Finds every component of a path as findEntry does. What does not exist stays as it was written, so a new
+/// file made under the found path never differs from an existing one only by case. Throws RunTimeError for
+/// an empty path and one with a zero byte (64), and when a folder cannot be read.
+FoundPath lookUpPath(const std::string& path);
+
+}  // namespace velmora

@@ -1,0 +1,277 @@
+#include "platform/posix/posix_files.h"
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+#include <optional>
+#include <utility>
+#include <vector>
+
+#include "base/run_time_error.h"
+#include "platform/posix/folder_reader.h"
+#include "platform/posix/path_lookup.h"
+#include "platform/posix/posix_file.h"
+#include "platform/posix/system_errors.h"
+#include "platform/short_names.h"
+
+namespace velmora {
+namespace {
+
+/// A descriptor that is closed unless it is handed on.
+class Descriptor {
+  public:
+    explicit Descriptor(int number) : number_(number) {}
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+    ~Descriptor() {
+        if (number_ != -1) {
+            ::close(number_);
+        }
+    }
+    int number() const { return number_; }
+    int handOn() { return std::exchange(number_, -1); }
+
+  private:
+    int number_;
+};
+
+/// Type and rights of what a path leads to; nothing when it leads nowhere.
+std::optional<struct stat> statusOf(const std::string& path) {
+    struct stat status {};
+    if (stat(path.c_str(), &status) != 0) {
+        return std::nullopt;
+    }
+    return status;
+}
+
+/// The status of an existing file; throws when there is none or something else has its name.
+struct stat requireFile(const std::string& path) {
+    struct stat status {};
+    if (stat(path.c_str(), &status) != 0) {
+        throw systemError(errno, path);
+    }
+    if (!S_ISREG(status.st_mode)) {
+        throw RunTimeError(ErrorNumber::PathFileAccess, path);
+    }
+    return status;
+}
+
+/// Calls a system function again while a signal interrupts it.
+template <typename Call>
+int withoutInterruption(const Call& call) {
+    int result = 0;
+    do {
+        result = call();
+    } while (result == -1 && errno == EINTR);
+    return result;
+}
+
+int openFlags(OpenMode mode) {
+    // O_NONBLOCK matters only if a pipe takes the file's place after the check: open() must not wait then.
+    constexpr int kAlways = O_CLOEXEC | O_NOCTTY | O_NONBLOCK;
+    switch (mode) {
+        case OpenMode::Read:
+            return kAlways | O_RDONLY;
+        case OpenMode::ReadWrite:
+            return kAlways | O_RDWR;
+        case OpenMode::Create:
+            return kAlways | O_RDWR | O_CREAT;  // emptied only once it is locked
+        case OpenMode::CreateNew:
+            return kAlways | O_RDWR | O_CREAT | O_EXCL;
+    }
+    return kAlways;
+}
+
+/// Throws 70 when another program holds the file; a file system without locks is fine.
+void lock(int descriptor, bool writable, const std::string& path) {
+    const int kind = writable ? LOCK_EX : LOCK_SH;
+    if (withoutInterruption([&] { return flock(descriptor, kind | LOCK_NB); }) != 0 && errno == EWOULDBLOCK) {
+        throw openFileError(errno, path);
+    }
+}
+
+/// Hands the bytes to the disk before the name changes hands, so that a power failure leaves one whole file.
+void flushToDisk(const std::string& path) {
+    const Descriptor file(withoutInterruption([&] { return ::open(path.c_str(), O_RDONLY | O_CLOEXEC); }));
+    if (file.number() == -1 || fsync(file.number()) != 0) {
+        throw systemError(errno, path);
+    }
+}
+
+/// Whether an entry that a folder listed is a file; what has vanished is not.
+bool isFile(const std::string& folder, std::string_view name, EntryKind kind) {
+    if (kind != EntryKind::Unknown) {
+        return kind == EntryKind::File;
+    }
+    const std::optional<struct stat> status = statusOf(folder + "/" + std::string(name));
+    return status && S_ISREG(status->st_mode);
+}
+
+struct ListedEntry {
+    std::string name;
+    bool isFile;
+};
+
+std::vector<ListedEntry> sortedEntries(const std::string& folder) {
+    std::vector<ListedEntry> entries;
+    readFolder(folder, [&](std::string_view name, EntryKind kind) {
+        entries.push_back({std::string(name), isFile(folder, name, kind)});
+        return true;
+    });
+    std::sort(entries.begin(), entries.end(),
+              [](const ListedEntry& a, const ListedEntry& b) { return a.name < b.name; });
+    return entries;
+}
+
+/// What a path leads to, found without regard to case; nothing when it cannot be found for any reason.
+std::optional<struct stat> foundStatus(const std::string& path) {
+    try {
+        return statusOf(lookUpPath(path).path);
+    } catch (const RunTimeError&) {
+        return std::nullopt;
+    }
+}
+
+}  // namespace
+
+PosixFiles::PosixFiles(std::string temporaryFolder) : temporaryFolder_(std::move(temporaryFolder)) {}
+
+bool PosixFiles::fileExists(const std::string& path) const {
+    const std::optional<struct stat> status = foundStatus(path);
+    return status && S_ISREG(status->st_mode);
+}
+
+bool PosixFiles::folderExists(const std::string& path) const {
+    const std::optional<struct stat> status = foundStatus(path);
+    return status && S_ISDIR(status->st_mode);
+}
+
+std::uint64_t PosixFiles::fileSize(const std::string& path) const {
+    return static_cast<std::uint64_t>(requireFile(lookUpPath(path).path).st_size);
+}
+
+std::string PosixFiles::storedPath(const std::string& path) const {
+    try {
+        const std::string found = lookUpPath(path).path;
+        const std::optional<struct stat> status = statusOf(found);
+        if (!status || !S_ISREG(status->st_mode)) {
+            return path;
+        }
+        // On a file system that ignores case itself the path was found as it was written; ask the folder.
+        const std::size_t nameStart = found.rfind('/') + 1;
+        const std::string folder = found.substr(0, nameStart);
+        return folder + findEntry(folder, found.substr(nameStart)).value_or(found.substr(nameStart));
+    } catch (const RunTimeError&) {
+        return path;
+    }
+}
+
+std::unique_ptr<File> PosixFiles::open(const std::string& path, OpenMode mode) {
+    const FoundPath found = lookUpPath(path);
+    if (found.exists && mode == OpenMode::CreateNew) {
+        throw RunTimeError(ErrorNumber::FileAlreadyExists, found.path);
+    }
+    const std::optional<struct stat> status = statusOf(found.path);
+    if (status && !S_ISREG(status->st_mode)) {
+        throw RunTimeError(ErrorNumber::PathFileAccess, found.path);
+    }
+    Descriptor file(
+        withoutInterruption([&] { return ::open(found.path.c_str(), openFlags(mode), mode_t{0666}); }));
+    struct stat opened {};
+    if (file.number() == -1 || fstat(file.number(), &opened) != 0) {
+        throw systemError(errno, found.path);
+    }
+    if (!S_ISREG(opened.st_mode)) {
+        throw RunTimeError(ErrorNumber::PathFileAccess, found.path);
+    }
+    const bool writable = mode != OpenMode::Read;
+    lock(file.number(), writable, found.path);
+    if (mode == OpenMode::Create && opened.st_size != 0 &&
+        withoutInterruption([&] { return ftruncate(file.number(), 0); }) != 0) {
+        throw openFileError(errno, found.path);
+    }
+    return std::make_unique<PosixFile>(file.handOn(), writable, found.path);
+}
+
+void PosixFiles::deleteFile(const std::string& path) {
+    const std::string found = lookUpPath(path).path;
+    requireFile(found);
+    if (unlink(found.c_str()) != 0) {
+        throw systemError(errno, found);
+    }
+}
+
+void PosixFiles::createFolder(const std::string& path) {
+    const std::string found = lookUpPath(path).path;
+    for (std::size_t end = found.find('/', 1);; end = found.find('/', end + 1)) {
+        const std::string folder = found.substr(0, end);
+        if (mkdir(folder.c_str(), 0777) != 0) {
+            const int error = errno;
+            const std::optional<struct stat> status = statusOf(folder);
+            if (!status) {
+                throw systemError(error, folder);
+            }
+            if (!S_ISDIR(status->st_mode)) {
+                throw RunTimeError(ErrorNumber::PathFileAccess, folder);
+            }
+        }
+        if (end == std::string::npos) {
+            return;
+        }
+    }
+}
+
+void PosixFiles::replaceFile(const std::string& from, const std::string& to) {
+    const std::string source = lookUpPath(from).path;
+    const std::string target = lookUpPath(to).path;
+    requireFile(source);
+    if (const std::optional<struct stat> old = statusOf(target)) {
+        if (!S_ISREG(old->st_mode)) {
+            throw RunTimeError(ErrorNumber::PathFileAccess, target);
+        }
+        if (chmod(source.c_str(), old->st_mode & 07777) != 0) {
+            throw systemError(errno, source);
+        }
+    }
+    flushToDisk(source);
+    if (rename(source.c_str(), target.c_str()) != 0) {
+        throw systemError(errno, target);
+    }
+}
+
+std::string PosixFiles::createTemporaryFile(const std::string& folder) {
+    const std::string place = lookUpPath(folder.empty() ? temporaryFolder_ : folder).path;
+    std::string path = (place.back() == '/' ? place : place + "/") + "velmora-XXXXXX";
+    const Descriptor file(withoutInterruption([&] { return mkostemp(path.data(), O_CLOEXEC); }));
+    if (file.number() == -1) {
+        throw systemError(errno, path);
+    }
+    return path;
+}
+
+void PosixFiles::listFiles(const std::string& folder, ShortNames shortNames,
+                           const std::function<void(const FolderEntry&)>& visit) const {
+    std::vector<ListedEntry> entries = sortedEntries(lookUpPath(folder).path);
+    std::vector<std::string> shorts;
+    if (shortNames == ShortNames::Include) {
+        std::vector<std::string> names;
+        names.reserve(entries.size());
+        for (const ListedEntry& entry : entries) {
+            names.push_back(entry.name);
+        }
+        shorts = velmora::shortNames(names);
+    }
+    for (std::size_t i = 0; i < entries.size(); ++i) {
+        if (entries[i].isFile) {
+            visit({entries[i].name, shorts.empty() ? std::string() : shorts[i]});
+        }
+    }
+}
+
+}  // namespace velmora

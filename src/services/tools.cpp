@@ -1,0 +1,120 @@
+#include "services/tools.h"
+
+#include <optional>
+
+#include "base/byte_text.h"
+
+namespace velmora {
+namespace {
+
+bool isLetter(char c) {
+    return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
+}
+
+/// Whether a folder is written with this drive letter.
+bool liesOnDrive(const std::string& folder, char letter) {
+    return isLetter(letter) && folder.size() >= 2 && folder[1] == ':' &&
+           upperCase(folder.substr(0, 1)) == upperCase(std::string(1, letter));
+}
+
+/// The place that a name (converted, with the system's separators) stands for, not yet made absolute.
+/// Nothing when it lies where this system has no such place.
+std::optional<std::string> locate(const PathRules& rules, const std::string& downloadFolder,
+                                  const std::string& name) {
+    const char separator = rules.separator();
+    const auto charAt = [&](std::size_t i) { return i < name.size() ? name[i] : '\0'; };
+    if (charAt(0) == separator) {
+        if (charAt(1) != separator) {
+            return rules.join(rules.drive(downloadFolder), name);
+        }
+        return rules.hasDrives() ? std::optional(name) : std::nullopt;
+    }
+    if (charAt(1) == ':') {
+        const bool own = liesOnDrive(downloadFolder, name[0]);
+        if (own && charAt(2) != separator) {
+            return rules.join(downloadFolder, name.substr(2));
+        }
+        return own || rules.hasDrives() ? std::optional(name) : std::nullopt;
+    }
+    return rules.join(downloadFolder, name);
+}
+
+/// A name without small letters with its first letter kept and the rest in small letters. `file` is in the
+/// system's encoding; its letters are those of Windows-1252.
+std::string recased(const PathRules& rules, const std::string& file) {
+    const std::optional<std::string> bytes = rules.toOrganiser(file);
+    if (!bytes) {
+        return file;
+    }
+    const std::string base = bytes->substr(0, bytes->rfind('.'));
+    if (base != upperCase(base)) {
+        return file;
+    }
+    return rules.fromOrganiser(bytes->substr(0, 1) + lowerCase(bytes->substr(1))).value_or(file);
+}
+
+}  // namespace
+
+std::string& translate_Chars(std::string& text, std::string_view find, std::string_view replace) {
+    for (char& c : text) {
+        const std::size_t position = find.find(c);
+        if (position != std::string_view::npos) {
+            c = replace[position];
+        }
+    }
+    return text;
+}
+
+Tools::Tools(const Files& files, const PathRules& rules, const TransferSettings& settings)
+    : files_(files), rules_(rules), settings_(settings) {}
+
+std::string Tools::map_FileName(std::string_view name, bool resolveExisting, bool allowWildcards) const {
+    std::string wanted = trimBlanks(name);
+    translate_Chars(wanted, "/%>", "\\_~");
+    if (!allowWildcards && wanted.find('*') != std::string::npos) {
+        return {};
+    }
+    const std::optional<std::string> converted = rules_.fromOrganiser(wanted);
+    if (!converted) {
+        return {};
+    }
+    const std::optional<std::string> located = locate(rules_, settings_.DownloadPath, *converted);
+    if (!located) {
+        return {};
+    }
+    const std::string folder = rules_.absolute(rules_.parentFolder(*located));
+    const std::string file = rules_.lastComponent(*located);
+    if (file.empty() || file == "." || file == ".." || !files_.folderExists(folder)) {
+        return {};
+    }
+    const std::string path = rules_.join(folder, recased(rules_, file));
+    return resolveExisting && !allowWildcards && files_.fileExists(path) ? files_.storedPath(path) : path;
+}
+
+std::string Tools::displayName(const std::string& path) const {
+    const std::string name = rules_.lastComponent(path);
+    std::string shown;
+    for (std::size_t i = 0; i < name.size();) {
+        // A character takes one to four bytes, depending on the system's encoding.
+        std::optional<std::string> bytes;
+        std::size_t length = 0;
+        while (!bytes && length < 4 && i + length < name.size()) {
+            ++length;
+            bytes = rules_.toOrganiser(std::string_view(name).substr(i, length));
+        }
+        if (bytes) {
+            shown += *bytes;
+            i += length;
+            continue;
+        }
+        shown += '?';
+        const bool isLead = static_cast<unsigned char>(name[i]) >= 0xC0;
+        ++i;
+        while (isLead && i < name.size() && (static_cast<unsigned char>(name[i]) & 0xC0) == 0x80) {
+            ++i;
+        }
+    }
+    return shown;
+}
+
+}  // namespace velmora

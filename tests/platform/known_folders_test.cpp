@@ -1,0 +1,63 @@
+#include "platform/known_folders.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+
+#include "support/temp_folder.h"
+
+namespace velmora {
+namespace {
+
+KnownFolders foldersWith(std::map<std::string, std::string> variables) {
+    return KnownFolders([variables](const std::string& name) -> std::optional<std::string> {
+        const auto found = variables.find(name);
+        return found == variables.end() ? std::nullopt : std::optional(found->second);
+    });
+}
+
+TEST(KnownFolders, HaveTheirUsualPlacesBelowHome) {
+    const KnownFolders folders = foldersWith({{"HOME", "/nonexistent/anna/"}});
+    EXPECT_EQ(folders.applicationData(), "/nonexistent/anna/.config");
+    EXPECT_EQ(folders.documents(), "/nonexistent/anna/Documents");
+    EXPECT_EQ(folders.temporary(), "/tmp");
+}
+
+TEST(KnownFolders, FollowTheEnvironment) {
+    const KnownFolders folders = foldersWith(
+        {{"HOME", "/nonexistent/anna"}, {"XDG_CONFIG_HOME", "/nonexistent/etc/"}, {"TMPDIR", "/scratch/"}});
+    EXPECT_EQ(folders.applicationData(), "/nonexistent/etc");
+    EXPECT_EQ(folders.temporary(), "/scratch");
+}
+
+TEST(KnownFolders, IgnoreValuesThatAreNoAbsolutePaths) {
+    const KnownFolders folders =
+        foldersWith({{"HOME", "/nonexistent"}, {"XDG_CONFIG_HOME", "etc"}, {"TMPDIR", ""}});
+    EXPECT_EQ(folders.applicationData(), "/nonexistent/.config");
+    EXPECT_EQ(folders.temporary(), "/tmp");
+}
+
+TEST(KnownFolders, ReadTheDocumentsFolderOfTheDesktop) {
+    const test::TempFolder home;
+    home.makeFolder(".config");
+    home.write(".config/user-dirs.dirs", "XDG_DOCUMENTS_DIR=\"$HOME/Dokumente\"\n");
+    EXPECT_EQ(foldersWith({{"HOME", home.path()}}).documents(), home.path("Dokumente"));
+}
+
+TEST(KnownFolders, StartAtTheRootWithoutAHome) {
+    EXPECT_EQ(foldersWith({}).applicationData(), "/.config");
+}
+
+TEST(KnownFolders, TheProcessAlwaysHasAHome) {
+    const std::optional<std::string> home = processEnvironment()("HOME");
+    ASSERT_TRUE(home.has_value());
+    EXPECT_EQ(home->front(), '/');
+    EXPECT_FALSE(processEnvironment()("VELMORA_NO_SUCH_VARIABLE").has_value());
+}
+
+TEST(KnownFolders, TheCurrentFolderIsAbsolute) {
+    EXPECT_EQ(currentFolder().front(), '/');
+}
+
+}  // namespace
+}  // namespace velmora
