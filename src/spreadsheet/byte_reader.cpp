@@ -48,7 +48,7 @@ std::string_view ByteReader::peek() {
     return {buffer_.data() + begin_, end_ - begin_};
 }
 
-bool LineReader::next(std::string& line) {
+bool SheetLines::next(std::string& line) {
     line.clear();
     bool any = false;
     for (std::string_view waiting = bytes_.peek(); !waiting.empty(); waiting = bytes_.peek()) {

@@ -38,9 +38,9 @@ class ByteReader {
 constexpr std::size_t kLongestLine = 64 * 1024;
 
 /// Cuts a file into lines that end in CR LF or LF; the last line needs no end.
-class LineReader {
+class SheetLines {
   public:
-    explicit LineReader(File& file) : bytes_(file) {}
+    explicit SheetLines(File& file) : bytes_(file) {}
 
     /// Reads a line without its end; false when there is none left.
     bool next(std::string& line);

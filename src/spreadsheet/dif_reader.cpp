@@ -118,7 +118,7 @@ class Reader {
         at_.column = std::min(at_.column + 1, kSheetColumns);
     }
 
-    LineReader lines_;
+    SheetLines lines_;
     SheetGrid sheet_;
     CellPosition at_{-1, 0};
     std::string text_;

@@ -14,7 +14,7 @@ namespace velmora {
 namespace {
 
 std::vector<std::string> readLines(File& file) {
-    LineReader reader(file);
+    SheetLines reader(file);
     std::vector<std::string> lines;
     std::string line;
     while (lines.size() < kSheetRows && reader.next(line)) {

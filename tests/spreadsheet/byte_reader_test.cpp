@@ -12,7 +12,7 @@ namespace {
 
 std::vector<std::string> linesOf(const std::string& content) {
     return test::readSample(content, [](File& file) {
-        LineReader reader(file);
+        SheetLines reader(file);
         std::vector<std::string> lines;
         std::string line;
         while (reader.next(line)) {
@@ -24,17 +24,17 @@ std::vector<std::string> linesOf(const std::string& content) {
 
 using Lines = std::vector<std::string>;
 
-TEST(LineReader, TakesBothLineEnds) {
+TEST(SheetLines, TakesBothLineEnds) {
     EXPECT_EQ(linesOf("a\r\nb\nc\r\n"), (Lines{"a", "b", "c"}));
 }
 
-TEST(LineReader, TheLastLineNeedsNoEnd) {
+TEST(SheetLines, TheLastLineNeedsNoEnd) {
     EXPECT_EQ(linesOf("a\r\nb"), (Lines{"a", "b"}));
     EXPECT_EQ(linesOf("a\r\n\r\n"), (Lines{"a", ""}));
     EXPECT_EQ(linesOf(""), Lines{});
 }
 
-TEST(LineReader, ALongLineIsCutAndTheNextOneIsWhole) {
+TEST(SheetLines, ALongLineIsCutAndTheNextOneIsWhole) {
     const Lines lines = linesOf(std::string(3 * kLongestLine, 'x') + "\nnext\n");
     ASSERT_EQ(lines.size(), 2U);
     EXPECT_EQ(lines[0], std::string(kLongestLine, 'x'));
