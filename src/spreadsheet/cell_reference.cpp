@@ -2,8 +2,6 @@
 
 #include <cstdint>
 
-#include "base/byte_text.h"
-#include "base/number_text.h"
 #include "spreadsheet/byte_conversions.h"
 
 namespace velmora {
@@ -45,6 +43,22 @@ bool takeDollar(std::string_view& text) {
     return found;
 }
 
+/// The number in the digits of a row; -1 when they are none or too many.
+int parseRow(std::string_view digits) {
+    constexpr std::size_t kMostDigits = 5;
+    if (digits.empty() || digits.size() > kMostDigits) {
+        return -1;
+    }
+    int row = 0;
+    for (const char c : digits) {
+        if (c < '0' || c > '9') {
+            return -1;
+        }
+        row = row * 10 + (c - '0');
+    }
+    return row;
+}
+
 bool isSingleRef(std::string_view text) {
     takeDollar(text);
     if (text.empty() ||
@@ -53,10 +67,9 @@ bool isSingleRef(std::string_view text) {
     }
     text.remove_prefix(1);
     takeDollar(text);
-    constexpr std::size_t kMostDigits = 5;
-    constexpr double kLastRow = 32'768;
-    return !text.empty() && text.size() <= kMostDigits &&
-           text.find_first_not_of("0123456789") == std::string_view::npos && numericValue(text) <= kLastRow;
+    constexpr int kLastRow = 32'768;
+    const int row = parseRow(text);
+    return row >= 0 && row <= kLastRow;
 }
 
 }  // namespace
@@ -79,11 +92,11 @@ std::string DecodeCellRef(std::string_view bytes, const CellPosition& formulaCel
 std::string EncodeCellRef(std::string_view text, const CellPosition& formulaCell) {
     Axis column;
     column.absolute = takeDollar(text);
-    column.index = upperCase(text.substr(0, 1)).front() - 'A';
+    column.index = (text.front() & ~0x20) - 'A';
     text.remove_prefix(1);
     Axis row;
     row.absolute = takeDollar(text);
-    row.index = static_cast<int>(numericValue(text)) - 1;
+    row.index = parseRow(text) - 1;
     return encodeAxis(column, formulaCell.column) + encodeAxis(row, formulaCell.row);
 }
 

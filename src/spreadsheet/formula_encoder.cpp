@@ -15,9 +15,11 @@ namespace {
 
 /// Whether a token is a number as a whole: digits, "." and digits, "E" and an exponent.
 bool isNumber(std::string_view token) {
-    constexpr std::string_view kDigits = "0123456789";
     const auto takeDigits = [&] {
-        const std::size_t count = std::min(token.find_first_not_of(kDigits), token.size());
+        std::size_t count = 0;
+        while (count < token.size() && token[count] >= '0' && token[count] <= '9') {
+            ++count;
+        }
         token.remove_prefix(count);
         return count;
     };
@@ -97,6 +99,7 @@ std::size_t tokenLength(std::string_view postfix, WksDialect dialect) {
 std::string EncodeFormula(std::string_view text, const CellPosition& formulaCell, WksDialect dialect) {
     const std::string postfix = InfixToRpn(text, dialect);
     std::string tokens;
+    tokens.reserve(postfix.size() * 2);
     for (std::string_view rest = postfix; !rest.empty();) {
         const std::size_t length = tokenLength(rest, dialect);
         if (length > 0) {

@@ -34,6 +34,16 @@ constexpr std::array<Operator, kLastOperator - kFirstOperator + 1> kOperators = 
     {"!", 2},
 }};
 
+const Operator* findOperator(std::string_view symbol) {
+    if (symbol.empty() || symbol.size() > 2) {
+        return nullptr;
+    }
+    const auto* const found = std::find_if(kOperators.begin(), kOperators.end(), [&](const Operator& entry) {
+        return entry.symbol.front() == symbol.front() && entry.symbol == symbol;
+    });
+    return found == kOperators.end() ? nullptr : found;
+}
+
 // "x" stands for any number of arguments.
 constexpr std::array<std::string_view, kLastFixedFunction - kFirstFixedFunction + 1> kFixedFunctions = {
     "NA(0)",   "ERR(0)",   "ABS(1)",   "INT(1)",   "SQRT(1)", "LOG(1)",  "LN(1)",    "PI(0)",     "SIN(1)",
@@ -55,10 +65,6 @@ constexpr int translateCode(int code, WksDialect dialect) {
     return code;
 }
 
-std::string_view nameOf(std::string_view entry) {
-    return entry.substr(0, entry.find('('));
-}
-
 bool takesAnyNumber(std::string_view entry) {
     return entry[entry.size() - 2] == 'x';
 }
@@ -69,7 +75,8 @@ constexpr std::size_t kNameLetters = 5;
 template <std::size_t Count>
 std::optional<int> slotOf(const std::array<std::string_view, Count>& table, std::string_view name) {
     const auto found = std::find_if(table.begin(), table.end(), [&](std::string_view entry) {
-        return nameOf(entry).substr(0, kNameLetters) == name;
+        return entry.substr(0, name.size()) == name &&
+               (name.size() == kNameLetters || entry[name.size()] == '(');
     });
     if (found == table.end()) {
         return std::nullopt;
@@ -80,12 +87,8 @@ std::optional<int> slotOf(const std::array<std::string_view, Count>& table, std:
 }  // namespace
 
 std::int16_t OperatorPrecedence(std::string_view symbol) {
-    for (const Operator& entry : kOperators) {
-        if (entry.symbol == symbol) {
-            return entry.precedence;
-        }
-    }
-    return 0;
+    const Operator* entry = findOperator(symbol);
+    return entry == nullptr ? std::int16_t{0} : entry->precedence;
 }
 
 std::string_view operatorSymbol(int code) {
@@ -93,12 +96,11 @@ std::string_view operatorSymbol(int code) {
 }
 
 std::optional<int> operatorCode(std::string_view symbol) {
-    for (std::size_t i = 0; i < kOperators.size(); ++i) {
-        if (kOperators[i].symbol == symbol) {
-            return kFirstOperator + static_cast<int>(i);
-        }
+    const Operator* entry = findOperator(symbol);
+    if (entry == nullptr) {
+        return std::nullopt;
     }
-    return std::nullopt;
+    return kFirstOperator + static_cast<int>(entry - kOperators.data());
 }
 
 bool isFunctionCode(int code) {
@@ -160,6 +162,10 @@ std::string FunctionCode(std::string_view token, WksDialect dialect) {
 
 bool isBareFunction(std::string_view name) {
     constexpr std::array<std::string_view, 7> kBare = {"PI", "RAND", "TODAY", "TRUE", "FALSE", "NA", "ERR"};
+    // Most operands are references or numbers, whose second character is a digit: no need to look them up.
+    if (name.size() < 2 || name.size() > kNameLetters || (name[1] >= '0' && name[1] <= '9')) {
+        return false;
+    }
     return std::find(kBare.begin(), kBare.end(), upperCase(name)) != kBare.end();
 }
 

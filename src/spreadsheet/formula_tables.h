@@ -42,7 +42,22 @@ inline bool isUnary(std::string_view symbol) {
 }
 /// Whether a byte is an operator or begins one ("_" is none in a formula's text).
 inline bool isOperatorByte(char c) {
-    return std::string_view("+-*/^=<>!&|").find(c) != std::string_view::npos;
+    switch (c) {
+        case '+':
+        case '-':
+        case '*':
+        case '/':
+        case '^':
+        case '=':
+        case '<':
+        case '>':
+        case '!':
+        case '&':
+        case '|':
+            return true;
+        default:
+            return false;
+    }
 }
 
 /// The postfix symbol of an operator's code, 8 to 22. Requires: a code in that range.

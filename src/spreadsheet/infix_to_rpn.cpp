@@ -56,19 +56,19 @@ std::vector<std::string_view> splitArguments(std::string_view list) {
 /// every operator and parenthesis in the order of the text.
 class ParenthesesNeeded {
   public:
-    void open() { lowest_.push_back(kOperandPrecedence); }
+    void open() { lowest_.push_back(static_cast<char>(kOperandPrecedence)); }
     /// An operator at the current depth. True when the parenthesised operand just before it needs a mark.
     bool operatorRead(std::int16_t precedence) {
         const bool needed = pending_ < precedence;
         pending_ = kOperandPrecedence;
-        lowest_.back() = std::min(lowest_.back(), precedence);
+        lowest_.back() = std::min(lowest_.back(), static_cast<char>(precedence));
         return needed;
     }
     void operandRead() { pending_ = kOperandPrecedence; }
     /// The end of a parenthesised operand behind `left`, the operator before it at its own depth (empty when
     /// there is none). True when it needs a mark because of that operator.
     bool close(std::string_view left) {
-        const std::int16_t inner = std::min(lowest_.back(), pending_);
+        const std::int16_t inner = std::min<std::int16_t>(lowest_.back(), pending_);
         lowest_.pop_back();
         pending_ = kOperandPrecedence;
         if (inner == kOperandPrecedence) {
@@ -83,7 +83,8 @@ class ParenthesesNeeded {
     }
 
   private:
-    std::vector<std::int16_t> lowest_{kOperandPrecedence};  // lowest rank of each open parenthesis
+    // Lowest rank within each open parenthesis, the outermost level first.
+    std::string lowest_{static_cast<char>(kOperandPrecedence)};
     std::int16_t pending_ = kOperandPrecedence;  // rank of the operand just closed, if it may need a mark yet
 };
 
@@ -217,6 +218,11 @@ class Conversion {
     }
 
     static std::string_view wordOperator(std::string_view name) {
+        constexpr std::size_t kShortest = 2;
+        constexpr std::size_t kLongest = 3;
+        if (name.size() < kShortest || name.size() > kLongest) {
+            return "";
+        }
         const std::string word = upperCase(name);
         return word == "NOT" ? "!" : word == "AND" ? "&" : word == "OR" ? "|" : "";
     }

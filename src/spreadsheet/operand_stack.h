@@ -21,6 +21,8 @@ class OperandStack {
   public:
     static constexpr std::size_t kEntries = 101;
 
+    OperandStack() { entries_.reserve(kUsual); }
+
     /// RunTimeError 9 when all entries are in use.
     void PushOperand(std::string text, std::int16_t precedence);
     /// Takes the top entry; an empty text with precedence 0 when there is none.
@@ -31,6 +33,8 @@ class OperandStack {
     std::size_t size() const { return entries_.size(); }
 
   private:
+    static constexpr std::size_t kUsual = 8;  // enough for nearly every formula
+
     std::vector<StackEntry> entries_;
 };
 

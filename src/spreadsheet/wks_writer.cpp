@@ -11,46 +11,57 @@ namespace {
 constexpr int kFormatByte = 255;
 constexpr int kFormulaFormatByte = 241;
 constexpr char kLabelPrefix = '\'';
+constexpr std::size_t kVersionLength = 2;
+constexpr std::size_t kCachedValue = 8;
 
 class Writer {
   public:
     explicit Writer(WksDialect dialect) : dialect_(dialect) {}
 
     std::string run(const SheetGrid& sheet) {
-        record(kRecordStart, int16ToBytes(kWksVersion));
+        beginRecord(kRecordStart, kVersionLength);
+        out_ += int16ToBytes(kWksVersion);
         for (int row = 0; row < sheet.rows(); ++row) {
             for (int column = 0; column < sheet.columns(); ++column) {
                 at_ = {row, column};
                 std::visit(*this, sheet.at(at_));
             }
         }
-        record(kRecordEnd, {});
+        beginRecord(kRecordEnd, 0);
         return std::move(out_);
     }
 
     void operator()(std::monostate) const {}
     void operator()(std::int16_t value) {
-        record(kRecordInteger, cellHeader(kFormatByte) + int16ToBytes(value));
+        beginCell(kRecordInteger, kIntegerBody, kFormatByte);
+        out_ += int16ToBytes(value);
     }
-    void operator()(double value) { record(kRecordNumber, cellHeader(kFormatByte) + doubleToBytes(value)); }
+    void operator()(double value) {
+        beginCell(kRecordNumber, kNumberBody, kFormatByte);
+        out_ += doubleToBytes(value);
+    }
     void operator()(const Label& label) {
-        record(kRecordLabel, cellHeader(kFormatByte) + kLabelPrefix + label.text + '\0');
+        beginCell(kRecordLabel, kLabelFrame + label.text.size(), kFormatByte);
+        out_.append(1, kLabelPrefix).append(label.text).append(1, '\0');
     }
     void operator()(const Formula& formula) {
         const std::string tokens = EncodeFormula(formula.text, at_, dialect_);
-        record(kRecordFormula, cellHeader(kFormulaFormatByte) + doubleToBytes(0) +
-                                   int16ToBytes(static_cast<int>(tokens.size())) + tokens);
+        beginCell(kRecordFormula, kFormulaFrame + tokens.size(), kFormulaFormatByte);
+        out_.append(kCachedValue, '\0').append(int16ToBytes(static_cast<int>(tokens.size()))).append(tokens);
     }
 
   private:
-    std::string cellHeader(int format) const {
-        return static_cast<char>(format) + int16ToBytes(at_.column) + int16ToBytes(at_.row);
-    }
-    void record(int type, const std::string& body) {
-        if (body.size() > kLongestBody) {
+    void beginRecord(int type, std::size_t length) {
+        if (length > kLongestBody) {
             throw RunTimeError(ErrorNumber::Overflow, "a cell is too long for a worksheet file");
         }
-        out_ += int16ToBytes(type) + int16ToBytes(static_cast<int>(body.size())) + body;
+        out_.append(int16ToBytes(type)).append(int16ToBytes(static_cast<int>(length)));
+    }
+    void beginCell(int type, std::size_t length, int format) {
+        beginRecord(type, length);
+        out_.append(1, static_cast<char>(format))
+            .append(int16ToBytes(at_.column))
+            .append(int16ToBytes(at_.row));
     }
 
     WksDialect dialect_;
