@@ -140,6 +140,7 @@ int HeadlessServer::run() {
         }
         return 1;
     }
+    core_.applySettings(start_.settings());
     if (!quitting_) {
         QCoreApplication::exec();
     }

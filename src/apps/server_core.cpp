@@ -7,7 +7,11 @@ namespace {
 
 /// The worksheet formats offered to the Organiser.
 std::vector<SheetFormatEntry> offeredFormats() {
-    return {{2, "WKS"}, {3, "DIF"}, {4, "CSV"}, {5, "TXT"}, {6, "TXT(tab)"}};
+    std::vector<SheetFormatEntry> formats;
+    for (int format = XlsAvailable() ? kFormatXls : kFormatWks; format <= kFormatTab; ++format) {
+        formats.push_back({static_cast<std::uint8_t>(format), FormatName(format, true)});
+    }
+    return formats;
 }
 
 }  // namespace
@@ -21,12 +25,14 @@ ServerCore::ServerCore(const ServerCoreParts& parts)
       linkControl_(link_),
       dispatcher_(link_, controller_, parts.trace),
       openFile_(parts.files, parts.rules, controller_),
+      spreadsheet_(parts.files, parts.rules, sheets),
       timeServices_(parts.clock, parts.zone),
       ftran_(link_, controller_, openFile_, tools_, transfer),
       file_(link_, controller_, openFile_, tools_),
       boot_(link_, controller_, parts.files, tools_),
       exit_(link_, link_.stopRequests().exit),
       shutdown_(link_, link_.stopRequests().shutdown),
+      plan_(link_, controller_, tools_, spreadsheet_),
       planm_(link_, offeredFormats()),
       time_(link_, controller_, timeServices_, TimeReply::Local),
       gmt_(link_, controller_, timeServices_, TimeReply::Universal),
@@ -38,10 +44,16 @@ ServerCore::ServerCore(const ServerCoreParts& parts)
     dispatcher_.add("BOOT", boot_);
     dispatcher_.add("EXIT", exit_);
     dispatcher_.add("SHUTDOWN", shutdown_);
+    dispatcher_.add("PLAN", plan_);
     dispatcher_.add("PLANM", planm_);
     dispatcher_.add("TIME", time_);
     dispatcher_.add("GMT", gmt_);
     dispatcher_.add("TIMEINFO", timeInfo_);
+}
+
+void ServerCore::applySettings(const Settings& settings) {
+    sheets.locale = namedNumberLocale("").value_or(NumberLocale{});
+    sheets.wksDialect = settings.WksDialect == 1 ? WksDialect::Common : WksDialect::Own;
 }
 
 ServerCore::~ServerCore() {

@@ -20,12 +20,15 @@
 #include "services/file_service.h"
 #include "services/ftran_service.h"
 #include "services/open_file.h"
+#include "services/plan_service.h"
 #include "services/planm_service.h"
 #include "services/stop_request_service.h"
 #include "services/strings.h"
 #include "services/time_services.h"
 #include "services/tools.h"
 #include "services/transfer_settings.h"
+#include "spreadsheet/spreadsheet.h"
+#include "startup/settings.h"
 #include "ui/link_control.h"
 #include "ui/main_view.h"
 #include "ui/server_controller.h"
@@ -61,7 +64,11 @@ class ServerCore {
     Strings strings;
     ServerOptions options;
     TransferSettings transfer;
+    SpreadsheetSettings sheets;
     Crc crc;
+
+    /// Takes over the settings that only the services need; call it when start-up has read them.
+    void applySettings(const Settings& settings);
 
     ServerController& controller() { return controller_; }
     const PLP& link() const { return link_; }
@@ -86,6 +93,7 @@ class ServerCore {
     LinkOfController linkControl_;
     ServiceDispatcher dispatcher_;
     OpenFile openFile_;
+    Spreadsheet spreadsheet_;
     TimeServices timeServices_;
 
     FtranService ftran_;
@@ -93,6 +101,7 @@ class ServerCore {
     BootService boot_;
     StopRequestService exit_;
     StopRequestService shutdown_;
+    PlanService plan_;
     PlanmService planm_;
     TimeService time_;
     TimeService gmt_;

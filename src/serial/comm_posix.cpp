@@ -162,12 +162,13 @@ SystemError PosixCommDevice::acquire() {
     // The system lets a privileged program open a device that another one holds exclusively.
 #ifdef TIOCGEXCL
     int exclusive = 0;
-    if (ioctl(fd_, TIOCGEXCL, &exclusive) == 0 && exclusive != 0) {
+    // On a pseudo-terminal the mark outlives the program that made it, if that was killed.
+    if (ioctl(fd_, TIOCGEXCL, &exclusive) == 0 && exclusive != 0 && !findHolder(path_).empty()) {
         return kPortInUse;
     }
 #endif
     ioctl(fd_, TIOCEXCL);
-    errorCounts_ = readErrorCounts().value_or(ErrorCounts{});
+    errorCounts_ = readErrorCounts();
     return kSuccess;
 }
 
@@ -359,11 +360,12 @@ bool PosixCommDevice::hungUp() const {
 }
 
 std::uint32_t PosixCommDevice::newErrorFlags() {
-    const std::optional<ErrorCounts> now = readErrorCounts();
+    // A port that did not count errors when it was opened is not asked at every poll.
+    const std::optional<ErrorCounts> now = errorCounts_ ? readErrorCounts() : std::nullopt;
     if (!now) {
         return 0;
     }
-    const ErrorCounts before = std::exchange(errorCounts_, *now);
+    const ErrorCounts before = *std::exchange(errorCounts_, now);
     std::uint32_t flags = 0;
     flags |= now->queueOverflow != before.queueOverflow ? 1U : 0U;
     flags |= now->overrun != before.overrun ? 2U : 0U;

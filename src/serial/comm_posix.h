@@ -74,7 +74,7 @@ class PosixCommDevice : public CommDevice {
     termios block_{};                 ///< the control block
     std::optional<bool> dtrControl_;  ///< nothing: setState leaves DTR as it is
     std::chrono::milliseconds writeStall_{1000};
-    ErrorCounts errorCounts_;
+    std::optional<ErrorCounts> errorCounts_;  ///< nothing: the port does not count
 };
 
 }  // namespace velmora

@@ -1,0 +1,5 @@
+velmora_fuzz(formula_decoder_fuzz SOURCES formula_decoder_fuzz.cpp LIBS velmora_spreadsheet)
+velmora_fuzz(formula_encoder_fuzz SOURCES formula_encoder_fuzz.cpp LIBS velmora_spreadsheet)
+velmora_fuzz(wks_reader_fuzz SOURCES wks_reader_fuzz.cpp LIBS velmora_spreadsheet)
+velmora_fuzz(dif_reader_fuzz SOURCES dif_reader_fuzz.cpp LIBS velmora_spreadsheet)
+velmora_fuzz(text_reader_fuzz SOURCES text_reader_fuzz.cpp LIBS velmora_spreadsheet)

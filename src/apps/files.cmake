@@ -1,0 +1,2 @@
+add_executable(velmora-files velmora_files_main.cpp)
+target_link_libraries(velmora-files PRIVATE velmora_flags velmora_files_tool velmora_platform)

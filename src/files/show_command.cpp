@@ -1,0 +1,128 @@
+#include "files/show_command.h"
+
+#include "base/byte_text.h"
+#include "base/run_time_error.h"
+#include "files/arguments.h"
+#include "files/boot_command.h"
+#include "files/data_command.h"
+#include "files/show_texts.h"
+#include "services/block_file.h"
+#include "spreadsheet/dif_reader.h"
+#include "spreadsheet/text_reader.h"
+#include "spreadsheet/wks_reader.h"
+
+namespace velmora {
+namespace {
+
+struct KindName {
+    const char* name;
+    FileKind kind;
+};
+
+constexpr KindName kKinds[] = {{"wks", FileKind::Worksheet},   {"dif", FileKind::Dif},
+                               {"data", FileKind::DataFile},   {"csv", FileKind::CsvFile},
+                               {"block", FileKind::BlockFile}, {"opl", FileKind::Procedure},
+                               {"boot", FileKind::BootFile}};
+
+FileKind kindNamed(const std::string& name) {
+    for (const KindName& entry : kKinds) {
+        if (name == entry.name) {
+            return entry.kind;
+        }
+    }
+    throw UsageError("\"" + name + "\" is no kind: wks, dif, data, csv, block, opl or boot");
+}
+
+bool beginsWith(std::string_view bytes, std::string_view start) {
+    return bytes.substr(0, start.size()) == start;
+}
+
+/// The separator that the lines of a file show first; a comma when they show none.
+char separatorOf(std::string_view bytes) {
+    const std::size_t found = bytes.find_first_of(";,");
+    return found == std::string_view::npos ? ',' : bytes[found];
+}
+
+WksDialect dialectOf(const std::string& value) {
+    if (value.empty() || value == "own") {
+        return WksDialect::Own;
+    }
+    if (value == "common") {
+        return WksDialect::Common;
+    }
+    throw UsageError("\"" + value + "\" is no dialect: own or common");
+}
+
+bool show(FileKind kind, const std::string& bytes, WksDialect dialect, std::ostream& out) {
+    BytesFile file(bytes);
+    switch (kind) {
+        case FileKind::Worksheet:
+            printSheet(readWks(file, dialect), out);
+            return true;
+        case FileKind::Dif:
+            printSheet(readDif(file), out);
+            return true;
+        case FileKind::DataFile:
+            printRecords(readRecords(file, '\0'), out);
+            return true;
+        case FileKind::CsvFile:
+            printRecords(readRecords(file, separatorOf(bytes)), out);
+            return true;
+        case FileKind::BlockFile:
+            return printBlockFile(bytes, out);
+        case FileKind::Procedure:
+            printProcedure(bytes, out);
+            return true;
+        case FileKind::BootFile:
+            return describeBootFile(bytes, out);
+        case FileKind::Unknown:
+            break;
+    }
+    throw UsageError("the file is none that is known; name its kind with --as");
+}
+
+}  // namespace
+
+FileKind recogniseFile(std::string_view bytes, const std::string& extension) {
+    using namespace std::string_view_literals;
+    if (extension == "opl") {
+        return FileKind::Procedure;
+    }
+    if (extension == "bin") {
+        return FileKind::BootFile;
+    }
+    const bool isBlockName = extension.size() > 2 && beginsWith(extension, "ob") &&
+                             extension.find_first_not_of("0123456789abcdef", 2) == std::string::npos;
+    if (beginsWith(bytes, "ORG") && (isBlockName || extension.empty())) {
+        return FileKind::BlockFile;
+    }
+    if (beginsWith(bytes, "\0\0\2\0"sv)) {
+        return FileKind::Worksheet;
+    }
+    if (beginsWith(bytes, "TABLE\r") || beginsWith(bytes, "TABLE\n")) {
+        return FileKind::Dif;
+    }
+    constexpr KindName kExtensions[] = {{"wks", FileKind::Worksheet}, {"wk1", FileKind::Worksheet},
+                                        {"dif", FileKind::Dif},       {"odb", FileKind::DataFile},
+                                        {"txt", FileKind::DataFile},  {"csv", FileKind::CsvFile}};
+    for (const KindName& entry : kExtensions) {
+        if (extension == entry.name) {
+            return entry.kind;
+        }
+    }
+    return isBlockName ? FileKind::BlockFile : FileKind::Unknown;
+}
+
+bool runShowCommand(const std::vector<std::string>& arguments, const FileAccess& access) {
+    const Arguments parsed(arguments, {"--as", "--wks-dialect"});
+    parsed.requireWords({"FILE"});
+    const WksDialect dialect = dialectOf(lowerCase(parsed.value("--wks-dialect")));
+    const std::string& name = parsed.words()[0];
+    const bool given = parsed.has("--as");
+    const FileKind asked = given ? kindNamed(lowerCase(parsed.value("--as"))) : FileKind::Unknown;
+    const std::string bytes = access.readInput(name);
+    return show(given ? asked : recogniseFile(bytes, lowerExtension(access.rules(), name)), bytes, dialect,
+                access.out());
+}
+
+}  // namespace velmora

@@ -1,0 +1,6 @@
+# PLAN, apart from the other services because it alone needs the spreadsheet.
+velmora_library(plan
+  SOURCES
+    plan_cells.cpp
+    plan_service.cpp
+  LIBS velmora_services velmora_spreadsheet)

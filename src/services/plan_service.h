@@ -1,0 +1,75 @@
+// PLAN: spreadsheets between the Organiser and worksheet files, one cell a message.
+//
+//   header        format, + 128 when the Organiser sends; file name      -> 0
+//   PC sends      any message                                            -> the next cell, at last 254 0
+//   Organiser     columns, rows                                          -> 0
+//   sends         cell                                                   -> 0
+//                 254                                                    -> 254 0
+//   cell          column, row (both from 0), type, text
+//
+// Types: 34 a label, 135 a number or a formula with its "=".
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "link/frame_sender.h"
+#include "link/server_window.h"
+#include "services/file_name_mapper.h"
+#include "services/service_handler.h"
+#include "spreadsheet/spreadsheet.h"
+
+namespace velmora {
+
+/// The handler. Holds references only; sender, window, mapper and spreadsheet must outlive it.
+///
+/// A file that cannot be read ends the service with a DISCON whose data is the run-time error number in
+/// decimal digits, one that cannot be written with one byte: the code of map_Error when the path is checked
+/// before the transfer, the error number itself when the sheet is written. A message that fits no phase, or a
+/// cell outside the announced size, is a RunTimeError for the dispatcher.
+class PlanService : public ServiceHandler {
+  public:
+    PlanService(FrameSender& sender, ServerWindow& window, const FileNameMapper& mapper,
+                Spreadsheet& spreadsheet);
+
+    void handle(std::int32_t& code, std::string& payload) override;
+
+  private:
+    enum class Phase { Idle, WaitHeader, HeaderDone, Receiving };
+
+    void reset();
+    void handleData(std::int32_t& code, std::string_view message);
+
+    void handleHeader(std::int32_t& code, std::string_view message);
+    void beginSending(std::int32_t& code);
+    void beginReceiving(std::int32_t& code);
+
+    void sendNextCell();
+    /// Moves to the next cell that is not empty; false behind the last one.
+    bool advance();
+    bool nextPosition();
+
+    void handleSize(std::string_view message);
+    void handleCell(std::int32_t& code, std::string_view message);
+    void storeCell(const CellPosition& at, int type, std::string_view text);
+    void finishReceiving(std::int32_t& code);
+
+    void reply(std::string_view data) { sender_.PLP_Send(FrameType::Data, data); }
+    void refuse(std::int32_t& code, std::string_view reason);
+
+    FrameSender& sender_;
+    ServerWindow& window_;
+    const FileNameMapper& mapper_;
+    Spreadsheet& spreadsheet_;
+
+    Phase phase_ = Phase::Idle;
+    bool pcSends_ = false;
+    int format_ = 0;
+    std::string path_;
+    SheetGrid sheet_;
+    CellPosition current_;
+    bool sheetDone_ = false;  // the end of the sheet has been sent
+};
+
+}  // namespace velmora

@@ -1,0 +1,94 @@
+#include "spreadsheet/spreadsheet.h"
+
+#include <memory>
+
+#include "base/run_time_error.h"
+#include "spreadsheet/dif_reader.h"
+#include "spreadsheet/dif_writer.h"
+#include "spreadsheet/text_reader.h"
+#include "spreadsheet/text_writer.h"
+#include "spreadsheet/whole_file.h"
+#include "spreadsheet/wks_reader.h"
+#include "spreadsheet/wks_writer.h"
+
+namespace velmora {
+namespace {
+
+bool hasFiles(int format) {
+    return format >= kFormatWks && format <= kFormatTab;
+}
+
+/// Runs a file operation; 0 or the number of the run-time error that ended it.
+template <typename Operation>
+int errorOf(Operation operation) {
+    try {
+        operation();
+        return 0;
+    } catch (const RunTimeError& error) {
+        return error.number();
+    }
+}
+
+}  // namespace
+
+std::string sheetBytes(const SheetGrid& sheet, int format, const SpreadsheetSettings& settings) {
+    switch (format) {
+        case kFormatWks:
+            return writeWks(sheet, settings.wksDialect);
+        case kFormatDif:
+            return writeDif(sheet);
+        case kFormatCsv:
+            return writeCsv(sheet, settings.locale);
+        case kFormatTxt:
+            return writeFixedText(sheet, settings.locale);
+        case kFormatTab:
+            return writeTabText(sheet, settings.locale);
+        default:
+            return {};
+    }
+}
+
+SheetGrid sheetFromFile(File& file, int format, const SpreadsheetSettings& settings) {
+    switch (format) {
+        case kFormatWks:
+            return readWks(file, settings.wksDialect);
+        case kFormatDif:
+            return readDif(file);
+        case kFormatCsv:
+            return readDelimited(file, ";", settings.locale);
+        case kFormatTxt:
+            return readFixedText(file, settings.locale);
+        case kFormatTab:
+            return readDelimited(file, "\t", settings.locale);
+        default:
+            return {};
+    }
+}
+
+int Spreadsheet::ExportSheet(const SheetGrid& sheet, const std::string& fileName, int format) {
+    if (!hasFiles(format)) {
+        return 0;
+    }
+    return errorOf([&] { writeWholeFile(files_, rules_, fileName, sheetBytes(sheet, format, settings_)); });
+}
+
+int Spreadsheet::ImportSheet(SheetGrid& sheet, const std::string& fileName, int format) {
+    if (!hasFiles(format)) {
+        return 0;
+    }
+    return errorOf([&] {
+        if (fileName.empty()) {
+            throw RunTimeError(ErrorNumber::BadFileName);
+        }
+        const std::unique_ptr<File> file = files_.open(fileName, OpenMode::Read);
+        SheetGrid read = sheetFromFile(*file, format, settings_);
+        file->close();
+        sheet = std::move(read);
+    });
+}
+
+void Spreadsheet::checkWritable(const std::string& fileName) {
+    velmora::checkWritable(files_, rules_, fileName);
+}
+
+}  // namespace velmora

@@ -1,0 +1,52 @@
+// The entry points of the spreadsheet: sheets to files and back.
+#pragma once
+
+#include <string>
+
+#include "base/files.h"
+#include "base/path_rules.h"
+#include "spreadsheet/number_locale.h"
+#include "spreadsheet/sheet_format.h"
+#include "spreadsheet/sheet_grid.h"
+#include "spreadsheet/wks_dialect.h"
+
+namespace velmora {
+
+/// Read at the moment of use; start-up fills it.
+struct SpreadsheetSettings {
+    NumberLocale locale;  ///< the user's
+    WksDialect wksDialect = WksDialect::Own;
+};
+
+/// The bytes of a sheet in one of the formats 2 to 6; empty for any other. RunTimeError for a formula that no
+/// file can hold (wks_writer.h).
+std::string sheetBytes(const SheetGrid& sheet, int format, const SpreadsheetSettings& settings);
+
+/// The sheet in a file of one of the formats 2 to 6; none for any other. Throws what the readers throw.
+SheetGrid sheetFromFile(File& file, int format, const SpreadsheetSettings& settings);
+
+/// Holds references only; files, rules and settings must outlive it.
+class Spreadsheet {
+  public:
+    Spreadsheet(Files& files, const PathRules& rules, const SpreadsheetSettings& settings)
+        : files_(files), rules_(rules), settings_(settings) {}
+
+    /// Writes a sheet to a file, whole or not at all: an old file stays until the new one is complete.
+    /// Returns 0 or the number of the run-time error. A format other than 2 to 6 is 0 and writes nothing.
+    int ExportSheet(const SheetGrid& sheet, const std::string& fileName, int format);
+
+    /// Reads a file into the sheet, replacing it. Returns 0 or the number of the run-time error, and leaves
+    /// the sheet as it was then, as it does for a format other than 2 to 6 (0).
+    int ImportSheet(SheetGrid& sheet, const std::string& fileName, int format);
+
+    /// Throws the RunTimeError that writing there would meet. Changes nothing: an existing file keeps its
+    /// content, a missing one stays missing.
+    void checkWritable(const std::string& fileName);
+
+  private:
+    Files& files_;
+    const PathRules& rules_;
+    const SpreadsheetSettings& settings_;
+};
+
+}  // namespace velmora

@@ -1,0 +1,96 @@
+#include "files/sheet_command.h"
+
+#include "files/tool_fixture.h"
+#include "spreadsheet/spreadsheet.h"
+#include "spreadsheet/wks_writer.h"
+
+namespace velmora {
+namespace {
+
+class SheetCommandTest : public test::ToolTest {
+  protected:
+    SheetCommandTest() {
+        sheet.at({0, 0}) = std::int16_t{5};
+        sheet.at({0, 1}) = Formula{"(A1+1)*2"};
+        sheet.at({0, 2}) = 0.5;
+        memory.addFile("/w/in.wks", writeWks(sheet));
+    }
+    SheetGrid sheet{1, 3};
+};
+
+TEST_F(SheetCommandTest, FormatsComeFromTheExtensions) {
+    EXPECT_EQ(run({"sheet", "/w/in.wks", "/w/out.csv"}), 0) << complaint;
+    EXPECT_EQ(memory.content("/w/out.csv"), "\"5\",\"(A1+1)*2\",\"0.5\",\r\n");
+    EXPECT_EQ(run({"sheet", "/w/in.WKS", "/w/out.TAB"}), 0);
+    EXPECT_EQ(memory.content("/w/out.TAB"), "5\t(A1+1)*2\t0.5\t\r\n");
+    EXPECT_EQ(run({"sheet", "/w/in.wks", "/w/out.dif"}), 0);
+    EXPECT_EQ(memory.content("/w/out.dif").substr(0, 5), "TABLE");
+    EXPECT_EQ(run({"sheet", "/w/in.wks", "/w/out.txt"}), 0);
+    EXPECT_EQ(memory.content("/w/out.txt"), "5  (A1+1)*20.5 \r\n");
+    EXPECT_EQ(run({"sheet", "/w/in.wks", "/w/copy.wks"}), 0);
+    EXPECT_EQ(memory.content("/w/copy.wks"), memory.content("/w/in.wks"));
+}
+
+TEST_F(SheetCommandTest, StandardStreamsNeedFormats) {
+    EXPECT_EQ(run({"sheet", "-", "-", "--from", "csv", "--to", "tab"}, "1;2\n"), 0);
+    EXPECT_EQ(printed, "1\t2\t\r\n");
+    expectUsage({"sheet", "-", "/w/out.csv"}, "--from");
+    expectUsage({"sheet", "/w/in.wks", "-"}, "--to");
+}
+
+TEST_F(SheetCommandTest, TheSeparatorOfCsvCanBeChosen) {
+    const std::vector<std::string> command = {"sheet", "-", "-", "--from=csv", "--to=tab"};
+    EXPECT_EQ(run(command, "1,2\n"), 0);
+    EXPECT_EQ(printed, "1,2\t\r\n") << "commas do not separate what the server reads";
+    for (const char* sign : {",", "auto"}) {
+        std::vector<std::string> chosen = command;
+        chosen.insert(chosen.end(), {"--separator", sign});
+        EXPECT_EQ(run(chosen, "1,2\n"), 0);
+        EXPECT_EQ(printed, "1\t2\t\r\n");
+    }
+    EXPECT_EQ(run({"sheet", "-", "-", "--from=csv", "--to=tab", "--separator=tab"}, "1\t2\n"), 0);
+    EXPECT_EQ(printed, "1\t2\t\r\n");
+    expectUsage({"sheet", "-", "-", "--from=csv", "--to=tab", "--separator=;;"}, "separator");
+}
+
+TEST_F(SheetCommandTest, TheLocaleSetsTheSignsOfNumbers) {
+    EXPECT_EQ(run({"sheet", "/w/in.wks", "-", "--to=tab", "--locale", "de"}), 0);
+    EXPECT_EQ(printed, "5\t(A1+1)*2\t0,5\t\r\n");
+    EXPECT_EQ(run({"sheet", "-", "-", "--from=csv", "--to=dif", "--locale=de"}, "1.234,5"), 0);
+    expectPrinted("0,1234.5\r\nV");
+    expectUsage({"sheet", "/w/in.wks", "-", "--to=tab", "--locale", "qq"}, "locale");
+}
+
+TEST_F(SheetCommandTest, TheDialectSetsTheTokensOfFormulas) {
+    EXPECT_EQ(run({"sheet", "/w/in.wks", "/w/common.wks", "--to-dialect", "common"}), 0);
+    EXPECT_EQ(memory.content("/w/common.wks"), writeWks(sheet, WksDialect::Common));
+    EXPECT_EQ(run({"sheet", "/w/common.wks", "-", "--to=tab", "--wks-dialect=common"}), 0);
+    EXPECT_EQ(printed, "5\t(A1+1)*2\t0.5\t\r\n");
+    EXPECT_EQ(run({"sheet", "/w/common.wks", "-", "--to=tab"}), 0);
+    EXPECT_EQ(printed, "5\tERR\t0.5\t\r\n");
+    EXPECT_EQ(run({"sheet", "/w/common.wks", "/w/own.wks", "--from-dialect=common"}), 0);
+    EXPECT_EQ(memory.content("/w/own.wks"), memory.content("/w/in.wks"));
+    expectUsage({"sheet", "/w/in.wks", "-", "--to=tab", "--wks-dialect=other"}, "dialect");
+}
+
+TEST_F(SheetCommandTest, SaysWhatIsWrong) {
+    expectUsage({"sheet"}, "IN is missing");
+    expectUsage({"sheet", "/w/in.wks"}, "OUT is missing");
+    expectUsage({"sheet", "/w/in.wks", "/w/out.xls"}, "out.xls");
+    expectUsage({"sheet", "/w/in.wks", "/w/out", "--to", "xls"}, "xls");
+    expectUsage({"sheet", "/w/in.wks", "/w/out.csv", "--fast"}, "--fast");
+    EXPECT_EQ(memory.paths().size(), 1U);
+}
+
+TEST_F(SheetCommandTest, AFailureLeavesTheOldFile) {
+    memory.addFile("/w/out.csv", "old");
+    EXPECT_EQ(run({"sheet", "/w/missing.wks", "/w/out.csv"}), 1);
+    EXPECT_NE(complaint.find("File not found"), std::string::npos) << complaint;
+    files.failAtCall(test::FileCall::Write, 1, ErrorNumber::DiskFull);
+    EXPECT_EQ(run({"sheet", "/w/in.wks", "/w/out.csv"}), 1);
+    EXPECT_NE(complaint.find("Disk full"), std::string::npos) << complaint;
+    EXPECT_EQ(memory.content("/w/out.csv"), "old");
+}
+
+}  // namespace
+}  // namespace velmora

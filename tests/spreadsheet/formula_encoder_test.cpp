@@ -1,0 +1,171 @@
+#include "spreadsheet/formula_encoder.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "base/run_time_error.h"
+#include "spreadsheet/formula_tables.h"
+#include "spreadsheet/tokens.h"
+
+namespace velmora {
+namespace {
+
+using test::absoluteRef;
+using test::bytes;
+using test::end;
+using test::integer;
+using test::number;
+using test::ref;
+
+constexpr CellPosition kC1{0, 2};
+
+/// Encodes a formula that stands in C1.
+std::string encode(const std::string& text) {
+    return EncodeFormula(text, kC1);
+}
+
+const std::string a1 = ref(-2, 0);
+const std::string b1 = ref(-1, 0);
+const std::string error = bytes({32, 3});
+
+TEST(EncodeFormula, EndsWithTheEndToken) {
+    EXPECT_EQ(encode(""), end);
+    EXPECT_EQ(encode("A1"), a1 + end);
+}
+
+TEST(EncodeFormula, EveryOperator) {
+    const struct {
+        const char* text;
+        int code;
+    } rows[] = {{"A1+B1", 9},  {"A1-B1", 10},     {"A1*B1", 11},   {"A1/B1", 12},  {"A1**B1", 13},
+                {"A1=B1", 14}, {"A1<>B1", 15},    {"A1<=B1", 16},  {"A1>=B1", 17}, {"A1<B1", 18},
+                {"A1>B1", 19}, {"A1 AND B1", 20}, {"A1 OR B1", 21}};
+    for (const auto& row : rows) {
+        EXPECT_EQ(encode(row.text), a1 + b1 + bytes({row.code}) + end) << row.text;
+    }
+    EXPECT_EQ(encode("-A1"), a1 + bytes({8}) + end);
+    EXPECT_EQ(encode("NOT A1"), a1 + bytes({22}) + end);
+    EXPECT_EQ(encode("+A1"), a1 + end);
+}
+
+TEST(EncodeFormula, APowerOfAnInteger) {
+    EXPECT_EQ(encode("A1**2"), a1 + integer(2) + bytes({13}) + end);
+}
+
+TEST(EncodeFormula, EveryFunction) {
+    for (int code = 31; code <= 90; ++code) {
+        if (!isFunctionCode(code)) {
+            continue;
+        }
+        const std::string token = FunctionName(code, 2);
+        const std::string name = token.substr(0, token.find('('));
+        const int count = token[name.size() + 1] - '0';
+        std::string arguments;
+        std::string expected;
+        for (int i = 0; i < count; ++i) {
+            arguments += i == 0 ? "A1" : ",A1";
+            expected += a1;
+        }
+        expected += static_cast<char>(code);
+        if (readsArgumentCount(code) || code == 47) {
+            expected += static_cast<char>(count);
+        }
+        EXPECT_EQ(encode(name + "(" + arguments + ")"), expected + end) << name;
+    }
+}
+
+TEST(EncodeFormula, NamesThatNeedNoParentheses) {
+    const struct {
+        const char* text;
+        int code;
+    } rows[] = {{"PI", 38},    {"RAND", 53}, {"TODAY", 55}, {"TRUE", 52},
+                {"FALSE", 51}, {"NA", 31},   {"ERR", 32}};
+    for (const auto& row : rows) {
+        EXPECT_EQ(encode(row.text), bytes({row.code}) + end) << row.text;
+        EXPECT_EQ(encode(std::string(row.text) + "()"), bytes({row.code}) + end) << row.text;
+    }
+    EXPECT_EQ(encode("pi"), bytes({38}) + end);
+}
+
+TEST(EncodeFormula, ARangeInASumCarriesACountOfOne) {
+    EXPECT_EQ(encode("SUM(A1:A3)"),
+              bytes({2}) + test::relative(-2, 0) + test::relative(-2, 2) + bytes({80, 1}) + end);
+}
+
+TEST(EncodeFormula, NumbersWithAPointOrFrom32768UpAreDoubles) {
+    EXPECT_EQ(encode("1.5"), number(1.5) + end);
+    EXPECT_EQ(encode("1.0"), number(1) + end);
+    EXPECT_EQ(encode("40000"), number(40000) + end);
+    EXPECT_EQ(encode("32768"), number(32768) + end);
+    EXPECT_EQ(encode("32767"), integer(32767) + end);
+    EXPECT_EQ(encode("7"), integer(7) + end);
+    EXPECT_EQ(encode("2E3"), integer(2000) + end);
+    EXPECT_EQ(encode("2E5"), number(200000) + end);
+    EXPECT_EQ(encode(".5"), number(0.5) + end);
+}
+
+TEST(EncodeFormula, WhatIsNoNumberAsAWholeIsErr) {
+    for (const char* text : {"5.0E-1", "1E", "1.2.3", ".", "1E5E5", "1E999"}) {
+        EXPECT_EQ(encode(text), error) << text;
+    }
+}
+
+TEST(EncodeFormula, ReferencesAreRelativeUnlessMarked) {
+    EXPECT_EQ(encode("B1"), bytes({1, 0xFF, 0xBF, 0x00, 0x80, 3})) << "one column to the left is 0xBFFF";
+    EXPECT_EQ(encode("$A$1"), absoluteRef(0, 0) + end);
+    EXPECT_EQ(encode("d2"), ref(1, 1) + end);
+}
+
+TEST(EncodeFormula, StringsEndInAZeroByte) {
+    EXPECT_EQ(encode("\"abc\""), test::string("abc") + end);
+    EXPECT_EQ(encode("\"\""), test::string("") + end);
+    EXPECT_EQ(encode("A1=\"x\""), a1 + test::string("x") + bytes({14}) + end);
+}
+
+TEST(EncodeFormula, AStringWithABlankIsErr) {
+    EXPECT_EQ(encode("\"a b\""), error);
+    EXPECT_EQ(encode("\"a \""), error);
+}
+
+TEST(EncodeFormula, AStringWithAParenthesisIsOneByteErr) {
+    EXPECT_EQ(encode("A1=\"(\""), a1 + bytes({32, 14}) + end);
+}
+
+TEST(EncodeFormula, AnUnknownFunctionIsOneByteInItsPlace) {
+    EXPECT_EQ(encode("A1+FOO(B1)"), a1 + b1 + bytes({32, 9}) + end);
+    EXPECT_EQ(encode("OPL(1)+A1"), integer(1) + bytes({32}) + a1 + bytes({9}) + end);
+}
+
+TEST(EncodeFormula, AnUnknownOperandMakesTheWholeErr) {
+    EXPECT_EQ(encode("A1+FOO"), error);
+    EXPECT_EQ(encode("AA1"), error);
+    EXPECT_EQ(encode("A1,B1"), error);
+    EXPECT_EQ(encode("A1+A99999"), error);
+}
+
+TEST(EncodeFormula, WhatCannotBeConvertedIsTheEndTokenAlone) {
+    for (const char* text : {"(A1", "A1+?", "\"abc", "SUM(A1"}) {
+        EXPECT_EQ(encode(text), end) << text;
+    }
+}
+
+TEST(EncodeFormula, NoTextThrowsAnythingButARunTimeError) {
+    std::mt19937 random(11);
+    const std::string likely = "AB12$:()+-*/^=<>!&|,.E \"SUMPI";
+    for (int i = 0; i < 20'000; ++i) {
+        std::string text(random() % 80, '\0');
+        for (char& c : text) {
+            c = random() % 20 == 0 ? static_cast<char>(random()) : likely[random() % likely.size()];
+        }
+        for (const WksDialect dialect : {WksDialect::Own, WksDialect::Common}) {
+            try {
+                ASSERT_EQ(EncodeFormula(text, {50, 12}, dialect).back(), '\3') << text;
+            } catch (const RunTimeError&) {
+            }
+        }
+    }
+}
+
+}  // namespace
+}  // namespace velmora
