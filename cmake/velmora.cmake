@@ -31,6 +31,8 @@ function(velmora_test name)
   cmake_parse_arguments(ARG "" "" "SOURCES;LIBS;LABELS" ${ARGN})
   add_executable(${name} ${ARG_SOURCES})
   target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
+  # The tests' own code is built often and runs briefly: the optimiser's time would be lost.
+  target_compile_options(${name} PRIVATE -O0)
   target_link_libraries(${name} PRIVATE velmora_flags ${ARG_LIBS} GTest::gmock GTest::gtest_main)
   set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
   gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST

@@ -163,7 +163,7 @@ SystemError PosixCommDevice::acquire() {
 #ifdef TIOCGEXCL
     int exclusive = 0;
     // On a pseudo-terminal the mark outlives the program that made it, if that was killed.
-    if (ioctl(fd_, TIOCGEXCL, &exclusive) == 0 && exclusive != 0 && !findHolder(path_).empty()) {
+    if (ioctl(fd_, TIOCGEXCL, &exclusive) == 0 && exclusive != 0 && heldByOthers(path_, fd_)) {
         return kPortInUse;
     }
 #endif

@@ -24,4 +24,7 @@ DeviceFacts gatherDeviceFacts(const std::string& device);
 /// it does only for programs of the same user. `processes` is the folder with the system's process table.
 std::string findHolder(const std::string& device, const std::string& processes = "/proc");
 
+/// Whether anybody is known to have the device open by another descriptor than this program's `descriptor`.
+bool heldByOthers(const std::string& device, int descriptor, const std::string& processes = "/proc");
+
 }  // namespace velmora

@@ -61,18 +61,40 @@ bool isNumber(std::string_view text) {
            std::all_of(text.begin(), text.end(), [](unsigned char c) { return std::isdigit(c) != 0; });
 }
 
-/// Whether one of the process's descriptors is the file; every look counts down `budget`.
-bool holds(const fs::path& process, const fs::path& file, int& budget) {
+/// Whether one of the process's descriptors, `except` left out, is the file; every look counts down `budget`.
+bool holds(const fs::path& process, const fs::path& file, const std::string& except, int& budget) {
     std::error_code error;
     fs::directory_iterator entries(process / "fd", error);
     for (; !error && entries != fs::directory_iterator() && budget > 0; entries.increment(error)) {
         --budget;
         std::error_code gone;
-        if (fs::read_symlink(entries->path(), gone) == file && !gone) {
+        if (entries->path().filename() != except && fs::read_symlink(entries->path(), gone) == file &&
+            !gone) {
             return true;
         }
     }
     return false;
+}
+
+/// The number of the first process that has the device open, as text; empty when none is known. Of this
+/// program's descriptors, `except` does not count.
+std::string holderId(const std::string& device, const std::string& processes,
+                     const std::string& except = {}) {
+    std::error_code error;
+    const fs::path file = fs::canonical(device, error);
+    if (error) {
+        return {};
+    }
+    const std::string self = std::to_string(getpid());
+    int budget = kMostDescriptors;
+    fs::directory_iterator entries(processes, error);
+    for (; !error && entries != fs::directory_iterator() && budget > 0; entries.increment(error)) {
+        const std::string id = entries->path().filename().string();
+        if (isNumber(id) && holds(entries->path(), file, id == self ? except : std::string(), budget)) {
+            return id;
+        }
+    }
+    return {};
 }
 
 }  // namespace
@@ -96,28 +118,21 @@ DeviceFacts gatherDeviceFacts(const std::string& device) {
 }
 
 std::string findHolder(const std::string& device, const std::string& processes) {
-    std::error_code error;
-    const fs::path file = fs::canonical(device, error);
-    if (error) {
+    const std::string id = holderId(device, processes);
+    if (id.empty()) {
         return {};
     }
-    const std::string self = std::to_string(getpid());
-    int budget = kMostDescriptors;
-    fs::directory_iterator entries(processes, error);
-    for (; !error && entries != fs::directory_iterator() && budget > 0; entries.increment(error)) {
-        const std::string id = entries->path().filename().string();
-        if (!isNumber(id) || !holds(entries->path(), file, budget)) {
-            continue;
-        }
-        if (id == self) {
-            return "this program";
-        }
-        std::string name;
-        std::ifstream comm(entries->path() / "comm");
-        std::getline(comm, name);
-        return (name.empty() ? std::string("a program") : name) + " (process " + id + ")";
+    if (id == std::to_string(getpid())) {
+        return "this program";
     }
-    return {};
+    std::string name;
+    std::ifstream comm(fs::path(processes) / id / "comm");
+    std::getline(comm, name);
+    return (name.empty() ? std::string("a program") : name) + " (process " + id + ")";
+}
+
+bool heldByOthers(const std::string& device, int descriptor, const std::string& processes) {
+    return !holderId(device, processes, std::to_string(descriptor)).empty();
 }
 
 }  // namespace velmora

@@ -201,6 +201,19 @@ TEST_F(CommPosixTest, ExclusiveModeOfAnotherProgramIsRespectedEvenByRoot) {
     ::close(other);
 }
 
+TEST_F(CommPosixTest, TheExclusiveMarkOfAProgramThatIsGoneIsNothing) {
+    // A pseudo-terminal keeps the mark until its master closes: a server that was killed must be able to
+    // start again. Only a privileged program gets past the mark at all.
+    if (geteuid() != 0) {
+        GTEST_SKIP() << "the system refuses the mark's device to ordinary users";
+    }
+    const int gone = ::open(line.slavePath().c_str(), O_RDWR | O_NOCTTY);
+    ASSERT_GE(gone, 0);
+    ASSERT_EQ(ioctl(gone, TIOCEXCL), 0);
+    ::close(gone);
+    EXPECT_EQ(device.open("COM7"), kSuccess);
+}
+
 TEST_F(CommPosixTest, TheOpenPortIsLockedForOtherPrograms) {
     openLine();
     const int other = ::open(line.slavePath().c_str(), O_RDWR | O_NOCTTY);
