@@ -97,7 +97,8 @@ TEST_F(BadInputTest, AHeaderWithoutAnEndIsSurvived) {
 }
 
 TEST_F(BadInputTest, RequestsThatAreTooShortAreInvalid) {
-    for (const std::string& request : {""s, "\x00"s, "\x00\x01"s, "\x00\x01\x00"s, "\x03"s, "\x09"s, "\xFF"s}) {
+    for (const std::string& request :
+         {""s, "\x00"s, "\x00\x01"s, "\x00\x01\x00"s, "\x03"s, "\x09"s, "\xFF"s}) {
         open("FTRAN");
         if (request == "\x03"s) {
             expectRefusal(request, 190);

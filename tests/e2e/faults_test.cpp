@@ -51,13 +51,21 @@ class FaultsTest : public ServerFixture {
     }
 };
 
-TEST_F(FaultsTest, FiftyFilesEachWayOnACleanLine) { fiftyFilesEachWay({}); }
+TEST_F(FaultsTest, FiftyFilesEachWayOnACleanLine) {
+    fiftyFilesEachWay({});
+}
 
-TEST_F(FaultsTest, FiftyFilesEachWayWithLostFrames) { fiftyFilesEachWay({"--drop", "0.03"}); }
+TEST_F(FaultsTest, FiftyFilesEachWayWithLostFrames) {
+    fiftyFilesEachWay({"--drop", "0.03"});
+}
 
-TEST_F(FaultsTest, FiftyFilesEachWayWithSpoiltFrames) { fiftyFilesEachWay({"--corrupt", "0.03"}); }
+TEST_F(FaultsTest, FiftyFilesEachWayWithSpoiltFrames) {
+    fiftyFilesEachWay({"--corrupt", "0.03"});
+}
 
-TEST_F(FaultsTest, FiftyFilesEachWayWithRepeatedFrames) { fiftyFilesEachWay({"--duplicate", "0.2"}); }
+TEST_F(FaultsTest, FiftyFilesEachWayWithRepeatedFrames) {
+    fiftyFilesEachWay({"--duplicate", "0.2"});
+}
 
 TEST_F(FaultsTest, FiftyFilesEachWayWithEverythingAtOnce) {
     fiftyFilesEachWay({"--drop", "0.02", "--corrupt", "0.02", "--duplicate", "0.1"});

@@ -76,7 +76,8 @@ TEST_F(FileServiceTest, FormatsAreListed) {
 TEST_F(FileServiceTest, AnUnknownServiceIsRefusedWith190) {
     const Finished refused = organiser({"service", "TIMEX"});
     EXPECT_EQ(refused.status, 3);
-    EXPECT_NE((refused.output + refused.error).find("190"), std::string::npos) << refused.output << refused.error;
+    EXPECT_NE((refused.output + refused.error).find("190"), std::string::npos)
+        << refused.output << refused.error;
     EXPECT_EQ(organiser({"formats"}).status, 0) << "the next request is served";
 }
 

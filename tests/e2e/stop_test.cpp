@@ -19,8 +19,8 @@ class StopTest : public ServerFixture {
         }
         writeFile(home / "local", records);
         auto save = std::make_unique<Process>(
-            std::vector<std::string>{program("velmora-organiser"), "--device", organiserDevice, "--delay", "5", "save",
-                                     (home / "local").string(), "--as", "LONG"},
+            std::vector<std::string>{program("velmora-organiser"), "--device", organiserDevice, "--delay",
+                                     "5", "save", (home / "local").string(), "--as", "LONG"},
             environment());
         EXPECT_TRUE(server->waitForOutput("Downloading file"));
         return save;
@@ -70,15 +70,16 @@ TEST_F(StopTest, AnOrganiserThatVanishesLeavesWholeRecordsAndTheNextOneIsServed)
 }
 
 TEST_F(StopTest, AMissingPortEndsTheServerWithOneAndOneLine) {
-    const Finished done = run({program("velmorad"), "--port", (home / "none").string(), "--folder", psion.string()},
-                              environment());
+    const Finished done = run(
+        {program("velmorad"), "--port", (home / "none").string(), "--folder", psion.string()}, environment());
     EXPECT_EQ(done.status, 1);
     EXPECT_EQ(std::count(done.error.begin(), done.error.end(), '\n'), 1) << done.error;
     EXPECT_NE(done.error.find((home / "none").string()), std::string::npos) << done.error;
 }
 
 TEST_F(StopTest, AMissingPortNumberEndsTheServerWithOne) {
-    const Finished done = run({program("velmorad"), "--port", "COM99", "--folder", psion.string()}, environment());
+    const Finished done =
+        run({program("velmorad"), "--port", "COM99", "--folder", psion.string()}, environment());
     EXPECT_EQ(done.status, 1);
     EXPECT_NE(done.error.find("COM99"), std::string::npos) << done.error;
 }

@@ -124,7 +124,8 @@ TEST_F(TransferTest, AFileThatMustBeNewIsRefusedWhenItExists) {
     save("one\r\n", {"--as", "LOG"});
     const Finished refused = organiser({"save", (home / "local").string(), "--as", "LOG", "--mode", "3"});
     EXPECT_EQ(refused.status, 3);
-    EXPECT_NE((refused.output + refused.error).find("187"), std::string::npos) << refused.output << refused.error;
+    EXPECT_NE((refused.output + refused.error).find("187"), std::string::npos)
+        << refused.output << refused.error;
     EXPECT_EQ(contentsOf(psion / "Log.odb"), "one\r\n");
 }
 
@@ -132,7 +133,8 @@ TEST_F(TransferTest, AMissingFileIsRefusedAndTheNextRequestIsServed) {
     startServer();
     const Finished refused = organiser({"load", "NONE", "-o", (home / "none").string()});
     EXPECT_EQ(refused.status, 3);
-    EXPECT_NE((refused.output + refused.error).find("189"), std::string::npos) << refused.output << refused.error;
+    EXPECT_NE((refused.output + refused.error).find("189"), std::string::npos)
+        << refused.output << refused.error;
     EXPECT_FALSE(std::filesystem::exists(home / "none"));
     save(records, {"--as", "NAMES"});
     EXPECT_EQ(load("NAMES"), records);
@@ -142,8 +144,8 @@ TEST_F(TransferTest, ALargeDataFileArrivesWhole) {
     startServer();
     std::string many;
     for (int i = 0; i < 3000; ++i) {
-        many += "record " + std::to_string(i) + "\tfield\x10\x03" + std::string(static_cast<std::size_t>(i % 90), 'x') +
-                "\r\n";
+        many += "record " + std::to_string(i) + "\tfield\x10\x03" +
+                std::string(static_cast<std::size_t>(i % 90), 'x') + "\r\n";
     }
     save(many, {"--as", "MANY"});
     EXPECT_EQ(contentsOf(psion / "Many.odb"), many);

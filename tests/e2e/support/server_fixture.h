@@ -66,6 +66,7 @@ class ServerFixture : public testing::Test {
         return {{"HOME", home.string()},
                 {"XDG_CONFIG_HOME", (home / "config").string()},
                 {"TMPDIR", (home / "tmp").string()},
+                {"TZ", zone},
                 {"LC_ALL", "C.UTF-8"}};
     }
 
@@ -89,6 +90,7 @@ class ServerFixture : public testing::Test {
 
     std::filesystem::path home;
     std::filesystem::path psion;
+    std::string zone = "UTC";
     std::string serverDevice;
     std::string organiserDevice;
     std::unique_ptr<Process> cable;

@@ -1,0 +1,108 @@
+// What the configuration file says is what the server says and does.
+#include <gtest/gtest.h>
+#include <signal.h>
+
+#include <string>
+
+#include "e2e/support/server_fixture.h"
+
+namespace velmora::e2e {
+namespace {
+
+class ConfigurationTest : public ServerFixture {
+  protected:
+    void SetUp() override {
+        ServerFixture::SetUp();
+        std::filesystem::create_directories(home / "tmp");
+    }
+    std::string iniPath() const { return (home / "new.ini").string(); }
+    /// Lets the server write the default file, changes lines of it ("Key=" to a whole line), starts again.
+    void startWith(const std::vector<std::pair<std::string, std::string>>& changes) {
+        if (!std::filesystem::exists(iniPath())) {
+            startServer({"--config", iniPath()});
+            server->signal(SIGTERM);
+            ASSERT_EQ(server->wait(), 0);
+        }
+        std::string text = contentsOf(iniPath());
+        for (const auto& [start, line] : changes) {
+            const std::size_t begin = text.find("\r\n" + start);
+            ASSERT_NE(begin, std::string::npos) << start;
+            const std::size_t end = text.find("\r\n", begin + 2);
+            text.replace(begin + 2, end - begin - 2, line);
+        }
+        writeFile(iniPath(), text);
+        server = std::make_unique<Process>(
+            std::vector<std::string>{program("velmorad"), "--config", iniPath(), "--port", serverDevice},
+            environment());
+    }
+};
+
+TEST_F(ConfigurationTest, AFirstStartWritesTheCommentedFileAndServesWithIt) {
+    startServer({"--config", iniPath()});
+    const std::string text = contentsOf(iniPath());
+    EXPECT_NE(text.find("; Velmora.ini:  INI file for Velmora\r\n"), std::string::npos);
+    EXPECT_NE(text.find("DataFileType = 0\r\n"), std::string::npos);
+    EXPECT_EQ(organiser({"formats"}).status, 0);
+}
+
+TEST_F(ConfigurationTest, TheFilesTextsAreShown) {
+    startWith({{"WaitLink=", "WaitLink=\"Hello there\",\" \""},
+               {"DownloadPath=", "DownloadPath=" + psion.string()}});
+    EXPECT_TRUE(server->waitForOutput("Hello there")) << server->output() << server->error();
+}
+
+TEST_F(ConfigurationTest, TheDataFileTypeChoosesTheForm) {
+    startWith({{"DataFileType ", "DataFileType = 3"}, {"DownloadPath=", "DownloadPath=" + psion.string()}});
+    ASSERT_TRUE(server->waitForOutput("Waiting for link")) << server->error();
+    writeFile(home / "local", "a\tb\r\n");
+    ASSERT_EQ(organiser({"save", (home / "local").string(), "--as", "MEMO"}).status, 0);
+    EXPECT_EQ(contentsOf(psion / "Memo.csv"), "a;b\r\n");
+}
+
+TEST_F(ConfigurationTest, ExitIsIgnoredWhenStopServerIsFalse) {
+    startWith({{"StopServer=", "StopServer=False"}});
+    ASSERT_TRUE(server->waitForOutput("Waiting for link")) << server->error();
+    EXPECT_EQ(organiser({"exit"}).status, 0);
+    EXPECT_EQ(organiser({"formats"}).status, 0) << "still serving";
+    EXPECT_TRUE(server->running());
+}
+
+TEST_F(ConfigurationTest, ShutdownIsIgnoredWhenAllowShutdownIsFalse) {
+    startWith({{"AllowShutdown=", "AllowShutdown=False"}});
+    ASSERT_TRUE(server->waitForOutput("Waiting for link")) << server->error();
+    EXPECT_EQ(organiser({"shutdown"}).status, 0);
+    EXPECT_EQ(organiser({"formats"}).status, 0) << "still serving";
+    EXPECT_TRUE(server->running());
+}
+
+TEST_F(ConfigurationTest, AQuestionNobodyCanAnswerIsANo) {
+    startWith({{"AskUser=", "AskUser=True"}});
+    ASSERT_TRUE(server->waitForOutput("Waiting for link")) << server->error();
+    EXPECT_EQ(organiser({"exit"}).status, 0);
+    EXPECT_EQ(organiser({"formats"}).status, 0) << "still serving";
+}
+
+TEST_F(ConfigurationTest, TheSectionPortsNamesDevices) {
+    startWith({{"Port=", "Port=7"}});
+    server->signal(SIGKILL);
+    server->wait();
+    writeFile(iniPath(), contentsOf(iniPath()) + "\r\n[Ports]\r\nCOM7=" + serverDevice + "\r\n");
+    cable.reset();
+    connectCable({});
+    std::string text = contentsOf(iniPath());
+    text.replace(text.find("COM7="), std::string::npos, "COM7=" + serverDevice + "\r\n");
+    writeFile(iniPath(), text);
+    server = std::make_unique<Process>(std::vector<std::string>{program("velmorad"), "--config", iniPath()},
+                                       environment());
+    ASSERT_TRUE(server->waitForOutput("Waiting for link")) << server->error();
+    EXPECT_EQ(organiser({"formats"}).status, 0);
+}
+
+TEST_F(ConfigurationTest, AValueThatIsNoneEndsTheStartWithTheNameOfTheStep) {
+    startWith({{"AutoHide=", "AutoHide=perhaps"}});
+    EXPECT_EQ(server->wait(), 1);
+    EXPECT_NE(server->error().find("get_Settings"), std::string::npos) << server->error();
+}
+
+}  // namespace
+}  // namespace velmora::e2e

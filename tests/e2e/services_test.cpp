@@ -1,0 +1,103 @@
+// Clock, boot code and spreadsheets over the line, also when it loses and repeats frames.
+#include <gtest/gtest.h>
+
+#include <regex>
+#include <string>
+
+#include "e2e/support/server_fixture.h"
+
+namespace velmora::e2e {
+namespace {
+
+using namespace std::string_literals;
+
+class ServicesTest : public ServerFixture {
+  protected:
+    const std::vector<std::string> faults = {"--drop", "0.03", "--duplicate", "0.1", "--seed", "11"};
+};
+
+TEST_F(ServicesTest, ClockInAZoneEastOfGreenwich) {
+    zone = "Asia/Kolkata";
+    startServer();
+    const Finished local = organiser({"time"});
+    EXPECT_TRUE(std::regex_search(local.output, std::regex(R"(\d{4}-\d\d-\d\d \d\d:\d\d:\d\d)")))
+        << local.output;
+    const Finished zoned = organiser({"timeinfo"}, faults);
+    EXPECT_EQ(zoned.status, 0) << zoned.error;
+    EXPECT_TRUE(std::regex_search(zoned.output, std::regex(R"(\d\d:\d\d:\d\d \+0530  )"))) << zoned.output;
+    const Finished universal = organiser({"gmt"}, faults);
+    EXPECT_TRUE(std::regex_search(universal.output, std::regex(R"(\d\d:\d\d:\d\d  )"))) << universal.output;
+}
+
+TEST_F(ServicesTest, BootCodeArrivesRelocatedInThreeChunks) {
+    std::string code(450, '\0');
+    for (std::size_t i = 0; i < code.size(); ++i) {
+        code[i] = static_cast<char>(i * 13);
+    }
+    const auto put = [&code](std::size_t offset, unsigned word) {
+        code[offset] = static_cast<char>(word >> 8);
+        code[offset + 1] = static_cast<char>(word & 0xFF);
+    };
+    put(16, 0x1234);
+    put(448, 0x0100);
+    writeFile(home / "code", code);
+    const Finished made = run({program("velmora-files"), "boot", "make", (home / "code").string(),
+                               "--relocations", "16,448", "-o", (psion / "Loader.bin").string()});
+    ASSERT_EQ(made.status, 0) << made.output << made.error;
+
+    startServer({"--trace"});
+    for (const auto& options : {std::vector<std::string>{}, faults}) {
+        const Finished booted =
+            organiser({"boot", "LOADER", "--address", "2000", "-o", (home / "booted").string()}, options);
+        ASSERT_EQ(booted.status, 0) << booted.output << booted.error;
+        put(16, 0x3234);
+        put(448, 0x2100);
+        EXPECT_EQ(contentsOf(home / "booted"), code);
+    }
+    EXPECT_TRUE(server->waitForOutput("Sending code"));
+    // Address and code: 202, 202 and 52 bytes.
+    EXPECT_TRUE(server->waitForError("DATA\tlen=202\t<20><00>")) << server->error();
+    EXPECT_TRUE(server->waitForError("DATA\tlen=202\t<20><C8>"));
+    EXPECT_TRUE(server->waitForError("DATA\tlen=52\t!<90>"));
+}
+
+TEST_F(ServicesTest, ADamagedBootFileIsRefused) {
+    writeFile(psion / "Bad.bin", "\x00\x02"s + "ab" + "\xFF\xFF\x00\x00\x00\x00"s);
+    startServer();
+    const Finished refused = organiser({"boot", "BAD", "--address", "2000"});
+    EXPECT_EQ(refused.status, 3);
+    EXPECT_NE((refused.output + refused.error).find("188"), std::string::npos)
+        << refused.output << refused.error;
+    EXPECT_EQ(organiser({"time"}).status, 0);
+}
+
+TEST_F(ServicesTest, SpreadsheetsGoThereAndBackInEveryFormat) {
+    startServer();
+    writeFile(home / "cells",
+              "A1 'Item\r\nB1 'Price\r\nA2 'Tea\r\nB2 1.25\r\nA3 'Cup\r\nB3 3\r\nB4 =SUM(B2:B3)\r\n");
+    for (const std::string format : {"wks", "dif", "csv", "txt", "tab"}) {
+        const Finished saved = organiser(
+            {"sheet-save", (home / "cells").string(), "--as", "SHEET" + format, "--format", format}, faults);
+        ASSERT_EQ(saved.status, 0) << format << saved.output << saved.error;
+        const Finished loaded = organiser({"sheet-load", "SHEET" + format, "--format", format}, faults);
+        ASSERT_EQ(loaded.status, 0) << format << loaded.output << loaded.error;
+        EXPECT_NE(loaded.output.find("Price"), std::string::npos) << format << loaded.output;
+        if (format == "wks") {
+            EXPECT_NE(loaded.output.find("B4 =SUM(B2:B3)"), std::string::npos) << loaded.output;
+        }
+        if (format != "csv") {
+            EXPECT_NE(loaded.output.find("B3 3"), std::string::npos) << format << loaded.output;
+        }
+    }
+}
+
+TEST_F(ServicesTest, AMissingWorksheetIsRefusedWithTheErrorNumberInDigits) {
+    startServer();
+    const Finished refused = organiser({"sheet-load", "NONE", "--format", "wks"});
+    EXPECT_EQ(refused.status, 3);
+    EXPECT_NE((refused.output + refused.error).find("53"), std::string::npos)
+        << refused.output << refused.error;
+}
+
+}  // namespace
+}  // namespace velmora::e2e
