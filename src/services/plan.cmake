@@ -2,5 +2,6 @@
 velmora_library(plan
   SOURCES
     plan_cells.cpp
+    plan_menu.cpp
     plan_service.cpp
   LIBS velmora_services velmora_spreadsheet)
