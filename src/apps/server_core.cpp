@@ -1,21 +1,8 @@
 #include "apps/server_core.h"
 
-#include <vector>
+#include "services/plan_menu.h"
 
 namespace velmora {
-namespace {
-
-/// The worksheet formats offered to the Organiser.
-std::vector<SheetFormatEntry> offeredFormats() {
-    std::vector<SheetFormatEntry> formats;
-    for (int format = XlsAvailable() ? kFormatXls : kFormatWks; format <= kFormatTab; ++format) {
-        formats.push_back({static_cast<std::uint8_t>(format), FormatName(format, true)});
-    }
-    return formats;
-}
-
-}  // namespace
-
 ServerCore::ServerCore(const ServerCoreParts& parts)
     : tools_(parts.files, parts.rules, transfer),
       controller_({parts.view, parts.box, strings, options, transfer, parts.port, parts.ComTimer, parts.PLPtimer,

@@ -149,18 +149,18 @@ std::string plainText(double value) {
     if (exponent >= 15 || exponent < -4) {
         out += digits[0];
         if (count > 1) {
-            out += '.' + digits.substr(1);
+            out.append(1, '.').append(digits, 1, std::string::npos);
         }
         const int magnitude = std::abs(exponent);
         out += exponent < 0 ? "E-" : "E+";
-        out += (magnitude < 10 ? "0" : "") + std::to_string(magnitude);
+        out.append(magnitude < 10 ? "0" : "").append(std::to_string(magnitude));
     } else if (exponent < 0) {
-        out += "0." + std::string(static_cast<std::size_t>(-exponent - 1), '0') + digits;
+        out.append("0.").append(static_cast<std::size_t>(-exponent - 1), '0').append(digits);
     } else if (count <= exponent + 1) {
-        out += digits + std::string(static_cast<std::size_t>(exponent + 1 - count), '0');
+        out.append(digits).append(static_cast<std::size_t>(exponent + 1 - count), '0');
     } else {
         const auto whole = static_cast<std::size_t>(exponent + 1);
-        out += digits.substr(0, whole) + '.' + digits.substr(whole);
+        out.append(digits, 0, whole).append(1, '.').append(digits, whole, std::string::npos);
     }
     return out;
 }
