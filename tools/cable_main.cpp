@@ -87,7 +87,8 @@ int main(int argc, char** argv) {
             return usage();
         }
     }
-    // Bytes are to arrive on time, not when the system finds it convenient to wake a sleeper (50 µs by default).
+    // Bytes are to arrive on time, not when the system finds it convenient to wake a sleeper (50 µs by
+    // default).
     ::prctl(PR_SET_TIMERSLACK, 1UL);
     struct sigaction action = {};
     action.sa_handler = requestStop;

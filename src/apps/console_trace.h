@@ -28,7 +28,8 @@ class ConsoleTrace : public TraceSink {
 
     bool logging() const override { return output_ != nullptr; }
     bool categoryEnabled(std::string_view category) override {
-        return categories_.empty() || std::find(categories_.begin(), categories_.end(), category) != categories_.end();
+        return categories_.empty() ||
+               std::find(categories_.begin(), categories_.end(), category) != categories_.end();
     }
     void addline(const std::string& text) override {
         char stamp[32];

@@ -52,11 +52,19 @@ HeadlessServer::HeadlessServer(const ServerArguments& arguments)
              },
              [this](std::int32_t state) { stateChanged(state); }}),
       box_([this](const std::string& line) { printError(line); }),
-      core_({view_, box_, files_, rules_, port_, debug_, ComTimer_, PLPtimer_, DisplayTimer_, clock_, zone_, yield_}),
+      core_({view_, box_, files_, rules_, port_, debug_, ComTimer_, PLPtimer_, DisplayTimer_, clock_, zone_,
+             yield_}),
       form_(core_.controller(), view_, core_.options, port_, portNames_),
       ini_(profiles_, rules_, box_),
       settingsStore_(ini_, overrides_),
-      start_({&files_, rules_, ini_, box_, form_, core_.crc, core_.strings, core_.transfer,
+      start_({&files_,
+              rules_,
+              ini_,
+              box_,
+              form_,
+              core_.crc,
+              core_.strings,
+              core_.transfer,
               {folders_.applicationData(), folders_.documents()}},
              overrides_) {
     debug_.showStateOf([this] { return core_.link().linkState(); });
@@ -93,8 +101,8 @@ void HeadlessServer::printError(const std::string& line) {
     std::string text = line;
     const std::string start = "Port COM" + std::to_string(port_.CommPort()) + " ";
     if (line.starts_with(start)) {
-        const std::string device =
-            portNames_.device(static_cast<int>(port_.CommPort())).value_or("COM" + std::to_string(port_.CommPort()));
+        const std::string device = portNames_.device(static_cast<int>(port_.CommPort()))
+                                       .value_or("COM" + std::to_string(port_.CommPort()));
         text += " " + describeOpenFailure(device, port_.lastErrorNumber());
     }
     errorPrinted_ = true;

@@ -54,7 +54,7 @@ class HeadlessServer {
 
     std::FILE* traceFile_ = nullptr;
     bool quitting_ = false;
-    bool failed_ = false;       // the port cannot be opened or failed
+    bool failed_ = false;  // the port cannot be opened or failed
     bool errorPrinted_ = false;
     int exitStatus_ = 0;
 

@@ -78,7 +78,9 @@ class ServerCore {
     class LinkOfController : public LinkControl {
       public:
         explicit LinkOfController(PLP& link) : link_(link) {}
-        std::int32_t PLP_Start(SerialPort& port, Timer& timer) override { return link_.PLP_Start(port, timer); }
+        std::int32_t PLP_Start(SerialPort& port, Timer& timer) override {
+            return link_.PLP_Start(port, timer);
+        }
         void PLP_Stop() override { link_.PLP_Stop(); }
         std::int32_t PLP_ReceiveEvent() override { return link_.PLP_ReceiveEvent(); }
         void PLP_Timeout() override { link_.PLP_Timeout(); }

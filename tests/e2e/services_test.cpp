@@ -85,8 +85,8 @@ TEST_F(ServicesTest, SpreadsheetsGoThereAndBackInEveryFormat) {
         if (format == "wks") {
             EXPECT_NE(loaded.output.find("B4 =SUM(B2:B3)"), std::string::npos) << loaded.output;
         }
-        // A CSV file comes back as one label a line; in the fixed columns a label that is as long as its column
-        // touches the number behind it.
+        // A CSV file comes back as one label a line; in the fixed columns a label that is as long as its
+        // column touches the number behind it.
         if (format != "csv" && format != "txt") {
             EXPECT_NE(loaded.output.find("B3 3"), std::string::npos) << format << loaded.output;
         }
