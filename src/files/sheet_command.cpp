@@ -49,7 +49,7 @@ WksDialect chosenDialect(const Arguments& arguments, const std::string& side) {
 
 /// The sign between fields; empty to find it from the lines.
 std::string chosenSeparator(const Arguments& arguments, int format) {
-    const std::string sign = arguments.value("--separator");
+    std::string sign = arguments.value("--separator");
     if (!arguments.has("--separator")) {
         return format == kFormatTab ? "\t" : ";";
     }

@@ -106,10 +106,15 @@ std::vector<SheetCell> parseCells(const std::string& path, std::string_view text
         SheetCell cell;
         std::string problem = parseLine(line, cell);
         if (problem.empty() && !seen.insert({cell.column, cell.row}).second) {
-            problem = reference(cell) + " was given before";
+            problem = reference(cell).append(" was given before");
         }
         if (!problem.empty()) {
-            throw LocalFileError(path + ", line " + std::to_string(number) + ": " + problem + ".");
+            throw LocalFileError(std::string(path)
+                                     .append(", line ")
+                                     .append(std::to_string(number))
+                                     .append(": ")
+                                     .append(problem)
+                                     .append("."));
         }
         cells.push_back(cell);
     }

@@ -89,7 +89,7 @@ std::string holderId(const std::string& device, const std::string& processes,
     int budget = kMostDescriptors;
     fs::directory_iterator entries(processes, error);
     for (; !error && entries != fs::directory_iterator() && budget > 0; entries.increment(error)) {
-        const std::string id = entries->path().filename().string();
+        std::string id = entries->path().filename().string();
         if (isNumber(id) && holds(entries->path(), file, id == self ? except : std::string(), budget)) {
             return id;
         }

@@ -133,7 +133,7 @@ std::string FunctionName(int code, int count, WksDialect dialect) {
 std::string FunctionCode(std::string_view token, WksDialect dialect) {
     const std::size_t open = token.find('(');
     const std::string name = upperCase(token.substr(0, open));
-    const std::string unknown(1, static_cast<char>(kTokenErr));
+    std::string unknown(1, static_cast<char>(kTokenErr));
     if (name == "OPL") {
         return unknown;
     }

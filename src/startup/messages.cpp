@@ -113,6 +113,7 @@ void get_Messages(clsIniFile& ini, Strings& strings) {
 
 std::vector<MessageKey> messageKeys() {
     std::vector<MessageKey> keys;
+    keys.reserve(std::size(kDisplayKeys) + std::size(kInfoKeys) + std::size(kTextKeys));
     for (const DisplayKey& display : kDisplayKeys) {
         keys.push_back({kDisplaySection, display.key});
     }
