@@ -24,7 +24,8 @@ SetupModel::SetupModel(SerialPort& port, ServerOptions& options, TransferSetting
       options_(options),
       transfer_(transfer),
       probe_(std::move(probe)),
-      dialog_(std::move(dialog)) {}
+      dialog_(std::move(dialog)),
+      portAtOpening_(port.CommPort()) {}
 
 void SetupModel::load() {
     const double rate = numericValue(port_.Settings());

@@ -1,0 +1,326 @@
+#include "ui/qt/frm_setup.h"
+
+#include <QApplication>
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTimer>
+#include <QVBoxLayout>
+#include <utility>
+
+#include "base/byte_text.h"
+#include "ui/port_key_filter.h"
+
+namespace velmora {
+
+namespace {
+
+QString shown(const std::string& text) {
+    return QString::fromStdString(toUtf8(text));
+}
+
+QString describe(const SerialDevice& device) {
+    QStringList parts{QStringLiteral("COM%1").arg(device.number), QString::fromStdString(device.device)};
+    const QString product = QString::fromStdString(device.maker + " " + device.product).trimmed();
+    if (!product.isEmpty()) {
+        parts.append(product);
+    }
+    return parts.join(QStringLiteral("  "));
+}
+
+// Keys without a character move the cursor or leave the box; they are no business of the filter.
+bool isEditingKey(const QKeyEvent& key) {
+    switch (key.key()) {
+        case Qt::Key_Delete:
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+        case Qt::Key_Escape:
+        case Qt::Key_Tab:
+        case Qt::Key_Backtab:
+            return true;
+        default:
+            return key.text().isEmpty();
+    }
+}
+
+}  // namespace
+
+frmSetup::frmSetup(SerialPort& port, ServerOptions& options, TransferSettings& transfer,
+                   SetupModel::Probe probe, ListDevices listDevices, QWidget* parent)
+    : QDialog(parent),
+      model_(port, options, transfer, std::move(probe),
+             {[this] { showState(); },
+              [this] {
+                  if (isVisible() && !keepFocus_) {
+                      txtPortNo->setFocus();
+                  }
+              },
+              [] { QApplication::beep(); }, [this] { closeNow(); }}),
+      listDevices_(std::move(listDevices)) {
+    setWindowTitle(QStringLiteral("Velmora Setup"));
+    build();
+    connectControls();
+    fillDevices();
+    showState();
+}
+
+void frmSetup::build() {
+    grpPort = new QGroupBox(QStringLiteral("Port"));
+    grpPort->setObjectName("grpPort");
+    auto* ports = new QGridLayout(grpPort);
+    for (int i = 1; i <= SetupModel::kOtherPort; ++i) {
+        auto* button = new QRadioButton(i == SetupModel::kOtherPort ? QStringLiteral("COM")
+                                                                    : QStringLiteral("COM%1").arg(i));
+        button->setObjectName(QStringLiteral("obPort_%1").arg(i));
+        ports->addWidget(button, i - 1, 0);
+        obPort[static_cast<std::size_t>(i - 1)] = button;
+        auto* words = new QLabel;
+        ports->addWidget(words, i - 1, i == SetupModel::kOtherPort ? 3 : 1, 1,
+                         i == SetupModel::kOtherPort ? 1 : 3);
+        portWords[static_cast<std::size_t>(i - 1)] = words;
+    }
+    obPort.back()->setAccessibleName(QStringLiteral("Other port"));
+    txtPortNo = new QLineEdit;
+    txtPortNo->setObjectName("txtPortNo");
+    txtPortNo->setAccessibleName(QStringLiteral("Port number"));
+    txtPortNo->setMaximumWidth(fontMetrics().horizontalAdvance('0') * 10);
+    txtPortNo->setAttribute(Qt::WA_InputMethodEnabled, false);
+    pbCheckPort = new QPushButton(QStringLiteral("chec&k"));
+    pbCheckPort->setObjectName("pbCheckPort");
+    pbCheckPort->setAutoDefault(false);
+    ports->addWidget(txtPortNo, 4, 1);
+    ports->addWidget(pbCheckPort, 4, 2);
+    ports->setColumnStretch(3, 1);
+    cboPresentPorts = new QComboBox;
+    cboPresentPorts->setObjectName("cboPresentPorts");
+    cboPresentPorts->setAccessibleName(QStringLiteral("Serial devices that are present"));
+    cboPresentPorts->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    cboPresentPorts->setMinimumContentsLength(34);
+    pbRefreshPorts = new QPushButton(QStringLiteral("&Refresh"));
+    pbRefreshPorts->setObjectName("pbRefreshPorts");
+    pbRefreshPorts->setAutoDefault(false);
+    ports->addWidget(cboPresentPorts, 5, 0, 1, 3);
+    ports->addWidget(pbRefreshPorts, 5, 3, Qt::AlignLeft);
+    lblDeviceHint = new QLabel;
+    lblDeviceHint->setObjectName("lblDeviceHint");
+    lblDeviceHint->setWordWrap(true);
+    ports->addWidget(lblDeviceHint, 6, 0, 1, 4);
+    lblStatus = new QLabel;
+    lblStatus->setObjectName("lblStatus");
+    lblStatus->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("COM99  wasn't checked yet")));
+    ports->addWidget(lblStatus, 7, 0, 1, 4);
+
+    grpBaud = new QGroupBox(QStringLiteral("Baud"));
+    grpBaud->setObjectName("grpBaud");
+    auto* rates = new QHBoxLayout(grpBaud);
+    for (std::size_t i = 0; i < obBaud.size(); ++i) {
+        const QString rate = QString::number(SetupModel::kBaudRates[i]);
+        obBaud[i] = new QRadioButton(rate);
+        obBaud[i]->setObjectName("obBaud_" + rate);
+        rates->addWidget(obBaud[i]);
+    }
+    auto* options = new QGroupBox(QStringLiteral("Options"));
+    auto* optionRows = new QGridLayout(options);
+    cbAutoStart = new QCheckBox(QStringLiteral("&Autostart"));
+    cbAutoStart->setObjectName("cbAutoStart");
+    cboFileType = new QComboBox;
+    cboFileType->setObjectName("cboFileType");
+    for (const char* type : SetupModel::kFileTypes) {
+        cboFileType->addItem(QString::fromLatin1(type));
+    }
+    auto* typeLabel = new QLabel(QStringLiteral("&Transfer data-files as"));
+    typeLabel->setBuddy(cboFileType);
+    optionRows->addWidget(cbAutoStart, 0, 0, 1, 2);
+    optionRows->addWidget(typeLabel, 1, 0);
+    optionRows->addWidget(cboFileType, 1, 1);
+
+    lblBusy = new QLabel(QStringLiteral("Testing the ports..."));
+    lblBusy->setObjectName("lblBusy");
+    pbOK = new QPushButton(QStringLiteral("OK"));
+    pbOK->setObjectName("pbOK");
+    pbOK->setDefault(true);
+    pbCancel = new QPushButton(QStringLiteral("Cancel"));
+    pbCancel->setObjectName("pbCancel");
+    auto* buttons = new QHBoxLayout;
+    buttons->addWidget(lblBusy, 1);
+    buttons->addWidget(pbOK);
+    buttons->addWidget(pbCancel);
+    auto* all = new QVBoxLayout(this);
+    all->addWidget(grpPort);
+    all->addWidget(grpBaud);
+    all->addWidget(options);
+    all->addLayout(buttons);
+
+    QWidget* before = obPort[0];
+    for (QWidget* next : std::initializer_list<QWidget*>{
+             obPort[1], obPort[2], obPort[3], obPort[4], txtPortNo, pbCheckPort, cboPresentPorts,
+             pbRefreshPorts, obBaud[0], obBaud[1], obBaud[2], cbAutoStart, cboFileType, pbOK, pbCancel}) {
+        setTabOrder(before, next);
+        before = next;
+    }
+}
+
+void frmSetup::connectControls() {
+    for (int i = 1; i <= SetupModel::kOtherPort; ++i) {
+        connect(obPort[static_cast<std::size_t>(i - 1)], &QRadioButton::clicked, this,
+                [this, i] { model_.selectPort(i); });
+    }
+    for (std::size_t i = 0; i < obBaud.size(); ++i) {
+        connect(obBaud[i], &QRadioButton::clicked, this,
+                [this, i] { model_.selectBaud(SetupModel::kBaudRates[i]); });
+    }
+    connect(txtPortNo, &QLineEdit::textEdited, this,
+            [this](const QString& text) { model_.setPortText(fromUtf8(text.toStdString()).value_or("?")); });
+    txtPortNo->installEventFilter(this);
+    connect(pbCheckPort, &QPushButton::clicked, this, [this] { model_.pbCheckPort_Click(); });
+    connect(cboPresentPorts, &QComboBox::activated, this, &frmSetup::deviceChosen);
+    connect(pbRefreshPorts, &QPushButton::clicked, this, &frmSetup::fillDevices);
+    connect(cbAutoStart, &QCheckBox::clicked, this, [this](bool on) { model_.setAutoStart(on); });
+    connect(cboFileType, &QComboBox::activated, this, [this](int type) { model_.setFileType(type); });
+    connect(pbOK, &QPushButton::clicked, this, [this] {
+        accepting_ = true;
+        model_.pbOK_Click();
+        accepting_ = false;
+    });
+    connect(pbCancel, &QPushButton::clicked, this, &frmSetup::reject);
+}
+
+void frmSetup::showEvent(QShowEvent* event) {
+    QDialog::showEvent(event);
+    if (!shownOnce_) {
+        shownOnce_ = true;
+        QTimer::singleShot(0, this, &frmSetup::load);
+    }
+}
+
+void frmSetup::load() {
+    if (model_.closed()) {
+        return;
+    }
+    loading_ = true;
+    showState();
+    model_.load();
+    loading_ = false;
+    loaded_ = true;
+    if (!model_.closed()) {
+        showState();
+        model_.activated();
+    }
+}
+
+void frmSetup::showState() {
+    if (!pbCancel) {
+        return;
+    }
+    // What is chosen while the ports are probed would be overwritten by the result.
+    grpPort->setEnabled(!loading_);
+    for (int i = 1; i <= SetupModel::kOtherPort; ++i) {
+        const auto index = static_cast<std::size_t>(i - 1);
+        const PortMark& mark = model_.mark(i);
+        const QString tip = shown(mark.toolTip);
+        QRadioButton* button = obPort[index];
+        button->setChecked(model_.selectedPort() == i);
+        button->setToolTip(tip);
+        const QString words = tip.section(' ', 1);
+        button->setAccessibleDescription(words);
+        portWords[index]->setText(words);
+        QPalette colours = palette();
+        if (!tip.isEmpty()) {
+            // A light ground keeps the fixed colours readable on a dark desktop.
+            const QColor colour(mark.colour.red, mark.colour.green, mark.colour.blue);
+            colours.setColor(QPalette::WindowText, colour);
+            colours.setColor(QPalette::Window, Qt::white);
+        }
+        button->setPalette(colours);
+        button->setAutoFillBackground(!tip.isEmpty() && palette().color(QPalette::Window).lightness() < 128);
+    }
+    if (txtPortNo->text() != shown(model_.portText())) {
+        txtPortNo->setText(shown(model_.portText()));
+    }
+    // The box stays open to the mouse, whose press selects the other port.
+    txtPortNo->setReadOnly(!model_.portTextEnabled());
+    txtPortNo->setFocusPolicy(model_.portTextEnabled() ? Qt::StrongFocus : Qt::ClickFocus);
+    pbCheckPort->setEnabled(model_.portTextEnabled());
+    lblStatus->setText(shown(model_.statusText()));
+    for (std::size_t i = 0; i < obBaud.size(); ++i) {
+        if (model_.baud() == SetupModel::kBaudRates[i]) {
+            obBaud[i]->setChecked(true);
+        }
+    }
+    cbAutoStart->setChecked(model_.autoStart());
+    cboFileType->setCurrentIndex(model_.fileType());
+    pbOK->setEnabled(loaded_ && model_.okEnabled() && !model_.probing());
+    lblBusy->setText(model_.probing() || loading_ ? QStringLiteral("Testing the ports...") : QString());
+}
+
+void frmSetup::fillDevices() {
+    devices_ = listDevices_ ? listDevices_() : std::vector<SerialDevice>();
+    cboPresentPorts->clear();
+    cboPresentPorts->setPlaceholderText(devices_.empty() ? QStringLiteral("No serial device is present")
+                                                         : QStringLiteral("Devices that are present"));
+    for (const SerialDevice& device : devices_) {
+        cboPresentPorts->addItem(describe(device));
+    }
+    cboPresentPorts->setCurrentIndex(-1);
+    lblDeviceHint->clear();
+}
+
+void frmSetup::deviceChosen(int row) {
+    if (row < 0 || static_cast<std::size_t>(row) >= devices_.size()) {
+        return;
+    }
+    const SerialDevice& device = devices_[static_cast<std::size_t>(row)];
+    // The arrow keys choose too: the focus stays in the list.
+    keepFocus_ = true;
+    model_.setPortText(std::to_string(device.number));
+    model_.selectPort(SetupModel::kOtherPort);
+    keepFocus_ = false;
+    QString hint;
+    if (!device.mayOpen) {
+        hint = QString::fromStdString(device.device) + " may not be opened";
+        if (!device.groupToJoin.empty()) {
+            hint +=
+                ": join the group \"" + QString::fromStdString(device.groupToJoin) + "\" and log in again";
+        }
+    }
+    lblDeviceHint->setText(hint);
+}
+
+void frmSetup::changeEvent(QEvent* event) {
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow() && loaded_) {
+        model_.activated();
+    }
+}
+
+bool frmSetup::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == txtPortNo && event->type() == QEvent::MouseButtonPress &&
+        static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) {
+        model_.portTextPressed();
+    }
+    if (watched == txtPortNo && event->type() == QEvent::KeyPress) {
+        const auto& key = *static_cast<QKeyEvent*>(event);
+        if (!isEditingKey(key) && !portKeyPasses(key.text().at(0).unicode())) {
+            QApplication::beep();
+            return true;
+        }
+    }
+    return QDialog::eventFilter(watched, event);
+}
+
+void frmSetup::reject() {
+    model_.pbCancel_Click();
+}
+
+void frmSetup::closeNow() {
+    done(accepting_ ? Accepted : Rejected);
+}
+
+}  // namespace velmora

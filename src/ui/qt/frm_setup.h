@@ -1,0 +1,77 @@
+// The setup dialog.
+#pragma once
+
+#include <QDialog>
+#include <array>
+#include <functional>
+#include <vector>
+
+#include "serial/port_list.h"
+#include "ui/setup_model.h"
+
+class QCheckBox;
+class QComboBox;
+class QGroupBox;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QRadioButton;
+
+namespace velmora {
+
+/// Shows a SetupModel. The ports are probed once the dialog is on the screen; the probe lets events run, so
+/// the dialog may be cancelled meanwhile.
+class frmSetup : public QDialog {
+    Q_OBJECT
+
+  public:
+    using ListDevices = std::function<std::vector<SerialDevice>()>;
+
+    /// The references must outlive the dialog; `listDevices` names the devices that are present.
+    frmSetup(SerialPort& port, ServerOptions& options, TransferSettings& transfer, SetupModel::Probe probe,
+             ListDevices listDevices, QWidget* parent = nullptr);
+
+    void reject() override;
+
+  protected:
+    void showEvent(QShowEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    void build();
+    void connectControls();
+    void load();
+    void showState();
+    void fillDevices();
+    void deviceChosen(int row);
+    void closeNow();
+
+    SetupModel model_;
+    ListDevices listDevices_;
+    std::vector<SerialDevice> devices_;
+    bool shownOnce_ = false;
+    bool loading_ = false;
+    bool loaded_ = false;
+    bool accepting_ = false;
+    bool keepFocus_ = false;
+
+    QGroupBox* grpPort = nullptr;
+    std::array<QRadioButton*, SetupModel::kOtherPort> obPort{};
+    std::array<QLabel*, SetupModel::kOtherPort> portWords{};
+    QLineEdit* txtPortNo = nullptr;
+    QPushButton* pbCheckPort = nullptr;
+    QComboBox* cboPresentPorts = nullptr;
+    QPushButton* pbRefreshPorts = nullptr;
+    QLabel* lblDeviceHint = nullptr;
+    QLabel* lblStatus = nullptr;
+    QGroupBox* grpBaud = nullptr;
+    std::array<QRadioButton*, SetupModel::kBaudRates.size()> obBaud{};
+    QCheckBox* cbAutoStart = nullptr;
+    QComboBox* cboFileType = nullptr;
+    QLabel* lblBusy = nullptr;
+    QPushButton* pbOK = nullptr;
+    QPushButton* pbCancel = nullptr;
+};
+
+}  // namespace velmora
