@@ -1,0 +1,26 @@
+#include "ui/qt/message_label.h"
+
+#include <algorithm>
+
+#include "ui/qt/qt_text.h"
+
+namespace velmora {
+
+MessageLabel::MessageLabel(QWidget* parent) : QLabel(parent) {
+    setTextFormat(Qt::PlainText);
+    setWordWrap(true);
+}
+
+void MessageLabel::show(const MessageLine& line) {
+    lines_ = line.twoLines ? 2 : 1;
+    setText(qtText(line.text));
+    setAccessibleName(text());
+    setAlignment((line.centred ? Qt::AlignHCenter : Qt::AlignLeft) | Qt::AlignTop);
+    const QFontMetrics metrics = fontMetrics();
+    const int wrapped =
+        metrics.boundingRect(QRect(0, 0, width(), 0), Qt::TextWordWrap | Qt::AlignLeft, text()).height();
+    setFixedHeight(std::max(lines_ * metrics.lineSpacing(), wrapped));
+    setVisible(line.visible);
+}
+
+}  // namespace velmora
