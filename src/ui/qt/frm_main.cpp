@@ -187,10 +187,11 @@ void frmMain::arrange() {
 
     auto* rule = new QFrame(this);
     rule->setFrameShape(QFrame::HLine);
-    rule->setFrameShadow(QFrame::Sunken);
+    rule->setFrameShadow(QFrame::Plain);
+    rule->setForegroundRole(QPalette::Mid);
 
     auto* statistics = new QGridLayout;
-    statistics->setHorizontalSpacing(28);
+    statistics->setHorizontalSpacing(36);
     statistics->setVerticalSpacing(4);
     statistics->addWidget(tlStatLabel[0], 0, 1);
     statistics->addWidget(tlStatLabel[1], 0, 2);

@@ -21,7 +21,7 @@ LcdLine::LcdLine(QWidget* parent) : QLabel(parent) {
                               QStringLiteral("DejaVu Sans Mono"), QStringLiteral("monospace")});
     lcdFont.setStyleHint(QFont::TypeWriter);
     lcdFont.setFixedPitch(true);
-    lcdFont.setPointSizeF(font().pointSizeF() * 1.9);
+    lcdFont.setPointSizeF(font().pointSizeF() * 2.6);
     lcdFont.setBold(true);
     setFont(lcdFont);
     setTextFormat(Qt::PlainText);

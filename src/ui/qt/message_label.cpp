@@ -19,7 +19,8 @@ void MessageLabel::show(const MessageLine& line) {
     const QFontMetrics metrics = fontMetrics();
     const int wrapped =
         metrics.boundingRect(QRect(0, 0, width(), 0), Qt::TextWordWrap | Qt::AlignLeft, text()).height();
-    setFixedHeight(std::max(lines_ * metrics.lineSpacing(), wrapped));
+    // A line without a text takes no room, so that what follows stands close.
+    setFixedHeight(line.text.empty() ? 0 : std::max(lines_ * metrics.lineSpacing(), wrapped));
     setVisible(line.visible);
 }
 

@@ -7,7 +7,8 @@
 
 namespace velmora {
 
-/// Shows a MessageLine as high as it is laid out for, and higher when its text needs more lines.
+/// Shows a MessageLine as high as it is laid out for, and higher when its text needs more lines. Without a
+/// text it takes no room.
 class MessageLabel : public QLabel {
     Q_OBJECT
 
