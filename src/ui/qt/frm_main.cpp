@@ -281,10 +281,8 @@ void frmMain::showMessages(const MessageLines& messages) {
     warningSign_->setVisible(messages.warning);
     tlWarning->setVisible(messages.warning);
     advice_->hide();
-    // The lines are measured at the width that they have beside the sign.
-    messageArea_->layout()->activate();
     for (std::size_t i = 0; i < tlBottomText.size(); ++i) {
-        tlBottomText[i]->show(messages.lines[i]);
+        tlBottomText[i]->show(messages.lines[i], messageWidth(messages.warning));
     }
     if (messages.warning) {
         QAccessibleEvent event(tlBottomText[1], QAccessible::Alert);
@@ -295,10 +293,17 @@ void frmMain::showMessages(const MessageLines& messages) {
 void frmMain::showAdvice(const std::string& text) {
     advice_->setText(QString::fromStdString(text));
     advice_->setAccessibleName(advice_->text());
-    const QRect room(0, 0, tlBottomText[1]->width(), 0);
+    const QRect room(0, 0, messageWidth(warningSign_->isVisibleTo(this)), 0);
     advice_->setFixedHeight(
         advice_->fontMetrics().boundingRect(room, Qt::TextWordWrap, advice_->text()).height());
     advice_->setVisible(!text.empty());
+}
+
+// The width of a message line, known also while the lines or the window are hidden.
+int frmMain::messageWidth(bool besideSign) const {
+    layout()->activate();
+    const int sign = warningSign_->sizeHint().width() + messageArea_->layout()->spacing();
+    return messageArea_->width() - (besideSign ? sign : 0);
 }
 
 std::string frmMain::statsText(StatsLabel label) const {

@@ -87,6 +87,7 @@ class frmMain : public QWidget, public MainView {
     void makeStatistics();
     void makeButtons();
     void arrange();
+    int messageWidth(bool besideSign) const;
     void nameCounters();
     QLabel* counter(StatsLabel label) const;
     QPushButton* button(MainButton button) const;

@@ -11,14 +11,14 @@ MessageLabel::MessageLabel(QWidget* parent) : QLabel(parent) {
     setWordWrap(true);
 }
 
-void MessageLabel::show(const MessageLine& line) {
+void MessageLabel::show(const MessageLine& line, int width) {
     lines_ = line.twoLines ? 2 : 1;
     setText(qtText(line.text));
     setAccessibleName(text());
     setAlignment((line.centred ? Qt::AlignHCenter : Qt::AlignLeft) | Qt::AlignTop);
     const QFontMetrics metrics = fontMetrics();
     const int wrapped =
-        metrics.boundingRect(QRect(0, 0, width(), 0), Qt::TextWordWrap | Qt::AlignLeft, text()).height();
+        metrics.boundingRect(QRect(0, 0, width, 0), Qt::TextWordWrap | Qt::AlignLeft, text()).height();
     // A line without a text takes no room, so that what follows stands close.
     setFixedHeight(line.text.empty() ? 0 : std::max(lines_ * metrics.lineSpacing(), wrapped));
     setVisible(line.visible);

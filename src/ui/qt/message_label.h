@@ -15,7 +15,8 @@ class MessageLabel : public QLabel {
   public:
     explicit MessageLabel(QWidget* parent = nullptr);
 
-    void show(const MessageLine& line);
+    /// `width`: the room for its text, in device-independent pixels.
+    void show(const MessageLine& line, int width);
     /// The number of text lines that it is laid out for.
     int laidOutLines() const { return lines_; }
 

@@ -38,7 +38,11 @@ class FrmMainTest : public QObject {
     void headingsComeFromTheCatalogue();
     void threeCentredMessages();
     void warningIsLeftAlignedAndTellsMoreThanAColour();
+    void longWarningIsReadWhole();
+    void warningBeforeTheWindowIsShownIsLaidOutAlike();
     void clearedMessagesAreHidden();
+    void welcomeComesFirstAndOfflineAfterAStop();
+    void failedLinkStopsTheServerWithTheNextPoll();
     void adviceGoesWithTheMessages();
     void startAndStopByClickAndKey();
     void setupIsClosedToTheUserWhileTheServerRuns();
@@ -212,6 +216,47 @@ void FrmMainTest::warningIsLeftAlignedAndTellsMoreThanAColour() {
     QVERIFY(label("tlBottomText_3")->alignment().testFlag(Qt::AlignLeft));
     QCOMPARE(label("tlBottomText_2")->text(), QStringLiteral("Port COM5 is not accessible!"));
     QCOMPARE(label("tlBottomText_2")->accessibleName(), QStringLiteral("Port COM5 is not accessible!"));
+}
+
+void FrmMainTest::longWarningIsReadWhole() {
+    std::string words;
+    for (int i = 0; i < 40; ++i) {
+        words += "several words ";
+    }
+    rig->controller.ShowWarning(words, "");
+    QTRY_VERIFY(label("tlBottomText_2")->height() >=
+                label("tlBottomText_2")->heightForWidth(label("tlBottomText_2")->width()));
+    QVERIFY(rig->window.rect().contains(
+        label("tlBottomText_2")->mapTo(&rig->window, QPoint(0, label("tlBottomText_2")->height()))));
+}
+
+void FrmMainTest::warningBeforeTheWindowIsShownIsLaidOutAlike() {
+    MessageLines messages;
+    messages.ShowWarning(
+        "No port selected! Plug the adapter in, and tell the program by Setup which one it is.", "");
+    frmMain early;
+    early.showMessages(messages);
+    early.show();
+    rig->window.showMessages(messages);
+    QCOMPARE(early.findChild<QLabel*>(QStringLiteral("tlBottomText_2"))->height(),
+             label("tlBottomText_2")->height());
+}
+
+void FrmMainTest::welcomeComesFirstAndOfflineAfterAStop() {
+    QCOMPARE(line1(), QStringLiteral("Please set PROTO"));
+    QCOMPARE(line2(), QStringLiteral("and click Start!"));
+    rig->reach(WaitLink);
+    rig->controller.setState(Offline);
+    QCOMPARE(line1().trimmed(), QStringLiteral("Server Offline"));
+}
+
+void FrmMainTest::failedLinkStopsTheServerWithTheNextPoll() {
+    rig->reach(LinkFailed);
+    QVERIFY(!button("pbSetup")->isEnabled());
+    rig->time.advance(20ms);
+    QCOMPARE(rig->controller.state(), int{Offline});
+    QVERIFY(button("pbSetup")->isEnabled());
+    QCOMPARE(button("pbStartStop")->accessibleName(), QStringLiteral("Start"));
 }
 
 void FrmMainTest::clearedMessagesAreHidden() {
