@@ -1,11 +1,12 @@
 #!/usr/bin/env bash
 # The main job, end to end: builds, starts the server, and lets a virtual Organiser save and load files over
-# a line of two pseudo-terminals. What is left: build/demo/psion (the PC's side) and build/demo/organiser
-# (what came back), compared at the end.
+# a line of two pseudo-terminals. With a display the server's window is shown; without one it is drawn all the
+# same, and its picture in the middle of a transfer is left as build/demo/window.png. What else is left:
+# build/demo/psion (the PC's side) and build/demo/organiser (what came back), compared at the end.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 scripts/setup.sh
-scripts/build.sh build -DCMAKE_BUILD_TYPE=RelWithDebInfo -- velmorad velmora-organiser velmora-cable
+scripts/build.sh build -DCMAKE_BUILD_TYPE=RelWithDebInfo -- velmorad velmora-organiser velmora-cable velmora-demo-window
 
 bin=$PWD/build/bin
 demo=$PWD/build/demo
@@ -46,6 +47,26 @@ organiser tour
 
 kill $server
 wait $server
+
+# The same server behind its window.
+mkdir -p "$XDG_CONFIG_HOME"
+printf '%s\r\n' '[Settings]' 'Port=40' 'Baud=9600' 'AutoStart=True' "DownloadPath=$demo/psion" \
+  '[Ports]' "COM40=$demo/pc" > "$XDG_CONFIG_HOME/Velmora.ini"
+if [[ -z "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]]; then
+  export QT_QPA_PLATFORM=offscreen
+fi
+"$demo/../tools/velmora-demo-window" "$demo/window.png" > "$demo/window.log" 2>&1 &
+server=$!
+for i in $(seq 300); do printf 'Entry %d\tthe quick brown fox jumps over the lazy dog\r\n' "$i"; done > journal.txt
+organiser save contacts.txt --as CONTACTS
+organiser save journal.txt --as JOURNAL
+organiser load JOURNAL -o journal-again.txt
+cmp journal.txt journal-again.txt
+kill $server
+wait $server
+[[ -s "$demo/window.png" ]]
+echo
+echo "The window while a file came in: build/demo/window.png"
 echo
 echo "What the server showed meanwhile (build/demo/server.log):"
 sort -u "$demo/server.log" | head -12 | sed 's/^/    /'

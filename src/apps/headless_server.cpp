@@ -33,15 +33,8 @@ void printLine(std::FILE* file, const std::string& line) {
 HeadlessServer::HeadlessServer(const ServerArguments& arguments)
     : arguments_(arguments),
       overrides_(overridesOf(arguments)),
-      folders_(processEnvironment()),
-      files_(folders_.temporary()),
-      rules_(currentFolder()),
-      profiles_(files_, rules_),
-      device_(portNames_),
-      watcher_([this] { core_.controller().ComTimer_Tick(); }),
-      port_(device_, yield_, &watcher_),
-      ComTimer_(watcher_),
-      traceSink_(clock_, arguments.traceCategories, traceOutput()),
+      platform_([this] { core_.controller().ComTimer_Tick(); }),
+      traceSink_(platform_.clock, arguments.traceCategories, traceOutput()),
       debug_(traceSink_),
       view_([](const std::string& line) { printLine(stdout, line); },
             [this](const std::string& line) { printError(line); },
@@ -52,20 +45,20 @@ HeadlessServer::HeadlessServer(const ServerArguments& arguments)
              },
              [this](std::int32_t state) { stateChanged(state); }}),
       box_([this](const std::string& line) { printError(line); }),
-      core_({view_, box_, files_, rules_, port_, debug_, ComTimer_, PLPtimer_, DisplayTimer_, clock_, zone_,
-             yield_}),
-      form_(core_.controller(), view_, core_.options, port_, portNames_),
-      ini_(profiles_, rules_, box_),
+      core_({view_, box_, platform_.files, platform_.rules, platform_.port, debug_, platform_.ComTimer,
+             platform_.PLPtimer, platform_.DisplayTimer, platform_.clock, platform_.zone, platform_.yield}),
+      form_(core_.controller(), view_, core_.options, platform_.port, platform_.portNames),
+      ini_(platform_.profiles, platform_.rules, box_),
       settingsStore_(ini_, overrides_),
-      start_({&files_,
-              rules_,
+      start_({&platform_.files,
+              platform_.rules,
               ini_,
               box_,
               form_,
               core_.crc,
               core_.strings,
               core_.transfer,
-              {folders_.applicationData(), folders_.documents()}},
+              {platform_.folders.applicationData(), platform_.folders.documents()}},
              overrides_) {
     debug_.showStateOf([this] { return core_.link().linkState(); });
     core_.controller().setClosingActions({&settingsStore_, {}, {}});
@@ -99,11 +92,11 @@ void HeadlessServer::printError(const std::string& line) {
         return;
     }
     std::string text = line;
-    const std::string start = "Port COM" + std::to_string(port_.CommPort()) + " ";
+    const std::string start = "Port COM" + std::to_string(platform_.port.CommPort()) + " ";
     if (line.starts_with(start)) {
-        const std::string device = portNames_.device(static_cast<int>(port_.CommPort()))
-                                       .value_or("COM" + std::to_string(port_.CommPort()));
-        text += " " + describeOpenFailure(device, port_.lastErrorNumber());
+        const std::string device = platform_.portNames.device(static_cast<int>(platform_.port.CommPort()))
+                                       .value_or("COM" + std::to_string(platform_.port.CommPort()));
+        text += " " + describeOpenFailure(device, platform_.port.lastErrorNumber());
     }
     errorPrinted_ = true;
     printLine(stderr, "velmorad: " + text);
@@ -111,7 +104,8 @@ void HeadlessServer::printError(const std::string& line) {
 
 void HeadlessServer::portFailed() {
     if (!errorPrinted_) {
-        printError("COM" + std::to_string(port_.CommPort()) + " failed: " + port_.lastErrorDescription());
+        printError("COM" + std::to_string(platform_.port.CommPort()) +
+                   " failed: " + platform_.port.lastErrorDescription());
     }
     failed_ = true;
     quit(1);

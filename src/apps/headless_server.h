@@ -7,21 +7,10 @@
 
 #include "apps/console_trace.h"
 #include "apps/controller_form.h"
+#include "apps/platform_parts.h"
 #include "apps/server_arguments.h"
 #include "apps/server_core.h"
-#include "apps/system_zone.h"
-#include "eventloop/port_watcher.h"
-#include "eventloop/qt_event_yield.h"
-#include "eventloop/qt_timer.h"
 #include "link/debug.h"
-#include "platform/known_folders.h"
-#include "platform/posix/posix_files.h"
-#include "platform/posix/posix_paths.h"
-#include "platform/profile/text_profile_files.h"
-#include "platform/system_clock.h"
-#include "serial/comm_posix.h"
-#include "serial/my_comm.h"
-#include "serial/port_names.h"
 #include "startup/comms_link.h"
 #include "startup/ini_file.h"
 #include "startup/ini_settings_store.h"
@@ -60,20 +49,7 @@ class HeadlessServer {
 
     ServerArguments arguments_;
     RunOverrides overrides_;
-    KnownFolders folders_;
-    PosixFiles files_;
-    PosixPaths rules_;
-    TextProfileFiles profiles_;
-    SystemClock clock_;
-    SystemZone zone_;
-    QtEventYield yield_;
-    PortNames portNames_;
-    PosixCommDevice device_;
-    PortWatcher watcher_;
-    myComm port_;
-    WatchedTimer<QtTimer> ComTimer_;
-    QtTimer PLPtimer_;
-    QtTimer DisplayTimer_;
+    PlatformParts platform_;
     ConsoleTrace traceSink_;
     Debug debug_;
     ConsoleView view_;

@@ -1,0 +1,9 @@
+# The server with a window; its objects are a library for tools that show it at work.
+velmora_library(desktop_server
+  SOURCES
+    desktop_dialogs.cpp
+    desktop_server.cpp
+  LIBS velmora_server_core velmora_ui_qt velmora_eventloop velmora_profile)
+
+add_executable(velmora velmora_main.cpp)
+target_link_libraries(velmora PRIVATE velmora_desktop_server)

@@ -1,0 +1,69 @@
+// The server of velmora: everything that it is made of, from the port to the window.
+#pragma once
+
+#include <QObject>
+#include <string>
+
+#include "apps/controller_form.h"
+#include "apps/desktop_dialogs.h"
+#include "apps/platform_parts.h"
+#include "apps/server_core.h"
+#include "link/debug.h"
+#include "startup/comms_link.h"
+#include "startup/ini_file.h"
+#include "startup/ini_settings_store.h"
+#include "startup/run_overrides.h"
+#include "ui/qt/frm_main.h"
+#include "ui/qt/qt_message_box.h"
+#include "ui/qt/window_position.h"
+
+namespace velmora {
+
+/// Serves behind a window until the window closes; needs a QApplication.
+class DesktopServer {
+  public:
+    DesktopServer();
+    DesktopServer(const DesktopServer&) = delete;
+    DesktopServer& operator=(const DesktopServer&) = delete;
+
+    /// Starts up and shows the window; false when the start failed, which a box has told. `commandLine`: what
+    /// stands behind the program's name.
+    bool start(const std::string& commandLine);
+    /// Serves; returns the exit status of the program once the window has closed.
+    int run();
+    /// Ends serving: closes the file and the port, saves nothing, asks nothing. For signals.
+    void stop();
+
+    frmMain& window() { return window_; }
+    ServerController& controller() { return core_.controller(); }
+
+  private:
+    frmMain::Actions windowActions();
+    bool queryUnload(CloseReason reason);
+    void chooseFolder();
+    void openSetup();
+    void placeWindow();
+    void saveWindowPlace();
+    void portFailed();
+    void quit();
+
+    bool quitting_ = false;
+    bool sessionEnds_ = false;  // the desktop session has begun to end
+
+    RunOverrides overrides_;
+    PlatformParts platform_;
+    DesktopDialogs dialogs_;
+    Debug debug_;
+    frmMain window_;
+    QtMessageBox box_;
+    ServerCore core_;
+    ControllerForm form_;
+    clsIniFile ini_;
+    IniSettingsStore settingsStore_;
+    CommsLink start_;
+    QtPositionStore positions_;
+    Registry registry_;
+    QObject session_;  // ends the connections to the session before anything above ends
+};
+
+}  // namespace velmora

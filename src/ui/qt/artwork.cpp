@@ -1,0 +1,63 @@
+#include "ui/qt/artwork.h"
+
+#include <QLayout>
+#include <QLinearGradient>
+#include <QPainter>
+
+/// Makes the pictures known that are linked in with this library. The macro wants the global namespace.
+static void loadPictures() {
+    Q_INIT_RESOURCE(velmora);
+}
+
+namespace velmora {
+namespace {
+
+constexpr QSize kNameSize(136, 28);
+constexpr QColor kFrameTop(0x3A, 0x3E, 0x42);
+constexpr QColor kFrameBottom(0x24, 0x27, 0x2A);
+constexpr QColor kFrameEdge(0x5B, 0x61, 0x66);
+constexpr qreal kFrameRadius = 8;
+
+}  // namespace
+
+QIcon programIcon() {
+    loadPictures();
+    QIcon icon;
+    for (const int size : {16, 24, 32, 48, 64, 128, 256}) {
+        icon.addFile(QStringLiteral(":/velmora/velmora-%1.png").arg(size), QSize(size, size));
+    }
+    return icon;
+}
+
+NameImage::NameImage(QWidget* parent) : QLabel(parent) {
+    loadPictures();
+    name_ = QIcon(QStringLiteral(":/velmora/name.png"));
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+}
+
+QSize NameImage::sizeHint() const {
+    return kNameSize;
+}
+
+void NameImage::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    name_.paint(&painter, rect(), Qt::AlignLeft | Qt::AlignVCenter);
+}
+
+// A label's own hint knows its text only; this one is as large as what is laid out in it.
+QSize DisplayFrame::sizeHint() const {
+    return layout() != nullptr ? layout()->sizeHint() : QLabel::sizeHint();
+}
+
+void DisplayFrame::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    QLinearGradient shade(rect().topLeft(), rect().bottomLeft());
+    shade.setColorAt(0, kFrameTop);
+    shade.setColorAt(1, kFrameBottom);
+    painter.setBrush(shade);
+    painter.setPen(kFrameEdge);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), kFrameRadius, kFrameRadius);
+}
+
+}  // namespace velmora

@@ -1,0 +1,43 @@
+// The window's pictures.
+#pragma once
+
+#include <QIcon>
+#include <QLabel>
+
+namespace velmora {
+
+/// The program's icon in all its sizes.
+QIcon programIcon();
+
+/// The program's name as artwork, sharp at each scale that the artwork was drawn for.
+class NameImage : public QLabel {
+    Q_OBJECT
+
+  public:
+    explicit NameImage(QWidget* parent = nullptr);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    QIcon name_;
+};
+
+/// The background of the display: the dark frame that the glass sits in.
+class DisplayFrame : public QLabel {
+    Q_OBJECT
+
+  public:
+    using QLabel::QLabel;
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+};
+
+}  // namespace velmora

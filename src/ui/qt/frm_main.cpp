@@ -1,0 +1,425 @@
+#include "ui/qt/frm_main.h"
+
+#include <QAccessible>
+#include <QCloseEvent>
+#include <QFrame>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QStyle>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "ui/caption.h"
+#include "ui/qt/artwork.h"
+#include "ui/qt/debug_switch.h"
+#include "ui/qt/lcd_line.h"
+#include "ui/qt/message_label.h"
+#include "ui/qt/qt_text.h"
+
+namespace velmora {
+namespace {
+
+/// Text lines that are kept free for messages, so that the window need not grow when one comes.
+constexpr int kMessageLines = 3;
+
+void call(const std::function<void()>& action) {
+    if (action) {
+        action();
+    }
+}
+
+QString indexed(const char* name, std::size_t index) {
+    return QStringLiteral("%1_%2").arg(QLatin1String(name)).arg(index + 1);
+}
+
+/// The same caption with the letter that Alt presses it by, where the caption has that letter.
+QString withMnemonic(const QString& caption, QChar letter) {
+    QString text = caption;
+    text.replace(QLatin1Char('&'), QLatin1String("&&"));
+    const qsizetype position = text.indexOf(letter, 0, Qt::CaseInsensitive);
+    return position < 0 ? text : text.insert(position, QLatin1Char('&'));
+}
+
+}  // namespace
+
+frmMain::frmMain(QWidget* parent) : QWidget(parent) {
+    setObjectName(QStringLiteral("frmMain"));
+    setWindowTitle(QString::fromLatin1(kProgramName));
+    setWindowIcon(programIcon());
+
+    imgProgName = new NameImage(this);
+    imgProgName->setObjectName(QStringLiteral("imgProgName"));
+    imgProgName->setAccessibleName(QString::fromLatin1(kProgramName));
+    tlProgVers = new QLabel(this);
+    tlProgVers->setObjectName(QStringLiteral("tlProgVers"));
+    tlProgVers->setAccessibleName(tr("Version"));
+
+    makeDisplay();
+    makeMessages();
+    makeStatistics();
+    makeButtons();
+    lblDebug = new DebugSwitch(tr("Debug"), this);
+    lblDebug->setObjectName(QStringLiteral("lblDebug"));
+    lblDebug->setAccessibleName(tr("Debug window"));
+    lblDebug->setToolTip(tr("Double-click to show or hide the protocol monitor"));
+    lblDebug->hide();
+    connect(lblDebug, &DebugSwitch::switched, this, [this] { call(actions_.lblDebug_DblClick); });
+    arrange();
+}
+
+void frmMain::makeDisplay() {
+    imgBGround = new DisplayFrame(this);
+    imgBGround->setObjectName(QStringLiteral("imgBGround"));
+    imgBGround->setAccessibleName(tr("Organiser display"));
+    auto* layout = new QVBoxLayout(imgBGround);
+    layout->setContentsMargins(14, 14, 14, 14);
+    layout->setSpacing(0);
+    for (std::size_t i = 0; i < tlDisplay.size(); ++i) {
+        tlDisplay[i] = new LcdLine(imgBGround);
+        tlDisplay[i]->setObjectName(indexed("tlDisplay", i));
+        tlDisplay[i]->setAccessibleName(tr("Organiser display line %1").arg(i + 1));
+        tlDisplay[i]->setText(QString(LcdLine::kColumns, QLatin1Char(' ')));
+        layout->addWidget(tlDisplay[i], 0, Qt::AlignHCenter);
+    }
+}
+
+void frmMain::makeMessages() {
+    messageArea_ = new QWidget(this);
+    warningSign_ = new QLabel(messageArea_);
+    const int size = style()->pixelMetric(QStyle::PM_LargeIconSize);
+    warningSign_->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(size, size));
+    warningSign_->setAccessibleName(tr("Warning"));
+    warningSign_->hide();
+    tlWarning = new QLabel(tr("Error"), messageArea_);
+    tlWarning->setObjectName(QStringLiteral("tlWarning"));
+    tlWarning->setAccessibleName(tlWarning->text());
+    QFont bold = tlWarning->font();
+    bold.setBold(true);
+    tlWarning->setFont(bold);
+    tlWarning->hide();
+
+    auto* texts = new QVBoxLayout;
+    texts->setSpacing(0);
+    texts->addWidget(tlWarning);
+    for (std::size_t i = 0; i < tlBottomText.size(); ++i) {
+        tlBottomText[i] = new MessageLabel(messageArea_);
+        tlBottomText[i]->setObjectName(indexed("tlBottomText", i));
+        tlBottomText[i]->hide();
+        texts->addWidget(tlBottomText[i]);
+    }
+    advice_ = new QLabel(messageArea_);
+    advice_->setObjectName(QStringLiteral("lblAdvice"));
+    advice_->setTextFormat(Qt::PlainText);
+    advice_->setWordWrap(true);
+    advice_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    advice_->hide();
+    texts->addWidget(advice_);
+    texts->addStretch();
+
+    auto* layout = new QHBoxLayout(messageArea_);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(12);
+    layout->addWidget(warningSign_, 0, Qt::AlignTop);
+    layout->addLayout(texts, 1);
+    messageArea_->setMinimumHeight(kMessageLines * fontMetrics().lineSpacing());
+}
+
+void frmMain::makeStatistics() {
+    const auto makeCounter = [this](const char* name) {
+        auto* label = new QLabel(QStringLiteral("0"), this);
+        label->setObjectName(QLatin1String(name));
+        label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        label->hide();
+        return label;
+    };
+    tlBytesRecv = makeCounter("tlBytesRecv");
+    tlBytesSent = makeCounter("tlBytesSent");
+    tlFilesRecv = makeCounter("tlFilesRecv");
+    tlFilesSent = makeCounter("tlFilesSent");
+    const std::array<QString, 4> captions = {tr("Files"), tr("Bytes"), tr("Received"), tr("Sent")};
+    for (std::size_t i = 0; i < tlStatLabel.size(); ++i) {
+        tlStatLabel[i] = new QLabel(captions[i], this);
+        tlStatLabel[i]->setObjectName(indexed("tlStatLabel", i));
+        tlStatLabel[i]->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        tlStatLabel[i]->hide();
+    }
+    nameCounters();
+}
+
+void frmMain::makeButtons() {
+    const auto makeButton = [this](const char* name, const QString& caption, const QString& tip,
+                                   std::function<void()> Actions::*action) {
+        auto* made = new QPushButton(caption, this);
+        made->setObjectName(QLatin1String(name));
+        made->setToolTip(tip);
+        // Enter presses the button that has the focus, as Space does.
+        made->setAutoDefault(true);
+        connect(made, &QPushButton::clicked, this, [this, action] { call(actions_.*action); });
+        return made;
+    };
+    pbStartStop =
+        makeButton("pbStartStop", tr("&Start"), tr("Start or stop the server"), &Actions::pbStartStop_Click);
+    pbSetup = makeButton("pbSetup", tr("Set&up\u2026"),
+                         tr("Choose the serial port, its speed and the file type"), &Actions::pbSetup_Click);
+    pbFolder =
+        makeButton("pbFolder", tr("&Folder\u2026"),
+                   tr("Choose the folder that files are saved to and loaded from"), &Actions::pbFolder_Click);
+    pbHide = makeButton("pbHide", tr("&Hide"), tr("Minimise the window; the server goes on"),
+                        &Actions::pbHide_Click);
+    pbShutDown = makeButton("pbShutDown", tr("Shut &down"), tr("Stop the server and end the program"),
+                            &Actions::pbShutDown_Click);
+    setButtonCaption(MainButton::StartStop, "Start");
+    pbSetup->setAccessibleName(tr("Setup"));
+    pbFolder->setAccessibleName(tr("Folder"));
+    pbHide->setAccessibleName(tr("Hide"));
+    pbShutDown->setAccessibleName(tr("Shut down"));
+}
+
+void frmMain::arrange() {
+    auto* heading = new QHBoxLayout;
+    heading->addWidget(imgProgName);
+    heading->addStretch();
+    heading->addWidget(lblDebug);
+    heading->addWidget(tlProgVers, 0, Qt::AlignBottom);
+
+    auto* rule = new QFrame(this);
+    rule->setFrameShape(QFrame::HLine);
+    rule->setFrameShadow(QFrame::Plain);
+    rule->setForegroundRole(QPalette::Mid);
+
+    auto* statistics = new QGridLayout;
+    statistics->setHorizontalSpacing(36);
+    statistics->setVerticalSpacing(4);
+    statistics->addWidget(tlStatLabel[0], 0, 1);
+    statistics->addWidget(tlStatLabel[1], 0, 2);
+    statistics->addWidget(tlStatLabel[2], 1, 0);
+    statistics->addWidget(tlStatLabel[3], 2, 0);
+    statistics->addWidget(tlFilesRecv, 1, 1);
+    statistics->addWidget(tlBytesRecv, 1, 2);
+    statistics->addWidget(tlFilesSent, 2, 1);
+    statistics->addWidget(tlBytesSent, 2, 2);
+    // Wide enough for the widest count, so that the grid stands still while it counts.
+    const int widest = fontMetrics().horizontalAdvance(QStringLiteral("9,999,999"));
+    statistics->setColumnMinimumWidth(1, widest);
+    statistics->setColumnMinimumWidth(2, widest);
+    statistics->setColumnStretch(0, 1);
+    statistics->setColumnStretch(3, 1);
+
+    auto* buttons = new QHBoxLayout;
+    for (QPushButton* each : {pbStartStop, pbSetup, pbFolder, pbHide, pbShutDown}) {
+        buttons->addWidget(each);
+    }
+
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(16, 14, 16, 14);
+    layout->setSpacing(12);
+    layout->addLayout(heading);
+    layout->addWidget(imgBGround);
+    layout->addWidget(messageArea_);
+    layout->addWidget(rule);
+    layout->addLayout(statistics);
+    layout->addLayout(buttons);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+
+    QWidget* previous = pbStartStop;
+    for (QWidget* next : std::initializer_list<QWidget*>{pbSetup, pbFolder, pbHide, pbShutDown, lblDebug}) {
+        setTabOrder(previous, next);
+        previous = next;
+    }
+}
+
+QLabel* frmMain::counter(StatsLabel label) const {
+    switch (label) {
+        case StatsLabel::BytesRecv:
+            return tlBytesRecv;
+        case StatsLabel::BytesSent:
+            return tlBytesSent;
+        case StatsLabel::FilesRecv:
+            return tlFilesRecv;
+        case StatsLabel::FilesSent:
+            return tlFilesSent;
+    }
+    return tlBytesRecv;
+}
+
+QPushButton* frmMain::button(MainButton button) const {
+    switch (button) {
+        case MainButton::StartStop:
+            return pbStartStop;
+        case MainButton::Setup:
+            return pbSetup;
+        case MainButton::Folder:
+            return pbFolder;
+        case MainButton::Hide:
+            return pbHide;
+        case MainButton::ShutDown:
+            return pbShutDown;
+    }
+    return pbStartStop;
+}
+
+void frmMain::setDisplayLine(int line, const std::string& text) {
+    LcdLine* shown = tlDisplay[line == 1 ? 0 : 1];
+    shown->setText(qtText(text));
+    shown->setAccessibleDescription(shown->text().trimmed());
+}
+
+void frmMain::showStatus(const std::string& text) {
+    imgBGround->setToolTip(qtText(text));
+    imgBGround->setAccessibleDescription(qtText(text));
+    QAccessibleEvent event(imgBGround, QAccessible::DescriptionChanged);
+    QAccessible::updateAccessibility(&event);
+}
+
+// The controller tells by text, captions and buttons what the state means for the window.
+void frmMain::showState(std::int32_t /*state*/) {}
+
+void frmMain::showMessages(const MessageLines& messages) {
+    warningSign_->setVisible(messages.warning);
+    tlWarning->setVisible(messages.warning);
+    advice_->hide();
+    for (std::size_t i = 0; i < tlBottomText.size(); ++i) {
+        tlBottomText[i]->show(messages.lines[i], messageWidth(messages.warning));
+    }
+    if (messages.warning) {
+        QAccessibleEvent event(tlBottomText[1], QAccessible::Alert);
+        QAccessible::updateAccessibility(&event);
+    }
+}
+
+void frmMain::showAdvice(const std::string& text) {
+    advice_->setText(QString::fromStdString(text));
+    advice_->setAccessibleName(advice_->text());
+    const QRect room(0, 0, messageWidth(warningSign_->isVisibleTo(this)), 0);
+    advice_->setFixedHeight(
+        advice_->fontMetrics().boundingRect(room, Qt::TextWordWrap, advice_->text()).height());
+    advice_->setVisible(!text.empty());
+}
+
+// The width of a message line, known also while the lines or the window are hidden.
+int frmMain::messageWidth(bool besideSign) const {
+    layout()->activate();
+    const int sign = warningSign_->sizeHint().width() + messageArea_->layout()->spacing();
+    return messageArea_->width() - (besideSign ? sign : 0);
+}
+
+std::string frmMain::statsText(StatsLabel label) const {
+    // The counters hold digits, separators and unit letters only.
+    return counter(label)->text().toStdString();
+}
+
+void frmMain::setStatsText(StatsLabel label, const std::string& text) {
+    counter(label)->setText(qtText(text));
+    nameCounters();
+}
+
+void frmMain::setHeading(StatsHeading heading, const std::string& text) {
+    tlStatLabel[static_cast<std::size_t>(heading) - 1]->setText(qtText(text));
+    nameCounters();
+}
+
+// A screen reader meets a number without its row and column.
+void frmMain::nameCounters() {
+    const auto name = [this](QLabel* label, std::size_t what, std::size_t where) {
+        label->setAccessibleName(
+            QStringLiteral("%1 %2: %3")
+                .arg(tlStatLabel[what]->text(), tlStatLabel[where]->text(), label->text()));
+    };
+    for (QLabel* heading : tlStatLabel) {
+        heading->setAccessibleName(heading->text());
+    }
+    name(tlFilesRecv, 0, 2);
+    name(tlFilesSent, 0, 3);
+    name(tlBytesRecv, 1, 2);
+    name(tlBytesSent, 1, 3);
+}
+
+void frmMain::showStatistics() {
+    for (QLabel* label : tlStatLabel) {
+        label->show();
+    }
+    for (QLabel* label : {tlBytesRecv, tlBytesSent, tlFilesRecv, tlFilesSent}) {
+        label->show();
+    }
+}
+
+void frmMain::setWarningCaption(const std::string& text) {
+    tlWarning->setText(qtText(text));
+    tlWarning->setAccessibleName(tlWarning->text());
+}
+
+void frmMain::setVersion(const std::string& version, const std::string& build) {
+    tlProgVers->setText(qtText(version + " " + build));
+    tlProgVers->setAccessibleName(tr("Version %1").arg(tlProgVers->text()));
+}
+
+void frmMain::showDebugLabel(bool visible) {
+    lblDebug->setVisible(visible);
+}
+
+void frmMain::setButtonEnabled(MainButton which, bool enabled) {
+    button(which)->setEnabled(enabled);
+}
+
+void frmMain::setButtonCaption(MainButton which, const std::string& caption) {
+    const QString text = qtText(caption);
+    button(which)->setText(withMnemonic(text, QLatin1Char('s')));
+    button(which)->setAccessibleName(text);
+}
+
+void frmMain::setFocus(MainButton which) {
+    button(which)->setFocus();
+}
+
+void frmMain::setCaption(const std::string& caption) {
+    setWindowTitle(qtText(caption));
+}
+
+// Before the window is shown its state is only noted, and it appears in that state.
+void frmMain::minimise() {
+    setWindowState(windowState() | Qt::WindowMinimized);
+}
+
+void frmMain::restore() {
+    setWindowState(windowState() & ~(Qt::WindowMinimized | Qt::WindowMaximized | Qt::WindowFullScreen));
+}
+
+void frmMain::bringToFront() {
+    raise();
+    activateWindow();
+}
+
+void frmMain::close() {
+    closingByProgram_ = true;
+    QWidget::close();
+    closingByProgram_ = false;
+}
+
+void frmMain::closeEvent(QCloseEvent* event) {
+    const CloseReason reason = closingByProgram_ ? CloseReason::Program : CloseReason::User;
+    if (actions_.queryUnload && !actions_.queryUnload(reason)) {
+        event->ignore();
+        return;
+    }
+    event->accept();
+    call(actions_.closed);
+}
+
+void frmMain::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::WindowStateChange && actions_.resized) {
+        actions_.resized(isMinimized());
+    }
+}
+
+void frmMain::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    if (!event->spontaneous() && actions_.resized) {
+        actions_.resized(isMinimized());
+    }
+}
+
+}  // namespace velmora

@@ -1,0 +1,120 @@
+// The main window.
+#pragma once
+
+#include <QWidget>
+#include <array>
+#include <functional>
+#include <string>
+
+#include "ui/main_view.h"
+#include "ui/server_controller.h"
+
+class QCloseEvent;
+class QGridLayout;
+class QLabel;
+class QPushButton;
+class QShowEvent;
+
+namespace velmora {
+
+class DebugSwitch;
+class DisplayFrame;
+class LcdLine;
+class MessageLabel;
+class NameImage;
+
+/// Shows what the server controller tells it, and hands over what the user does. It decides nothing.
+class frmMain : public QWidget, public MainView {
+    Q_OBJECT
+
+  public:
+    /// What the user does with the window; each may be missing.
+    struct Actions {
+        std::function<void()> pbStartStop_Click;
+        std::function<void()> pbSetup_Click;
+        std::function<void()> pbFolder_Click;
+        std::function<void()> pbHide_Click;
+        std::function<void()> pbShutDown_Click;
+        std::function<void()> lblDebug_DblClick;
+        /// The window is about to close; false keeps it open.
+        std::function<bool(CloseReason)> queryUnload;
+        /// The window has closed.
+        std::function<void()> closed;
+        /// The window appeared, was resized, minimised or restored.
+        std::function<void(bool minimised)> resized;
+    };
+
+    explicit frmMain(QWidget* parent = nullptr);
+
+    void setActions(Actions actions) { actions_ = std::move(actions); }
+
+    /// A sentence under the messages that says what to do about the warning; it goes with the messages.
+    /// UTF-8.
+    void showAdvice(const std::string& text);
+
+    // MainView
+    void setDisplayLine(int line, const std::string& text) override;
+    void showStatus(const std::string& text) override;
+    void showState(std::int32_t state) override;
+    void showMessages(const MessageLines& messages) override;
+    std::string statsText(StatsLabel label) const override;
+    void setStatsText(StatsLabel label, const std::string& text) override;
+    void setHeading(StatsHeading heading, const std::string& text) override;
+    void showStatistics() override;
+    void setWarningCaption(const std::string& text) override;
+    void setVersion(const std::string& version, const std::string& build) override;
+    void showDebugLabel(bool visible) override;
+    void setButtonEnabled(MainButton button, bool enabled) override;
+    void setButtonCaption(MainButton button, const std::string& caption) override;
+    using QWidget::setFocus;
+    void setFocus(MainButton button) override;
+    void setCaption(const std::string& caption) override;
+    bool isVisible() const override { return QWidget::isVisible(); }
+    bool isMinimised() const override { return isMinimized(); }
+    void minimise() override;
+    void restore() override;
+    void bringToFront() override;
+    void close() override;
+
+  protected:
+    void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+
+  private:
+    void makeDisplay();
+    void makeMessages();
+    void makeStatistics();
+    void makeButtons();
+    void arrange();
+    int messageWidth(bool besideSign) const;
+    void nameCounters();
+    QLabel* counter(StatsLabel label) const;
+    QPushButton* button(MainButton button) const;
+
+    Actions actions_;
+    bool closingByProgram_ = false;
+
+    NameImage* imgProgName;
+    QLabel* tlProgVers;
+    DebugSwitch* lblDebug;
+    DisplayFrame* imgBGround;
+    std::array<LcdLine*, 2> tlDisplay{};
+    QWidget* messageArea_;
+    QLabel* warningSign_;
+    QLabel* tlWarning;
+    std::array<MessageLabel*, 3> tlBottomText{};
+    QLabel* advice_;
+    std::array<QLabel*, 4> tlStatLabel{};
+    QLabel* tlBytesRecv;
+    QLabel* tlBytesSent;
+    QLabel* tlFilesRecv;
+    QLabel* tlFilesSent;
+    QPushButton* pbStartStop;
+    QPushButton* pbSetup;
+    QPushButton* pbFolder;
+    QPushButton* pbHide;
+    QPushButton* pbShutDown;
+};
+
+}  // namespace velmora

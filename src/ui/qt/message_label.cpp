@@ -1,0 +1,27 @@
+#include "ui/qt/message_label.h"
+
+#include <algorithm>
+
+#include "ui/qt/qt_text.h"
+
+namespace velmora {
+
+MessageLabel::MessageLabel(QWidget* parent) : QLabel(parent) {
+    setTextFormat(Qt::PlainText);
+    setWordWrap(true);
+}
+
+void MessageLabel::show(const MessageLine& line, int width) {
+    lines_ = line.twoLines ? 2 : 1;
+    setText(qtText(line.text));
+    setAccessibleName(text());
+    setAlignment((line.centred ? Qt::AlignHCenter : Qt::AlignLeft) | Qt::AlignTop);
+    const QFontMetrics metrics = fontMetrics();
+    const int wrapped =
+        metrics.boundingRect(QRect(0, 0, width, 0), Qt::TextWordWrap | Qt::AlignLeft, text()).height();
+    // A line without a text takes no room, so that what follows stands close.
+    setFixedHeight(line.text.empty() ? 0 : std::max(lines_ * metrics.lineSpacing(), wrapped));
+    setVisible(line.visible);
+}
+
+}  // namespace velmora

@@ -1,0 +1,93 @@
+#include "ui/qt/window_position.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+
+namespace velmora {
+namespace {
+
+constexpr int kTwipsPerPixel = 15;
+
+/// A position between two pixels goes to the lower one, also left of the screen.
+int pixels(std::int32_t twips) {
+    const int whole = twips / kTwipsPerPixel;
+    return twips % kTwipsPerPixel < 0 ? whole - 1 : whole;
+}
+
+QSize screenSize() {
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    return screen != nullptr ? screen->size() : QSize();
+}
+
+}  // namespace
+
+QtPositionStore::QtPositionStore() : settings_(QStringLiteral("Quillbrook"), QStringLiteral("Velmora")) {
+    settings_.setFallbacksEnabled(false);
+}
+
+QtPositionStore::QtPositionStore(const QString& iniFile) : settings_(iniFile, QSettings::IniFormat) {}
+
+// The settings file keeps numbers as text, a negative one as the 32-bit number that it is stored as.
+std::optional<StoredValue> QtPositionStore::read(const std::string& name) {
+    const QVariant value = settings_.value(QString::fromStdString(name));
+    if (!value.isValid()) {
+        return std::nullopt;
+    }
+    bool isNumber = false;
+    const uint number = value.toUInt(&isNumber);
+    if (isNumber) {
+        return StoredValue(std::uint32_t{number});
+    }
+    return StoredValue(value.toString().toStdString());
+}
+
+bool QtPositionStore::write(const std::string& name, const StoredValue& value) {
+    const auto* number = std::get_if<std::uint32_t>(&value);
+    settings_.setValue(QString::fromStdString(name),
+                       number != nullptr ? QVariant(uint{*number})
+                                         : QVariant(QString::fromStdString(std::get<std::string>(value))));
+    settings_.sync();
+    return settings_.status() == QSettings::NoError;
+}
+
+std::int32_t QtWindowGeometry::left() const {
+    return window_.x() * kTwipsPerPixel;
+}
+
+std::int32_t QtWindowGeometry::top() const {
+    return window_.y() * kTwipsPerPixel;
+}
+
+std::int32_t QtWindowGeometry::width() const {
+    return window_.frameGeometry().width() * kTwipsPerPixel;
+}
+
+std::int32_t QtWindowGeometry::height() const {
+    return window_.frameGeometry().height() * kTwipsPerPixel;
+}
+
+void QtWindowGeometry::setLeft(std::int32_t left) {
+    window_.move(pixels(left), window_.y());
+}
+
+void QtWindowGeometry::setTop(std::int32_t top) {
+    window_.move(window_.x(), pixels(top));
+}
+
+std::int32_t QtWindowGeometry::screenWidth() const {
+    return screenSize().width() * kTwipsPerPixel;
+}
+
+std::int32_t QtWindowGeometry::screenHeight() const {
+    return screenSize().height() * kTwipsPerPixel;
+}
+
+void QtWindowGeometry::normalise() {
+    window_.setWindowState(Qt::WindowNoState);
+}
+
+bool desktopPlacesByProgram() {
+    return !QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
+}
+
+}  // namespace velmora

@@ -1,0 +1,52 @@
+// The main window's position between runs, in the toolkit's settings.
+#pragma once
+
+#include <QSettings>
+#include <QWidget>
+#include <optional>
+#include <string>
+
+#include "startup/registry.h"
+
+namespace velmora {
+
+/// The values in the user's settings of organisation "Quillbrook", program "Velmora": the registry on
+/// Windows, a file in the configuration folder elsewhere.
+class QtPositionStore : public WindowPositionStore {
+  public:
+    QtPositionStore();
+    /// On a settings file of one's own.
+    explicit QtPositionStore(const QString& iniFile);
+
+    std::optional<StoredValue> read(const std::string& name) override;
+    bool write(const std::string& name, const StoredValue& value) override;
+    void deleteAll() override { settings_.clear(); }
+
+  private:
+    QSettings settings_;
+};
+
+/// A window's place on the primary screen, 15 twips to a device-independent pixel. Its place is that of its
+/// frame.
+class QtWindowGeometry : public WindowGeometry {
+  public:
+    explicit QtWindowGeometry(QWidget& window) : window_(window) {}
+
+    std::int32_t left() const override;
+    std::int32_t top() const override;
+    std::int32_t width() const override;
+    std::int32_t height() const override;
+    void setLeft(std::int32_t left) override;
+    void setTop(std::int32_t top) override;
+    std::int32_t screenWidth() const override;
+    std::int32_t screenHeight() const override;
+    void normalise() override;
+
+  private:
+    QWidget& window_;
+};
+
+/// Whether programs place their windows on this desktop; on some only the desktop does.
+bool desktopPlacesByProgram();
+
+}  // namespace velmora

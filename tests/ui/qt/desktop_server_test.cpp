@@ -1,0 +1,180 @@
+// The desktop server on a real terminal: a cable that is pulled out and comes back.
+#include "apps/desktop_server.h"
+
+#include <QLabel>
+#include <QLocale>
+#include <QProcess>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTest>
+#include <filesystem>
+#include <fstream>
+#include <memory>
+
+#include "support/pty_pair.h"
+
+namespace velmora {
+namespace {
+
+/// Remembers every text that a label was painted with.
+class PaintedTexts : public QObject {
+  public:
+    explicit PaintedTexts(QLabel& label) : label_(label) { label.installEventFilter(this); }
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+        if (event->type() == QEvent::Paint && !texts.contains(label_.text().trimmed())) {
+            texts.append(label_.text().trimmed());
+        }
+        return false;
+    }
+
+    QStringList texts;
+
+  private:
+    QLabel& label_;
+};
+
+class DesktopServerTest : public QObject {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void init();
+    void cleanup();
+    void startsByItselfAndShowsIt();
+    void pulledCableStopsTheServerUntilItIsBack();
+    void missingDeviceTellsWhatToDo();
+    void displayStatisticsAndFileAgree();
+    void debugSwitchIsShownForTheWholeCommandLineOnly_data();
+    void debugSwitchIsShownForTheWholeCommandLineOnly();
+
+  private:
+    void plug() {
+        pty = std::make_unique<test::PtyPair>();
+        std::filesystem::remove(port);
+        std::filesystem::create_symlink(pty->slavePath(), port);
+    }
+    QLabel* label(const char* name) const { return server->window().findChild<QLabel*>(QLatin1String(name)); }
+    QPushButton* startStop() const {
+        return server->window().findChild<QPushButton*>(QStringLiteral("pbStartStop"));
+    }
+
+    std::unique_ptr<QTemporaryDir> home;
+    std::filesystem::path port;
+    std::unique_ptr<test::PtyPair> pty;
+    std::unique_ptr<DesktopServer> server;
+};
+
+void DesktopServerTest::init() {
+    home = std::make_unique<QTemporaryDir>();
+    const std::filesystem::path folder = home->path().toStdString();
+    port = folder / "port";
+    qputenv("HOME", home->path().toLocal8Bit());
+    qputenv("XDG_CONFIG_HOME", home->path().toLocal8Bit());
+    std::filesystem::create_directory(folder / "psion");
+    std::ofstream(folder / "Velmora.ini", std::ios::binary)
+        << "[Settings]\r\nPort=40\r\nBaud=9600\r\nAutoStart=True\r\nDownloadPath="
+        << (folder / "psion").string() << "\r\n[Ports]\r\nCOM40=" << port.string() << "\r\n; "
+        << std::string(5000, '-') << "\r\n";
+    plug();
+    server = std::make_unique<DesktopServer>();
+}
+
+void DesktopServerTest::cleanup() {
+    server->controller().queryUnload(CloseReason::Terminated);
+    server.reset();
+    pty.reset();
+    home.reset();
+}
+
+void DesktopServerTest::startsByItselfAndShowsIt() {
+    QVERIFY(server->start(""));
+    QVERIFY(server->window().isVisible());
+    QCOMPARE(server->controller().state(), int{WaitLink});
+    QCOMPARE(label("tlDisplay_1")->text(), QStringLiteral("Waiting for link"));
+    QCOMPARE(label("tlProgVers")->text(), QStringLiteral("beta3 build 1"));
+    QCOMPARE(startStop()->text(), QStringLiteral("&Stop"));
+    QVERIFY(!label("lblDebug")->isVisible());
+}
+
+void DesktopServerTest::pulledCableStopsTheServerUntilItIsBack() {
+    QVERIFY(server->start(""));
+    pty.reset();
+    QTRY_COMPARE(server->controller().state(), int{Offline});
+    QVERIFY(label("tlWarning")->isVisible());
+    QVERIFY(label("tlBottomText_2")->text().startsWith(QStringLiteral("COM40: ")));
+    QVERIFY(label("lblAdvice")->isVisible());
+    QCOMPARE(startStop()->text(), QStringLiteral("&Start"));
+    QVERIFY(startStop()->isEnabled());
+
+    plug();
+    QTest::mouseClick(startStop(), Qt::LeftButton);
+    QCOMPARE(server->controller().state(), int{WaitLink});
+    QVERIFY(!label("tlWarning")->isVisible());
+    QVERIFY(!label("lblAdvice")->isVisible());
+}
+
+void DesktopServerTest::missingDeviceTellsWhatToDo() {
+    pty.reset();
+    std::filesystem::remove(port);
+    QVERIFY(server->start(""));
+    QCOMPARE(server->controller().state(), int{Offline});
+    QCOMPARE(label("tlBottomText_2")->text(), QStringLiteral("Port COM40 is not accessible!"));
+    QVERIFY(label("lblAdvice")->text().contains(QString::fromStdString(port.string())));
+    plug();
+    QTest::mouseClick(startStop(), Qt::LeftButton);
+    QCOMPARE(server->controller().state(), int{WaitLink});
+}
+
+void DesktopServerTest::displayStatisticsAndFileAgree() {
+    const std::filesystem::path folder = home->path().toStdString();
+    QProcess cable;
+    cable.start(QStringLiteral(VELMORA_TOOLS_DIR "/velmora-cable"), QStringList());
+    QTRY_COMPARE(cable.bytesAvailable() > 0 ? cable.peek(4096).count('\n') : 0, qsizetype{2});
+    const QByteArray device = cable.readLine().trimmed();
+    const QString handheld = QString::fromLocal8Bit(cable.readLine().trimmed());
+    std::filesystem::remove(port);
+    std::filesystem::create_symlink(device.toStdString(), port);
+    QVERIFY(server->start(""));
+    PaintedTexts line1(*label("tlDisplay_1"));
+    PaintedTexts line2(*label("tlDisplay_2"));
+
+    const std::string contents(3000, 'x');
+    std::ofstream(folder / "local", std::ios::binary) << contents;
+    QProcess organiser;
+    organiser.start(QStringLiteral(VELMORA_BIN_DIR "/velmora-organiser"),
+                    {QStringLiteral("--device"), handheld, QStringLiteral("save"),
+                     QString::fromStdString((folder / "local").string()), QStringLiteral("--as"),
+                     QStringLiteral("NOTES"), QStringLiteral("--type"), QStringLiteral("block:2")});
+    QTRY_COMPARE_WITH_TIMEOUT(organiser.state(), QProcess::NotRunning, 30'000);
+    QCOMPARE(organiser.exitCode(), 0);
+
+    QCOMPARE(std::filesystem::file_size(folder / "psion" / "Notes.ob2"), std::uintmax_t{contents.size() + 6});
+    QCOMPARE(label("tlFilesRecv")->text(), QStringLiteral("1"));
+    QCOMPARE(label("tlFilesSent")->text(), QStringLiteral("0"));
+    QVERIFY(QLocale::c().toInt(label("tlBytesRecv")->text()) >= int(contents.size()));
+    QVERIFY2(line1.texts.contains(QStringLiteral("Downloading file")), qPrintable(line1.texts.join('|')));
+    QVERIFY2(line2.texts.contains(QStringLiteral("Notes.ob2")), qPrintable(line2.texts.join('|')));
+    cable.closeWriteChannel();
+    QTRY_COMPARE(cable.state(), QProcess::NotRunning);
+}
+
+void DesktopServerTest::debugSwitchIsShownForTheWholeCommandLineOnly_data() {
+    QTest::addColumn<QString>("commandLine");
+    QTest::addColumn<bool>("shown");
+    QTest::newRow("small") << "-debug" << true;
+    QTest::newRow("capitals") << "-DEBUG" << true;
+    QTest::newRow("more") << "-debug x" << false;
+    QTest::newRow("two hyphens") << "--debug" << false;
+}
+
+void DesktopServerTest::debugSwitchIsShownForTheWholeCommandLineOnly() {
+    QFETCH(QString, commandLine);
+    QFETCH(bool, shown);
+    QVERIFY(server->start(commandLine.toStdString()));
+    QCOMPARE(label("lblDebug")->isVisible(), shown);
+}
+
+}  // namespace
+}  // namespace velmora
+
+QTEST_MAIN(velmora::DesktopServerTest)
+#include "desktop_server_test.moc"

@@ -1,0 +1,470 @@
+// The main window: what it shows, and what the user's actions do.
+#include "ui/qt/frm_main.h"
+
+#include <QAccessible>
+#include <QLabel>
+#include <QPushButton>
+#include <QSet>
+#include <QTest>
+
+#include "support/window_rig.h"
+#include "ui/caption.h"
+
+namespace velmora {
+namespace {
+
+using test::WindowRig;
+using namespace std::chrono_literals;
+
+class FrmMainTest : public QObject {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void init() {
+        rig = std::make_unique<WindowRig>();
+        rig->window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&rig->window));
+        rig->controller.setState(Offline);
+    }
+    void cleanup() { rig.reset(); }
+
+    void everyControlIsThereUnderItsName();
+    void displayLinesHoldSixteenCharacters();
+    void longLineScrolls();
+    void lettersOfWindows1252AreShown();
+    void everyStateIsShown_data();
+    void everyStateIsShown();
+    void countersAreKeptInTheirLabels();
+    void headingsComeFromTheCatalogue();
+    void threeCentredMessages();
+    void warningIsLeftAlignedAndTellsMoreThanAColour();
+    void longWarningIsReadWhole();
+    void warningBeforeTheWindowIsShownIsLaidOutAlike();
+    void clearedMessagesAreHidden();
+    void welcomeComesFirstAndOfflineAfterAStop();
+    void failedLinkStopsTheServerWithTheNextPoll();
+    void adviceGoesWithTheMessages();
+    void startAndStopByClickAndKey();
+    void setupIsClosedToTheUserWhileTheServerRuns();
+    void noPortLeavesOnlySetup();
+    void folderButtonAsksForTheFolder();
+    void hideButtonMinimises();
+    void captionCarriesTheStateWhileMinimised();
+    void shutDownButtonEndsTheProgram();
+    void closeKeyAsksAndIsRefusedDuringATransfer();
+    void closeKeyStopsTheServer();
+    void requestedShutdownEndsTheProgramAfterHalfASecond();
+    void portThatFailsStopsTheServerUntilStartIsPressedAgain();
+    void debugSwitchAppearsAndWorksByMouseAndKey();
+    void popupRaisesAMinimisedWindow();
+    void autoHideMinimises();
+    void windowHiddenBeforeItIsShownAppearsMinimised();
+    void everyControlIsNamedAndInTheKeyboardsOrder();
+    void mnemonicsAreUnique();
+
+  private:
+    template <typename Widget>
+    Widget* find(const char* name) const {
+        auto* found = rig->window.findChild<Widget*>(QLatin1String(name));
+        if (found == nullptr) {
+            qFatal("%s is missing", name);
+        }
+        return found;
+    }
+    QLabel* label(const char* name) const { return find<QLabel>(name); }
+    QPushButton* button(const char* name) const { return find<QPushButton>(name); }
+    void click(const char* name) const { QTest::mouseClick(button(name), Qt::LeftButton); }
+    QString line1() const { return label("tlDisplay_1")->text(); }
+    QString line2() const { return label("tlDisplay_2")->text(); }
+
+    std::unique_ptr<WindowRig> rig;
+};
+
+void FrmMainTest::everyControlIsThereUnderItsName() {
+    for (const char* name :
+         {"tlDisplay_1", "tlDisplay_2", "tlStatLabel_1", "tlStatLabel_2", "tlStatLabel_3", "tlStatLabel_4",
+          "tlBytesRecv", "tlBytesSent", "tlFilesRecv", "tlFilesSent", "tlWarning", "tlBottomText_1",
+          "tlBottomText_2", "tlBottomText_3", "tlProgVers", "imgProgName", "imgBGround", "lblDebug"}) {
+        QVERIFY2(rig->window.findChild<QLabel*>(QLatin1String(name)) != nullptr, name);
+    }
+    for (const char* name : {"pbStartStop", "pbSetup", "pbFolder", "pbHide", "pbShutDown"}) {
+        QVERIFY2(rig->window.findChild<QPushButton*>(QLatin1String(name)) != nullptr, name);
+    }
+}
+
+void FrmMainTest::displayLinesHoldSixteenCharacters() {
+    rig->controller.Display("Sending", "menu");
+    QCOMPARE(line1(), QStringLiteral("    Sending     "));
+    QCOMPARE(line2(), QStringLiteral("      menu      "));
+    QCOMPARE(label("tlDisplay_1")->accessibleDescription(), QStringLiteral("Sending"));
+}
+
+void FrmMainTest::longLineScrolls() {
+    rig->controller.Display("Server was stopped by Organiser!", "  Click Start!");
+    QCOMPARE(line1(), QStringLiteral("Server was stopp"));
+    rig->time.advance(2500ms);
+    rig->time.advance(200ms);
+    QCOMPARE(line1(), QStringLiteral("erver was stoppe"));
+}
+
+void FrmMainTest::lettersOfWindows1252AreShown() {
+    rig->controller.Display(
+        "Gr\xF6\xDF"
+        "e \x80",
+        "");
+    QCOMPARE(line1().trimmed(), QString::fromUtf8("Größe €"));
+}
+
+void FrmMainTest::everyStateIsShown_data() {
+    QTest::addColumn<int>("state");
+    QTest::addColumn<QString>("first");
+    QTest::addColumn<QString>("second");
+    QTest::addColumn<QString>("button");
+    QTest::newRow("NoPort") << int{NoPort} << "No port selected"
+                            << "The server could"
+                            << "Start";
+    QTest::newRow("OnExit") << int{OnExit} << "Server was stopp"
+                            << "Click Start!"
+                            << "Start";
+    QTest::newRow("WaitLink") << int{WaitLink} << "Waiting for link"
+                              << ""
+                              << "Stop";
+    QTest::newRow("Connect") << int{Connect} << "Waiting for link"
+                             << "Connecting..."
+                             << "Stop";
+    QTest::newRow("FileAccess") << int{FileAccess} << "Accessing file"
+                                << ""
+                                << "Stop";
+    QTest::newRow("Upload") << int{Upload} << "Uploading file"
+                            << ""
+                            << "Stop";
+    QTest::newRow("Downld") << int{Downld} << "Downloading file"
+                            << ""
+                            << "Stop";
+    QTest::newRow("SendDir") << int{SendDir} << "Sending"
+                             << "directory"
+                             << "Stop";
+    QTest::newRow("SendMenu") << int{SendMenu} << "Sending"
+                              << "menu"
+                              << "Stop";
+    QTest::newRow("ServiceBusy") << int{ServiceBusy} << "Sending code"
+                                 << ""
+                                 << "Stop";
+    QTest::newRow("Error") << int{Error} << "Waiting for link"
+                           << "Waiting for link"
+                           << "Stop";
+}
+
+void FrmMainTest::everyStateIsShown() {
+    QFETCH(int, state);
+    QFETCH(QString, first);
+    QFETCH(QString, second);
+    QFETCH(QString, button);
+    rig->reach(state);
+    QCOMPARE(rig->controller.state(), state);
+    QCOMPARE(line1().trimmed(), first);
+    QCOMPARE(line2().trimmed(), second);
+    QCOMPARE(this->button("pbStartStop")->accessibleName(), button);
+    QCOMPARE(this->button("pbSetup")->isEnabled(), state < WaitLink);
+    QCOMPARE(this->button("pbStartStop")->isEnabled(), state != NoPort);
+}
+
+void FrmMainTest::countersAreKeptInTheirLabels() {
+    rig->controller.SetStats(1, 1234);
+    rig->controller.SetStats(2, 99);
+    rig->controller.SetStats(3, 2);
+    rig->controller.SetStats(4, 1);
+    QCOMPARE(label("tlBytesRecv")->text(), QStringLiteral("1,234"));
+    QCOMPARE(label("tlBytesSent")->text(), QStringLiteral("99"));
+    QCOMPARE(label("tlFilesRecv")->text(), QStringLiteral("2"));
+    QCOMPARE(label("tlFilesSent")->text(), QStringLiteral("1"));
+    QCOMPARE(label("tlBytesRecv")->accessibleName(), QStringLiteral("Bytes Received: 1,234"));
+    label("tlBytesRecv")->setText(QStringLiteral("999,000"));
+    rig->controller.SetStats(1, 2000);
+    QCOMPARE(label("tlBytesRecv")->text(), QStringLiteral("1.00Mb"));
+}
+
+void FrmMainTest::headingsComeFromTheCatalogue() {
+    rig->strings.Files = "Dateien";
+    rig->strings.Sent = "Gesendet";
+    rig->strings.Error = "Fehler";
+    rig->controller.showLabelTexts();
+    QCOMPARE(label("tlStatLabel_1")->text(), QStringLiteral("Dateien"));
+    QCOMPARE(label("tlStatLabel_4")->text(), QStringLiteral("Gesendet"));
+    QCOMPARE(label("tlWarning")->text(), QStringLiteral("Fehler"));
+    QVERIFY(label("tlStatLabel_1")->isVisible());
+}
+
+void FrmMainTest::threeCentredMessages() {
+    rig->controller.ShowText("one", "two", "three");
+    for (const char* name : {"tlBottomText_1", "tlBottomText_2", "tlBottomText_3"}) {
+        QVERIFY(label(name)->isVisible());
+        QVERIFY(label(name)->alignment().testFlag(Qt::AlignHCenter));
+    }
+    QVERIFY(!label("tlWarning")->isVisible());
+    const int oneLine = label("tlBottomText_2")->height();
+    rig->controller.ShowText("one", "two", "");
+    QVERIFY(label("tlBottomText_2")->height() > oneLine);
+}
+
+void FrmMainTest::warningIsLeftAlignedAndTellsMoreThanAColour() {
+    rig->controller.ShowWarning("Port COM5 is not accessible!", "again");
+    QVERIFY(label("tlWarning")->isVisible());
+    QCOMPARE(label("tlWarning")->text(), QStringLiteral("Error"));
+    QVERIFY(!label("tlBottomText_1")->isVisible());
+    QVERIFY(label("tlBottomText_2")->alignment().testFlag(Qt::AlignLeft));
+    QVERIFY(label("tlBottomText_3")->alignment().testFlag(Qt::AlignLeft));
+    QCOMPARE(label("tlBottomText_2")->text(), QStringLiteral("Port COM5 is not accessible!"));
+    QCOMPARE(label("tlBottomText_2")->accessibleName(), QStringLiteral("Port COM5 is not accessible!"));
+}
+
+void FrmMainTest::longWarningIsReadWhole() {
+    std::string words;
+    for (int i = 0; i < 40; ++i) {
+        words += "several words ";
+    }
+    rig->controller.ShowWarning(words, "");
+    QTRY_VERIFY(label("tlBottomText_2")->height() >=
+                label("tlBottomText_2")->heightForWidth(label("tlBottomText_2")->width()));
+    QVERIFY(rig->window.rect().contains(
+        label("tlBottomText_2")->mapTo(&rig->window, QPoint(0, label("tlBottomText_2")->height()))));
+}
+
+void FrmMainTest::warningBeforeTheWindowIsShownIsLaidOutAlike() {
+    MessageLines messages;
+    messages.ShowWarning(
+        "No port selected! Plug the adapter in, and tell the program by Setup which one it is.", "");
+    frmMain early;
+    early.showMessages(messages);
+    early.show();
+    rig->window.showMessages(messages);
+    QCOMPARE(early.findChild<QLabel*>(QStringLiteral("tlBottomText_2"))->height(),
+             label("tlBottomText_2")->height());
+}
+
+void FrmMainTest::welcomeComesFirstAndOfflineAfterAStop() {
+    QCOMPARE(line1(), QStringLiteral("Please set PROTO"));
+    QCOMPARE(line2(), QStringLiteral("and click Start!"));
+    rig->reach(WaitLink);
+    rig->controller.setState(Offline);
+    QCOMPARE(line1().trimmed(), QStringLiteral("Server Offline"));
+}
+
+void FrmMainTest::failedLinkStopsTheServerWithTheNextPoll() {
+    rig->reach(LinkFailed);
+    QVERIFY(!button("pbSetup")->isEnabled());
+    rig->time.advance(20ms);
+    QCOMPARE(rig->controller.state(), int{Offline});
+    QVERIFY(button("pbSetup")->isEnabled());
+    QCOMPARE(button("pbStartStop")->accessibleName(), QStringLiteral("Start"));
+}
+
+void FrmMainTest::clearedMessagesAreHidden() {
+    rig->controller.ShowWarning("a", "b");
+    rig->controller.ShowClear();
+    for (const char* name :
+         {"tlWarning", "tlBottomText_1", "tlBottomText_2", "tlBottomText_3", "lblAdvice"}) {
+        QVERIFY2(!label(name)->isVisible(), name);
+    }
+}
+
+void FrmMainTest::adviceGoesWithTheMessages() {
+    rig->controller.ShowWarning("Port COM5 is not accessible!", "");
+    rig->window.showAdvice("Plug the adapter in.");
+    QVERIFY(label("lblAdvice")->isVisible());
+    QCOMPARE(label("lblAdvice")->text(), QStringLiteral("Plug the adapter in."));
+    rig->controller.ShowClear();
+    QVERIFY(!label("lblAdvice")->isVisible());
+}
+
+void FrmMainTest::startAndStopByClickAndKey() {
+    click("pbStartStop");
+    QCOMPARE(rig->controller.state(), int{WaitLink});
+    QCOMPARE(button("pbStartStop")->text(), QStringLiteral("&Stop"));
+    button("pbStartStop")->setFocus();
+    QTest::keyClick(button("pbStartStop"), Qt::Key_Return);
+    QCOMPARE(rig->controller.state(), int{Offline});
+    QCOMPARE(button("pbStartStop")->text(), QStringLiteral("&Start"));
+    QTest::keyClick(button("pbStartStop"), Qt::Key_Space);
+    QCOMPARE(rig->controller.state(), int{WaitLink});
+}
+
+void FrmMainTest::setupIsClosedToTheUserWhileTheServerRuns() {
+    click("pbSetup");
+    QCOMPARE(rig->setups, 1);
+    click("pbStartStop");
+    QVERIFY(!button("pbSetup")->isEnabled());
+    click("pbSetup");
+    QCOMPARE(rig->setups, 1);
+}
+
+void FrmMainTest::noPortLeavesOnlySetup() {
+    rig->window.activateWindow();
+    rig->controller.setState(NoPort);
+    QVERIFY(!button("pbStartStop")->isEnabled());
+    QVERIFY(button("pbSetup")->isEnabled());
+    QCOMPARE(rig->window.focusWidget(), button("pbSetup"));
+}
+
+void FrmMainTest::folderButtonAsksForTheFolder() {
+    click("pbFolder");
+    QCOMPARE(rig->folders, 1);
+}
+
+void FrmMainTest::hideButtonMinimises() {
+    click("pbHide");
+    QVERIFY(rig->window.isMinimized());
+}
+
+void FrmMainTest::captionCarriesTheStateWhileMinimised() {
+    click("pbHide");
+    rig->reach(SendDir);
+    QCOMPARE(rig->window.windowTitle(), QStringLiteral("Velmora - Sending directory"));
+    rig->window.restore();
+    QVERIFY(!rig->window.isMinimized());
+    QCOMPARE(rig->window.windowTitle(), QStringLiteral("Velmora"));
+    QCOMPARE(rig->window.focusWidget(), button("pbStartStop"));
+}
+
+void FrmMainTest::shutDownButtonEndsTheProgram() {
+    click("pbShutDown");
+    QVERIFY(rig->closed);
+    QCOMPARE(rig->lastReason, CloseReason::Program);
+    QVERIFY(!rig->store.entries.empty());
+}
+
+void FrmMainTest::closeKeyAsksAndIsRefusedDuringATransfer() {
+    rig->reach(Downld);
+    rig->box.answer = false;
+    QVERIFY(!rig->window.QWidget::close());
+    QVERIFY(rig->window.isVisible());
+    QVERIFY(!rig->closed);
+    QCOMPARE(rig->lastReason, CloseReason::User);
+    QCOMPARE(rig->box.asked.size(), std::size_t{1});
+    rig->box.answer = true;
+    QVERIFY(rig->window.QWidget::close());
+    QVERIFY(rig->closed);
+}
+
+void FrmMainTest::closeKeyStopsTheServer() {
+    rig->reach(WaitLink);
+    QVERIFY(rig->window.QWidget::close());
+    QCOMPARE(rig->link.count("stop"), 1);
+    QVERIFY(rig->box.asked.empty());
+}
+
+void FrmMainTest::requestedShutdownEndsTheProgramAfterHalfASecond() {
+    rig->reach(WaitLink);
+    rig->controller.setState(Shutdown);
+    QVERIFY(!rig->closed);
+    rig->time.advance(500ms);
+    QVERIFY(rig->closed);
+    QCOMPARE(rig->lastReason, CloseReason::Program);
+}
+
+void FrmMainTest::portThatFailsStopsTheServerUntilStartIsPressedAgain() {
+    click("pbStartStop");
+    rig->port.countError = CommError(kCommFailed, "device gone", "InBufferCount");
+    rig->time.advance(20ms);
+    QCOMPARE(rig->controller.state(), int{Offline});
+    QVERIFY(label("tlWarning")->isVisible());
+    QCOMPARE(label("tlBottomText_2")->text(), QStringLiteral("COM1: device gone"));
+    QVERIFY(button("pbStartStop")->isEnabled());
+    rig->port.countError.reset();
+    click("pbStartStop");
+    QCOMPARE(rig->controller.state(), int{WaitLink});
+    QVERIFY(!label("tlWarning")->isVisible());
+}
+
+void FrmMainTest::debugSwitchAppearsAndWorksByMouseAndKey() {
+    QVERIFY(!label("lblDebug")->isVisible());
+    rig->controller.setDebugMode(true);
+    QVERIFY(label("lblDebug")->isVisible());
+    QTest::mouseClick(label("lblDebug"), Qt::LeftButton);
+    QCOMPARE(rig->debugSwitches, 0);
+    QTest::mouseDClick(label("lblDebug"), Qt::LeftButton);
+    QCOMPARE(rig->debugSwitches, 1);
+    label("lblDebug")->setFocus();
+    QTest::keyClick(label("lblDebug"), Qt::Key_Space);
+    QCOMPARE(rig->debugSwitches, 2);
+}
+
+void FrmMainTest::popupRaisesAMinimisedWindow() {
+    rig->options.AutoPopup = true;
+    rig->reach(WaitLink);
+    click("pbHide");
+    rig->controller.setState(Downld);
+    QVERIFY(!rig->window.isMinimized());
+}
+
+void FrmMainTest::autoHideMinimises() {
+    rig->options.AutoHide = true;
+    click("pbStartStop");
+    QVERIFY(rig->window.isMinimized());
+    QCOMPARE(rig->window.windowTitle(), QStringLiteral("Velmora - Waiting for link "));
+}
+
+void FrmMainTest::windowHiddenBeforeItIsShownAppearsMinimised() {
+    frmMain window;
+    window.minimise();
+    QVERIFY(!window.isVisible());
+    window.show();
+    QVERIFY(window.isMinimised());
+}
+
+void FrmMainTest::everyControlIsNamedAndInTheKeyboardsOrder() {
+    rig->controller.setDebugMode(true);
+    rig->controller.ShowText("one", "two", "three");
+    QSet<QWidget*> chain;
+    QWidget* next = &rig->window;
+    do {
+        chain.insert(next);
+        next = next->nextInFocusChain();
+    } while (next != &rig->window);
+
+    int looked = 0;
+    for (QWidget* widget : rig->window.findChildren<QWidget*>()) {
+        const bool control = qobject_cast<QAbstractButton*>(widget) != nullptr ||
+                             (qobject_cast<QLabel*>(widget) != nullptr && widget->isVisible());
+        if (!control) {
+            continue;
+        }
+        ++looked;
+        QAccessibleInterface* face = QAccessible::queryAccessibleInterface(widget);
+        QVERIFY2(face != nullptr && !face->text(QAccessible::Name).isEmpty(),
+                 qPrintable(widget->objectName()));
+        if (qobject_cast<QAbstractButton*>(widget) != nullptr || widget->objectName() == "lblDebug") {
+            QVERIFY2((widget->focusPolicy() & Qt::TabFocus) == Qt::TabFocus,
+                     qPrintable(widget->objectName()));
+            QVERIFY2(chain.contains(widget), qPrintable(widget->objectName()));
+        }
+    }
+    QVERIFY(looked >= 20);
+
+    QStringList order;
+    button("pbStartStop")->setFocus();
+    for (int i = 0; i < 6; ++i) {
+        order.append(rig->window.focusWidget()->objectName());
+        QTest::keyClick(rig->window.focusWidget(), Qt::Key_Tab);
+    }
+    QCOMPARE(order, QStringList({"pbStartStop", "pbSetup", "pbFolder", "pbHide", "pbShutDown", "lblDebug"}));
+    QCOMPARE(rig->window.focusWidget(), button("pbStartStop"));
+}
+
+void FrmMainTest::mnemonicsAreUnique() {
+    QSet<QString> letters;
+    for (const char* name : {"pbStartStop", "pbSetup", "pbFolder", "pbHide", "pbShutDown"}) {
+        const QString text = button(name)->text();
+        const qsizetype position = text.indexOf(QLatin1Char('&'));
+        QVERIFY2(position >= 0, name);
+        const QString letter = text.mid(position + 1, 1).toLower();
+        QVERIFY2(!letters.contains(letter), name);
+        letters.insert(letter);
+    }
+}
+
+}  // namespace
+}  // namespace velmora
+
+QTEST_MAIN(velmora::FrmMainTest)
+#include "frm_main_test.moc"
