@@ -1,26 +1,26 @@
 #include "apps/desktop_dialogs.h"
 
-#include <QFile>
-#include <QFileDialog>
-
-#include "ui/qt/qt_text.h"
+#include "serial/port_list.h"
+#include "ui/qt/c_sh_folder.h"
+#include "ui/qt/frm_setup.h"
 
 namespace velmora {
 
-DesktopDialogs::DesktopDialogs(const Clock& /*clock*/) {}
+DesktopDialogs::DesktopDialogs(const Clock& clock, PortNames& portNames)
+    : portNames_(portNames), debugWindow_(clock) {}
 
-void DesktopDialogs::runSetup(QWidget& /*window*/, SerialPort& /*port*/, ServerOptions& /*options*/,
-                              TransferSettings& /*transfer*/, const SetupModel::Probe& /*probe*/) {}
-
-std::string DesktopDialogs::browseForFolder(QWidget& window, const FolderQuestion& question) {
-    const QString folder =
-        QFileDialog::getExistingDirectory(&window, qtText(question.caption),
-                                          QFile::decodeName(QByteArray::fromStdString(question.startFolder)));
-    return QFile::encodeName(folder).toStdString();
+void DesktopDialogs::runSetup(QWidget& window, SerialPort& port, ServerOptions& options,
+                              TransferSettings& transfer, const SetupModel::Probe& probe) {
+    frmSetup dialog(port, options, transfer, probe, [this] { return listSerialDevices(portNames_); }, &window);
+    dialog.exec();
 }
 
-void DesktopDialogs::toggleDebugWindow() {}
+std::string DesktopDialogs::browseForFolder(QWidget& window, const FolderQuestion& question) {
+    return folderBrowser(&window)(question);
+}
 
-void DesktopDialogs::closeDebugWindow() {}
+void DesktopDialogs::toggleDebugWindow() { debugWindow_.toggle(); }
+
+void DesktopDialogs::closeDebugWindow() { debugWindow_.close(); }
 
 }  // namespace velmora

@@ -6,18 +6,20 @@
 
 #include "base/clock.h"
 #include "link/debug.h"
+#include "serial/port_names.h"
 #include "serial/serial_port.h"
 #include "services/transfer_settings.h"
 #include "ui/folder_choice.h"
+#include "ui/qt/frm_debug.h"
 #include "ui/server_options.h"
 #include "ui/setup_model.h"
 
 namespace velmora {
 
-/// The setup dialog, the folder choice and the debug window. The clock must outlive it.
+/// The setup dialog, the folder choice and the debug window. All that it is given must outlive it.
 class DesktopDialogs {
   public:
-    explicit DesktopDialogs(const Clock& clock);
+    DesktopDialogs(const Clock& clock, PortNames& portNames);
 
     /// Shows the setup dialog over the window until the user closes it.
     void runSetup(QWidget& window, SerialPort& port, ServerOptions& options, TransferSettings& transfer,
@@ -26,21 +28,14 @@ class DesktopDialogs {
     std::string browseForFolder(QWidget& window, const FolderQuestion& question);
 
     /// The protocol trace goes to the debug window.
-    TraceSink& traceSink() { return noTrace_; }
+    TraceSink& traceSink() { return debugWindow_.model(); }
     /// Shows a hidden debug window, hides a shown one.
     void toggleDebugWindow();
     void closeDebugWindow();
 
   private:
-    /// Nobody sees the trace.
-    class NoTrace : public TraceSink {
-      public:
-        bool logging() const override { return false; }
-        bool categoryEnabled(std::string_view /*category*/) override { return false; }
-        void addline(const std::string& /*text*/) override {}
-    };
-
-    NoTrace noTrace_;
+    PortNames& portNames_;
+    frmDebug debugWindow_;
 };
 
 }  // namespace velmora

@@ -11,7 +11,7 @@ namespace velmora {
 
 DesktopServer::DesktopServer()
     : platform_([this] { core_.controller().ComTimer_Tick(); }),
-      dialogs_(platform_.clock),
+      dialogs_(platform_.clock, platform_.portNames),
       debug_(dialogs_.traceSink()),
       box_(&window_),
       core_({window_, box_, platform_.files, platform_.rules, platform_.port, debug_, platform_.ComTimer,
@@ -106,7 +106,9 @@ void DesktopServer::portFailed() {
 }
 
 bool DesktopServer::start(const std::string& commandLine) {
-    return start_.Main(commandLine).outcome == StartupOutcome::Running;
+    const StartupReport report = start_.Main(commandLine);
+    core_.applySettings(start_.settings());
+    return report.outcome == StartupOutcome::Running;
 }
 
 int DesktopServer::run() {
