@@ -171,7 +171,7 @@ void frmMain::makeButtons() {
                         &Actions::pbHide_Click);
     pbShutDown = makeButton("pbShutDown", tr("Shut &down"), tr("Stop the server and end the program"),
                             &Actions::pbShutDown_Click);
-    setButtonCaption(MainButton::StartStop, "Start");
+    frmMain::setButtonCaption(MainButton::StartStop, "Start");
     pbSetup->setAccessibleName(tr("Setup"));
     pbFolder->setAccessibleName(tr("Folder"));
     pbHide->setAccessibleName(tr("Hide"));

@@ -34,6 +34,7 @@ QPalette darkPalette() {
     palette.setColor(QPalette::Text, QColor(0xE6, 0xE6, 0xE6));
     palette.setColor(QPalette::Button, QColor(0x3A, 0x3D, 0x41));
     palette.setColor(QPalette::ButtonText, QColor(0xE6, 0xE6, 0xE6));
+    palette.setColor(QPalette::Mid, QColor(0x55, 0x59, 0x5E));
     palette.setColor(QPalette::Highlight, QColor(0x3D, 0x8E, 0xB9));
     palette.setColor(QPalette::HighlightedText, Qt::white);
     palette.setColor(QPalette::Disabled, QPalette::ButtonText, QColor(0x80, 0x80, 0x80));
