@@ -6,7 +6,8 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 scripts/setup.sh
-scripts/build.sh build -DCMAKE_BUILD_TYPE=RelWithDebInfo -- velmorad velmora-organiser velmora-cable velmora-demo-window
+scripts/build.sh build -DCMAKE_BUILD_TYPE=RelWithDebInfo -- velmorad velmora-organiser velmora-files \
+  velmora-cable velmora-demo-window
 
 bin=$PWD/build/bin
 demo=$PWD/build/demo
@@ -42,6 +43,17 @@ organiser save contacts.txt --as CONTACTS
 organiser load CONTACTS -o contacts-again.txt
 organiser save hello.txt --as HELLO --type procedure
 organiser load HELLO --type procedure -o hello-again.txt
+printf '%s\r\n' "A1 'Item" "B1 'Price" "C1 'Number" "D1 'Total" "A2 'Tea" "B2 1.25" "C2 4" "D2 =B2*C2" "A3 'Cup" \
+  "B3 3" "C3 2" "D3 =B3*C3" "D4 =SUM(D2:D3)" > sheet.txt
+organiser sheet-save sheet.txt --as BUDGET --format wks
+organiser sheet-load BUDGET --format wks -o sheet-again.txt
+echo
+echo "\$ velmora-files show Budget.wks"
+"$bin/velmora-files" show "$demo/psion/Budget.wks"
+echo
+echo "\$ wks2csv -F Budget.wks        # another program's view of it"
+wks2csv -F "$demo/psion/Budget.wks"
+organiser timeinfo
 organiser dir --long
 organiser tour
 
@@ -50,7 +62,8 @@ wait $server
 
 # The same server behind its window.
 mkdir -p "$XDG_CONFIG_HOME"
-printf '%s\r\n' '[Settings]' 'Port=40' 'Baud=9600' 'AutoStart=True' "DownloadPath=$demo/psion" \
+printf '%s\r\n' '; The configuration of the demonstration: its port is the cable, and serving begins at once.' \
+  '[Settings]' 'Port=40' 'Baud=9600' 'AutoStart=True' "DownloadPath=$demo/psion" \
   '[Ports]' "COM40=$demo/pc" > "$XDG_CONFIG_HOME/Velmora.ini"
 if [[ -z "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]]; then
   export QT_QPA_PLATFORM=offscreen
@@ -71,7 +84,7 @@ echo
 echo "What the server showed meanwhile (build/demo/server.log):"
 sort -u "$demo/server.log" | head -12 | sed 's/^/    /'
 echo
-cmp contacts.txt contacts-again.txt && cmp hello.txt hello-again.txt
+cmp contacts.txt contacts-again.txt && cmp hello.txt hello-again.txt && cmp sheet.txt sheet-again.txt
 cmp contacts.txt "$demo/psion/Contacts.odb" && cmp hello.txt "$demo/psion/Hello.opl"
 echo "Every file came back as it went. They are in build/demo/psion:"
 ls -l "$demo/psion" | sed 1d

@@ -4,10 +4,10 @@
 #   scripts/setup.sh tests    that, and what the tests and checks need
 set -euo pipefail
 
-packages=(g++ cmake ninja-build qt6-base-dev ccache)
+packages=(g++ cmake ninja-build qt6-base-dev ccache libwps-tools fonts-dejavu-core)
 if [[ "${1:-}" == tests ]]; then
   packages+=(libgtest-dev libgmock-dev libbenchmark-dev clang clang-format clang-tidy libclang-rt-dev
-    xvfb xauth fonts-dejavu-core tzdata libwps-tools gnumeric)
+    xvfb xauth tzdata gnumeric)
 fi
 
 missing=()
