@@ -11,7 +11,8 @@ DesktopDialogs::DesktopDialogs(const Clock& clock, PortNames& portNames)
 
 void DesktopDialogs::runSetup(QWidget& window, SerialPort& port, ServerOptions& options,
                               TransferSettings& transfer, const SetupModel::Probe& probe) {
-    frmSetup dialog(port, options, transfer, probe, [this] { return listSerialDevices(portNames_); }, &window);
+    frmSetup dialog(
+        port, options, transfer, probe, [this] { return listSerialDevices(portNames_); }, &window);
     dialog.exec();
 }
 
@@ -19,8 +20,12 @@ std::string DesktopDialogs::browseForFolder(QWidget& window, const FolderQuestio
     return folderBrowser(&window)(question);
 }
 
-void DesktopDialogs::toggleDebugWindow() { debugWindow_.toggle(); }
+void DesktopDialogs::toggleDebugWindow() {
+    debugWindow_.toggle();
+}
 
-void DesktopDialogs::closeDebugWindow() { debugWindow_.close(); }
+void DesktopDialogs::closeDebugWindow() {
+    debugWindow_.close();
+}
 
 }  // namespace velmora

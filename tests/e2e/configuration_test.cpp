@@ -98,6 +98,26 @@ TEST_F(ConfigurationTest, TheSectionPortsNamesDevices) {
     EXPECT_EQ(organiser({"formats"}).status, 0);
 }
 
+TEST_F(ConfigurationTest, AFileOfRandomBytesIsLeftAloneAndServedWithDefaults) {
+    std::string noise;
+    for (int i = 0; i < 5000; ++i) {
+        noise += static_cast<char>((i * 7919 + i / 3) & 0xFF);
+    }
+    writeFile(iniPath(), noise);
+    startServer({"--config", iniPath()});
+    EXPECT_EQ(organiser({"formats"}).status, 0);
+    EXPECT_EQ(contentsOf(iniPath()), noise);
+}
+
+TEST_F(ConfigurationTest, AFolderInThePlaceOfTheFileEndsTheStartWithTheNameOfTheStep) {
+    std::filesystem::create_directories(iniPath());
+    const Finished done =
+        run({program("velmorad"), "--config", iniPath(), "--port", serverDevice}, environment());
+    EXPECT_EQ(done.status, 1);
+    EXPECT_NE(done.error.find("load_INIfile"), std::string::npos) << done.error;
+    EXPECT_TRUE(std::filesystem::is_directory(iniPath()));
+}
+
 TEST_F(ConfigurationTest, AValueThatIsNoneEndsTheStartWithTheNameOfTheStep) {
     startWith({{"AutoHide=", "AutoHide=perhaps"}});
     EXPECT_EQ(server->wait(), 1);

@@ -1,0 +1,15 @@
+#!/usr/bin/env bash
+# Builds optimised programs and prints every figure of docs/performance.md.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+scripts/setup.sh tests
+scripts/build.sh build-bench -DCMAKE_BUILD_TYPE=Release -DVELMORA_BENCH=ON -DVELMORA_TESTS=OFF
+export QT_QPA_PLATFORM=offscreen
+for program in build-bench/bench/*_bench; do
+  echo
+  echo "== $(basename "$program")"
+  "$program" --benchmark_min_time=0.3 2> /dev/null
+done
+echo
+echo "== bench/end_to_end.sh"
+bench/end_to_end.sh build-bench
