@@ -7,7 +7,7 @@ set -euo pipefail
 packages=(g++ cmake ninja-build qt6-base-dev ccache libwps-tools fonts-dejavu-core)
 if [[ "${1:-}" == tests ]]; then
   packages+=(libgtest-dev libgmock-dev libbenchmark-dev clang clang-format clang-tidy libclang-rt-dev
-    xvfb xauth tzdata gnumeric)
+    xvfb xauth tzdata gnumeric python3)
 fi
 
 missing=()
