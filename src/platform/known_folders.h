@@ -19,7 +19,7 @@ std::string currentFolder();
 /// Absolute paths in the system's encoding without a final separator; whether the folders exist is not
 /// checked.
 ///
-/// On POSIX systems they follow the XDG Base Directory Specification 0.8 and the xdg-user-dirs format.
+/// On POSIX systems they follow the XDG base directory rules (version 0.8) and the xdg-user-dirs format.
 class KnownFolders {
   public:
     explicit KnownFolders(EnvironmentLookup environment);
