@@ -1,5 +1,6 @@
 // velmorad: the server without a window.
 #include <QCoreApplication>
+#include <csignal>
 #include <cstdio>
 #include <exception>
 #include <string>
@@ -26,6 +27,10 @@ int main(int argc, char** argv) {
         std::puts("velmorad " VELMORA_VERSION);
         return 0;
     }
+#ifdef SIGPIPE
+    // Whoever reads the output may go away; the Organiser is served all the same.
+    std::signal(SIGPIPE, SIG_IGN);
+#endif
     QCoreApplication application(argc, argv);
     try {
         HeadlessServer server(arguments);

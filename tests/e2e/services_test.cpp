@@ -1,5 +1,6 @@
 // Clock, boot code and spreadsheets over the line, also when it loses and repeats frames.
 #include <gtest/gtest.h>
+#include <signal.h>
 
 #include <regex>
 #include <string>
@@ -90,6 +91,26 @@ TEST_F(ServicesTest, SpreadsheetsGoThereAndBackInEveryFormat) {
         if (format != "csv" && format != "txt") {
             EXPECT_NE(loaded.output.find("B3 3"), std::string::npos) << format << loaded.output;
         }
+    }
+}
+
+TEST_F(ServicesTest, TheCommonDialectMarksParenthesesInWorksheets) {
+    constexpr char kParentheses = 4;
+    writeFile(home / "cells", "A1 1\r\nB1 2\r\nC1 3\r\nD1 =(A1+B1)*C1\r\n");
+    std::filesystem::create_directories(home / "config");
+    for (const bool common : {false, true}) {
+        writeFile(
+            home / "config" / "Velmora.ini",
+            "; " + std::string(100, '-') + "\r\n[Settings]\r\nWksDialect=" + (common ? "1" : "0") + "\r\n");
+        startServer();
+        ASSERT_EQ(
+            organiser({"sheet-save", (home / "cells").string(), "--as", "SUM", "--format", "wks"}).status, 0);
+        const std::string tokens = contentsOf(psion / "Sum.wks").substr(20);
+        EXPECT_EQ(tokens.find(std::string("\x09") + kParentheses + "\x01") != std::string::npos, common);
+        const Finished loaded = organiser({"sheet-load", "SUM", "--format", "wks"});
+        EXPECT_NE(loaded.output.find("D1 =(A1+B1)*C1"), std::string::npos) << loaded.output;
+        server->signal(SIGTERM);
+        server->wait();
     }
 }
 

@@ -101,6 +101,14 @@ TEST_F(StopTest, ALineThatGoesAwayEndsTheServerWithOneAndOneLine) {
     EXPECT_EQ(std::count(server->error().begin(), server->error().end(), '\n'), 1) << server->error();
 }
 
+TEST_F(StopTest, AServerWhoseOutputNobodyReadsGoesOnServing) {
+    startServer();
+    server->closeOutput();
+    EXPECT_EQ(organiser({"formats"}).status, 0);
+    EXPECT_EQ(organiser({"formats"}).status, 0);
+    EXPECT_TRUE(server->running());
+}
+
 TEST_F(StopTest, WithoutAServerTheOrganiserReportsNoLink) {
     const Finished done = organiser({"formats"});
     EXPECT_EQ(done.status, 4) << done.output << done.error;

@@ -141,6 +141,13 @@ int Process::wait() {
     return status_;
 }
 
+void Process::closeOutput() {
+    for (int* pipe : {&outputPipe_, &errorPipe_}) {
+        ::close(*pipe);
+        *pipe = -1;
+    }
+}
+
 void Process::signal(int number) const {
     ::kill(id_, number);
 }

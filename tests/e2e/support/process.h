@@ -32,6 +32,8 @@ class Process {
 
     /// Reads everything, waits for the end and returns the exit status (128 + signal when it was killed).
     int wait();
+    /// Closes our end of the program's output and error output.
+    void closeOutput();
     void signal(int number) const;
     bool running();
     pid_t id() const { return id_; }
