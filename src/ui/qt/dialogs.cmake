@@ -6,6 +6,8 @@ velmora_library(qt_dialogs
     c_sh_folder.cpp
     frm_debug.cpp
     frm_setup.cpp
+    log_lines.cpp
+    log_view.cpp
   LIBS velmora_ui velmora_serial velmora_base Qt6::Widgets)
 set_target_properties(velmora_qt_dialogs PROPERTIES AUTOMOC ON)
 target_compile_definitions(velmora_qt_dialogs PUBLIC QT_NO_KEYWORDS)

@@ -1,16 +1,31 @@
 #include "ui/qt/frm_debug.h"
 
+#include <QAction>
 #include <QCheckBox>
+#include <QClipboard>
+#include <QDir>
 #include <QEvent>
-#include <QFontDatabase>
+#include <QFileDialog>
 #include <QGroupBox>
+#include <QGuiApplication>
 #include <QHBoxLayout>
-#include <QPlainTextEdit>
+#include <QHideEvent>
+#include <QKeySequence>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QSaveFile>
+#include <QShortcut>
+#include <QShowEvent>
 #include <QVBoxLayout>
+#include <utility>
 
-#include "base/byte_text.h"
+#include "ui/qt/log_view.h"
+#include "ui/qt/qt_text.h"
 
 namespace velmora {
 
@@ -25,19 +40,97 @@ frmDebug::frmDebug(const Clock& clock, QWidget* parent) : QWidget(parent, Qt::Wi
     build();
     flushTimer_.setSingleShot(true);
     flushTimer_.setInterval(kFlushMilliseconds);
-    connect(&flushTimer_, &QTimer::timeout, this, &frmDebug::flush);
+    connect(&flushTimer_, &QTimer::timeout, this, &frmDebug::showWaiting);
     resize(720, 460);
 }
 
 void frmDebug::build() {
-    txtLog = new QPlainTextEdit;
+    buildLog();
+    auto* all = new QVBoxLayout(this);
+    all->setMenuBar(buildMenus());
+    all->addWidget(txtLog, 1);
+    findBar = new QWidget;
+    findBar->setLayout(buildFind());
+    findBar->hide();
+    all->addWidget(findBar);
+    all->addLayout(buildFilters());
+    all->addLayout(buildLastRow());
+}
+
+void frmDebug::buildLog() {
+    txtLog = new LogView(lines_, this);
     txtLog->setObjectName("txtLog");
     txtLog->setAccessibleName(QStringLiteral("Log"));
-    txtLog->setReadOnly(true);
-    txtLog->setTabChangesFocus(true);
-    txtLog->setUndoRedoEnabled(false);
-    txtLog->setLineWrapMode(QPlainTextEdit::NoWrap);
-    txtLog->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    txtLog->setContextMenuPolicy(Qt::ActionsContextMenu);
+}
+
+QAction* frmDebug::addEntry(const QString& name, const QString& text, const QKeySequence& keys) {
+    auto* entry = new QAction(text, this);
+    entry->setObjectName(name);
+    entry->setShortcut(keys);
+    return entry;
+}
+
+QMenuBar* frmDebug::buildMenus() {
+    auto* save = addEntry("mnuSave", QStringLiteral("&Save log as…"), QKeySequence::Save);
+    connect(save, &QAction::triggered, this, &frmDebug::saveAs);
+    auto* copy = addEntry("mnuCopy", QStringLiteral("&Copy"), QKeySequence::Copy);
+    connect(copy, &QAction::triggered, this, &frmDebug::copySelection);
+    auto* copyEverything =
+        addEntry("mnuCopyAll", QStringLiteral("Copy &all"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C));
+    connect(copyEverything, &QAction::triggered, this, &frmDebug::copyAll);
+    auto* select = addEntry("mnuSelectAll", QStringLiteral("Select a&ll"), QKeySequence::SelectAll);
+    connect(select, &QAction::triggered, this, [this] {
+        showWaiting();
+        txtLog->selectAll();
+    });
+    auto* find = addEntry("mnuFind", QStringLiteral("&Find…"), QKeySequence(Qt::CTRL | Qt::Key_F));
+    connect(find, &QAction::triggered, this, &frmDebug::showFind);
+    auto* next = addEntry("mnuFindNext", QStringLiteral("Find &next"), QKeySequence(Qt::Key_F3));
+    connect(next, &QAction::triggered, this, [this] { this->find(LogLines::Direction::Forward); });
+    auto* previous =
+        addEntry("mnuFindPrevious", QStringLiteral("Find &previous"), QKeySequence(Qt::SHIFT | Qt::Key_F3));
+    connect(previous, &QAction::triggered, this, [this] { this->find(LogLines::Direction::Backward); });
+    auto* bar = new QMenuBar;
+    bar->addMenu(QStringLiteral("&File"))->addAction(save);
+    QMenu* edit = bar->addMenu(QStringLiteral("&Edit"));
+    edit->addActions({copy, copyEverything, select});
+    edit->addSeparator();
+    edit->addActions({find, next, previous});
+    txtLog->addActions(edit->actions());
+    txtLog->addAction(save);
+    return bar;
+}
+
+QBoxLayout* frmDebug::buildFind() {
+    txtFind = new QLineEdit;
+    txtFind->setObjectName("txtFind");
+    auto* label = new QLabel(QStringLiteral("F&ind:"));
+    label->setBuddy(txtFind);
+    connect(txtFind, &QLineEdit::textEdited, this, [this] { tellFound({}); });
+    connect(txtFind, &QLineEdit::returnPressed, this, [this] { find(LogLines::Direction::Forward); });
+    auto* next = new QPushButton(QStringLiteral("Ne&xt"));
+    next->setObjectName("cbFindNext");
+    connect(next, &QPushButton::clicked, this, [this] { find(LogLines::Direction::Forward); });
+    auto* previous = new QPushButton(QStringLiteral("&Previous"));
+    previous->setObjectName("cbFindPrevious");
+    connect(previous, &QPushButton::clicked, this, [this] { find(LogLines::Direction::Backward); });
+    lblFound = new QLabel;
+    lblFound->setObjectName("lblFound");
+    auto* away = new QShortcut(QKeySequence(Qt::Key_Escape), findBar);
+    away->setContext(Qt::WidgetWithChildrenShortcut);
+    connect(away, &QShortcut::activated, this, &frmDebug::hideFind);
+    auto* row = new QHBoxLayout;
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addWidget(label);
+    row->addWidget(txtFind, 1);
+    row->addWidget(next);
+    row->addWidget(previous);
+    row->addWidget(lblFound, 1);
+    return row;
+}
+
+QBoxLayout* frmDebug::buildFilters() {
     auto* showWhat = new QGroupBox(QStringLiteral("Show what?"));
     auto* modes = new QHBoxLayout(showWhat);
     const std::array<const char*, 3> names{"Everything", "Data", "Custom"};
@@ -61,23 +154,30 @@ void frmDebug::build() {
         boxes->addWidget(chkShowWhat[i]);
     }
     boxes->addStretch();
+    auto* filters = new QHBoxLayout;
+    filters->addWidget(showWhat);
+    filters->addWidget(detected, 1);
+    return filters;
+}
+
+QBoxLayout* frmDebug::buildLastRow() {
+    chkFollow = new QCheckBox(QStringLiteral("Follow the e&nd"));
+    chkFollow->setObjectName("chkFollow");
+    chkFollow->setChecked(txtLog->following());
+    connect(chkFollow, &QCheckBox::toggled, txtLog, &LogView::setFollowing);
+    connect(txtLog, &LogView::followingChanged, chkFollow, &QCheckBox::setChecked);
     chkLogToDisk = new QCheckBox(QStringLiteral("&Log to disk"));
     chkLogToDisk->setObjectName("chkLogToDisk");
     connect(chkLogToDisk, &QCheckBox::toggled, this, [this](bool on) { model_.setLogToDisk(on); });
     cbClear = new QPushButton(QStringLiteral("&Clear"));
     cbClear->setObjectName("cbClear");
     connect(cbClear, &QPushButton::clicked, this, [this] { model_.cbClear_Click(); });
-    auto* filters = new QHBoxLayout;
-    filters->addWidget(showWhat);
-    filters->addWidget(detected, 1);
     auto* last = new QHBoxLayout;
+    last->addWidget(chkFollow);
     last->addWidget(chkLogToDisk);
     last->addStretch();
     last->addWidget(cbClear);
-    auto* all = new QVBoxLayout(this);
-    all->addWidget(txtLog, 1);
-    all->addLayout(filters);
-    all->addLayout(last);
+    return last;
 }
 
 void frmDebug::toggle() {
@@ -109,36 +209,124 @@ void frmDebug::changeEvent(QEvent* event) {
 }
 
 void frmDebug::appendLine(const std::string& line) {
-    if (!waiting_.isEmpty()) {
-        waiting_ += '\n';
-    }
-    waiting_ += QString::fromStdString(toUtf8(line));
+    waiting_.push_back(line);
     if (!flushTimer_.isActive()) {
         flushTimer_.start();
     }
 }
 
-void frmDebug::flush() {
-    if (!waiting_.isEmpty()) {
-        txtLog->appendPlainText(waiting_);
-        waiting_.clear();
-    }
+void frmDebug::showWaiting() {
+    flushTimer_.stop();
+    lines_.append(std::exchange(waiting_, {}));
 }
 
 void frmDebug::clearLog() {
     waiting_.clear();
-    txtLog->clear();
+    lines_.clear();
+}
+
+void frmDebug::copySelection() {
+    const QString text = txtLog->selectedText();
+    if (!text.isEmpty()) {
+        QGuiApplication::clipboard()->setText(text);
+    }
+}
+
+void frmDebug::copyAll() {
+    showWaiting();
+    QString text;
+    for (int row = 0; row < lines_.rowCount(); ++row) {
+        text += qtText(lines_.line(row));
+        text += '\n';
+    }
+    QGuiApplication::clipboard()->setText(text);
+}
+
+void frmDebug::saveAs() {
+    QFileDialog dialog(this, QStringLiteral("Save log"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setNameFilters({QStringLiteral("Text files (*.txt)"), QStringLiteral("All files (*)")});
+    dialog.setDefaultSuffix(QStringLiteral("txt"));
+    if (dialog.exec() == QDialog::Accepted) {
+        saveTo(dialog.selectedFiles().constFirst());
+    }
+}
+
+bool frmDebug::saveTo(const QString& path) {
+    showWaiting();
+    QSaveFile file(path);
+    file.setDirectWriteFallback(true);
+    bool written = file.open(QIODevice::WriteOnly | QIODevice::Text);
+    for (int row = 0; written && row < lines_.rowCount(); ++row) {
+        const std::string line = toUtf8(lines_.line(row)) + '\n';
+        written = file.write(line.data(), static_cast<qint64>(line.size())) >= 0;
+    }
+    if (written && file.commit()) {
+        return true;
+    }
+    QMessageBox box(
+        QMessageBox::Critical, windowTitle(),
+        QStringLiteral("The log could not be saved in\n%1\n\n%2\n\nChoose another folder or name.")
+            .arg(QDir::toNativeSeparators(path), file.errorString()),
+        QMessageBox::Ok, this);
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
+    return false;
+}
+
+void frmDebug::showFind() {
+    findBar->show();
+    txtFind->setFocus(Qt::ShortcutFocusReason);
+    txtFind->selectAll();
+}
+
+void frmDebug::hideFind() {
+    findBar->hide();
+    txtLog->setFocus(Qt::OtherFocusReason);
+}
+
+void frmDebug::find(LogLines::Direction direction) {
+    if (txtFind->text().isEmpty()) {
+        showFind();
+        return;
+    }
+    findBar->show();
+    showWaiting();
+    const bool forward = direction == LogLines::Direction::Forward;
+    const int from = txtLog->currentIndex().row();
+    const auto part = fromUtf8(txtFind->text().toStdString());
+    const auto row = part ? lines_.find(*part, from, direction) : std::nullopt;
+    if (!row) {
+        tellFound(QStringLiteral("Not found"));
+        return;
+    }
+    const QModelIndex index = lines_.index(*row, 0);
+    txtLog->setFollowing(false);
+    txtLog->setCurrentIndex(index);
+    txtLog->scrollTo(index, QAbstractItemView::PositionAtCenter);
+    const bool round = from >= 0 && (forward ? *row <= from : *row >= from);
+    const QString end =
+        forward ? QStringLiteral(", from the beginning again") : QStringLiteral(", from the end again");
+    tellFound(QStringLiteral("Line %1 of %2").arg(*row + 1).arg(lines_.rowCount()) +
+              (round ? end : QString()));
+}
+
+// Beside the line and spoken with it.
+void frmDebug::tellFound(const QString& words) {
+    lblFound->setText(words);
+    txtFind->setAccessibleDescription(words);
 }
 
 void frmDebug::categoryChanged(std::size_t index) {
     const DebugLogModel::Category& category = model_.category(index);
     QCheckBox* box = chkShowWhat[index];
-    box->setText(QString::fromStdString(toUtf8(category.caption)));
+    box->setText(qtText(category.caption));
     box->setVisible(category.visible);
+    // The third state is there only while it is shown: a box that is not tristate never looks greyed.
+    box->setTristate(category.value == DebugLogModel::kInactive);
     box->setCheckState(category.value == DebugLogModel::kOff  ? Qt::Unchecked
                        : category.value == DebugLogModel::kOn ? Qt::Checked
                                                               : Qt::PartiallyChecked);
-    box->setTristate(false);
 }
 
 }  // namespace velmora

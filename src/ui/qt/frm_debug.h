@@ -4,15 +4,24 @@
 #include <QTimer>
 #include <QWidget>
 #include <array>
+#include <string>
+#include <vector>
 
 #include "ui/debug_log_model.h"
+#include "ui/qt/log_lines.h"
 
+class QAction;
+class QBoxLayout;
 class QCheckBox;
-class QPlainTextEdit;
+class QLabel;
+class QLineEdit;
+class QMenuBar;
 class QPushButton;
 class QRadioButton;
 
 namespace velmora {
+
+class LogView;
 
 /// The protocol trace as a log with its filter. Lines are shown in batches, so that a busy link does not wait
 /// for the screen.
@@ -27,6 +36,11 @@ class frmDebug : public QWidget, private DebugLogView {
     DebugLogModel& model() { return model_; }
     /// Shows the hidden window, hides the shown one.
     void toggle();
+    /// Puts the lines on the screen that wait for the next batch.
+    void showWaiting();
+    /// Writes the whole log, UTF-8 with this system's line ends. A failure is shown in a box and leaves the
+    /// file that was there.
+    bool saveTo(const QString& path);
 
   protected:
     void showEvent(QShowEvent* event) override;
@@ -38,12 +52,30 @@ class frmDebug : public QWidget, private DebugLogView {
     void clearLog() override;
     void categoryChanged(std::size_t index) override;
     void build();
-    void flush();
+    QMenuBar* buildMenus();
+    void buildLog();
+    QBoxLayout* buildFind();
+    QBoxLayout* buildFilters();
+    QBoxLayout* buildLastRow();
+    QAction* addEntry(const QString& name, const QString& text, const QKeySequence& keys);
+
+    void saveAs();
+    void copySelection();
+    void copyAll();
+    void showFind();
+    void hideFind();
+    void find(LogLines::Direction direction);
+    void tellFound(const QString& words);
 
     DebugLogModel model_;
-    QString waiting_;
+    LogLines lines_;
+    std::vector<std::string> waiting_;
     QTimer flushTimer_;
-    QPlainTextEdit* txtLog = nullptr;
+    LogView* txtLog = nullptr;
+    QWidget* findBar = nullptr;
+    QLineEdit* txtFind = nullptr;
+    QLabel* lblFound = nullptr;
+    QCheckBox* chkFollow = nullptr;
     std::array<QRadioButton*, 3> obShowWhat{};
     std::array<QCheckBox*, DebugLogModel::kCategories> chkShowWhat{};
     QCheckBox* chkLogToDisk = nullptr;

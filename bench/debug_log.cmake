@@ -1,0 +1,1 @@
+velmora_bench(debug_log_bench SOURCES debug_log_bench.cpp LIBS velmora_qt_dialogs)
