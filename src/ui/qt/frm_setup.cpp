@@ -107,6 +107,9 @@ void frmSetup::build() {
         button->setObjectName(QStringLiteral("obPort_%1").arg(i));
         ports->addWidget(button, i - 1, 0);
         obPort[static_cast<std::size_t>(i - 1)] = button;
+        button->setBackgroundRole(QPalette::Window);
+        button->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
+        button->setMinimumWidth(button->fontMetrics().horizontalAdvance(QStringLiteral("(o) COM9999")));
         auto* words = new QLabel;
         ports->addWidget(words, i - 1, i == SetupModel::kOtherPort ? 3 : 1, 1,
                          i == SetupModel::kOtherPort ? 1 : 3);
@@ -310,6 +313,7 @@ void frmSetup::fillDevices() {
     }
     cboPresentPorts->setCurrentIndex(-1);
     lblDeviceHint->clear();
+    lblDeviceHint->hide();
 }
 
 void frmSetup::deviceChosen(int row) {
@@ -331,6 +335,7 @@ void frmSetup::deviceChosen(int row) {
         }
     }
     lblDeviceHint->setText(hint);
+    lblDeviceHint->setVisible(!hint.isEmpty());
 }
 
 void frmSetup::changeEvent(QEvent* event) {

@@ -13,7 +13,9 @@
 #include <string_view>
 #include <vector>
 
+#include "link/crc.h"
 #include "link/debug.h"
+#include "link/frames.h"
 #include "serial/device_facts.h"
 #include "serial/open_diagnosis.h"
 #include "support/scripted_port.h"
@@ -39,6 +41,7 @@ QPalette darkPalette() {
     palette.setColor(QPalette::Base, QColor(0x1F, 0x21, 0x23));
     palette.setColor(QPalette::AlternateBase, QColor(0x2B, 0x2D, 0x30));
     palette.setColor(QPalette::Text, QColor(0xE6, 0xE6, 0xE6));
+    palette.setColor(QPalette::PlaceholderText, QColor(0xA0, 0xA0, 0xA0));
     palette.setColor(QPalette::Button, QColor(0x3A, 0x3D, 0x41));
     palette.setColor(QPalette::ButtonText, QColor(0xE6, 0xE6, 0xE6));
     palette.setColor(QPalette::Mid, QColor(0x55, 0x59, 0x5E));
@@ -157,12 +160,17 @@ bool saveMonitor(const QDir& folder, const char* name) {
     using namespace std::string_view_literals;
     entry(0.02, "PLP", "starting PLP", {});
     entry(0.02, "COM", "open port", "COM5 9600,N,8,1");
-    entry(3.41, "COM,DATA", "recv", "\x16\x10\x02\x09\x01\x03\xC1\xF0"sv);
-    entry(3.42, "COM,DATA", "send", "\x16\x10\x02\x09\x00\x10\x03\x2A\xF0"sv);
-    entry(3.58, "COM,DATA", "recv", "\x16\x10\x02\x01\x01\x00XFILE\x10\x03\x11\x40"sv);
+    const Crc crc;
+    entry(3.41, "COM,DATA", "recv", buildFrame(crc, FrameType::Connect, 0, {}));
+    entry(3.42, "COM,DATA", "send", buildFrame(crc, FrameType::Ack, 0, {}));
+    entry(3.58, "COM,DATA", "recv", buildFrame(crc, FrameType::Data, 1, "\x02XFILE"sv));
+    entry(3.59, "COM,DATA", "send", buildFrame(crc, FrameType::Ack, 1, {}));
+    entry(3.74, "COM,DATA", "recv", buildFrame(crc, FrameType::Data, 2, "\x02\x01:CONTACTS"sv));
+    entry(3.75, "COM,DATA", "send", buildFrame(crc, FrameType::Ack, 2, {}));
+    entry(3.81, "COM,DATA", "send", buildFrame(crc, FrameType::Data, 1, "\x00"sv));
     // Lines are shown in batches: the picture waits for the batch.
     const auto* shown = window.findChild<QPlainTextEdit*>();
-    while (!shown->toPlainText().contains(QLatin1String("XFILE"))) {
+    while (!shown->toPlainText().contains(QLatin1String("3.81"))) {
         QApplication::processEvents(QEventLoop::WaitForMoreEvents);
     }
     return save(window, folder, name);
