@@ -336,6 +336,10 @@ void frmSetup::deviceChosen(int row) {
     }
     lblDeviceHint->setText(hint);
     lblDeviceHint->setVisible(!hint.isEmpty());
+    // A wrapped hint does not make the window grow by itself.
+    if (layout()->hasHeightForWidth()) {
+        resize(width(), std::max(height(), layout()->totalHeightForWidth(width())));
+    }
 }
 
 void frmSetup::changeEvent(QEvent* event) {
