@@ -1,65 +1,81 @@
 #include "ui/qt/c_sh_folder.h"
 
+#include <QDir>
 #include <QFile>
-#include <QFileDialog>
-#include <QGridLayout>
-#include <QLabel>
 #include <QScreen>
+#include <QStandardPaths>
 #include <QTimer>
 
-#include "base/byte_text.h"
+#include "ui/qt/folder_dialog.h"
+#include "ui/qt/qt_text.h"
 
 namespace velmora {
 
 namespace {
 
-QString shown(const std::string& text) {
-    return QString::fromStdString(toUtf8(text));
+std::string systemPath(const QString& path) {
+    return QFile::encodeName(path).toStdString();
 }
 
-// The toolkit's dialog has no place for a prompt: its rows move down by one.
-void putAbove(QFileDialog& dialog, const QString& prompt) {
-    auto* grid = qobject_cast<QGridLayout*>(dialog.layout());
-    if (!grid) {
-        return;
-    }
-    struct Cell {
-        QLayoutItem* item;
-        int row, column, rows, columns;
-    };
-    QList<Cell> cells;
-    while (grid->count() > 0) {
-        Cell cell{};
-        grid->getItemPosition(0, &cell.row, &cell.column, &cell.rows, &cell.columns);
-        cell.item = grid->takeAt(0);
-        cells.append(cell);
-    }
-    auto* label = new QLabel(prompt);
-    label->setObjectName("lblPrompt");
-    grid->addWidget(label, 0, 0, 1, 3);
-    for (const Cell& cell : cells) {
-        grid->addItem(cell.item, cell.row + 1, cell.column, cell.rows, cell.columns);
-    }
+QString shownPath(const std::string& path) {
+    return QFile::decodeName(path.c_str());
 }
 
 }  // namespace
 
+std::string specialFolder(int number) {
+    struct Row {
+        int number;
+        QStandardPaths::StandardLocation place;
+    };
+    static constexpr Row kRows[] = {
+        {5, QStandardPaths::DocumentsLocation},    {13, QStandardPaths::MusicLocation},
+        {14, QStandardPaths::MoviesLocation},      {16, QStandardPaths::DesktopLocation},
+        {20, QStandardPaths::FontsLocation},       {26, QStandardPaths::GenericConfigLocation},
+        {28, QStandardPaths::GenericDataLocation}, {39, QStandardPaths::PicturesLocation},
+        {40, QStandardPaths::HomeLocation},
+    };
+    constexpr int kDrives = 17;
+    if (number == kDrives) {
+        return systemPath(QDir::rootPath());
+    }
+    for (const Row& row : kRows) {
+        if (row.number == number) {
+            return systemPath(QStandardPaths::writableLocation(row.place));
+        }
+    }
+    return {};
+}
+
 void cSHFolder::setDefaultPath(const std::string& path) {
     defaultPath_ = path;
     if (dialog_) {
-        dialog_->setDirectory(QFile::decodeName(path.c_str()));
+        dialog_->setDirectory(shownPath(path));
     }
 }
 
 void cSHFolder::setCaption(const std::string& caption) {
     caption_ = caption;
     if (dialog_) {
-        dialog_->setWindowTitle(shown(caption));
+        dialog_->setWindowTitle(qtText(caption));
+    }
+}
+
+void cSHFolder::setStatusText(const std::string& text) {
+    statusText_ = text;
+    if (dialog_) {
+        dialog_->setStatusText(qtText(text));
+    }
+}
+
+void cSHFolder::setOKEnabled(bool on) {
+    if (dialog_) {
+        dialog_->setOkEnabled(on);
     }
 }
 
 QWidget* cSHFolder::hWnd() const {
-    return dialog_;
+    return dialog_.data();
 }
 
 void cSHFolder::CenterDialog() {
@@ -73,27 +89,35 @@ void cSHFolder::CenterDialog() {
                  screen.top() + (screen.height() - size.height()) / 2);
 }
 
-std::string cSHFolder::BrowseForFolder(QWidget* owner, const std::optional<std::string>& prompt) {
+std::string cSHFolder::BrowseForFolder(QWidget* owner, const std::optional<std::string>& prompt, int root) {
     displayName_.clear();
-    QFileDialog dialog(owner);
-    dialog.setOption(QFileDialog::DontUseNativeDialog);
-    dialog.setFileMode(QFileDialog::Directory);
-    dialog.setOption(QFileDialog::ShowDirsOnly);
-    dialog.setLabelText(QFileDialog::Accept, QStringLiteral("OK"));
-    putAbove(dialog, shown(prompt.value_or(FolderQuestion().prompt)));
+    FolderDialog::Options options;
+    options.prompt = qtText(prompt.value_or(FolderQuestion().prompt));
+    options.root = shownPath(specialFolder(root));
+    options.statusLine = statusTextArea_;
+    options.files = includeFiles_;
+    options.pathBox = editBox_;
+    options.resizable = newDialog_;
+    FolderDialog dialog(options, owner);
     dialog_ = &dialog;
     if (!defaultPath_.empty()) {
         setDefaultPath(defaultPath_);
     }
+    setStatusText(statusText_);
+    const std::string special = specialFolder(defaultPidl_.value_or(0));
+    if (!special.empty()) {
+        dialog.setDirectory(shownPath(special));
+    }
     if (!caption_.empty()) {
         setCaption(caption_);
     }
-    connect(&dialog, &QFileDialog::currentChanged, this, &cSHFolder::SelectionChanged);
+    connect(&dialog, &FolderDialog::selectionMoved, this, &cSHFolder::SelectionChanged);
+    connect(&dialog, &FolderDialog::validationFailed, this, &cSHFolder::ValidationFailed);
     QTimer::singleShot(0, &dialog, [this] { Q_EMIT Initialized(); });
     const bool accepted = dialog.exec() == QDialog::Accepted;
     dialog_ = nullptr;
-    if (accepted && !dialog.selectedFiles().isEmpty()) {
-        displayName_ = QFile::encodeName(dialog.selectedFiles().constFirst()).toStdString();
+    if (accepted) {
+        displayName_ = systemPath(dialog.chosenPath());
     }
     return displayName_;
 }
@@ -103,6 +127,8 @@ BrowseForFolder folderBrowser(QWidget* owner) {
         cSHFolder folder;
         folder.setCaption(question.caption);
         folder.setDefaultPath(question.startFolder);
+        folder.setNewDialog(true);
+        folder.setEditBox(true);
         return folder.BrowseForFolder(owner, question.prompt);
     };
 }

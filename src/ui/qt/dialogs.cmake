@@ -4,6 +4,7 @@ find_package(Qt6 REQUIRED COMPONENTS Widgets)
 velmora_library(qt_dialogs
   SOURCES
     c_sh_folder.cpp
+    folder_dialog.cpp
     frm_debug.cpp
     frm_setup.cpp
     log_lines.cpp

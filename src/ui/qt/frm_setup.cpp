@@ -13,17 +13,41 @@
 #include <QRadioButton>
 #include <QTimer>
 #include <QVBoxLayout>
+#include <algorithm>
+#include <cmath>
 #include <utility>
 
-#include "base/byte_text.h"
 #include "ui/port_key_filter.h"
+#include "ui/qt/qt_text.h"
 
 namespace velmora {
 
 namespace {
 
-QString shown(const std::string& text) {
-    return QString::fromStdString(toUtf8(text));
+// Relative luminance and contrast as WCAG 2.1 defines them.
+double luminance(const QColor& colour) {
+    const auto linear = [](double part) {
+        return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
+           0.0722 * linear(colour.blueF());
+}
+
+double contrast(const QColor& one, const QColor& other) {
+    const double first = luminance(one);
+    const double second = luminance(other);
+    return (std::max(first, second) + 0.05) / (std::min(first, second) + 0.05);
+}
+
+// The marks' colours are fixed and the desktop's are not: a ground on which the mark is readable, its own
+// where that will do.
+QColor groundFor(const QColor& mark, const QColor& own) {
+    constexpr double kReadable = 4.5;
+    if (contrast(mark, own) >= kReadable) {
+        return own;
+    }
+    const QColor dark(0x1B, 0x1B, 0x1B);
+    return contrast(mark, Qt::white) > contrast(mark, dark) ? QColor(Qt::white) : dark;
 }
 
 QString describe(const SerialDevice& device) {
@@ -62,8 +86,9 @@ frmSetup::frmSetup(SerialPort& port, ServerOptions& options, TransferSettings& t
                       txtPortNo->setFocus();
                   }
               },
-              [] { QApplication::beep(); }, [this] { closeNow(); }}),
-      listDevices_(std::move(listDevices)) {
+              [this] { beep_(); }, [this] { closeNow(); }}),
+      listDevices_(std::move(listDevices)),
+      beep_([] { QApplication::beep(); }) {
     setWindowTitle(QStringLiteral("Velmora Setup"));
     build();
     connectControls();
@@ -75,12 +100,16 @@ void frmSetup::build() {
     grpPort = new QGroupBox(QStringLiteral("Port"));
     grpPort->setObjectName("grpPort");
     auto* ports = new QGridLayout(grpPort);
+    ports->setHorizontalSpacing(fontMetrics().horizontalAdvance('0'));
     for (int i = 1; i <= SetupModel::kOtherPort; ++i) {
         auto* button = new QRadioButton(i == SetupModel::kOtherPort ? QStringLiteral("COM")
                                                                     : QStringLiteral("COM%1").arg(i));
         button->setObjectName(QStringLiteral("obPort_%1").arg(i));
         ports->addWidget(button, i - 1, 0);
         obPort[static_cast<std::size_t>(i - 1)] = button;
+        button->setBackgroundRole(QPalette::Window);
+        button->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
+        button->setMinimumWidth(button->fontMetrics().horizontalAdvance(QStringLiteral("(o) COM9999")));
         auto* words = new QLabel;
         ports->addWidget(words, i - 1, i == SetupModel::kOtherPort ? 3 : 1, 1,
                          i == SetupModel::kOtherPort ? 1 : 3);
@@ -114,6 +143,9 @@ void frmSetup::build() {
     ports->addWidget(lblDeviceHint, 6, 0, 1, 4);
     lblStatus = new QLabel;
     lblStatus->setObjectName("lblStatus");
+    QFont strong = font();
+    strong.setBold(true);
+    lblStatus->setFont(strong);
     lblStatus->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("COM99  wasn't checked yet")));
     ports->addWidget(lblStatus, 7, 0, 1, 4);
 
@@ -205,14 +237,20 @@ void frmSetup::load() {
         return;
     }
     loading_ = true;
+    // The port group is disabled meanwhile: the focus waits where the one thing to do is.
+    pbCancel->setFocus();
     showState();
     model_.load();
     loading_ = false;
     loaded_ = true;
-    if (!model_.closed()) {
-        showState();
-        model_.activated();
+    if (model_.closed()) {
+        return;
     }
+    showState();
+    if (!focusWidget() || focusWidget() == pbCancel) {
+        obPort[static_cast<std::size_t>(model_.selectedPort() - 1)]->setFocus();
+    }
+    model_.activated();
 }
 
 void frmSetup::showState() {
@@ -224,7 +262,7 @@ void frmSetup::showState() {
     for (int i = 1; i <= SetupModel::kOtherPort; ++i) {
         const auto index = static_cast<std::size_t>(i - 1);
         const PortMark& mark = model_.mark(i);
-        const QString tip = shown(mark.toolTip);
+        const QString tip = qtText(mark.toolTip);
         QRadioButton* button = obPort[index];
         button->setChecked(model_.selectedPort() == i);
         button->setToolTip(tip);
@@ -232,23 +270,28 @@ void frmSetup::showState() {
         button->setAccessibleDescription(words);
         portWords[index]->setText(words);
         QPalette colours = palette();
+        QColor ground = colours.color(QPalette::Window);
         if (!tip.isEmpty()) {
-            // A light ground keeps the fixed colours readable on a dark desktop.
             const QColor colour(mark.colour.red, mark.colour.green, mark.colour.blue);
+            ground = groundFor(colour, ground);
+            // Disabled too: the marks appear while the ports are still being tested.
             colours.setColor(QPalette::WindowText, colour);
-            colours.setColor(QPalette::Window, Qt::white);
+            colours.setColor(QPalette::Window, ground);
         }
+        QFont weight = font();
+        weight.setBold(!tip.isEmpty());
+        button->setFont(weight);
         button->setPalette(colours);
-        button->setAutoFillBackground(!tip.isEmpty() && palette().color(QPalette::Window).lightness() < 128);
+        button->setAutoFillBackground(ground != palette().color(QPalette::Window));
     }
-    if (txtPortNo->text() != shown(model_.portText())) {
-        txtPortNo->setText(shown(model_.portText()));
+    if (txtPortNo->text() != qtText(model_.portText())) {
+        txtPortNo->setText(qtText(model_.portText()));
     }
     // The box stays open to the mouse, whose press selects the other port.
     txtPortNo->setReadOnly(!model_.portTextEnabled());
     txtPortNo->setFocusPolicy(model_.portTextEnabled() ? Qt::StrongFocus : Qt::ClickFocus);
     pbCheckPort->setEnabled(model_.portTextEnabled());
-    lblStatus->setText(shown(model_.statusText()));
+    lblStatus->setText(qtText(model_.statusText()));
     for (std::size_t i = 0; i < obBaud.size(); ++i) {
         if (model_.baud() == SetupModel::kBaudRates[i]) {
             obBaud[i]->setChecked(true);
@@ -270,6 +313,7 @@ void frmSetup::fillDevices() {
     }
     cboPresentPorts->setCurrentIndex(-1);
     lblDeviceHint->clear();
+    lblDeviceHint->hide();
 }
 
 void frmSetup::deviceChosen(int row) {
@@ -291,6 +335,11 @@ void frmSetup::deviceChosen(int row) {
         }
     }
     lblDeviceHint->setText(hint);
+    lblDeviceHint->setVisible(!hint.isEmpty());
+    // A wrapped hint does not make the window grow by itself.
+    if (layout()->hasHeightForWidth()) {
+        resize(width(), std::max(height(), layout()->totalHeightForWidth(width())));
+    }
 }
 
 void frmSetup::changeEvent(QEvent* event) {
@@ -308,7 +357,7 @@ bool frmSetup::eventFilter(QObject* watched, QEvent* event) {
     if (watched == txtPortNo && event->type() == QEvent::KeyPress) {
         const auto& key = *static_cast<QKeyEvent*>(event);
         if (!isEditingKey(key) && !portKeyPasses(key.text().at(0).unicode())) {
-            QApplication::beep();
+            beep_();
             return true;
         }
     }

@@ -4,6 +4,7 @@
 #include <QDialog>
 #include <array>
 #include <functional>
+#include <utility>
 #include <vector>
 
 #include "serial/port_list.h"
@@ -32,6 +33,8 @@ class frmSetup : public QDialog {
              ListDevices listDevices, QWidget* parent = nullptr);
 
     void reject() override;
+    /// What sounds when a key is refused or there is no number to check; the desktop's beep at first.
+    void setBeep(std::function<void()> beep) { beep_ = std::move(beep); }
 
   protected:
     void showEvent(QShowEvent* event) override;
@@ -49,6 +52,7 @@ class frmSetup : public QDialog {
 
     SetupModel model_;
     ListDevices listDevices_;
+    std::function<void()> beep_;
     std::vector<SerialDevice> devices_;
     bool shownOnce_ = false;
     bool loading_ = false;

@@ -1,18 +1,27 @@
 // velmora-screenshots FOLDER: pictures of the main window in its states, as real calls of the controller
-// bring them about. For the documents, and for a look at what a change does.
+// bring them about, of the setup dialog and of the protocol monitor. For the documents, and for a look at
+// what a change does.
 #include <QApplication>
 #include <QDir>
 #include <QPalette>
 #include <QPixmap>
+#include <QPlainTextEdit>
 #include <QStyleFactory>
 #include <cstdio>
 #include <functional>
 #include <memory>
+#include <string_view>
 #include <vector>
 
+#include "link/crc.h"
+#include "link/debug.h"
+#include "link/frames.h"
 #include "serial/device_facts.h"
 #include "serial/open_diagnosis.h"
+#include "support/scripted_port.h"
 #include "support/window_rig.h"
+#include "ui/qt/frm_debug.h"
+#include "ui/qt/frm_setup.h"
 
 namespace {
 
@@ -32,6 +41,7 @@ QPalette darkPalette() {
     palette.setColor(QPalette::Base, QColor(0x1F, 0x21, 0x23));
     palette.setColor(QPalette::AlternateBase, QColor(0x2B, 0x2D, 0x30));
     palette.setColor(QPalette::Text, QColor(0xE6, 0xE6, 0xE6));
+    palette.setColor(QPalette::PlaceholderText, QColor(0xA0, 0xA0, 0xA0));
     palette.setColor(QPalette::Button, QColor(0x3A, 0x3D, 0x41));
     palette.setColor(QPalette::ButtonText, QColor(0xE6, 0xE6, 0xE6));
     palette.setColor(QPalette::Mid, QColor(0x55, 0x59, 0x5E));
@@ -84,6 +94,88 @@ const std::vector<Scene>& scenes() {
     return all;
 }
 
+struct Picture {
+    const char* name;
+    bool dark;
+};
+
+bool save(QWidget& window, const QDir& folder, const char* name) {
+    const QString path = folder.filePath(QLatin1String(name) + QStringLiteral(".png"));
+    if (!window.grab().save(path)) {
+        std::fprintf(stderr, "velmora-screenshots: %s cannot be written\n", qPrintable(path));
+        return false;
+    }
+    return true;
+}
+
+// Four ports in different states and a USB adapter in use as the other port.
+bool saveSetup(const QDir& folder, const char* name) {
+    test::ScriptedPort port;
+    port.number = 5;
+    ServerOptions options;
+    options.AutoSelectPort = false;
+    TransferSettings transfer;
+    int probes = 0;
+    const auto probe = [&probes](std::int16_t number) -> std::int32_t {
+        static constexpr std::int32_t kAnswers[] = {kStatusInUse, kStatusModem, kStatusNotAccessible,
+                                                    kStatusNotAccessible, kStatusAvailable};
+        ++probes;
+        return kAnswers[number - 1];
+    };
+    const auto devices = [] {
+        return std::vector<SerialDevice>{{5, "/dev/ttyUSB0", "FTDI", "FT232R USB UART", true, ""}};
+    };
+    frmSetup dialog(port, options, transfer, probe, devices);
+    dialog.show();
+    constexpr int kAllPorts = 5;
+    while (probes < kAllPorts) {
+        QApplication::processEvents();
+    }
+    QApplication::processEvents();
+    return save(dialog, folder, name);
+}
+
+// The same evening in every picture.
+class PictureClock : public Clock {
+  public:
+    DateTime localTime() const override { return {}; }
+    DateTime universalTime() const override { return {}; }
+    double secondsSinceMidnight() const override { return 72000 + seconds; }
+    std::chrono::microseconds monotonic() const override { return {}; }
+
+    double seconds = 0;
+};
+
+// A link being made and the first frames of a transfer, as the trace of the link words them.
+bool saveMonitor(const QDir& folder, const char* name) {
+    PictureClock clock;
+    frmDebug window(clock);
+    window.toggle();
+    DebugLogModel& log = window.model();
+    Debug trace(log);
+    const auto entry = [&](double seconds, const char* categories, const char* label, std::string_view data) {
+        clock.seconds = seconds;
+        trace.trace(categories, label, data);
+    };
+    using namespace std::string_view_literals;
+    entry(0.02, "PLP", "starting PLP", {});
+    entry(0.02, "COM", "open port", "COM5 9600,N,8,1");
+    const Crc crc;
+    entry(3.41, "COM,DATA", "recv", buildFrame(crc, FrameType::Connect, 0, {}));
+    entry(3.42, "COM,DATA", "send", buildFrame(crc, FrameType::Ack, 0, {}));
+    entry(3.58, "COM,DATA", "recv", buildFrame(crc, FrameType::Data, 1, "\x02XFILE"sv));
+    entry(3.59, "COM,DATA", "send", buildFrame(crc, FrameType::Ack, 1, {}));
+    entry(3.74, "COM,DATA", "recv", buildFrame(crc, FrameType::Data, 2, "\x02\x01:CONTACTS"sv));
+    entry(3.75, "COM,DATA", "send", buildFrame(crc, FrameType::Ack, 2, {}));
+    entry(3.81, "COM,DATA", "send", buildFrame(crc, FrameType::Data, 1, "\x00"sv));
+    // Lines are shown in batches: the picture waits for the batch.
+    const auto* shown = window.findChild<QPlainTextEdit*>();
+    while (!shown->toPlainText().contains(QLatin1String("3.81"))) {
+        QApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    }
+    return save(window, folder, name);
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -102,11 +194,19 @@ int main(int argc, char** argv) {
         rig.window.show();
         scene.play(rig);
         QApplication::processEvents();
-        const QString path = folder.filePath(QLatin1String(scene.name) + QStringLiteral(".png"));
-        if (!rig.window.grab().save(path)) {
-            std::fprintf(stderr, "velmora-screenshots: %s cannot be written\n", qPrintable(path));
+        if (!save(rig.window, folder, scene.name)) {
             return 1;
         }
+    }
+    for (const auto& [name, dark] : {Picture{"setup", false}, Picture{"setup-dark", true}}) {
+        QApplication::setPalette(dark ? darkPalette() : light);
+        if (!saveSetup(folder, name)) {
+            return 1;
+        }
+    }
+    QApplication::setPalette(light);
+    if (!saveMonitor(folder, "protocol-monitor")) {
+        return 1;
     }
     return 0;
 }

@@ -1,0 +1,50 @@
+// The toolkit's file dialog with what choosing a folder needs on top.
+#pragma once
+
+#include <QFileDialog>
+
+class QLabel;
+class QPushButton;
+
+namespace velmora {
+
+/// Prompt above the folders, status line below, a path box that is checked, an upper bound. Use once.
+class FolderDialog : public QFileDialog {
+    Q_OBJECT
+
+  public:
+    struct Options {
+        QString prompt;
+        QString root;  ///< empty: everything
+        bool statusLine = false;
+        bool files = false;  ///< files are shown and may be chosen
+        bool pathBox = false;
+        bool resizable = false;
+    };
+
+    FolderDialog(const Options& options, QWidget* owner);
+
+    void setStatusText(const QString& text);
+    void setOkEnabled(bool on);
+    /// What is selected, with its whole path.
+    QString chosenPath() const;
+    void accept() override;
+
+  Q_SIGNALS:
+    void selectionMoved();
+    void validationFailed();
+
+  private:
+    void addRows();
+    void selectionChanged();
+    bool mayBeChosen(const QString& path) const;
+    bool insideRoot(const QString& path) const;
+
+    const Options options_;
+    bool okAllowed_ = true;
+    QLabel* lblStatus = nullptr;
+    QLabel* lblFault = nullptr;
+    QPushButton* pbOK = nullptr;
+};
+
+}  // namespace velmora

@@ -1,0 +1,252 @@
+#include "ui/qt/c_sh_folder.h"
+
+#include <QDialogButtonBox>
+#include <QDir>
+#include <QFile>
+#include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScreen>
+#include <QSignalSpy>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QTest>
+#include <functional>
+
+namespace velmora {
+
+class CSHFolderTest : public QObject {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void init() {
+        QVERIFY(QDir(place.path()).mkpath("inner"));
+        QFile file(place.filePath("plain.txt"));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+    }
+
+    void theChosenFolderIsReturnedAndKept() {
+        cSHFolder folder;
+        folder.setDefaultPath(path());
+        whenOpen(folder, [&] {
+            opened(folder)->selectFile(place.filePath("inner"));
+            accept(folder);
+        });
+        QCOMPARE(folder.BrowseForFolder(nullptr), path() + "/inner");
+        QCOMPARE(folder.DisplayName(), path() + "/inner");
+        QVERIFY(!folder.hWnd());
+    }
+    void theDefaultPathIsPreselected() {
+        cSHFolder folder;
+        folder.setDefaultPath(path());
+        whenOpen(folder, [&] { accept(folder); });
+        QCOMPARE(folder.BrowseForFolder(nullptr), path());
+    }
+    void anOpenDialogGoesToTheDefaultPathAtOnce() {
+        cSHFolder folder;
+        whenOpen(folder, [&] {
+            folder.setDefaultPath(path() + "/inner");
+            accept(folder);
+        });
+        QCOMPARE(folder.BrowseForFolder(nullptr), path() + "/inner");
+    }
+    void cancelIsEmptyAndForgetsTheLastChoice() {
+        cSHFolder folder;
+        folder.setDefaultPath(path());
+        bool cancel = false;
+        whenOpen(folder, [&] { cancel ? opened(folder)->reject() : accept(folder); });
+        QCOMPARE(folder.BrowseForFolder(nullptr), path());
+        cancel = true;
+        QCOMPARE(folder.BrowseForFolder(nullptr), std::string());
+        QCOMPARE(folder.DisplayName(), std::string());
+        QVERIFY(!folder.hWnd());
+    }
+    void captionPromptAndStatusAreShown() {
+        cSHFolder folder;
+        folder.setCaption("Folder \xFC");
+        folder.setStatusTextArea(true);
+        folder.setStatusText("ready");
+        whenOpen(folder, [&] {
+            QCOMPARE(folder.hWnd()->windowTitle(), QString::fromUtf8("Folder \u00FC"));
+            QCOMPARE(label(folder, "lblPrompt")->text(), QString("Where to?"));
+            QVERIFY(label(folder, "lblStatus")->isVisible());
+            QCOMPARE(label(folder, "lblStatus")->text(), QString("ready"));
+            folder.setStatusText("later");
+            folder.setCaption("Other");
+            QCOMPARE(label(folder, "lblStatus")->text(), QString("later"));
+            QCOMPARE(folder.hWnd()->windowTitle(), QString("Other"));
+            opened(folder)->reject();
+        });
+        folder.BrowseForFolder(nullptr, "Where to?");
+        QCOMPARE(seen, 1);
+    }
+    void thePromptsDefaultIsGermanAndNoStatusLineIsShown() {
+        cSHFolder folder;
+        whenOpen(folder, [&] {
+            QCOMPARE(label(folder, "lblPrompt")->text(),
+                     QString::fromUtf8("W\u00E4hlen Sie einen Ordner aus"));
+            QVERIFY(!label(folder, "lblStatus")->isVisible());
+            opened(folder)->reject();
+        });
+        folder.BrowseForFolder(nullptr);
+        QCOMPARE(seen, 1);
+    }
+    void okIsDisabledAndEnabledWhileOpen() {
+        cSHFolder folder;
+        folder.setDefaultPath(path());
+        whenOpen(folder, [&] {
+            folder.setOKEnabled(false);
+            opened(folder)->selectFile(place.filePath("inner"));
+            QVERIFY(!okOf(folder)->isEnabled());
+            accept(folder);
+            QVERIFY(folder.hWnd()->isVisible());
+            folder.setOKEnabled(true);
+            QVERIFY(okOf(folder)->isEnabled());
+            accept(folder);
+        });
+        QCOMPARE(folder.BrowseForFolder(nullptr), path() + "/inner");
+    }
+    void signalsAreRaised() {
+        cSHFolder folder;
+        folder.setDefaultPath(path());
+        QSignalSpy initialized(&folder, &cSHFolder::Initialized);
+        QSignalSpy moved(&folder, &cSHFolder::SelectionChanged);
+        whenOpen(folder, [&] {
+            Q_EMIT opened(folder)->currentChanged(place.filePath("inner"));
+            opened(folder)->reject();
+        });
+        folder.BrowseForFolder(nullptr);
+        QCOMPARE(initialized.count(), 1);
+        QVERIFY(moved.count() >= 1);
+    }
+    void aTypedNameThatIsNoFolderFailsAndStaysOpen() {
+        cSHFolder folder;
+        folder.setDefaultPath(path());
+        folder.setEditBox(true);
+        QSignalSpy failed(&folder, &cSHFolder::ValidationFailed);
+        whenOpen(folder, [&] {
+            auto* box = folder.hWnd()->findChild<QLineEdit*>("fileNameEdit");
+            QVERIFY(box->isVisible());
+            box->setText("missing");
+            accept(folder);
+            QVERIFY(folder.hWnd()->isVisible());
+            QVERIFY(label(folder, "lblFault")->text().contains("missing"));
+            QVERIFY(label(folder, "lblFault")->isVisible());
+            box->setText("inner");
+            QVERIFY(!label(folder, "lblFault")->isVisible());
+            accept(folder);
+        });
+        QCOMPARE(folder.BrowseForFolder(nullptr), path() + "/inner");
+        QCOMPARE(failed.count(), 1);
+    }
+    void withoutTheOptionThereIsNoEditBox() {
+        cSHFolder folder;
+        whenOpen(folder, [&] {
+            QVERIFY(!folder.hWnd()->findChild<QLineEdit*>("fileNameEdit")->isVisible());
+            opened(folder)->reject();
+        });
+        folder.BrowseForFolder(nullptr);
+        QCOMPARE(seen, 1);
+    }
+    void filesCanBeChosenOnlyWhenIncluded() {
+        for (const bool included : {false, true}) {
+            cSHFolder folder;
+            folder.setDefaultPath(path());
+            folder.setIncludeFiles(included);
+            whenOpen(folder, [&] {
+                opened(folder)->selectFile(place.filePath("plain.txt"));
+                folder.hWnd()->findChild<QLineEdit*>("fileNameEdit")->setText("plain.txt");
+                accept(folder);
+                if (folder.hWnd() && folder.hWnd()->isVisible()) {
+                    opened(folder)->reject();
+                }
+            });
+            QCOMPARE(folder.BrowseForFolder(nullptr), included ? path() + "/plain.txt" : std::string());
+        }
+    }
+    void specialFoldersHaveTheirNumbers() {
+        QCOMPARE(specialFolder(40), QFile::encodeName(QDir::homePath()).toStdString());
+        QCOMPARE(specialFolder(5),
+                 QFile::encodeName(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation))
+                     .toStdString());
+        QCOMPARE(specialFolder(0), std::string());
+        QCOMPARE(specialFolder(9999), std::string());
+    }
+    void aSpecialFolderIsPreselectedInPlaceOfThePath() {
+        cSHFolder folder;
+        folder.setDefaultPath(path());
+        folder.setDefaultPIDL(40);
+        whenOpen(folder, [&] { accept(folder); });
+        QCOMPARE(folder.BrowseForFolder(nullptr), specialFolder(40));
+        folder.setDefaultPIDL(9999);
+        QCOMPARE(folder.BrowseForFolder(nullptr), path());
+    }
+    void nothingOutsideTheRootIsTaken() {
+        cSHFolder folder;
+        QSignalSpy failed(&folder, &cSHFolder::ValidationFailed);
+        whenOpen(folder, [&] {
+            opened(folder)->setDirectory(QDir::rootPath());
+            accept(folder);
+            QVERIFY(folder.hWnd()->isVisible());
+            opened(folder)->reject();
+        });
+        QCOMPARE(folder.BrowseForFolder(nullptr, std::nullopt, 40), std::string());
+        QCOMPARE(failed.count(), 1);
+    }
+    void theDialogIsCentredWithIntegerHalving() {
+        cSHFolder folder;
+        whenOpen(folder, [&] {
+            folder.CenterDialog();
+            const QRect screen = folder.hWnd()->screen()->geometry();
+            const QRect frame = folder.hWnd()->frameGeometry();
+            QCOMPARE(folder.hWnd()->x(), screen.left() + (screen.width() - frame.width()) / 2);
+            QCOMPARE(folder.hWnd()->y(), screen.top() + (screen.height() - frame.height()) / 2);
+            opened(folder)->reject();
+        });
+        folder.BrowseForFolder(nullptr);
+        QCOMPARE(seen, 1);
+        folder.CenterDialog();
+        QVERIFY(!folder.hWnd());
+    }
+    void onlyTheNewDialogIsResized() {
+        for (const bool resizable : {false, true}) {
+            cSHFolder folder;
+            folder.setNewDialog(resizable);
+            whenOpen(folder, [&] {
+                QCOMPARE(folder.hWnd()->minimumSize() != folder.hWnd()->maximumSize(), resizable);
+                opened(folder)->reject();
+            });
+            folder.BrowseForFolder(nullptr);
+            QCOMPARE(seen, 1);
+        }
+    }
+
+  private:
+    void whenOpen(cSHFolder& folder, std::function<void()> play) {
+        seen = 0;
+        connect(&folder, &cSHFolder::Initialized, &folder, [this, play = std::move(play)] {
+            ++seen;
+            play();
+        });
+    }
+    static QFileDialog* opened(const cSHFolder& folder) { return qobject_cast<QFileDialog*>(folder.hWnd()); }
+    static void accept(const cSHFolder& folder) {
+        QMetaObject::invokeMethod(folder.hWnd(), "accept", Qt::DirectConnection);
+    }
+    static QLabel* label(const cSHFolder& folder, const char* name) {
+        return folder.hWnd()->findChild<QLabel*>(name);
+    }
+    static QPushButton* okOf(const cSHFolder& folder) {
+        return folder.hWnd()->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Open);
+    }
+    std::string path() const { return QFile::encodeName(QDir(place.path()).canonicalPath()).toStdString(); }
+
+    QTemporaryDir place;
+    int seen = 0;
+};
+
+}  // namespace velmora
+
+QTEST_MAIN(velmora::CSHFolderTest)
+#include "c_sh_folder_test.moc"

@@ -1,0 +1,322 @@
+#include "ui/qt/frm_setup.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTest>
+#include <map>
+#include <memory>
+
+#include "support/accessibility_walk.h"
+#include "support/scripted_port.h"
+
+namespace velmora {
+
+namespace {
+
+const QColor kGreen(0, 128, 0);
+const QColor kOrange(255, 128, 0);
+const QColor kRed(255, 0, 0);
+const QColor kDarkRed(192, 0, 0);
+
+}  // namespace
+
+class FrmSetupTest : public QObject {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void init() {
+        port = test::ScriptedPort();
+        options = ServerOptions();
+        options.AutoSelectPort = false;
+        transfer = TransferSettings();
+        statuses.clear();
+        devices.clear();
+        probed.clear();
+        beeps = 0;
+        whileProbing = nullptr;
+    }
+    void cleanup() { dialog.reset(); }
+
+    void fourBusyPortsLeadToTheFirstFreeOneAbove() {
+        options.AutoSelectPort = true;
+        for (const int busy : {1, 2, 3, 4, 5, 6}) {
+            statuses[busy] = kStatusInUse;
+        }
+        statuses[7] = kStatusAvailable;
+        open();
+        QVERIFY(other()->isChecked());
+        QCOMPARE(text()->text(), QString("7"));
+        QCOMPARE(other()->toolTip(), QString("COM7 is available"));
+        QCOMPARE(colourOf(5), kGreen);
+        QCOMPARE(find<QLabel>("lblStatus")->text(), QString("COM7 is available"));
+        QTRY_VERIFY(text()->hasFocus());
+        isForEverybody();
+    }
+    void noFreePortWaitsForANumber() {
+        options.AutoSelectPort = true;
+        openProbing();
+        QCOMPARE(probed.back(), 32);
+        QVERIFY(other()->isChecked());
+        QVERIFY(text()->text().isEmpty());
+        QTRY_VERIFY(text()->hasFocus());
+        QVERIFY(!ok()->isEnabled());
+        QTest::keyClicks(text(), "9");
+        QVERIFY(ok()->isEnabled());
+        QTest::keyClick(text(), Qt::Key_Backspace);
+        QVERIFY(!ok()->isEnabled());
+        isForEverybody();
+    }
+    void statusIsMarked_data() {
+        QTest::addColumn<int>("status");
+        QTest::addColumn<QString>("ending");
+        QTest::addColumn<QColor>("colour");
+        QTest::newRow("free") << int(kStatusAvailable) << " is available" << kGreen;
+        QTest::newRow("modem") << int(kStatusModem) << " is used (modem)" << kOrange;
+        QTest::newRow("device") << int(kStatusDevice) << " is used (device)" << kOrange;
+        QTest::newRow("held") << int(kStatusInUse) << " is in use" << kRed;
+        QTest::newRow("missing") << int(kStatusNotAccessible) << " is not accessible" << kDarkRed;
+        QTest::newRow("error") << int(kStatusError) << " reports error" << kRed;
+    }
+    void statusIsMarked() {
+        QFETCH(int, status);
+        QFETCH(QString, ending);
+        QFETCH(QColor, colour);
+        statuses[1] = status;
+        open();
+        QCOMPARE(button(1)->toolTip(), "COM1" + ending);
+        QCOMPARE(colourOf(1), colour);
+        QVERIFY(button(1)->font().bold());
+        QCOMPARE(find<QLabel>("lblStatus")->text(), "COM1" + ending);
+        QTRY_VERIFY(button(1)->hasFocus());
+        isForEverybody();
+    }
+    void anOrangeMarkStandsOnADarkGround() {
+        statuses[1] = kStatusModem;
+        statuses[2] = kStatusAvailable;
+        open();
+        QVERIFY(button(1)->autoFillBackground());
+        QVERIFY(button(1)->palette().color(QPalette::Window).lightness() < 64);
+        QPalette dark;
+        dark.setColor(QPalette::Window, QColor(0x20, 0x20, 0x20));
+        dark.setColor(QPalette::WindowText, Qt::white);
+        dialog->setPalette(dark);
+        button(2)->click();
+        QVERIFY(button(2)->autoFillBackground());
+        QCOMPARE(button(2)->palette().color(QPalette::Window), QColor(Qt::white));
+    }
+    void anUncheckedPortHasNoMark() {
+        statuses[2] = kStatusNotChecked;
+        open();
+        QVERIFY(button(2)->toolTip().isEmpty());
+        QVERIFY(!button(2)->autoFillBackground());
+        QCOMPARE(colourOf(2), dialog->palette().color(QPalette::WindowText));
+    }
+    void typingClearsTheOtherPortsMark() {
+        port.number = 9;
+        statuses[9] = kStatusModem;
+        open();
+        QCOMPARE(other()->toolTip(), QString("COM9 is used (modem)"));
+        QTest::keyClicks(text(), "1");
+        QVERIFY(other()->toolTip().isEmpty());
+        QCOMPARE(colourOf(5), dialog->palette().color(QPalette::WindowText));
+        QVERIFY(!other()->autoFillBackground());
+        isForEverybody();
+    }
+    void cancelRestoresTheNumber() {
+        port.number = 3;
+        open();
+        QVERIFY(port.number != 3);
+        find<QComboBox>("cboFileType")->setCurrentIndex(2);
+        find<QCheckBox>("cbAutoStart")->click();
+        find<QRadioButton>("obBaud_1200")->click();
+        find<QPushButton>("pbCancel")->click();
+        QCOMPARE(port.number, std::int16_t(3));
+        QCOMPARE(port.settings, std::string("9600,N,8,1"));
+        QVERIFY(!options.AutoStart);
+        QCOMPARE(dialog->result(), int(QDialog::Rejected));
+    }
+    void escapeIsCancel() {
+        port.number = 3;
+        open();
+        QTest::keyClick(dialog.get(), Qt::Key_Escape);
+        QCOMPARE(port.number, std::int16_t(3));
+        QVERIFY(!dialog->isVisible());
+    }
+    void otherKeysAreSwallowedWithABeep() {
+        port.number = 9;
+        open();
+        text()->clear();
+        QTest::keyClicks(text(), "1a-+ b2");
+        QCOMPARE(text()->text(), QString("12"));
+        QCOMPARE(beeps, 5);
+    }
+    void theEditingKeysCodesLetTheirCharactersThrough() {
+        port.number = 9;
+        open();
+        text()->clear();
+        QTest::keyClicks(text(), "%&'(.");
+        QCOMPARE(text()->text(), QString("%&'(."));
+        QTest::keyClick(text(), Qt::Key_Left);
+        QTest::keyClick(text(), Qt::Key_Delete);
+        QCOMPARE(text()->text(), QString("%&'("));
+        QCOMPARE(beeps, 0);
+    }
+    void aPressInTheNumberSelectsTheOtherPort() {
+        open();
+        QVERIFY(button(1)->isChecked());
+        QVERIFY(!find<QPushButton>("pbCheckPort")->isEnabled());
+        QTest::keyClicks(text(), "4");
+        QVERIFY(text()->text().isEmpty());
+        QTest::mouseClick(text(), Qt::RightButton);
+        QVERIFY(button(1)->isChecked());
+        QTest::mouseClick(text(), Qt::LeftButton);
+        QVERIFY(other()->isChecked());
+        QVERIFY(find<QPushButton>("pbCheckPort")->isEnabled());
+        QVERIFY(!ok()->isEnabled());
+        button(2)->click();
+        QVERIFY(ok()->isEnabled());
+    }
+    void checkBeepsWithoutANumber() {
+        open();
+        other()->click();
+        probed.clear();
+        find<QPushButton>("pbCheckPort")->click();
+        QCOMPARE(beeps, 1);
+        QVERIFY(probed.empty());
+    }
+    void checkProbesTheNumber() {
+        statuses[12] = kStatusDevice;
+        open();
+        other()->click();
+        QTest::keyClicks(text(), "12");
+        probed.clear();
+        find<QPushButton>("pbCheckPort")->click();
+        QCOMPARE(probed, std::vector<int>{12});
+        QCOMPARE(other()->toolTip(), QString("COM12 is used (device)"));
+        QCOMPARE(colourOf(5), kOrange);
+        QCOMPARE(find<QLabel>("lblStatus")->text(), QString("COM12 is used (device)"));
+        isForEverybody();
+    }
+    void okTakesEverythingOver() {
+        options.AutoSelectPort = true;
+        statuses[1] = kStatusAvailable;
+        port.settings = "2400,N,8,1";
+        transfer.DataFileType = 3;
+        open();
+        QVERIFY(find<QRadioButton>("obBaud_2400")->isChecked());
+        QCOMPARE(find<QComboBox>("cboFileType")->currentText(), QString("CSV (semicolon)"));
+        button(2)->click();
+        find<QRadioButton>("obBaud_1200")->click();
+        find<QCheckBox>("cbAutoStart")->click();
+        QTest::keyClick(find<QComboBox>("cboFileType"), Qt::Key_Home);
+        QVERIFY(!options.AutoStart);
+        QCOMPARE(transfer.DataFileType, 3);
+        QCOMPARE(port.settings, std::string("2400,N,8,1"));
+        ok()->click();
+        QCOMPARE(dialog->result(), int(QDialog::Accepted));
+        QCOMPARE(port.number, std::int16_t(2));
+        QCOMPARE(port.settings, std::string("1200,N,8,1"));
+        QVERIFY(options.AutoStart);
+        QVERIFY(!options.AutoSelectPort);
+        QCOMPARE(transfer.DataFileType, 0);
+    }
+    void aDeviceFillsTheNumber() {
+        devices = {{5, "/dev/ttyUSB0", "FTDI", "FT232R USB UART", true, ""},
+                   {6, "/dev/ttyUSB1", "", "", false, "dialout"}};
+        open();
+        auto* list = find<QComboBox>("cboPresentPorts");
+        QCOMPARE(list->itemText(0), QString("COM5  /dev/ttyUSB0  FTDI FT232R USB UART"));
+        QTest::keyClick(list, Qt::Key_Down);
+        QCOMPARE(text()->text(), QString("5"));
+        QVERIFY(other()->isChecked());
+        QVERIFY(ok()->isEnabled());
+        QVERIFY(find<QLabel>("lblDeviceHint")->text().isEmpty());
+        QTest::keyClick(list, Qt::Key_Down);
+        QCOMPARE(text()->text(), QString("6"));
+        QCOMPARE(find<QLabel>("lblDeviceHint")->text(),
+                 QString("/dev/ttyUSB1 may not be opened: join the group \"dialout\" and log in again"));
+        isForEverybody();
+    }
+    void refreshListsAgain() {
+        open();
+        auto* list = find<QComboBox>("cboPresentPorts");
+        QCOMPARE(list->count(), 0);
+        QCOMPARE(list->placeholderText(), QString("No serial device is present"));
+        devices = {{5, "/dev/ttyUSB0", "", "", true, ""}};
+        find<QPushButton>("pbRefreshPorts")->click();
+        QCOMPARE(list->count(), 1);
+        QCOMPARE(list->currentIndex(), -1);
+    }
+    void closingWhileProbingEndsTheProbes() {
+        port.number = 3;
+        bool focusWaitsAtCancel = false;
+        whileProbing = [&] {
+            focusWaitsAtCancel = dialog->focusWidget() == find<QPushButton>("pbCancel") && !ok()->isEnabled();
+            QCOMPARE(test::accessibilityFaults(*dialog), QStringList());
+            find<QPushButton>("pbCancel")->click();
+        };
+        make();
+        QTRY_VERIFY(!dialog->isVisible());
+        QVERIFY(focusWaitsAtCancel);
+        QCOMPARE(probed, std::vector<int>{1});
+        QCOMPARE(port.number, std::int16_t(3));
+    }
+
+  private:
+    template <typename Control>
+    Control* find(const char* name) {
+        return dialog->findChild<Control*>(name);
+    }
+    QRadioButton* button(int i) { return dialog->findChild<QRadioButton*>(QString("obPort_%1").arg(i)); }
+    QRadioButton* other() { return button(5); }
+    QLineEdit* text() { return find<QLineEdit>("txtPortNo"); }
+    QPushButton* ok() { return find<QPushButton>("pbOK"); }
+    QColor colourOf(int i) { return button(i)->palette().color(QPalette::WindowText); }
+    void isForEverybody() { QCOMPARE(test::accessibilityFaults(*dialog), QStringList()); }
+
+    void make() {
+        dialog = std::make_unique<frmSetup>(
+            port, options, transfer, [this](std::int16_t number) { return probe(number); },
+            [this] { return devices; });
+        dialog->setBeep([this] { ++beeps; });
+        dialog->show();
+        dialog->activateWindow();
+    }
+    void openProbing() {
+        make();
+        QTRY_VERIFY(find<QPushButton>("pbCheckPort") && dialog->isActiveWindow() && !probed.empty() &&
+                    find<QLabel>("lblBusy")->text().isEmpty());
+    }
+    void open() {
+        openProbing();
+        QTRY_VERIFY(ok()->isEnabled());
+    }
+    std::int32_t probe(std::int16_t number) {
+        port.number = number;
+        probed.push_back(number);
+        if (whileProbing) {
+            whileProbing();
+        }
+        const auto status = statuses.find(number);
+        return status == statuses.end() ? std::int32_t(kStatusNotAccessible) : status->second;
+    }
+
+    test::ScriptedPort port;
+    ServerOptions options;
+    TransferSettings transfer;
+    std::map<int, std::int32_t> statuses;
+    std::vector<SerialDevice> devices;
+    std::vector<int> probed;
+    int beeps = 0;
+    std::function<void()> whileProbing;
+    std::unique_ptr<frmSetup> dialog;
+};
+
+}  // namespace velmora
+
+QTEST_MAIN(velmora::FrmSetupTest)
+#include "frm_setup_test.moc"
