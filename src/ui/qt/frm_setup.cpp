@@ -42,8 +42,10 @@ double contrast(const QColor& one, const QColor& other) {
 // The marks' colours are fixed and the desktop's are not: a ground on which the mark is readable, its own
 // where that will do.
 QColor groundFor(const QColor& mark, const QColor& own) {
-    constexpr double kReadable = 4.5;
-    if (contrast(mark, own) >= kReadable) {
+    // The same words stand beside in the desktop's own colour, so a mark only has to be seen. A ground of its
+    // own is for colours that would all but vanish.
+    constexpr double kVisible = 2.0;
+    if (contrast(mark, own) >= kVisible) {
         return own;
     }
     const QColor dark(0x1B, 0x1B, 0x1B);

@@ -5,7 +5,6 @@
 #include <QDir>
 #include <QPalette>
 #include <QPixmap>
-#include <QPlainTextEdit>
 #include <QStyleFactory>
 #include <cstdio>
 #include <functional>
@@ -160,19 +159,21 @@ bool saveMonitor(const QDir& folder, const char* name) {
     using namespace std::string_view_literals;
     entry(0.02, "PLP", "starting PLP", {});
     entry(0.02, "COM", "open port", "COM5 9600,N,8,1");
-    const Crc crc;
+    Crc crc;
+    crc.load_CRCtable();
     entry(3.41, "COM,DATA", "recv", buildFrame(crc, FrameType::Connect, 0, {}));
     entry(3.42, "COM,DATA", "send", buildFrame(crc, FrameType::Ack, 0, {}));
-    entry(3.58, "COM,DATA", "recv", buildFrame(crc, FrameType::Data, 1, "\x02XFILE"sv));
+    entry(3.58, "COM,DATA", "recv", buildFrame(crc, FrameType::Data, 1, "FTRAN"sv));
     entry(3.59, "COM,DATA", "send", buildFrame(crc, FrameType::Ack, 1, {}));
-    entry(3.74, "COM,DATA", "recv", buildFrame(crc, FrameType::Data, 2, "\x02\x01:CONTACTS"sv));
+    entry(3.60, "COM,DATA", "send", buildFrame(crc, FrameType::Data, 1, {}));
+    entry(3.66, "COM,DATA", "recv", buildFrame(crc, FrameType::Ack, 1, {}));
+    entry(3.74, "COM,DATA", "recv",
+          buildFrame(crc, FrameType::Data, 2,
+                     "\x00\x01\x00"
+                     "CONTACTS"sv));
     entry(3.75, "COM,DATA", "send", buildFrame(crc, FrameType::Ack, 2, {}));
-    entry(3.81, "COM,DATA", "send", buildFrame(crc, FrameType::Data, 1, "\x00"sv));
-    // Lines are shown in batches: the picture waits for the batch.
-    const auto* shown = window.findChild<QPlainTextEdit*>();
-    while (!shown->toPlainText().contains(QLatin1String("3.81"))) {
-        QApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    }
+    entry(3.81, "COM,DATA", "send", buildFrame(crc, FrameType::Data, 2, {}));
+    window.showWaiting();
     return save(window, folder, name);
 }
 
