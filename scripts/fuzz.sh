@@ -5,7 +5,7 @@ cd "$(dirname "$0")/.."
 seconds=${1:-60}
 (($# > 0)) && shift
 scripts/build.sh build-fuzz -DCMAKE_BUILD_TYPE=RelWithDebInfo -DCMAKE_CXX_COMPILER=clang++ -DVELMORA_TESTS=OFF \
-  -DVELMORA_FUZZ=ON -DVELMORA_WINDOWS=OFF > build-fuzz.log 2>&1 || { tail -40 build-fuzz.log; exit 1; }
+  -DVELMORA_FUZZ=ON -- fuzzers > build-fuzz.log 2>&1 || { tail -40 build-fuzz.log; exit 1; }
 mv build-fuzz.log build-fuzz/build.log
 for program in build-fuzz/fuzz/*; do
   [[ -x "$program" && -f "$program" ]] || continue

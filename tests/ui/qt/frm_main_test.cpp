@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QSet>
 #include <QTest>
+#include <QWindow>
 
 #include "support/window_rig.h"
 #include "ui/caption.h"
@@ -23,7 +24,7 @@ class FrmMainTest : public QObject {
     void init() {
         rig = std::make_unique<WindowRig>();
         rig->window.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&rig->window));
+        QTRY_VERIFY(rig->window.windowHandle()->isExposed());
         rig->controller.setState(Offline);
     }
     void cleanup() { rig.reset(); }
