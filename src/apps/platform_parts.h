@@ -2,18 +2,15 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <utility>
 
 #include "apps/system_zone.h"
 #include "eventloop/port_watcher.h"
 #include "eventloop/qt_event_yield.h"
 #include "eventloop/qt_timer.h"
-#include "platform/known_folders.h"
-#include "platform/posix/posix_files.h"
-#include "platform/posix/posix_paths.h"
-#include "platform/profile/text_profile_files.h"
-#include "platform/system_clock.h"
-#include "serial/comm_posix.h"
+#include "platform/native.h"
+#include "serial/comm_device.h"
 #include "serial/my_comm.h"
 #include "serial/port_names.h"
 
@@ -23,24 +20,23 @@ namespace velmora {
 struct PlatformParts {
     /// `poll` reads what waits at the port; it runs on the event loop as soon as bytes come.
     explicit PlatformParts(std::function<void()> poll)
-        : folders(processEnvironment()),
-          files(folders.temporary()),
+        : files(folders.temporary()),
           rules(currentFolder()),
           profiles(files, rules),
-          device(portNames),
+          device(makeCommDevice(portNames)),
           watcher(std::move(poll)),
-          port(device, yield, &watcher),
+          port(*device, yield, &watcher),
           ComTimer(watcher) {}
 
-    KnownFolders folders;
-    PosixFiles files;
-    PosixPaths rules;
-    TextProfileFiles profiles;
-    SystemClock clock;
+    NativeFolders folders;
+    NativeFiles files;
+    NativePaths rules;
+    NativeProfileFiles profiles;
+    NativeClock clock;
     SystemZone zone;
     QtEventYield yield;
     PortNames portNames;
-    PosixCommDevice device;
+    std::unique_ptr<CommDevice> device;
     PortWatcher watcher;
     myComm port;
     WatchedTimer<QtTimer> ComTimer;

@@ -1,7 +1,6 @@
 // The machine's time zone as the time services ask for it.
 #pragma once
 
-#include <chrono>
 #include <cstdint>
 
 #include "platform/zone.h"
@@ -11,11 +10,8 @@ namespace velmora {
 
 class SystemZone : public ZoneSource {
   public:
-    std::int32_t offsetMinutes() const override { return now().offsetMinutes; }
-    bool daylight() const override { return now().daylight; }
-
-  private:
-    static ZoneInformation now() { return zoneInformation(std::chrono::system_clock::now()); }
+    std::int32_t offsetMinutes() const override { return zoneInformation().offsetMinutes; }
+    bool daylight() const override { return zoneInformation().daylight; }
 };
 
 }  // namespace velmora

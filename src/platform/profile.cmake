@@ -6,3 +6,6 @@ velmora_library(profile
     profile/replace_contents.cpp
     profile/text_profile_files.cpp
   LIBS velmora_base)
+if(WIN32)
+  target_sources(velmora_profile PRIVATE profile/win32_profile_files.cpp)
+endif()

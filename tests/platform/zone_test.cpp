@@ -1,4 +1,4 @@
-#include "platform/zone.h"
+#include "platform/posix/zone_at.h"
 
 #include <gtest/gtest.h>
 

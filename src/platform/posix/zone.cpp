@@ -1,4 +1,4 @@
-#include "platform/zone.h"
+#include "platform/posix/zone_at.h"
 
 #include <optional>
 
@@ -41,6 +41,10 @@ ZoneInformation zoneInformation(std::chrono::system_clock::time_point instant) {
         information.daylight = calendar.tm_gmtoff > other->tm_gmtoff;
     }
     return information;
+}
+
+ZoneInformation zoneInformation() {
+    return zoneInformation(std::chrono::system_clock::now());
 }
 
 }  // namespace velmora

@@ -9,12 +9,12 @@ namespace velmora {
 
 /// Wall clock in the zone of the process, or of the system if TZ is not set; follows changes of either while
 /// the program runs.
-class SystemClock : public Clock {
+class PosixClock : public Clock {
   public:
     using Now = std::function<std::chrono::system_clock::time_point()>;
 
     /// `now`: where the instants come from.
-    explicit SystemClock(Now now = std::chrono::system_clock::now);
+    explicit PosixClock(Now now = std::chrono::system_clock::now);
 
     DateTime localTime() const override;
     DateTime universalTime() const override;

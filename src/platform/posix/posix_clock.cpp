@@ -1,4 +1,4 @@
-#include "platform/system_clock.h"
+#include "platform/posix/posix_clock.h"
 
 #include <algorithm>
 #include <utility>
@@ -21,20 +21,20 @@ DateTime dateTimeOf(const std::tm& calendar) {
 
 }  // namespace
 
-SystemClock::SystemClock(Now now) : now_(std::move(now)) {}
+PosixClock::PosixClock(Now now) : now_(std::move(now)) {}
 
-DateTime SystemClock::localTime() const {
+DateTime PosixClock::localTime() const {
     return dateTimeOf(localCalendar(wholeSeconds(now_())));
 }
 
-DateTime SystemClock::universalTime() const {
+DateTime PosixClock::universalTime() const {
     const std::time_t seconds = wholeSeconds(now_());
     std::tm calendar{};
     gmtime_r(&seconds, &calendar);
     return dateTimeOf(calendar);
 }
 
-double SystemClock::secondsSinceMidnight() const {
+double PosixClock::secondsSinceMidnight() const {
     const std::chrono::system_clock::time_point now = now_();
     const DateTime time = dateTimeOf(localCalendar(wholeSeconds(now)));
     const auto fraction = now - std::chrono::floor<std::chrono::seconds>(now);
@@ -42,7 +42,7 @@ double SystemClock::secondsSinceMidnight() const {
            std::chrono::duration<double>(fraction).count();
 }
 
-std::chrono::microseconds SystemClock::monotonic() const {
+std::chrono::microseconds PosixClock::monotonic() const {
     return std::chrono::duration_cast<std::chrono::microseconds>(
         std::chrono::steady_clock::now().time_since_epoch());
 }

@@ -1,4 +1,4 @@
-#include "platform/known_folders.h"
+#include "platform/posix/xdg_folders.h"
 
 #include <gtest/gtest.h>
 
@@ -9,53 +9,53 @@
 namespace velmora {
 namespace {
 
-KnownFolders foldersWith(std::map<std::string, std::string> variables) {
-    return KnownFolders([variables](const std::string& name) -> std::optional<std::string> {
+XdgFolders foldersWith(std::map<std::string, std::string> variables) {
+    return XdgFolders([variables](const std::string& name) -> std::optional<std::string> {
         const auto found = variables.find(name);
         return found == variables.end() ? std::nullopt : std::optional(found->second);
     });
 }
 
-TEST(KnownFolders, HaveTheirUsualPlacesBelowHome) {
-    const KnownFolders folders = foldersWith({{"HOME", "/nonexistent/anna/"}});
+TEST(XdgFolders, HaveTheirUsualPlacesBelowHome) {
+    const XdgFolders folders = foldersWith({{"HOME", "/nonexistent/anna/"}});
     EXPECT_EQ(folders.applicationData(), "/nonexistent/anna/.config");
     EXPECT_EQ(folders.documents(), "/nonexistent/anna/Documents");
     EXPECT_EQ(folders.temporary(), "/tmp");
 }
 
-TEST(KnownFolders, FollowTheEnvironment) {
-    const KnownFolders folders = foldersWith(
+TEST(XdgFolders, FollowTheEnvironment) {
+    const XdgFolders folders = foldersWith(
         {{"HOME", "/nonexistent/anna"}, {"XDG_CONFIG_HOME", "/nonexistent/etc/"}, {"TMPDIR", "/scratch/"}});
     EXPECT_EQ(folders.applicationData(), "/nonexistent/etc");
     EXPECT_EQ(folders.temporary(), "/scratch");
 }
 
-TEST(KnownFolders, IgnoreValuesThatAreNoAbsolutePaths) {
-    const KnownFolders folders =
+TEST(XdgFolders, IgnoreValuesThatAreNoAbsolutePaths) {
+    const XdgFolders folders =
         foldersWith({{"HOME", "/nonexistent"}, {"XDG_CONFIG_HOME", "etc"}, {"TMPDIR", ""}});
     EXPECT_EQ(folders.applicationData(), "/nonexistent/.config");
     EXPECT_EQ(folders.temporary(), "/tmp");
 }
 
-TEST(KnownFolders, ReadTheDocumentsFolderOfTheDesktop) {
+TEST(XdgFolders, ReadTheDocumentsFolderOfTheDesktop) {
     const test::TempFolder home;
     home.makeFolder(".config");
     home.write(".config/user-dirs.dirs", "XDG_DOCUMENTS_DIR=\"$HOME/Dokumente\"\n");
     EXPECT_EQ(foldersWith({{"HOME", home.path()}}).documents(), home.path("Dokumente"));
 }
 
-TEST(KnownFolders, StartAtTheRootWithoutAHome) {
+TEST(XdgFolders, StartAtTheRootWithoutAHome) {
     EXPECT_EQ(foldersWith({}).applicationData(), "/.config");
 }
 
-TEST(KnownFolders, TheProcessAlwaysHasAHome) {
+TEST(XdgFolders, TheProcessAlwaysHasAHome) {
     const std::optional<std::string> home = processEnvironment()("HOME");
     ASSERT_TRUE(home.has_value());
     EXPECT_EQ(home->front(), '/');
     EXPECT_FALSE(processEnvironment()("VELMORA_NO_SUCH_VARIABLE").has_value());
 }
 
-TEST(KnownFolders, TheCurrentFolderIsAbsolute) {
+TEST(XdgFolders, TheCurrentFolderIsAbsolute) {
     EXPECT_EQ(currentFolder().front(), '/');
 }
 

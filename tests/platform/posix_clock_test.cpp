@@ -1,4 +1,4 @@
-#include "platform/system_clock.h"
+#include "platform/posix/posix_clock.h"
 
 #include <gtest/gtest.h>
 
@@ -16,18 +16,18 @@ namespace {
 using test::utc;
 using test::ZoneSetting;
 
-SystemClock clockAt(std::chrono::system_clock::time_point instant) {
-    return SystemClock([instant] { return instant; });
+PosixClock clockAt(std::chrono::system_clock::time_point instant) {
+    return PosixClock([instant] { return instant; });
 }
 
-TEST(SystemClock, TellsUniversalAndLocalTime) {
+TEST(PosixClock, TellsUniversalAndLocalTime) {
     const ZoneSetting zone("CET-1CEST,M3.5.0,M10.5.0/3");
-    const SystemClock clock = clockAt(utc(2010, 3, 28, 13, 5, 9));
+    const PosixClock clock = clockAt(utc(2010, 3, 28, 13, 5, 9));
     EXPECT_EQ(clock.universalTime(), (DateTime{2010, 3, 28, 13, 5, 9}));
     EXPECT_EQ(clock.localTime(), (DateTime{2010, 3, 28, 15, 5, 9}));
 }
 
-TEST(SystemClock, LocalTimeJumpsAtTheChange) {
+TEST(PosixClock, LocalTimeJumpsAtTheChange) {
     const ZoneSetting zone("CET-1CEST,M3.5.0,M10.5.0/3");
     EXPECT_EQ(clockAt(utc(2026, 3, 29, 0, 59, 59)).localTime(), (DateTime{2026, 3, 29, 1, 59, 59}));
     EXPECT_EQ(clockAt(utc(2026, 3, 29, 1, 0, 0)).localTime(), (DateTime{2026, 3, 29, 3, 0, 0}));
@@ -35,23 +35,23 @@ TEST(SystemClock, LocalTimeJumpsAtTheChange) {
     EXPECT_EQ(clockAt(utc(2026, 10, 25, 1, 0, 0)).localTime(), (DateTime{2026, 10, 25, 2, 0, 0}));
 }
 
-TEST(SystemClock, KnowsLeapDaysAndTheTurnOfTheYear) {
+TEST(PosixClock, KnowsLeapDaysAndTheTurnOfTheYear) {
     const ZoneSetting zone("IST-5:30");
     EXPECT_EQ(clockAt(utc(2028, 2, 28, 18, 30)).localTime(), (DateTime{2028, 2, 29, 0, 0, 0}));
     EXPECT_EQ(clockAt(utc(2026, 12, 31, 18, 29, 59)).localTime(), (DateTime{2026, 12, 31, 23, 59, 59}));
     EXPECT_EQ(clockAt(utc(2026, 12, 31, 18, 30)).localTime(), (DateTime{2027, 1, 1, 0, 0, 0}));
 }
 
-TEST(SystemClock, DropsFractionsOfASecond) {
+TEST(PosixClock, DropsFractionsOfASecond) {
     const ZoneSetting zone("UTC0");
-    const SystemClock clock = clockAt(utc(2026, 1, 1) - std::chrono::milliseconds(1));
+    const PosixClock clock = clockAt(utc(2026, 1, 1) - std::chrono::milliseconds(1));
     EXPECT_EQ(clock.universalTime(), (DateTime{2025, 12, 31, 23, 59, 59}));
     EXPECT_EQ(clock.localTime(), clock.universalTime());
     EXPECT_EQ(clockAt(utc(1969, 12, 31, 23, 59, 58) + std::chrono::milliseconds(5)).universalTime().second,
               58);
 }
 
-TEST(SystemClock, CountsSecondsOfTheLocalDayWithFractions) {
+TEST(PosixClock, CountsSecondsOfTheLocalDayWithFractions) {
     const ZoneSetting zone("EST5");
     EXPECT_DOUBLE_EQ(clockAt(utc(2026, 1, 1, 5)).secondsSinceMidnight(), 0);
     EXPECT_DOUBLE_EQ(
@@ -59,15 +59,15 @@ TEST(SystemClock, CountsSecondsOfTheLocalDayWithFractions) {
         86'399.5);
 }
 
-TEST(SystemClock, MonotonicTimeNeverGoesBack) {
-    const SystemClock clock;
+TEST(PosixClock, MonotonicTimeNeverGoesBack) {
+    const PosixClock clock;
     const auto first = clock.monotonic();
     EXPECT_GE(clock.monotonic(), first);
 }
 
-TEST(SystemClock, RunsByTheMachineUnlessToldOtherwise) {
+TEST(PosixClock, RunsByTheMachineUnlessToldOtherwise) {
     const ZoneSetting zone("UTC0");
-    EXPECT_GE(SystemClock().universalTime().year, 2024);
+    EXPECT_GE(PosixClock().universalTime().year, 2024);
 }
 
 }  // namespace

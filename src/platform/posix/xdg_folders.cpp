@@ -1,4 +1,4 @@
-#include "platform/known_folders.h"
+#include "platform/posix/xdg_folders.h"
 
 #include <pwd.h>
 #include <unistd.h>
@@ -62,24 +62,24 @@ std::string currentFolder() {
     return error ? "/" : folder.string();
 }
 
-KnownFolders::KnownFolders(EnvironmentLookup environment) : environment_(std::move(environment)) {}
+XdgFolders::XdgFolders(EnvironmentLookup environment) : environment_(std::move(environment)) {}
 
-std::string KnownFolders::home() const {
+std::string XdgFolders::home() const {
     return folderFrom(environment_, "HOME").value_or("/");
 }
 
-std::string KnownFolders::applicationData() const {
+std::string XdgFolders::applicationData() const {
     const std::optional<std::string> configured = folderFrom(environment_, "XDG_CONFIG_HOME");
     return configured ? *configured : below(home(), ".config");
 }
 
-std::string KnownFolders::documents() const {
+std::string XdgFolders::documents() const {
     std::ifstream file(below(applicationData(), "user-dirs.dirs"), std::ios::binary);
     const std::optional<std::string> configured = userDir(file, "XDG_DOCUMENTS_DIR", home());
     return configured ? *configured : below(home(), "Documents");
 }
 
-std::string KnownFolders::temporary() const {
+std::string XdgFolders::temporary() const {
     return folderFrom(environment_, "TMPDIR").value_or("/tmp");
 }
 
