@@ -1,8 +1,8 @@
-#include <windows.h>
-// The first of these gives the second one's identifiers a place in this file.
+// clang-format off: the first of these has the types of the others
 #include <devguid.h>
-#include <initguid.h>
 #include <setupapi.h>
+#include <windows.h>
+// clang-format on
 
 #include <array>
 
