@@ -1,3 +1,3 @@
 # The virtual Organiser.
 add_executable(velmora-organiser velmora_organiser_main.cpp)
-target_link_libraries(velmora-organiser PRIVATE velmora_organiser)
+target_link_libraries(velmora-organiser PRIVATE velmora_organiser velmora_platform)

@@ -147,7 +147,8 @@ BrowseForFolder folderBrowser(HWND owner, cSHFolder& folder) {
         };
         std::string answer = folder.BrowseForFolder(owner, question.prompt);
         while (folder.choiceHasNoName()) {
-            MessageBoxA(owner, "The folder's name has letters that files cannot be opened with here.\n"
+            MessageBoxA(owner,
+                        "The folder's name has letters that files cannot be opened with here.\n"
                         "Choose another folder or give it another name.",
                         question.caption.c_str(), MB_OK | MB_ICONEXCLAMATION);
             answer = folder.BrowseForFolder(owner, question.prompt);

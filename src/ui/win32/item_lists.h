@@ -1,9 +1,8 @@
 // The shell's names for folders: item lists.
 #pragma once
 
-#include <windows.h>
-
 #include <shlobj.h>
+#include <windows.h>
 
 #include <memory>
 #include <optional>

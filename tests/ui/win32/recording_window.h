@@ -1,9 +1,8 @@
 // A window that keeps the messages it is sent.
 #pragma once
 
-#include <windows.h>
-
 #include <shlobj.h>
+#include <windows.h>
 
 #include <string>
 #include <vector>
@@ -29,8 +28,8 @@ class RecordingWindow {
         kind.hInstance = GetModuleHandleA(nullptr);
         kind.lpszClassName = "VelmoraRecordingWindow";
         RegisterClassA(&kind);
-        handle_ = CreateWindowExA(0, kind.lpszClassName, "", WS_POPUP, 10, 20, 301, 200, HWND_MESSAGE, nullptr,
-                                  kind.hInstance, this);
+        handle_ = CreateWindowExA(0, kind.lpszClassName, "", WS_POPUP, 10, 20, 301, 200, HWND_MESSAGE,
+                                  nullptr, kind.hInstance, this);
     }
     ~RecordingWindow() { DestroyWindow(handle_); }
     RecordingWindow(const RecordingWindow&) = delete;

@@ -1,9 +1,8 @@
-#include "ui/win32/c_sh_folder.h"
-
 #include <gtest/gtest.h>
 #include <shlobj.h>
 
 #include "recording_window.h"
+#include "ui/win32/c_sh_folder.h"
 
 namespace velmora {
 namespace {

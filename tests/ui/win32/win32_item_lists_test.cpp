@@ -1,6 +1,6 @@
-#include "ui/win32/item_lists.h"
-
 #include <gtest/gtest.h>
+
+#include "ui/win32/item_lists.h"
 
 namespace velmora {
 namespace {
@@ -24,8 +24,9 @@ TEST(ItemLists, WhatIsNoFolderOfTheFileSystemHasAnEmptyPath) {
 }
 
 TEST(ItemLists, APathOfTheCodePageStaysAsItIs) {
-    EXPECT_EQ(exactPath(L"C:\\B\u00FCcher \u20AC"), "C:\\B\xFC"
-                                                   "cher \x80");
+    EXPECT_EQ(exactPath(L"C:\\B\u00FCcher \u20AC"),
+              "C:\\B\xFC"
+              "cher \x80");
 }
 
 TEST(ItemLists, APathThatIsNotThereAndHasNoAnsiNameHasNone) {

@@ -1,10 +1,9 @@
-#include "ui/win32/sh_folder_callback.h"
-
 #include <gtest/gtest.h>
 #include <shlobj.h>
 
 #include "recording_window.h"
 #include "ui/win32/c_sh_folder.h"
+#include "ui/win32/sh_folder_callback.h"
 
 namespace velmora {
 namespace {
