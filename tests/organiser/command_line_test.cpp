@@ -135,7 +135,7 @@ INSTANTIATE_TEST_SUITE_P(
         BadRow{"OptionOfAnotherCommand", {"time", "--long"}, "--long does not go with time"},
         BadRow{"TooMuch", {"load", "A", "B"}, "It is: load NAME"},
         BadRow{"TooLittle", {"write", "A"}, "It is: write NAME FILE"},
-        BadRow{"ForeignCharacter", {"load", "\xE2\x98\x83"}, "does not know"},
+        BadRow{"ForeignCharacter", {"load", "\xE2\x98\x81"}, "does not know"},
         BadRow{"BrokenEncoding", {"load", "\xC3\x81\x81"}, "does not know"}),
     [](const auto& row) { return std::string(row.param.name); });
 
