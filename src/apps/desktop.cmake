@@ -7,3 +7,4 @@ velmora_library(desktop_server
 
 add_executable(velmora velmora_main.cpp)
 target_link_libraries(velmora PRIVATE velmora_desktop_server)
+add_dependencies(programs velmora)
