@@ -53,7 +53,11 @@ QColor groundFor(const QColor& mark, const QColor& own) {
 }
 
 QString describe(const SerialDevice& device) {
-    QStringList parts{QStringLiteral("COM%1").arg(device.number), qtSystemText(device.device)};
+    QStringList parts{QStringLiteral("COM%1").arg(device.number)};
+    // On Windows the device is called as its port.
+    if (const QString name = qtSystemText(device.device); name != parts.front()) {
+        parts.append(name);
+    }
     const QString product = qtSystemText(device.maker + " " + device.product).trimmed();
     if (!product.isEmpty()) {
         parts.append(product);

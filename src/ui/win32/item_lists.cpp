@@ -1,23 +1,8 @@
 #include "ui/win32/item_lists.h"
 
+#include "platform/win32/ansi_text.h"
+
 namespace velmora {
-namespace {
-
-/// Nothing when a character is lost or replaced by one that looks alike.
-std::optional<std::string> exactAnsi(const std::wstring& path) {
-    const int length = static_cast<int>(path.size());
-    char bytes[MAX_PATH];
-    const int count =
-        WideCharToMultiByte(CP_ACP, 0, path.data(), length, bytes, MAX_PATH - 1, nullptr, nullptr);
-    wchar_t back[MAX_PATH];
-    const int backCount = MultiByteToWideChar(CP_ACP, 0, bytes, count, back, MAX_PATH);
-    if (count <= 0 || path != std::wstring(back, static_cast<std::size_t>(backCount))) {
-        return std::nullopt;
-    }
-    return std::string(bytes, static_cast<std::size_t>(count));
-}
-
-}  // namespace
 
 ItemList specialFolderItem(HWND owner, int number) {
     ITEMIDLIST_ABSOLUTE* item = nullptr;
