@@ -14,6 +14,7 @@
 #include "organiser/organiser_link.h"
 #include "organiser/posix_line.h"
 #include "organiser/progress.h"
+#include "platform/console_output.h"
 
 namespace {
 
@@ -45,6 +46,7 @@ ExitStatus run(const CommandLine& line) {
 }  // namespace
 
 int main(int argc, char** argv) {
+    const ConsoleOutput output;
     try {
         const CommandLine line = parseCommandLine(std::vector<std::string>(argv + 1, argv + argc));
         if (line.command.kind == CommandKind::Help) {

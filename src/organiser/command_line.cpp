@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "base/byte_text.h"
+#include "base/system_text.h"
 
 namespace velmora {
 namespace {
@@ -45,7 +46,7 @@ double probability(std::string_view option, std::string_view value) {
 
 /// A name for the server: its bytes are Windows-1252.
 std::string serverName(std::string_view what, std::string_view typed) {
-    const auto name = fromUtf8(typed);
+    const auto name = fromSystemText(typed);
     if (!name) {
         throw UsageError(std::string(what) + ": \"" + std::string(typed) +
                          "\" has a character that the Organiser does not know.");
