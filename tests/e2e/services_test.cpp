@@ -41,8 +41,8 @@ TEST_F(ServicesTest, BootCodeArrivesRelocatedInThreeChunks) {
     put(16, 0x1234);
     put(448, 0x0100);
     writeFile(home / "code", code);
-    const Finished made = finish("velmora-files", {"boot", "make", serverPath(home / "code"), "--relocations",
-                                                   "16,448", "-o", serverPath(psion / "Loader.bin")});
+    const Finished made = filesTool({"boot", "make", organiserPath(home / "code"), "--relocations", "16,448",
+                                     "-o", organiserPath(psion / "Loader.bin")});
     ASSERT_EQ(made.status, 0) << made.output << made.error;
 
     startServer({"--trace"});

@@ -10,6 +10,7 @@
 #include <array>
 #include <cerrno>
 #include <cstdlib>
+#include <stdexcept>
 #include <system_error>
 
 namespace velmora::e2e {
@@ -143,6 +144,15 @@ int Process::wait() {
         status_ = WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
     }
     return status_;
+}
+
+void Process::feed(const std::string& input) {
+    const ssize_t count = ::write(input_, input.data(), input.size());
+    ::close(input_);
+    input_ = -1;
+    if (count != static_cast<ssize_t>(input.size())) {
+        throw std::runtime_error("the program takes no input");
+    }
 }
 
 void Process::closeOutput() {

@@ -73,7 +73,7 @@ class ServerFixture : public testing::Test {
     }
     /// Runs a program of the server's side to its end.
     Finished finish(const std::string& program, const std::vector<std::string>& arguments) const {
-        return run(serverSide->command(program, arguments), serverSide->environment(home, zone));
+        return finished(*start(program, arguments));
     }
 
     /// Starts velmorad on the cable and waits until it serves.
@@ -98,6 +98,16 @@ class ServerFixture : public testing::Test {
         std::vector<std::string> arguments = faults;
         arguments.insert(arguments.end(), command.begin(), command.end());
         return finished(*startOrganiser(arguments));
+    }
+
+    /// Runs velmora-files of the Organiser's side on an input; without one its standard input stays open.
+    Finished filesTool(const std::vector<std::string>& arguments, const std::string& input = {}) const {
+        Process process(organiserSide->command("velmora-files", arguments),
+                        organiserSide->environment(home, zone));
+        if (!input.empty()) {
+            process.feed(input);
+        }
+        return finished(process);
     }
 
     std::unique_ptr<ProgramsUnderTest> serverSide = ProgramsUnderTest::ofServer();
