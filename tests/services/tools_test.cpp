@@ -51,7 +51,6 @@ class WindowsNames : public testing::TestWithParam<Row> {
         }
         files.addFolder("C:\\Psion");
         files.addFolder("C:\\TEMP");
-        files.addFolder("\\\\server\\share\\Psion");
         files.addFile("C:\\Psion\\Longer file name.txt");
         files.setShortName("C:\\Psion\\Longer file name.txt", "LONGER~1.TXT");
         settings.DownloadPath = "C:\\Psion";
@@ -79,6 +78,7 @@ TEST_F(WindowsNames, FindAFileByItsShortName) {
 }
 
 TEST_F(WindowsNames, ThatNameAServerAreKept) {
+    files.addFolder("\\\\server\\share\\Psion");
     EXPECT_EQ(tools.map_FileName("\\\\server\\share\\Psion\\MEMO", false, false),
               "\\\\server\\share\\Psion\\Memo");
     EXPECT_EQ(tools.map_FileName("\\\\server\\other\\MEMO", false, false), "");
@@ -95,6 +95,7 @@ TEST_F(WindowsNames, FollowAChangeOfTheDownloadFolder) {
 }
 
 TEST_F(WindowsNames, AreRootedOnTheShareOfADownloadFolderInTheNetwork) {
+    files.addFolder("\\\\server\\share\\Psion");
     settings.DownloadPath = "\\\\server\\share\\Psion";
     EXPECT_EQ(tools.map_FileName("MEMO", false, false), "\\\\server\\share\\Psion\\Memo");
     EXPECT_EQ(tools.map_FileName("\\Psion\\MEMO", false, false), "\\\\server\\share\\Psion\\Memo");
