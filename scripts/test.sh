@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Builds and runs every test. With CI=true in the environment warnings are errors, and the layout of the
-# code, the linter, the tests under the sanitizers and a short run of each fuzzer come first.
+# code, the linter, the tests under the sanitizers and a short run of each fuzzer come first, and the Windows
+# programs that need no window toolkit are built and tested too.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 scripts/setup.sh tests
@@ -21,3 +22,6 @@ if [[ "${CI:-}" == true ]]; then
   scripts/lint.sh
 fi
 ctest --test-dir build --output-on-failure -j "$jobs" --progress
+if [[ "${CI:-}" == true ]]; then
+  scripts/test-windows.sh core
+fi
