@@ -3,12 +3,12 @@
 #include <string>
 #include <vector>
 
-#include "apps/binary_streams.h"
 #include "files/files_tool.h"
+#include "platform/binary_streams.h"
 #include "platform/native.h"
 
 int main(int argc, char** argv) {
-    velmora::makeStandardStreamsBinary();
+    velmora::useBinaryStandardStreams();
     velmora::NativeFiles files(velmora::NativeFolders().temporary());
     const velmora::NativePaths paths(velmora::currentFolder());
     return velmora::runFilesTool({argv + 1, argv + argc}, files, paths, std::cin, std::cout, std::cerr);
