@@ -10,3 +10,4 @@ target_link_libraries(velmora PRIVATE velmora_desktop_server)
 # Windows opens no console for it.
 set_target_properties(velmora PROPERTIES WIN32_EXECUTABLE ON)
 velmora_windows_resources(velmora "Velmora")
+add_dependencies(programs velmora)

@@ -5,6 +5,7 @@
 #include <cstring>
 #include <system_error>
 
+#include "platform/known_folders.h"
 #include "serial/open_diagnosis.h"
 
 namespace velmora {
@@ -48,7 +49,7 @@ HeadlessServer::HeadlessServer(const ServerArguments& arguments)
       core_({view_, box_, platform_.files, platform_.rules, platform_.port, debug_, platform_.ComTimer,
              platform_.PLPtimer, platform_.DisplayTimer, platform_.clock, platform_.zone, platform_.yield}),
       form_(core_.controller(), view_, core_.options, platform_.port, platform_.portNames),
-      ini_(platform_.profiles, platform_.rules, box_),
+      ini_(platform_.profiles, platform_.rules, box_, windowsFolder()),
       settingsStore_(ini_, overrides_),
       start_({&platform_.files,
               platform_.rules,
