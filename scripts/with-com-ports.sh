@@ -33,6 +33,7 @@ fi
 folder=$(mktemp -d)
 ports=$prefix/dosdevices
 programs=()
+# shellcheck disable=SC2317  # called by the trap
 cleanup() {
     for program in "${programs[@]}"; do
         kill "$program" 2>/dev/null || true
@@ -53,10 +54,9 @@ start_cable() {
     # The cable ends with its standard input: the pipe that nobody writes to lives as long as this script.
     "$cable" "$@" <"$folder/hold" >"$output" &
     programs+=($!)
-    local device
     exec 8<"$output"
-    read -r device <&8
-    read -r device <&8
+    read -r _ <&8
+    read -r _ <&8
     # What it prints at its end needs a reader.
     cat <&8 >/dev/null &
     programs+=($!)

@@ -1,8 +1,6 @@
-#include <windows.h>
-// The first of these gives the second one's identifiers a place in this file.
 #include <devguid.h>
-#include <initguid.h>
 #include <setupapi.h>
+#include <windows.h>
 
 #include <array>
 

@@ -53,7 +53,11 @@ QColor groundFor(const QColor& mark, const QColor& own) {
 }
 
 QString describe(const SerialDevice& device) {
-    QStringList parts{QStringLiteral("COM%1").arg(device.number), QString::fromStdString(device.device)};
+    QStringList parts{QStringLiteral("COM%1").arg(device.number)};
+    // On Windows the device is called as its port.
+    if (const QString name = QString::fromStdString(device.device); name != parts.front()) {
+        parts.append(name);
+    }
     const QString product = QString::fromStdString(device.maker + " " + device.product).trimmed();
     if (!product.isEmpty()) {
         parts.append(product);
