@@ -97,7 +97,7 @@ mine=$'./docs/notes.txt\n./notes.txt'
 
 echo '-- While a program runs'
 mkfifo "$work/never"
-wine "$folder/velmora-files.exe" data check - < "$work/never" > /dev/null 2>&1 &
+env -C "$work" wine "$folder/velmora-files.exe" data - out.odb --from odb < "$work/never" > /dev/null 2>&1 &
 running=$!
 exec 9> "$work/never"
 check 'the installer refuses' exits_with 3 "$work/setup.exe" /S
