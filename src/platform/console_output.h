@@ -3,8 +3,8 @@
 
 namespace velmora {
 
-/// While it lives, a console shows the program's narrow texts with the right letters. Output to files and pipes
-/// is the same bytes with and without it. One for a program, on main()'s stack.
+/// While it lives, a console shows the program's narrow texts with the right letters. Output to files and
+/// pipes is the same bytes with and without it. One for a program, on main()'s stack.
 class ConsoleOutput {
   public:
     ConsoleOutput();
