@@ -1,24 +1,32 @@
 #!/usr/bin/env bash
-# Builds the fuzzers with clang and runs each for a number of seconds: scripts/fuzz.sh [SECONDS] [NAME …]
+# Builds the fuzzers and runs each for a number of seconds, as many at a time as there are processors:
+# scripts/fuzz.sh [SECONDS] [NAME …]
 set -euo pipefail
 cd "$(dirname "$0")/.."
 seconds=${1:-60}
 (($# > 0)) && shift
-scripts/build.sh build-fuzz -DCMAKE_BUILD_TYPE=RelWithDebInfo -DCMAKE_CXX_COMPILER=clang++ -DVELMORA_TESTS=OFF \
-  -DVELMORA_FUZZ=ON -- fuzzers > build-fuzz.log 2>&1 || { tail -40 build-fuzz.log; exit 1; }
-mv build-fuzz.log build-fuzz/build.log
-for program in build-fuzz/fuzz/*; do
-  [[ -x "$program" && -f "$program" ]] || continue
-  name=$(basename "$program")
-  if (($# > 0)) && [[ " $* " != *" $name "* ]]; then
-    continue
-  fi
-  mkdir -p "build-fuzz/corpus/$name"
-  if ! "$program" -max_total_time="$seconds" -timeout=10 -rss_limit_mb=2048 -print_final_stats=1 \
-    -artifact_prefix="build-fuzz/$name-" "build-fuzz/corpus/$name" > "build-fuzz/$name.log" 2>&1; then
-    tail -60 "build-fuzz/$name.log"
+scripts/build-sanitize.sh fuzzers
+
+# fuzz PROGRAM SECONDS: one run; prints its log when it found something.
+fuzz() {
+  local name log
+  name=$(basename "$1")
+  log=build-sanitize/fuzz/$name.log
+  mkdir -p "build-sanitize/corpus/$name"
+  if ! "$1" -max_total_time="$2" -timeout=10 -rss_limit_mb=2048 -print_final_stats=1 \
+    -artifact_prefix="build-sanitize/$name-" "build-sanitize/corpus/$name" > "$log" 2>&1; then
+    tail -60 "$log"
     echo "$name failed"
     exit 1
   fi
-  echo "$name: $(sed -n 's/^stat::number_of_executed_units: *//p' "build-fuzz/$name.log") inputs in $seconds s, no finding"
+  echo "$name: $(sed -n 's/^stat::number_of_executed_units: *//p' "$log") inputs in $2 s, no finding"
+}
+export -f fuzz
+
+programs=()
+for program in build-sanitize/fuzz/*_fuzz; do
+  if (($# == 0)) || [[ " $* " == *" $(basename "$program") "* ]]; then
+    programs+=("$program")
+  fi
 done
+printf '%s\0' "${programs[@]}" | xargs -0 -P "$(nproc)" -I '{}' bash -c "set -euo pipefail; fuzz {} $seconds"

@@ -1,23 +1,35 @@
 #!/usr/bin/env bash
-# Builds and runs every test. With CI=true in the environment warnings are errors, and the layout of the
-# code, the linter, the tests under the sanitizers and a short run of each fuzzer come first.
+# Builds and runs every test. With CI=true in the environment warnings are errors, the layout of the code, the
+# linter and a short run of each fuzzer come first, the unit tests run under the sanitizers, and the Windows
+# programs that need no window toolkit are built and tested too.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 scripts/setup.sh tests
-
 jobs=$(nproc)
-options=(-DCMAKE_BUILD_TYPE=RelWithDebInfo -DVELMORA_TESTS=ON)
-if [[ "${CI:-}" == true ]]; then
-  options+=(-DVELMORA_WERROR=ON)
-  scripts/check-format.sh
-  scripts/fuzz.sh 5
-  scripts/build.sh build-sanitize -DCMAKE_BUILD_TYPE=Debug -DVELMORA_TESTS=ON -DVELMORA_WERROR=ON \
-    -DVELMORA_SANITIZE=ON
-  ctest --test-dir build-sanitize --output-on-failure -j "$jobs" -LE e2e --quiet
-  echo "Tests under the address and undefined-behaviour sanitizers: passed."
+
+if [[ "${CI:-}" != true ]]; then
+  scripts/build.sh build -DCMAKE_BUILD_TYPE=RelWithDebInfo -DVELMORA_TESTS=ON
+  ctest --test-dir build --output-on-failure -j "$jobs" --progress
+  exit
 fi
-scripts/build.sh build "${options[@]}"
-if [[ "${CI:-}" == true ]]; then
-  scripts/lint.sh
-fi
-ctest --test-dir build --output-on-failure -j "$jobs" --progress
+
+# stage TEXT: says what begins, and when.
+stage() { printf '\n== %s (after %d:%02d min)\n' "$1" $((SECONDS / 60)) $((SECONDS % 60)); }
+
+stage "Layout of the code"
+scripts/check-format.sh
+stage "Fuzzers"
+scripts/fuzz.sh 5
+stage "Unit tests under the address and undefined-behaviour sanitizers"
+scripts/build-sanitize.sh
+ctest --test-dir build-sanitize --output-on-failure -j "$jobs" -LE e2e --progress
+stage "Programs as they are released"
+scripts/build.sh build -DCMAKE_BUILD_TYPE=Release -DCMAKE_CXX_FLAGS_RELEASE="-O2 -DNDEBUG" -DVELMORA_TESTS=ON \
+  -DVELMORA_WERROR=ON -- programs e2e_tests
+stage "Linter"
+scripts/lint.sh
+stage "End-to-end tests"
+ctest --test-dir build --output-on-failure -j "$jobs" -L e2e --progress
+stage "Windows"
+scripts/test-windows.sh core
+stage "All passed"

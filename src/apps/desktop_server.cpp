@@ -4,6 +4,7 @@
 #include <QSessionManager>
 #include <QWindow>
 
+#include "platform/known_folders.h"
 #include "serial/open_diagnosis.h"
 #include "ui/port_test.h"
 
@@ -24,7 +25,7 @@ DesktopServer::DesktopServer()
              },
              [this] { window_.show(); },
              [this] { placeWindow(); }}),
-      ini_(platform_.profiles, platform_.rules, box_),
+      ini_(platform_.profiles, platform_.rules, box_, windowsFolder()),
       settingsStore_(ini_, overrides_),
       start_({&platform_.files,
               platform_.rules,

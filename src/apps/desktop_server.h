@@ -6,6 +6,7 @@
 
 #include "apps/controller_form.h"
 #include "apps/desktop_dialogs.h"
+#include "apps/native_position_store.h"
 #include "apps/platform_parts.h"
 #include "apps/server_core.h"
 #include "link/debug.h"
@@ -61,7 +62,7 @@ class DesktopServer {
     clsIniFile ini_;
     IniSettingsStore settingsStore_;
     CommsLink start_;
-    QtPositionStore positions_;
+    NativePositionStore positions_;
     Registry registry_;
     QObject session_;  // ends the connections to the session before anything above ends
 };

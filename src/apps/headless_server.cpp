@@ -5,6 +5,8 @@
 #include <cstring>
 #include <system_error>
 
+#include "base/system_text.h"
+#include "platform/known_folders.h"
 #include "serial/open_diagnosis.h"
 
 namespace velmora {
@@ -48,7 +50,7 @@ HeadlessServer::HeadlessServer(const ServerArguments& arguments)
       core_({view_, box_, platform_.files, platform_.rules, platform_.port, debug_, platform_.ComTimer,
              platform_.PLPtimer, platform_.DisplayTimer, platform_.clock, platform_.zone, platform_.yield}),
       form_(core_.controller(), view_, core_.options, platform_.port, platform_.portNames),
-      ini_(platform_.profiles, platform_.rules, box_),
+      ini_(platform_.profiles, platform_.rules, box_, windowsFolder()),
       settingsStore_(ini_, overrides_),
       start_({&platform_.files,
               platform_.rules,
@@ -77,13 +79,13 @@ std::function<void(const std::string&)> HeadlessServer::traceOutput() {
         return {};
     }
     if (!arguments_.traceFile) {
-        return [](const std::string& line) { printLine(stderr, line); };
+        return [](const std::string& line) { printLine(stderr, toSystemText(line)); };
     }
     traceFile_ = std::fopen(arguments_.traceFile->c_str(), "w");
     if (traceFile_ == nullptr) {
         throw std::system_error(errno, std::generic_category(), *arguments_.traceFile);
     }
-    return [this](const std::string& line) { printLine(traceFile_, line); };
+    return [this](const std::string& line) { printLine(traceFile_, toSystemText(line)); };
 }
 
 /// Prints a warning. A server whose port failed ends, and says so in one line.

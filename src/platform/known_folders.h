@@ -22,4 +22,8 @@ class KnownFolders {
 /// The folder that relative paths of this process start at; a root when the system does not tell.
 std::string currentFolder();
 
+/// The folder of the system itself, which holds the system profile "win.ini" (GetWindowsDirectoryA); empty on
+/// systems that have no such profile.
+std::string windowsFolder();
+
 }  // namespace velmora

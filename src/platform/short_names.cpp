@@ -1,5 +1,6 @@
 #include "platform/short_names.h"
 
+#include <algorithm>
 #include <unordered_map>
 #include <unordered_set>
 
@@ -110,22 +111,42 @@ std::optional<std::string> ownShortName(std::string_view name) {
     return own;
 }
 
-std::vector<std::string> shortNames(const std::vector<std::string>& sortedNames) {
-    std::vector<std::string> result(sortedNames.size());
-    std::unordered_set<std::string> own;
+std::vector<std::string> shortNames(const std::vector<std::string>& sortedNames,
+                                    const std::vector<std::string>& kept) {
+    std::vector<std::string> result = kept;
+    result.resize(sortedNames.size());
+    std::unordered_set<std::string> taken(kept.begin(), kept.end());
     for (std::size_t i = 0; i < sortedNames.size(); ++i) {
-        std::optional<std::string> name = ownShortName(sortedNames[i]);
-        if (name && own.insert(*name).second) {
+        std::optional<std::string> name =
+            result[i].empty() ? ownShortName(sortedNames[i]) : std::optional<std::string>();
+        if (name && taken.insert(*name).second) {
             result[i] = *std::move(name);
         }
     }
-    Numbering numbering(own);
+    Numbering numbering(taken);
     for (std::size_t i = 0; i < sortedNames.size(); ++i) {
         if (result[i].empty()) {
             result[i] = numbering.next(partsOf(sortedNames[i]));
         }
     }
     return result;
+}
+
+bool mayBeMadeUp(std::string_view name) {
+    return name.find('~') != std::string_view::npos && ownShortName(name);
+}
+
+std::optional<std::string> nameWithShortName(const std::vector<std::string>& sortedNames,
+                                             std::string_view shortName,
+                                             const std::vector<std::string>& kept) {
+    std::string wanted(shortName);
+    std::transform(wanted.begin(), wanted.end(), wanted.begin(), capital);
+    const std::vector<std::string> shorts = shortNames(sortedNames, kept);
+    const auto found = std::find(shorts.begin(), shorts.end(), wanted);
+    if (wanted.empty() || found == shorts.end()) {
+        return std::nullopt;
+    }
+    return sortedNames[static_cast<std::size_t>(found - shorts.begin())];
 }
 
 }  // namespace velmora

@@ -1,4 +1,4 @@
-// Short names in the 8.3 form, for folders whose file system keeps none.
+// Short names in the 8.3 form, for files that their file system keeps none for.
 #pragma once
 
 #include <optional>
@@ -21,6 +21,19 @@ std::optional<std::string> ownShortName(std::string_view name);
 /// extension; blanks and all dots but the last are dropped and what 8.3 does not allow becomes "_". A longer
 /// number takes the room of characters ("ABCDE~10"). No two short names are equal. Beyond 9,999,999 equal
 /// beginnings the short name is empty. Takes time in proportion to the number of names.
-std::vector<std::string> shortNames(const std::vector<std::string>& sortedNames);
+///
+/// `kept`: the short names that the file system itself keeps, in capitals, at the same positions; empty where
+/// it keeps none. They are taken as they are. Nothing at all for a file system that keeps none.
+std::vector<std::string> shortNames(const std::vector<std::string>& sortedNames,
+                                    const std::vector<std::string>& kept = {});
+
+/// Whether a name can be one that shortNames made up. Spares the work of looking for any other.
+bool mayBeMadeUp(std::string_view name);
+
+/// The one of the names that has this short name, whatever the case of its letters; nothing when none has.
+/// Names and `kept` as for shortNames.
+std::optional<std::string> nameWithShortName(const std::vector<std::string>& sortedNames,
+                                             std::string_view shortName,
+                                             const std::vector<std::string>& kept = {});
 
 }  // namespace velmora

@@ -1,15 +1,12 @@
 #include "organiser/commands.h"
 
-#include <unistd.h>
-
-#include <cstdlib>
-#include <filesystem>
 #include <sstream>
 #include <string>
 #include <vector>
 
 #include "conversation_fixture.h"
 #include "organiser/local_files.h"
+#include "support/temp_folder.h"
 
 namespace velmora {
 namespace {
@@ -19,16 +16,12 @@ using namespace std::string_literals;
 class CommandsTest : public test::ConversationFixture {
   protected:
     void SetUp() override {
-        std::string pattern = testing::TempDir() + "organiserXXXXXX";
-        ASSERT_NE(mkdtemp(pattern.data()), nullptr);
-        directory = pattern;
         server.serve("EXIT", exitService);
         server.serve("TIME", timeService);
         server.serve("PLAN", plan);
     }
-    void TearDown() override { std::filesystem::remove_all(directory); }
 
-    std::string path(const std::string& name) { return directory + "/" + name; }
+    std::string path(const std::string& name) const { return directory.path(name); }
     std::string local(const std::string& name, const std::string& contents) {
         writeLocalFile(path(name), contents);
         return path(name);
@@ -40,7 +33,7 @@ class CommandsTest : public test::ConversationFixture {
         return runCommand(parseCommandLine(arguments), link(), {out, error, progress});
     }
 
-    std::string directory;
+    test::TempFolder directory;
     std::ostringstream out;
     std::ostringstream error;
     test::ScriptedService exitService{test::reply("")};
@@ -121,7 +114,7 @@ TEST_F(CommandsTest, StatusTellsWhatWentWrong) {
     EXPECT_NE(error.str().find("189"), std::string::npos);
     EXPECT_EQ(run({"save", path("absent")}), kLocalProblem);
     EXPECT_NE(error.str().find("absent cannot be read: No such file"), std::string::npos);
-    EXPECT_EQ(run({"save", directory}), kLocalProblem);
+    EXPECT_EQ(run({"save", directory.path()}), kLocalProblem);
     EXPECT_EQ(run({"save", local("long", std::string(251, 'x'))}), kLocalProblem);
     EXPECT_NE(error.str().find("line 1: 251 bytes"), std::string::npos);
     folder["MEMO.ODB"] = "a\r\n";

@@ -4,12 +4,10 @@
 #include <memory>
 
 #include "base/files.h"
+#include "platform/native.h"
 #include "support/memory_files.h"
 #include "support/run_time_errors.h"
-#ifndef _WIN32
-#include "platform/posix/posix_files.h"
 #include "support/temp_folder.h"
-#endif
 
 namespace velmora {
 namespace {
@@ -37,7 +35,6 @@ class MemorySetting : public Setting {
     test::MemoryFiles files_;
 };
 
-#ifndef _WIN32
 class DiskSetting : public Setting {
   public:
     Files& files() override { return files_; }
@@ -45,9 +42,8 @@ class DiskSetting : public Setting {
 
   private:
     test::TempFolder folder_;
-    PosixFiles files_{folder_.path()};
+    NativeFiles files_{folder_.path()};
 };
-#endif
 
 using MakeSetting = std::unique_ptr<Setting> (*)();
 
@@ -257,9 +253,7 @@ std::unique_ptr<Setting> make() {
 }
 
 INSTANTIATE_TEST_SUITE_P(Memory, FilesContract, testing::Values(&make<MemorySetting>));
-#ifndef _WIN32
 INSTANTIATE_TEST_SUITE_P(Disk, FilesContract, testing::Values(&make<DiskSetting>));
-#endif
 
 }  // namespace
 }  // namespace velmora

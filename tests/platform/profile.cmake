@@ -1,4 +1,10 @@
+set(profile_tests
+  profile/profile_rules_test.cpp
+  profile/replace_contents_test.cpp
+  profile/text_profile_files_test.cpp)
+if(WIN32)
+  list(APPEND profile_tests profile/win32_profile_files_test.cpp)
+endif()
 velmora_test(profile_tests
-  SOURCES
-    profile/text_profile_files_test.cpp
+  SOURCES ${profile_tests}
   LIBS velmora_profile)

@@ -74,6 +74,30 @@ TEST(ShortNames, OfTwoThatDifferByCaseTheFirstIsItsOwn) {
     EXPECT_THAT(shortNames({"MEMO.TXT", "Memo.txt"}), ElementsAre("MEMO.TXT", "MEMO~1.TXT"));
 }
 
+TEST(ShortNames, WhatTheFileSystemKeepsIsTakenAndKeptOff) {
+    EXPECT_THAT(shortNames({"Longer 1.txt", "Longer 2.txt", "Longer 3.txt", "memo"},
+                           {"", "LONGER~1.TXT", "LO4711~1.TXT", ""}),
+                ElementsAre("LONGER~2.TXT", "LONGER~1.TXT", "LO4711~1.TXT", "MEMO"));
+    EXPECT_THAT(shortNames({"long name", "longna~1"}, {"LONGNA~1", ""}), ElementsAre("LONGNA~1", "LONGNA~2"))
+        << "also from a name that would be its own";
+}
+
+TEST(ShortNames, OnlyShortNamesWithATildeCanBeMadeUp) {
+    EXPECT_TRUE(mayBeMadeUp("LONGER~1.TXT"));
+    EXPECT_TRUE(mayBeMadeUp("longer~1.txt"));
+    EXPECT_FALSE(mayBeMadeUp("LONGER.TXT"));
+    EXPECT_FALSE(mayBeMadeUp("Much longer~1.txt"));
+    EXPECT_FALSE(mayBeMadeUp(""));
+}
+
+TEST(ShortNames, AnswerForANameInEitherCase) {
+    const std::vector<std::string> names = {"Longer 1.txt", "Longer 2.txt"};
+    EXPECT_EQ(nameWithShortName(names, "longer~2.txt"), "Longer 2.txt");
+    EXPECT_EQ(nameWithShortName(names, "LONGER~1.TXT", {"", "LONGER~1.TXT"}), "Longer 2.txt");
+    EXPECT_EQ(nameWithShortName(names, "LONGER~3.TXT"), std::nullopt);
+    EXPECT_EQ(nameWithShortName(names, ""), std::nullopt);
+}
+
 TEST(ShortNames, LongerNumbersTakeTheRoomOfCharacters) {
     std::vector<std::string> names;
     for (int i = 1000; i < 1100; ++i) {

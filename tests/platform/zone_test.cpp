@@ -1,9 +1,8 @@
-#include "platform/posix/zone_at.h"
-
 #include <gtest/gtest.h>
 
 #include <filesystem>
 
+#include "platform/posix/zone_at.h"
 #include "support/zone_setting.h"
 
 namespace velmora {

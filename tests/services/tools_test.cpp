@@ -6,6 +6,7 @@
 
 #include "platform/windows_paths.h"
 #include "support/memory_files.h"
+#include "support/windows_name_cases.h"
 #ifndef _WIN32
 #include "platform/posix/posix_files.h"
 #include "platform/posix/posix_paths.h"
@@ -32,39 +33,30 @@ TEST(TranslateChars, DoesNotTranslateWhatItJustPutIn) {
     EXPECT_EQ(translate_Chars(text, "ab", "ba"), "ba");
 }
 
-/// One name, how it is asked for, and what comes out; an empty path is a refusal.
-struct Row {
-    const char* title;
-    std::string name;
-    std::string path;
-    bool resolveExisting = false;
-    bool allowWildcards = false;
-};
-
-void PrintTo(const Row& row, std::ostream* out) {
-    *out << row.title;
-}
+using Row = test::NameCase;
 
 std::string titleOf(const testing::TestParamInfo<Row>& info) {
     return info.param.title;
 }
 
+/// What the mapping itself does, on every system: names with drives in a file system in memory.
 class WindowsNames : public testing::TestWithParam<Row> {
   protected:
     WindowsNames() {
+        for (const char* name : test::kNameCaseFolders) {
+            files.addFolder(base + name);
+        }
+        for (const char* name : test::kNameCaseFiles) {
+            files.addFile(base + name);
+        }
         files.addFolder("C:\\Psion");
-        files.addFolder("C:\\TEMP\\A");
-        files.addFolder("C:\\Psion\\SUB");
-        files.addFolder("\\\\server\\share\\Psion");
-        files.addFile("C:\\Psion\\MixedCase.TXT");
+        files.addFolder("C:\\TEMP");
         files.addFile("C:\\Psion\\Longer file name.txt");
         files.setShortName("C:\\Psion\\Longer file name.txt", "LONGER~1.TXT");
         settings.DownloadPath = "C:\\Psion";
     }
-    std::string map(const Row& row) const {
-        return tools.map_FileName(row.name, row.resolveExisting, row.allowWildcards);
-    }
 
+    const std::string base = "C:\\Base";
     test::MemoryFiles files{'\\'};
     WindowsPaths rules{"C:\\Program Files\\Velmora"};
     TransferSettings settings;
@@ -72,67 +64,25 @@ class WindowsNames : public testing::TestWithParam<Row> {
 };
 
 TEST_P(WindowsNames, AreMapped) {
-    EXPECT_EQ(map(GetParam()), GetParam().path);
+    const Row& row = GetParam();
+    settings.DownloadPath = base + "\\Psion";
+    EXPECT_EQ(tools.map_FileName(test::placed(row.name, base), row.resolveExisting, row.allowWildcards),
+              test::placed(row.path, base));
 }
 
-const Row kWindowsRows[] = {
-    {"PercentBecomesUnderscore", "DATA%1", "C:\\Psion\\Data_1"},
-    {"GreaterBecomesTilde", "LONGER>1.TXT", "C:\\Psion\\Longer~1.txt"},
-    {"DriveRelativeOnTheOwnDrive", "C:LIST", "C:\\Psion\\List"},
-    {"OwnDriveInSmallLetter", "c:LIST", "C:\\Psion\\List"},
-    {"RootedOnTheOwnDrive", "C:\\TEMP\\NOTE.TXT", "C:\\TEMP\\Note.txt"},
-    {"RootedWithSlashes", "C:/TEMP/NOTE.TXT", "C:\\TEMP\\Note.txt"},
-    {"RootedWithoutADrive", "\\TEMP\\A/B", "C:\\TEMP\\A\\B"},
-    {"AnotherDriveWithoutTheFolder", "A:NAME", ""},
-    {"AnotherDriveRootedWithoutTheFolder", "A:\\SUB\\NAME", ""},
-    {"InASubfolder", "SUB/FILE", "C:\\Psion\\SUB\\File"},
-    {"InAMissingSubfolder", "NOSUB/FILE", ""},
-    {"FolderKeepsItsLettersAsWritten", "sub/FILE", "C:\\Psion\\sub\\File"},
-    {"WildcardNotAllowed", "*", ""},
-    {"WildcardInsideNotAllowed", "A*.TXT", ""},
-    {"QuestionMarkPasses", "A?", "C:\\Psion\\A?"},
-    {"WildcardAllowed", "*", "C:\\Psion\\*", false, true},
-    {"WildcardMappedLikeAnyName", "*.TXT", "C:\\Psion\\*.txt", false, true},
-    {"BlanksAround", "   MEMO  ", "C:\\Psion\\Memo"},
-    {"BlanksInsideStay", "MY MEMO", "C:\\Psion\\My memo"},
-    {"AllCapitals", "MYFILE", "C:\\Psion\\Myfile"},
-    {"ExtensionIsRecasedToo", "NOTES.TXT", "C:\\Psion\\Notes.txt"},
-    {"ASmallLetterKeepsTheName", "MyFile.TXT", "C:\\Psion\\MyFile.TXT"},
-    {"ASmallLetterInTheExtensionDoesNot", "MYFILE.txT", "C:\\Psion\\Myfile.txt"},
-    {"NoLettersAtAll", "123.ODB", "C:\\Psion\\123.odb"},
-    {"AccentedCapitals", "\xC4RGER\xD6.TXT", "C:\\Psion\\\xC4rger\xF6.txt"},
-    {"AccentedSmallLetter", "M\xFCLL.TXT", "C:\\Psion\\M\xFCLL.TXT"},
-    {"OnlyAnExtension", ".TXT", "C:\\Psion\\.txt"},
-    {"BaseEndsAtTheLastDot", "A.b.TXT", "C:\\Psion\\A.b.TXT"},
-    {"ExistingIsGivenAsStored", "MIXEDCASE.TXT", "C:\\Psion\\MixedCase.TXT", true},
-    {"ExistingIsNotLookedUpUnasked", "MIXEDCASE.TXT", "C:\\Psion\\Mixedcase.txt"},
-    {"ExistingIsNotLookedUpWithWildcards", "MIXEDCASE.TXT", "C:\\Psion\\Mixedcase.txt", true, true},
-    {"ExistingByItsShortName", "LONGER>1.TXT", "C:\\Psion\\Longer file name.txt", true},
-    {"MissingStaysAsMapped", "NOSUCH.TXT", "C:\\Psion\\Nosuch.txt", true},
-    {"DotsAreResolved", "SUB\\..\\.\\MEMO", "C:\\Psion\\Memo"},
-    {"AboveTheDownloadFolder", "..\\TEMP\\MEMO", "C:\\TEMP\\Memo"},
-    {"AboveTheRootStaysThere", "..\\..\\..\\TEMP\\MEMO", "C:\\TEMP\\Memo"},
-    {"NetworkPathIsKept", "\\\\server\\share\\Psion\\MEMO", "\\\\server\\share\\Psion\\Memo"},
-    {"NetworkPathWithoutTheFolder", "\\\\server\\other\\MEMO", ""},
-    {"Empty", "", ""},
-    {"OnlyBlanks", "   ", ""},
-    {"OnlyADrive", "C:", ""},
-    {"EndsInASeparator", "SUB\\", ""},
-    {"Dot", ".", ""},
-    {"DotDot", "..", ""},
-    {"DotDotBehindAFolder", "SUB\\..", ""},
-    {"DriveAndDotDot", "C:..", ""},
-    {"ZeroByte", std::string("ME\0MO", 5), ""},
-    {"ControlCode", "ME\nMO", ""},
-    {"ByteWithoutACharacter", "ME\x81MO", ""},
-    {"StreamOfAFile", "MEMO:SECRET", ""},
-    {"SecondDrive", "C:D:MEMO", ""},
-    {"DeviceName", "COM1", ""},
-    {"DeviceNameWithExtension", "NUL.TXT", ""},
-    {"DevicePath", "\\\\.\\PHYSICALDRIVE0", ""},
-    {"NothingButDots", "...", ""},
-};
-INSTANTIATE_TEST_SUITE_P(Rows, WindowsNames, testing::ValuesIn(kWindowsRows), titleOf);
+INSTANTIATE_TEST_SUITE_P(Rows, WindowsNames, testing::ValuesIn(test::windowsNameCases()), titleOf);
+
+TEST_F(WindowsNames, FindAFileByItsShortName) {
+    EXPECT_EQ(tools.map_FileName("LONGER>1.TXT", true, false), "C:\\Psion\\Longer file name.txt");
+    EXPECT_EQ(tools.map_FileName("LONGER>1.TXT", false, false), "C:\\Psion\\Longer~1.txt");
+}
+
+TEST_F(WindowsNames, ThatNameAServerAreKept) {
+    files.addFolder("\\\\server\\share\\Psion");
+    EXPECT_EQ(tools.map_FileName("\\\\server\\share\\Psion\\MEMO", false, false),
+              "\\\\server\\share\\Psion\\Memo");
+    EXPECT_EQ(tools.map_FileName("\\\\server\\other\\MEMO", false, false), "");
+}
 
 TEST_F(WindowsNames, AnotherDriveIsKeptWhereItsFolderExists) {
     files.addFolder("A:\\");
@@ -145,6 +95,7 @@ TEST_F(WindowsNames, FollowAChangeOfTheDownloadFolder) {
 }
 
 TEST_F(WindowsNames, AreRootedOnTheShareOfADownloadFolderInTheNetwork) {
+    files.addFolder("\\\\server\\share\\Psion");
     settings.DownloadPath = "\\\\server\\share\\Psion";
     EXPECT_EQ(tools.map_FileName("MEMO", false, false), "\\\\server\\share\\Psion\\Memo");
     EXPECT_EQ(tools.map_FileName("\\Psion\\MEMO", false, false), "\\\\server\\share\\Psion\\Memo");

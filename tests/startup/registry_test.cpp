@@ -4,6 +4,8 @@
 
 #include <map>
 
+#include "support/window_places.h"
+
 namespace velmora {
 namespace {
 
@@ -25,42 +27,12 @@ class MemoryStore : public WindowPositionStore {
     bool broken = false;
 };
 
-class FakeWindow : public WindowGeometry {
-  public:
-    std::int32_t left() const override { return x; }
-    std::int32_t top() const override { return y; }
-    std::int32_t width() const override { return 4000; }
-    std::int32_t height() const override { return 3000; }
-    void setLeft(std::int32_t left) override { x = left; }
-    void setTop(std::int32_t top) override { y = top; }
-    std::int32_t screenWidth() const override { return 15'360; }
-    std::int32_t screenHeight() const override { return 11'520; }
-    void normalise() override {
-        x = minimised ? normalX : x;
-        minimised = false;
-    }
-
-    std::int32_t x = 77;
-    std::int32_t y = 77;
-    std::int32_t normalX = 0;
-    bool minimised = false;
-};
-
-constexpr std::int32_t kCentredLeft = (15'360 - 4000) / 2;
-constexpr std::int32_t kCentredTop = (11'520 - 3000) / 2;
-constexpr std::int32_t kFlushLeft = 15'360 - 4000;
-constexpr std::int32_t kFlushTop = 11'520 - 3000;
+using test::FakeWindow;
+using test::kCentredLeft;
+using test::kCentredTop;
 
 class WindowPosition : public ::testing::Test {
   protected:
-    /// Where a window that closed at (x, y) stands at the next start.
-    FakeWindow restart(std::int32_t x, std::int32_t y) {
-        FakeWindow old;
-        old.x = x;
-        old.y = y;
-        registry_.SaveWindowPos(old);
-        return load();
-    }
     FakeWindow load() {
         FakeWindow window;
         registry_.LoadWindowPos(window);
@@ -80,42 +52,20 @@ TEST_F(WindowPosition, TheFirstStartIsCentred) {
     EXPECT_EQ(window.y, kCentredTop);
 }
 
-TEST_F(WindowPosition, APlaceOnTheScreenComesBack) {
-    const FakeWindow window = restart(1234, 567);
-    EXPECT_EQ(window.x, 1234);
-    EXPECT_EQ(window.y, 567);
+class WindowPlaceRow : public WindowPosition, public ::testing::WithParamInterface<test::WindowPlace> {};
+
+TEST_P(WindowPlaceRow, StandsAsTheTableSays) {
+    const FakeWindow window = restarted(registry_, GetParam());
+    EXPECT_EQ(window.x, GetParam().nextX);
+    EXPECT_EQ(window.y, GetParam().nextY);
 }
 
-TEST_F(WindowPosition, FarOffToTheLeftOrTopIsCentred) {
-    EXPECT_EQ(restart(-300, 0).x, kCentredLeft);
-    EXPECT_EQ(restart(-201, 0).x, kCentredLeft);
-    EXPECT_EQ(restart(0, -201).y, kCentredTop);
-}
-
-TEST_F(WindowPosition, SlightlyOffTheScreenComesBack) {
-    EXPECT_EQ(restart(-150, 0).x, -150);
-    EXPECT_EQ(restart(-200, 0).x, -200);
-    EXPECT_EQ(restart(0, -200).y, -200);
-    EXPECT_EQ(restart(kFlushLeft + 200, 0).x, kFlushLeft + 200);
-    EXPECT_EQ(restart(0, kFlushTop + 200).y, kFlushTop + 200);
-}
-
-TEST_F(WindowPosition, FarBeyondTheRightOrBottomStandsFlush) {
-    EXPECT_EQ(restart(kFlushLeft + 500, 0).x, kFlushLeft);
-    EXPECT_EQ(restart(kFlushLeft + 201, 0).x, kFlushLeft);
-    EXPECT_EQ(restart(0, kFlushTop + 201).y, kFlushTop);
-    EXPECT_EQ(restart(2'147'483'647, 0).x, kFlushLeft);
-}
-
-TEST_F(WindowPosition, OneAxisIsCentredWithoutTheOther) {
-    const FakeWindow window = restart(-300, 40);
-    EXPECT_EQ(window.x, kCentredLeft);
-    EXPECT_EQ(window.y, 40);
-}
+INSTANTIATE_TEST_SUITE_P(All, WindowPlaceRow, ::testing::ValuesIn(test::windowPlaces()),
+                         [](const auto& row) { return std::string(row.param.name); });
 
 TEST_F(WindowPosition, StaleValuesAreDeletedFirst) {
     store_.values["Old"] = std::string("x");
-    restart(1, 2);
+    test::restarted(registry_, {"", 1, 2, 1, 2});
     EXPECT_EQ(store_.values.size(), 2U);
 }
 
@@ -130,7 +80,7 @@ TEST_F(WindowPosition, AMinimisedWindowIsSavedWhereItStandsOtherwise) {
 
 TEST_F(WindowPosition, FailuresAreSilent) {
     store_.broken = true;
-    EXPECT_EQ(restart(5, 6).x, kCentredLeft);
+    EXPECT_EQ(test::restarted(registry_, {"", 5, 6, 5, 6}).x, kCentredLeft);
 }
 
 TEST_F(WindowPosition, TextsAreReadToo) {

@@ -52,12 +52,7 @@ std::optional<std::string> findByShortName(const std::string& folder, std::strin
         return true;
     });
     std::sort(names.begin(), names.end());
-    const std::vector<std::string> shorts = shortNames(names);
-    const auto found = std::find(shorts.begin(), shorts.end(), asciiCapitals(name));
-    if (found == shorts.end()) {
-        return std::nullopt;
-    }
-    return names[static_cast<std::size_t>(found - shorts.begin())];
+    return nameWithShortName(names, name);
 }
 
 }  // namespace
@@ -94,8 +89,7 @@ std::optional<std::string> findEntry(const std::string& folder, std::string_view
         }
         return true;
     });
-    // A name with "~" that is too long for 8.3 cannot be a short one; spare the work.
-    if (!found && name.find('~') != std::string_view::npos && ownShortName(name)) {
+    if (!found && mayBeMadeUp(name)) {
         found = findByShortName(folder, name);
     }
     return found;

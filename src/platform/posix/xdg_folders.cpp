@@ -62,6 +62,10 @@ std::string currentFolder() {
     return error ? "/" : folder.string();
 }
 
+std::string windowsFolder() {
+    return {};
+}
+
 XdgFolders::XdgFolders(EnvironmentLookup environment) : environment_(std::move(environment)) {}
 
 std::string XdgFolders::home() const {

@@ -1,8 +1,7 @@
-#include "platform/posix/zone_at.h"
-
 #include <optional>
 
 #include "platform/posix/calendar.h"
+#include "platform/posix/zone_at.h"
 
 namespace velmora {
 namespace {

@@ -8,8 +8,9 @@
 namespace velmora {
 namespace {
 
-// A carriage return at the end of a line belongs to its line end, wherever else it stands to its text.
-constexpr std::string_view kBlanks = " \t\r";
+// What counts as a blank at the ends of a line and around its "=": also carriage returns that are more than
+// the line end needs, and the end-of-file mark (code 26) that DOS editors left.
+constexpr std::string_view kBlanks = " \t\r\v\f\x1A";
 
 std::string_view trimmed(std::string_view text) {
     const std::size_t first = text.find_first_not_of(kBlanks);
@@ -55,14 +56,15 @@ void ProfileText::indexLine(Span line) {
     };
     std::string_view text = view(line);
     text.remove_suffix(lineEnd(text).size());
-    text = trimmed(text);
+    // Texts end at their first zero byte; the bytes behind it stay in the file and are read as nothing.
+    text = trimmed(text.substr(0, text.find('\0')));
     if (text.empty() || text.front() == ';') {
         return;
     }
     const std::size_t close = text.find(']');
     if (text.front() == '[' && close != std::string_view::npos) {
         headers_.push_back(
-            {line, span(text.substr(1, close - 1)), static_cast<std::uint32_t>(entries_.size())});
+            {line, span(trimmed(text.substr(1, close - 1))), static_cast<std::uint32_t>(entries_.size())});
         return;
     }
     if (headers_.empty()) {

@@ -15,8 +15,8 @@ void deleteQuietly(Files& files, const std::string& path) {
 
 }  // namespace
 
-void replaceContents(Files& files, const PathRules& rules, const std::string& path,
-                     std::string_view contents) {
+void replaceContents(Files& files, const PathRules& rules, const std::string& path, std::string_view contents,
+                     const FileEdit& edit) {
     if (files.folderExists(path)) {
         throw RunTimeError(ErrorNumber::PathFileAccess, path);
     }
@@ -25,7 +25,11 @@ void replaceContents(Files& files, const PathRules& rules, const std::string& pa
         const auto file = files.open(temporary, OpenMode::Create);
         file->write(contents);
         file->close();
-        files.replaceFile(temporary, path);
+        if (!edit || edit(temporary)) {
+            files.replaceFile(temporary, path);
+        } else {
+            deleteQuietly(files, temporary);
+        }
     } catch (...) {
         deleteQuietly(files, temporary);
         throw;

@@ -1,12 +1,12 @@
 #include "platform/profile/text_profile_files.h"
 
 #include <algorithm>
-#include <limits>
 #include <string_view>
 #include <utility>
 
 #include "base/byte_text.h"
 #include "base/run_time_error.h"
+#include "platform/profile/profile_rules.h"
 #include "platform/profile/replace_contents.h"
 
 namespace velmora {
@@ -17,62 +17,6 @@ std::string_view unquoted(std::string_view value) {
     const bool enclosed =
         value.size() >= 2 && value.front() == value.back() && (value.front() == '"' || value.front() == '\'');
     return enclosed ? value.substr(1, value.size() - 2) : value;
-}
-
-int digitValue(char c) {
-    if (c >= '0' && c <= '9') {
-        return c - '0';
-    }
-    if (c >= 'a' && c <= 'f') {
-        return c - 'a' + 10;
-    }
-    return c >= 'A' && c <= 'F' ? c - 'A' + 10 : 16;
-}
-
-std::int32_t wholeNumber(std::string_view text) {
-    text.remove_prefix(std::min(text.find_first_not_of(" \t"), text.size()));
-    const bool negative = text.starts_with('-');
-    if (negative || text.starts_with('+')) {
-        text.remove_prefix(1);
-    }
-    const int base = text.starts_with("0x") ? 16 : 10;
-    text.remove_prefix(base == 16 ? 2 : 0);
-    // Far enough beyond 32 bits to saturate, far enough below 64 to go on multiplying.
-    constexpr std::int64_t kEnough = std::int64_t{1} << 40;
-    std::int64_t number = 0;
-    for (const char c : text) {
-        const int digit = digitValue(c);
-        if (digit >= base) {
-            break;
-        }
-        number = std::min(number * base + digit, kEnough);
-    }
-    using Limits = std::numeric_limits<std::int32_t>;
-    return static_cast<std::int32_t>(
-        std::clamp<std::int64_t>(negative ? -number : number, Limits::min(), Limits::max()));
-}
-
-void require(bool storable, const std::string& text) {
-    if (!storable) {
-        throw RunTimeError(ErrorNumber::InvalidProcedureCall, text);
-    }
-}
-
-bool isOneLine(std::string_view text) {
-    return text.find_first_of(std::string_view("\r\n\0", 3)) == std::string_view::npos;
-}
-
-void checkSection(const std::string& section) {
-    require(isOneLine(section) && section.find(']') == std::string::npos, section);
-}
-
-void checkKey(const std::string& key) {
-    require(!key.empty() && isOneLine(key) && key.find('=') == std::string::npos, key);
-    constexpr std::string_view kBlanks = " \t";
-    require(kBlanks.find(key.front()) == std::string_view::npos &&
-                kBlanks.find(key.back()) == std::string_view::npos,
-            key);
-    require(key.front() != ';' && key.front() != '[', key);
 }
 
 }  // namespace
@@ -120,7 +64,7 @@ std::int32_t TextProfileFiles::getInt(const std::string& section, const std::str
                                       std::int32_t defaultValue, const std::string& file) {
     const auto value = load(file).value(section, key);
     const std::string_view number = value ? unquoted(*value) : std::string_view();
-    return number.empty() ? defaultValue : wholeNumber(number);
+    return number.empty() ? defaultValue : profileNumber(number);
 }
 
 std::vector<std::string> TextProfileFiles::getSection(const std::string& section, const std::string& file) {
@@ -136,17 +80,17 @@ std::vector<std::string> TextProfileFiles::getSection(const std::string& section
 
 void TextProfileFiles::writeString(const std::string& section, const std::optional<std::string>& key,
                                    const std::optional<std::string>& value, const std::string& file) {
-    checkSection(section);
+    checkProfileSection(section);
     if (!key) {
         save(file, load(file).withoutSection(section));
         return;
     }
-    checkKey(*key);
+    checkProfileKey(*key);
     if (!value) {
         save(file, load(file).withoutKey(section, *key));
         return;
     }
-    require(isOneLine(*value), *value);
+    checkProfileValue(*value);
     const ProfileText& profile = load(file);
     save(file, profile.withValue(section, *key, encodeText(*value, profile.encoding())));
 }
@@ -172,9 +116,9 @@ void TextProfileFiles::writePath(const std::string& section, const std::string& 
         writeString(section, key, path, file);
         return;
     }
-    checkSection(section);
-    checkKey(key);
-    if (!isOneLine(path) || !isUtf8(path)) {
+    checkProfileSection(section);
+    checkProfileKey(key);
+    if (!isOneProfileLine(path) || !isUtf8(path)) {
         throw RunTimeError(ErrorNumber::BadFileName, path);
     }
     save(file, load(file).withValue(section, key, path));

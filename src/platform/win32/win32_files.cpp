@@ -1,0 +1,215 @@
+#include "platform/win32/win32_files.h"
+
+#include <windows.h>
+
+#include <array>
+#include <optional>
+#include <utility>
+#include <vector>
+
+#include "base/run_time_error.h"
+#include "platform/short_names.h"
+#include "platform/win32/win32_errors.h"
+#include "platform/win32/win32_file.h"
+#include "platform/win32/win32_folder.h"
+#include "platform/win32/win32_handle.h"
+#include "platform/win32/win32_lookup.h"
+#include "platform/windows_paths.h"
+
+namespace velmora {
+namespace {
+
+/// The status of an existing file; throws when there is none or something else has its name.
+Win32Status requireFile(const std::string& path) {
+    Win32Status status;
+    if (const std::uint32_t error = readWin32Status(path, status); error != ERROR_SUCCESS) {
+        throw win32Error(error, path);
+    }
+    if (status.isFolder) {
+        throw RunTimeError(ErrorNumber::PathFileAccess, path);
+    }
+    return status;
+}
+
+/// What a path leads to; nothing when that cannot be found out for any reason.
+std::optional<Win32Status> statusOf(const std::string& path) {
+    Win32Status status;
+    return readWin32Status(path, status) == ERROR_SUCCESS ? std::optional(status) : std::nullopt;
+}
+
+std::optional<Win32Status> foundStatus(const std::string& path) {
+    try {
+        return statusOf(lookUpWin32Path(path));
+    } catch (const RunTimeError&) {
+        return std::nullopt;
+    }
+}
+
+DWORD disposition(OpenMode mode) {
+    switch (mode) {
+        case OpenMode::Create:
+            return OPEN_ALWAYS;  // emptied only once it is ours; CREATE_ALWAYS refuses hidden files
+        case OpenMode::CreateNew:
+            return CREATE_NEW;
+        case OpenMode::Read:
+        case OpenMode::ReadWrite:
+            break;
+    }
+    return OPEN_EXISTING;
+}
+
+/// Hands the bytes to the disk before the name changes hands, so that a power failure leaves one whole file.
+void flushToDisk(const std::string& path) {
+    const Win32Handle file(
+        CreateFileA(path.c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr));
+    if (!file.isValid() || FlushFileBuffers(file.get()) == 0) {
+        throw win32Error(GetLastError(), path);
+    }
+}
+
+/// Why a file could not be replaced: the answer is "access denied" also when another program holds it.
+DWORD replaceError(const std::string& target, DWORD error) {
+    if (error == ERROR_ACCESS_DENIED) {
+        const Win32Handle probe(CreateFileA(target.c_str(), DELETE,
+                                            FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                                            OPEN_EXISTING, 0, nullptr));
+        if (!probe.isValid() && GetLastError() == ERROR_SHARING_VIOLATION) {
+            return ERROR_SHARING_VIOLATION;
+        }
+    }
+    return error;
+}
+
+/// A folder's path as readWin32Folder takes it.
+std::string withSeparator(const std::string& folder) {
+    const char last = folder.back();
+    return last == '\\' || last == '/' || last == ':' ? folder : folder + "\\";
+}
+
+}  // namespace
+
+Win32Files::Win32Files(std::string temporaryFolder) : temporaryFolder_(std::move(temporaryFolder)) {
+    SetErrorMode(GetErrorMode() | SEM_FAILCRITICALERRORS);
+}
+
+bool Win32Files::fileExists(const std::string& path) const {
+    const std::optional<Win32Status> status = foundStatus(path);
+    return status && !status->isFolder;
+}
+
+bool Win32Files::folderExists(const std::string& path) const {
+    const std::optional<Win32Status> status = foundStatus(path);
+    return status && status->isFolder;
+}
+
+std::uint64_t Win32Files::fileSize(const std::string& path) const {
+    return requireFile(lookUpWin32Path(path)).size;
+}
+
+std::string Win32Files::storedPath(const std::string& path) const {
+    try {
+        const std::string found = lookUpWin32Path(path);
+        const std::optional<Win32Status> status = statusOf(found);
+        return status && !status->isFolder ? withStoredLetters(found) : path;
+    } catch (const RunTimeError&) {
+        return path;
+    }
+}
+
+std::unique_ptr<File> Win32Files::open(const std::string& path, OpenMode mode) {
+    const std::string found = lookUpWin32Path(path);
+    const std::optional<Win32Status> status = statusOf(found);
+    if (status && mode == OpenMode::CreateNew) {
+        throw RunTimeError(ErrorNumber::FileAlreadyExists, found);
+    }
+    if (status && status->isFolder) {
+        throw RunTimeError(ErrorNumber::PathFileAccess, found);
+    }
+    const bool writable = mode != OpenMode::Read;
+    const DWORD access = GENERIC_READ | (writable ? GENERIC_WRITE : 0);
+    Win32Handle file(CreateFileA(found.c_str(), access, FILE_SHARE_READ, nullptr, disposition(mode),
+                                 FILE_ATTRIBUTE_NORMAL, nullptr));
+    if (!file.isValid()) {
+        throw win32Error(GetLastError(), found);
+    }
+    if (GetFileType(file.get()) != FILE_TYPE_DISK) {
+        throw RunTimeError(ErrorNumber::PathFileAccess, found);
+    }
+    // A new handle is at the start of its file.
+    if (mode == OpenMode::Create && SetEndOfFile(file.get()) == 0) {
+        throw win32OpenFileError(GetLastError(), found);
+    }
+    return std::make_unique<Win32File>(file.handOn(), writable, found);
+}
+
+void Win32Files::deleteFile(const std::string& path) {
+    const std::string found = lookUpWin32Path(path);
+    requireFile(found);
+    if (DeleteFileA(found.c_str()) == 0) {
+        throw win32Error(GetLastError(), found);
+    }
+}
+
+void Win32Files::createFolder(const std::string& path) {
+    const std::string found = lookUpWin32Path(path);
+    const std::size_t root = WindowsPaths({}).drive(found).size();
+    for (std::size_t end = found.find_first_of("\\/", root + 1);; end = found.find_first_of("\\/", end + 1)) {
+        const std::string folder = found.substr(0, end);
+        if (CreateDirectoryA(folder.c_str(), nullptr) == 0) {
+            const DWORD error = GetLastError();
+            const std::optional<Win32Status> status = statusOf(folder);
+            if (!status) {
+                throw win32Error(error, folder);
+            }
+            if (!status->isFolder) {
+                throw RunTimeError(ErrorNumber::PathFileAccess, folder);
+            }
+        }
+        if (end == std::string::npos) {
+            return;
+        }
+    }
+}
+
+void Win32Files::replaceFile(const std::string& from, const std::string& to) {
+    const std::string source = lookUpWin32Path(from);
+    std::string target = lookUpWin32Path(to);
+    requireFile(source);
+    if (const std::optional<Win32Status> old = statusOf(target)) {
+        if (old->isFolder) {
+            throw RunTimeError(ErrorNumber::PathFileAccess, target);
+        }
+        target = withStoredLetters(target);  // the letters of the new name count otherwise
+    }
+    flushToDisk(source);
+    if (MoveFileExA(source.c_str(), target.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) ==
+        0) {
+        throw win32Error(replaceError(target, GetLastError()), target);
+    }
+}
+
+std::string Win32Files::createTemporaryFile(const std::string& folder) {
+    const std::string place = lookUpWin32Path(folder.empty() ? temporaryFolder_ : folder);
+    std::array<char, MAX_PATH> path{};
+    if (GetTempFileNameA(place.c_str(), "vel", 0, path.data()) == 0) {
+        throw win32Error(GetLastError(), place);
+    }
+    return path.data();
+}
+
+void Win32Files::listFiles(const std::string& folder, ShortNames shortNames,
+                           const std::function<void(const FolderEntry&)>& visit) const {
+    const std::vector<Win32Entry> entries = readWin32Folder(withSeparator(lookUpWin32Path(folder)));
+    std::vector<std::string> shorts(entries.size());
+    if (shortNames == ShortNames::Include) {
+        const FolderNames names = folderNames(entries);
+        shorts = velmora::shortNames(names.names, names.kept);
+    }
+    for (std::size_t i = 0; i < entries.size(); ++i) {
+        if (entries[i].isFile) {
+            visit({entries[i].name, shorts[i]});
+        }
+    }
+}
+
+}  // namespace velmora

@@ -10,8 +10,8 @@
 
 namespace velmora {
 
-/// The values in the user's settings of organisation "Quillbrook", program "Velmora": the registry on
-/// Windows, a file in the configuration folder elsewhere.
+/// The values in the user's settings of organisation "Quillbrook", program "Velmora", for systems without a
+/// registry: a file in the configuration folder.
 class QtPositionStore : public WindowPositionStore {
   public:
     QtPositionStore();

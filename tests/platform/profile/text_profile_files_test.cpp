@@ -10,6 +10,7 @@
 #include "support/memory_files.h"
 #include "support/plain_path_rules.h"
 #include "support/profile_cases.h"
+#include "support/profile_edits.h"
 
 namespace velmora {
 namespace {
@@ -96,42 +97,21 @@ TEST_F(Profile, AMissingFileReadsAsEmpty) {
     EXPECT_THAT(entries("S"), IsEmpty());
 }
 
-TEST_F(Profile, SectionNamesMatchInAnyCase) {
-    given("[sEttings]\r\nA=1\r\n");
-    EXPECT_EQ(text("SETTINGS", "a"), "1");
+class ProfileFile : public Profile, public ::testing::WithParamInterface<test::ProfileFileCase> {};
+
+TEST_P(ProfileFile, ReadsAsTheTableSays) {
+    const test::ProfileFileCase& row = GetParam();
+    given(row.file);
+    EXPECT_EQ(text(row.section, row.key), row.text);
+    EXPECT_EQ(entries(row.section), row.entries);
 }
 
-TEST_F(Profile, TheFirstOfTwoLikeSectionsWins) {
-    given("[S]\r\nA=1\r\n[T]\r\n[s]\r\nA=2\r\nB=3\r\n");
-    EXPECT_EQ(text("S", "A"), "1");
-    EXPECT_EQ(text("S", "B"), "DEF");
-}
-
-TEST_F(Profile, BlanksAroundASectionLineDoNotCount) {
-    given("  [S]  \r\nA=1\r\n");
-    EXPECT_EQ(text("S", "A"), "1");
-}
-
-TEST_F(Profile, ASectionLineMayHaveAComment) {
-    given("[S] ; with a ] in it\r\nA=1\r\n");
-    EXPECT_EQ(text("S", "A"), "1");
-}
-
-TEST_F(Profile, ASectionNeverClosedIsAnOrdinaryLine) {
-    given("[S]\r\nA=1\r\n[T\r\nB=2\r\n");
-    EXPECT_EQ(text("S", "B"), "2");
-    EXPECT_THAT(entries("S"), ElementsAre("A=1", "[T", "B=2"));
-}
+INSTANTIATE_TEST_SUITE_P(All, ProfileFile, ::testing::ValuesIn(test::profileFileCases()),
+                         [](const auto& row) { return std::string(row.param.name); });
 
 TEST_F(Profile, EntriesBeforeTheFirstSectionBelongToNone) {
     given("A=1\r\n[S]\r\n");
-    EXPECT_EQ(text("S", "A"), "DEF");
     EXPECT_EQ(text("", "A"), "DEF");
-}
-
-TEST_F(Profile, LikeKeysOfTwoSectionsAreTwo) {
-    given("[S]\r\nA=1\r\n[T]\r\nA=2\r\n");
-    EXPECT_EQ(text("T", "A"), "2");
 }
 
 TEST_F(Profile, AnEditByAnotherProgramIsSeenAtOnce) {
@@ -148,48 +128,22 @@ TEST_F(Profile, TheWholeTextIsGivenWithoutItsMark) {
 
 // --- Writing
 
-struct Edit {
-    const char* name;
-    std::string before;
-    std::optional<std::string> key;
-    std::optional<std::string> value;
-    std::string after;
-};
+class EditedProfile : public Profile, public ::testing::WithParamInterface<test::ProfileEdit> {};
 
-class ProfileEdit : public Profile, public ::testing::WithParamInterface<Edit> {};
-
-TEST_P(ProfileEdit, ChangesOneLineAndNoOther) {
+TEST_P(EditedProfile, ChangesOneLineAndNoOther) {
     given(GetParam().before);
     profiles_.writeString("S", GetParam().key, GetParam().value, kFile);
     EXPECT_EQ(contents(), GetParam().after);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    All, ProfileEdit,
-    ::testing::Values(
-        Edit{"ReplacesTheFirstLine", "; c\r\n\r\n[S]\r\n;A=0\r\nA = 1\r\nA=2\r\n", "A", "9",
-             "; c\r\n\r\n[S]\r\n;A=0\r\nA=9\r\nA=2\r\n"},
-        Edit{"KeepsTheSpellingOfTheKey", "[S]\nbaud=1\n", "Baud", "2", "[S]\nbaud=2\n"},
-        Edit{"KeepsALastLineWithoutItsEnd", "[S]\r\nA=1", "A", "2", "[S]\r\nA=2"},
-        Edit{"AddsBehindTheLastEntry", "[S]\r\nA=1\r\n\r\n;***\r\n[T]\r\nA=3\r\n", "B", "2",
-             "[S]\r\nA=1\r\nB=2\r\n\r\n;***\r\n[T]\r\nA=3\r\n"},
-        Edit{"AddsToAnEmptySection", "[S]\r\n[T]\r\n", "B", "2", "[S]\r\nB=2\r\n[T]\r\n"},
-        Edit{"AddsBehindAnOpenLine", "[S]\nA=1", "B", "2", "[S]\nA=1\nB=2\n"},
-        Edit{"AddsBehindAnOpenHeader", "[S]", "B", "2", "[S]\r\nB=2\r\n"},
-        Edit{"AddsASectionAtTheEnd", "[T]\nA=1\n\n", "B", "2", "[T]\nA=1\n\n[S]\nB=2\n"},
-        Edit{"AddsASectionBehindAnOpenLine", "[T]\r\nA=1", "B", "2", "[T]\r\nA=1\r\n[S]\r\nB=2\r\n"},
-        Edit{"AddsASectionToAnEmptyFile", "", "B", "2", "[S]\r\nB=2\r\n"},
-        Edit{"AddsASectionToAFileOfOneByte", "x", "B", "2", "x\r\n[S]\r\nB=2\r\n"},
-        Edit{"AddsASectionBehindALoneMark", "\xEF\xBB\xBF", "B", "2", "\xEF\xBB\xBF[S]\r\nB=2\r\n"},
-        Edit{"WritesAnEmptyValue", "[S]\r\nA=1\r\n", "A", "", "[S]\r\nA=\r\n"},
-        Edit{"DeletesTheFirstSuchLine", "[S]\nA=1\n;c\nA=2\n", "A", std::nullopt, "[S]\n;c\nA=2\n"},
-        Edit{"DeletesNothingThatIsMissing", "[S]\nA=1\n", "B", std::nullopt, "[S]\nA=1\n"},
-        Edit{"DeletesASection", "[R]\nA=1\n[S]\nA=1\n;c\n\n[T]\n", std::nullopt, std::nullopt,
-             "[R]\nA=1\n[T]\n"},
-        Edit{"DeletesTheLastSection", "[R]\nA=1\n[S]\nA=1", std::nullopt, std::nullopt, "[R]\nA=1\n"},
-        Edit{"KeepsMixedLineEndsAndOddBytes", std::string("[S]\nA=1\r\n\x01\x00\xFF\r\r\nB=2\n", 19), "A",
-             "5", std::string("[S]\nA=5\r\n\x01\x00\xFF\r\r\nB=2\n", 19)}),
-    [](const auto& row) { return std::string(row.param.name); });
+INSTANTIATE_TEST_SUITE_P(All, EditedProfile, ::testing::ValuesIn(test::profileEdits()),
+                         [](const auto& row) { return std::string(row.param.name); });
+
+TEST_F(Profile, ALineWithoutEqualsIsNoEntryToReplace) {
+    given("[S]\r\nA\r\n");
+    put("S", "A", "1");
+    EXPECT_EQ(contents(), "[S]\r\nA\r\nA=1\r\n");
+}
 
 TEST_F(Profile, WritingMakesAMissingFile) {
     memory_.addFolder("/home");
@@ -224,7 +178,7 @@ INSTANTIATE_TEST_SUITE_P(All, UnstorableEntry,
                                            Words{"S", "A=B", "1"}, Words{"S", "", "1"}, Words{"S", ";A", "1"},
                                            Words{"S", "[A", "1"}, Words{"S", " A", "1"},
                                            Words{"S", "A\t", "1"}, Words{"S]", "A", "1"},
-                                           Words{"S\n", "A", "1"}));
+                                           Words{"S\n", "A", "1"}, Words{" S", "A", "1"}));
 
 // --- Failures: the old file stands
 

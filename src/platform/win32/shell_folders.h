@@ -1,0 +1,20 @@
+// The user's folders on Windows.
+#pragma once
+
+#include "platform/known_folders.h"
+
+namespace velmora {
+
+/// Folders as the shell knows them. One that the shell does not tell is the root of the current drive. A
+/// folder whose name is not in the ANSI code page is given by its short name.
+class ShellFolders : public KnownFolders {
+  public:
+    /// CSIDL_APPDATA (26) of SHGetSpecialFolderLocation.
+    std::string applicationData() const override;
+    /// CSIDL_PERSONAL (5) of SHGetSpecialFolderLocation.
+    std::string documents() const override;
+    /// GetTempPathA.
+    std::string temporary() const override;
+};
+
+}  // namespace velmora

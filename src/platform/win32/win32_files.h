@@ -1,0 +1,42 @@
+// The file system of Windows as the services see it.
+#pragma once
+
+#include <string>
+
+#include "base/files.h"
+
+namespace velmora {
+
+/// Keeps what base/files.h promises by the narrow Win32 functions. Only files on disk, or links to them, are
+/// files: devices, pipes and streams inside files are refused and never touched. A file open for writing
+/// cannot be opened by others but for reading that allows writers, a file open for reading not for writing,
+/// and neither can be deleted; a file that another program holds so is 70. Paths have less than MAX_PATH
+/// (260) bytes when they are made absolute; a longer one is 64.
+class Win32Files : public Files {
+  public:
+    /// `temporaryFolder`: where temporary files go that name no folder. From here on a drive without a disk
+    /// is an error for this process instead of a question of Windows to the user (SetErrorMode).
+    explicit Win32Files(std::string temporaryFolder);
+
+    bool fileExists(const std::string& path) const override;
+    bool folderExists(const std::string& path) const override;
+    std::uint64_t fileSize(const std::string& path) const override;
+    std::string storedPath(const std::string& path) const override;
+    std::unique_ptr<File> open(const std::string& path, OpenMode mode) override;
+    void deleteFile(const std::string& path) override;
+    void createFolder(const std::string& path) override;
+    /// By MoveFileExA. The new file keeps the rights that it was made with.
+    void replaceFile(const std::string& from, const std::string& to) override;
+    /// By GetTempFileNameA.
+    std::string createTemporaryFile(const std::string& folder = {}) override;
+    /// Names are in the order of their bytes. A file whose name is not in the ANSI code page is listed by its
+    /// short name, or left out where the volume keeps none. Short names are those that the volume keeps;
+    /// where it keeps none that the Organiser can write, they are made up among all entries of the folder.
+    void listFiles(const std::string& folder, ShortNames shortNames,
+                   const std::function<void(const FolderEntry&)>& visit) const override;
+
+  private:
+    std::string temporaryFolder_;
+};
+
+}  // namespace velmora

@@ -1,0 +1,32 @@
+// Finding what a path names. Windows itself matches letters without regard to case and knows its own short
+// names; what is left is to keep off what is no file and to find names that this program made up.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace velmora {
+
+/// What a path leads to; links are followed.
+struct Win32Status {
+    bool isFolder = false;
+    std::uint64_t size = 0;
+};
+
+/// Reads a status by GetFileAttributesExA without opening the file's contents. Returns 0 or the number of
+/// GetLastError, among them ERROR_DIRECTORY for a path that takes a file for a folder.
+std::uint32_t readWin32Status(const std::string& path, Win32Status& status);
+
+/// The path by which Windows finds what a path means: the path itself, or with long names in the place of
+/// short names that no file system keeps. Throws RunTimeError 64 for a path that is empty, has MAX_PATH bytes
+/// or more when it is made absolute, or holds the zero byte, a character of a pattern (which would find
+/// another file) or a ":" behind the drive (which would name a stream inside a file); 75 for one that leads
+/// to a device or a pipe, which is not touched.
+std::string lookUpWin32Path(const std::string& path);
+
+/// An existing path with the letters of every component as stored on disk and a capital drive letter. A
+/// component whose stored name is not in the ANSI code page is given by its short name; one in a folder that
+/// may not be read stays as it is.
+std::string withStoredLetters(const std::string& path);
+
+}  // namespace velmora

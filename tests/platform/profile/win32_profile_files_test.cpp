@@ -1,0 +1,346 @@
+#include "platform/profile/win32_profile_files.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include <array>
+#include <functional>
+#include <sstream>
+
+#include "base/run_time_error.h"
+#include "platform/known_folders.h"
+#include "platform/profile/text_profile_files.h"
+#include "platform/win32/win32_files.h"
+#include "platform/windows_paths.h"
+#include "support/failing_files.h"
+#include "support/profile_cases.h"
+#include "support/profile_edits.h"
+#include "support/temp_folder.h"
+
+namespace velmora {
+namespace {
+
+using test::FileCall;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+using ::testing::Not;
+
+constexpr const char* kName = "velmora.ini";
+
+/// Whether these are the functions of Wine and not those of Windows itself.
+bool isWine() {
+    const HMODULE ntdll = GetModuleHandleA("ntdll.dll");
+    return ntdll != nullptr && GetProcAddress(ntdll, "wine_get_version") != nullptr;
+}
+
+/// Whether a row of a table says what these functions do.
+bool holdsHere(test::UnderWine underWine) {
+    return underWine == test::UnderWine::Alike || !isWine();
+}
+
+/// The lines of a file without empty ones and without blanks at their ends and around "=".
+std::vector<std::string> linesOf(const std::string& text) {
+    std::vector<std::string> lines;
+    std::istringstream stream(text);
+    for (std::string line; std::getline(stream, line);) {
+        const std::size_t equals = line.find('=');
+        const auto trimmed = [](std::string part) {
+            part.erase(0, part.find_first_not_of(" \r"));
+            part.erase(part.find_last_not_of(" \r") + 1);
+            return part;
+        };
+        line = equals == std::string::npos
+                   ? trimmed(line)
+                   : trimmed(line.substr(0, equals)) + '=' + trimmed(line.substr(equals + 1));
+        if (!line.empty()) {
+            lines.push_back(line);
+        }
+    }
+    return lines;
+}
+
+class Win32Profile : public ::testing::Test {
+  protected:
+    void given(const std::string& contents) { folder_.write(kName, contents); }
+    std::string contents() const { return folder_.read(kName); }
+    std::string text(const std::string& section, const std::string& key, const std::string& otherwise = "DEF",
+                     std::size_t buffer = 255) {
+        return profiles_.getString(section, key, otherwise, buffer, file_);
+    }
+    std::int32_t number(const std::string& key) { return profiles_.getInt("S", key, 42, file_); }
+    std::vector<std::string> entries(const std::string& section) {
+        return profiles_.getSection(section, file_);
+    }
+    void put(const std::string& section, const std::string& key, const std::string& value) {
+        profiles_.writeString(section, key, value, file_);
+    }
+    void expectError(ErrorNumber number, const std::function<void()>& action) {
+        try {
+            action();
+            ADD_FAILURE() << "no error";
+        } catch (const RunTimeError& error) {
+            EXPECT_EQ(error.errorNumber(), number) << error.what();
+        }
+    }
+
+    test::TempFolder folder_;
+    std::string file_ = folder_.path(kName);
+    Win32Files disk_{folder_.path()};
+    test::FailingFiles files_{disk_};
+    WindowsPaths rules_{currentFolder()};
+    Win32ProfileFiles profiles_{files_, rules_};
+    TextProfileFiles ours_{disk_, rules_, PathEncoding::Windows1252};
+};
+
+// --- Reading: the same table as for our own reader
+
+class Win32ProfileLine : public Win32Profile, public ::testing::WithParamInterface<test::ProfileCase> {};
+
+TEST_P(Win32ProfileLine, ReadsAsTheTableSays) {
+    const test::ProfileCase& row = GetParam();
+    given("[S]\r\n" + row.lines);
+    EXPECT_EQ(text("S", row.key) == row.text, holdsHere(row.underWine)) << text("S", row.key);
+    EXPECT_EQ(number(row.key) == row.number, holdsHere(row.underWine)) << number(row.key);
+    EXPECT_EQ(entries("S"), row.entries);
+}
+
+INSTANTIATE_TEST_SUITE_P(All, Win32ProfileLine, ::testing::ValuesIn(test::profileCases()),
+                         [](const auto& row) { return std::string(row.param.name); });
+
+class Win32ProfileFile : public Win32Profile, public ::testing::WithParamInterface<test::ProfileFileCase> {};
+
+TEST_P(Win32ProfileFile, ReadsAsTheTableSays) {
+    const test::ProfileFileCase& row = GetParam();
+    given(row.file);
+    const std::string found = text(row.section, row.key);
+    EXPECT_EQ(found == row.text, holdsHere(row.underWine)) << found;
+    EXPECT_EQ(entries(row.section) == row.entries, holdsHere(row.underWine))
+        << ::testing::PrintToString(entries(row.section));
+}
+
+INSTANTIATE_TEST_SUITE_P(All, Win32ProfileFile, ::testing::ValuesIn(test::profileFileCases()),
+                         [](const auto& row) { return std::string(row.param.name); });
+
+TEST_F(Win32Profile, ADefaultLosesTrailingBlanksOnly) {
+    EXPECT_EQ(text("S", "A", "  \"DEF\"  "), "  \"DEF\"");
+}
+
+TEST_F(Win32Profile, ADefaultIsCutToTheBufferToo) {
+    EXPECT_EQ(text("S", "A", "12345", 4), "123");
+}
+
+TEST_F(Win32Profile, ABufferWithoutRoomGivesNothing) {
+    given("[S]\r\nA=1\r\n");
+    EXPECT_EQ(text("S", "A", "DEF", 1), "");
+    EXPECT_EQ(text("S", "A", "DEF", 0), "");
+}
+
+TEST_F(Win32Profile, NumbersBeyondThirtyTwoBitsAreTheNearest) {
+    given(
+        "[S]\r\nA=99999999999999999999999\r\nB=-99999999999999999999999\r\nC=0xFFFFFFFFFFFFFFFFFFF\r\n"
+        "D=4294968496\r\n");
+    EXPECT_EQ(number("A"), 2'147'483'647);
+    EXPECT_EQ(number("B"), -2'147'483'647 - 1);
+    EXPECT_EQ(number("C"), 2'147'483'647);
+    EXPECT_EQ(number("D"), 2'147'483'647);
+}
+
+TEST_F(Win32Profile, AMissingFileReadsAsEmpty) {
+    EXPECT_EQ(text("S", "A"), "DEF");
+    EXPECT_EQ(number("A"), 42);
+    EXPECT_THAT(entries("S"), IsEmpty());
+    EXPECT_EQ(profiles_.text(file_), "");
+}
+
+TEST_F(Win32Profile, ALongSectionIsReadWhole) {
+    std::string lines = "[S]\r\n";
+    for (int i = 0; i < 5000; ++i) {
+        lines += "Key" + std::to_string(i) + "=value\r\n";
+    }
+    given(lines);
+    const std::vector<std::string> all = entries("S");
+    ASSERT_EQ(all.size(), 5000U);
+    EXPECT_EQ(all.back(), "Key4999=value");
+}
+
+TEST_F(Win32Profile, APathHasNoLimitAndComesBack) {
+    const std::string path = "C:\\" + std::string(3000, 'x') + "\\\xFC";
+    profiles_.writePath("S", "Path", path, file_);
+    EXPECT_EQ(profiles_.getPath("S", "Path", "none", file_), path);
+}
+
+TEST_F(Win32Profile, AMissingPathIsItsDefaultAndAnEmptyOneIsEmpty) {
+    given("[S]\r\nPath=\r\n");
+    EXPECT_EQ(profiles_.getPath("S", "Path", "none", file_), "");
+    EXPECT_EQ(profiles_.getPath("S", "Other", "none ", file_), "none ");
+}
+
+TEST_F(Win32Profile, AnEditByAnotherProgramIsSeenAtOnce) {
+    given("[S]\r\nA=1\r\n");
+    EXPECT_EQ(text("S", "A"), "1");
+    given("[S]\r\nA=2\r\n");
+    EXPECT_EQ(text("S", "A"), "2");
+}
+
+TEST_F(Win32Profile, TheWholeTextIsGivenWithoutItsMark) {
+    given("\xEF\xBB\xBF[S] ; \xE9\r\n");
+    EXPECT_EQ(profiles_.text(file_), "[S] ; \xE9\r\n");
+    given(std::string("\xFF\xFE[\0S\0]\0\xE9\0\r\0\n\0", 14));
+    EXPECT_EQ(profiles_.text(file_), "[S]\xE9\r\n");
+}
+
+TEST_F(Win32Profile, AFileInWideCharactersIsRead) {
+    given(std::string("\xFF\xFE[\0S\0]\0\r\0\n\0A\0=\0\xE9\0\r\0\n\0", 24));
+    EXPECT_EQ(text("S", "A"), "\xE9");
+}
+
+// --- Writing: the same table as for our own writer
+
+class Win32EditedProfile : public Win32Profile, public ::testing::WithParamInterface<test::ProfileEdit> {};
+
+TEST_P(Win32EditedProfile, ReadsAsTheTableSaysByBothReaders) {
+    const test::ProfileEdit& row = GetParam();
+    given(row.before);
+    profiles_.writeString("S", row.key, row.value, file_);
+    const std::string expected = folder_.write("expected.ini", row.after);
+    for (const char* section : {"R", "S", "T"}) {
+        const std::vector<std::string> wanted = ours_.getSection(section, expected);
+        EXPECT_EQ(profiles_.getSection(section, file_), wanted) << section;
+        EXPECT_EQ(ours_.getSection(section, file_), wanted) << section;
+    }
+    if (row.sameLines) {
+        EXPECT_EQ(linesOf(contents()), linesOf(row.after));
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(All, Win32EditedProfile, ::testing::ValuesIn(test::profileEdits()),
+                         [](const auto& row) { return std::string(row.param.name); });
+
+TEST_F(Win32Profile, WritingMakesAMissingFile) {
+    put("S", "A", "1");
+    EXPECT_EQ(text("S", "A"), "1");
+    EXPECT_THAT(folder_.names(), ElementsAre(kName));
+}
+
+TEST_F(Win32Profile, WritingWhatIsThereTouchesNothing) {
+    given("[S]\r\nA=1\r\n");
+    put("S", "A", "1");
+    EXPECT_EQ(files_.calls(FileCall::Replace), 0);
+    EXPECT_THAT(folder_.names(), ElementsAre(kName));
+}
+
+TEST_F(Win32Profile, NamesAndValuesThatWouldNotBeFoundAgainAreRefused) {
+    given("[S]\r\nA=1\r\n");
+    for (const char* key : {"A=B", "", ";A", "[A", " A", "A\t"}) {
+        expectError(ErrorNumber::InvalidProcedureCall, [&] { put("S", key, "1"); });
+    }
+    expectError(ErrorNumber::InvalidProcedureCall, [&] { put("S", "A", "1\r\n[T]"); });
+    expectError(ErrorNumber::InvalidProcedureCall, [&] { put("S]", "A", "1"); });
+    expectError(ErrorNumber::InvalidProcedureCall, [&] { put("S ", "A", "1"); });
+    expectError(ErrorNumber::BadFileName, [&] { profiles_.writePath("S", "Path", "C:\\a\nb", file_); });
+    EXPECT_EQ(contents(), "[S]\r\nA=1\r\n");
+}
+
+// --- Failures: the old file stands
+
+class Win32FailedWrite : public Win32Profile, public ::testing::WithParamInterface<FileCall> {};
+
+TEST_P(Win32FailedWrite, IsAnErrorAndTheOldFileStands) {
+    given("[S]\r\nA=1\r\n");
+    files_.failAtCall(GetParam(), 1, ErrorNumber::DiskFull);
+    expectError(ErrorNumber::DiskFull, [&] { put("S", "A", "2"); });
+    EXPECT_EQ(contents(), "[S]\r\nA=1\r\n");
+    EXPECT_THAT(folder_.names(), ElementsAre(kName));
+    put("S", "A", "3");
+    EXPECT_EQ(text("S", "A"), "3");
+}
+
+INSTANTIATE_TEST_SUITE_P(All, Win32FailedWrite,
+                         ::testing::Values(FileCall::CreateTemporary, FileCall::Open, FileCall::Write,
+                                           FileCall::Close, FileCall::Replace));
+
+TEST_F(Win32Profile, AFileHeldByAnotherProgramIsAnErrorAndNoSetOfDefaults) {
+    given("[S]\r\nA=1\r\n");
+    const HANDLE other =
+        CreateFileA(file_.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+    ASSERT_NE(other, INVALID_HANDLE_VALUE);
+    expectError(ErrorNumber::PermissionDenied, [&] { text("S", "A"); });
+    expectError(ErrorNumber::PermissionDenied, [&] { number("A"); });
+    expectError(ErrorNumber::PermissionDenied, [&] { entries("S"); });
+    expectError(ErrorNumber::PermissionDenied, [&] { put("S", "A", "2"); });
+    CloseHandle(other);
+    EXPECT_EQ(text("S", "A"), "1");
+}
+
+TEST_F(Win32Profile, AFolderInTheFilesPlaceIsAnError) {
+    folder_.makeFolder(kName);
+    expectError(ErrorNumber::PathFileAccess, [&] { text("S", "A"); });
+    expectError(ErrorNumber::PathFileAccess, [&] { put("S", "A", "1"); });
+}
+
+TEST_F(Win32Profile, AMissingFolderIsAnErrorOfTheWrite) {
+    const std::string file = folder_.path("missing\\velmora.ini");
+    EXPECT_EQ(profiles_.getString("S", "A", "DEF", 255, file), "DEF");
+    expectError(ErrorNumber::PathNotFound, [&] { profiles_.writeString("S", "A", "1", file); });
+}
+
+TEST_F(Win32Profile, ANameWithoutAFolderIsInTheCurrentFolder) {
+    const WindowsPaths rules(folder_.path());
+    Win32ProfileFiles profiles(disk_, rules);
+    profiles.writeString("S", "A", "1", kName);
+    EXPECT_EQ(text("S", "A"), "1");
+    EXPECT_FALSE(disk_.fileExists(rules_.join(windowsFolder(), kName)));
+}
+
+TEST_F(Win32Profile, APathThatIsTooLongIsRefused) {
+    const std::string file = folder_.path(std::string(240, 'x') + ".ini");
+    ASSERT_GE(file.size(), std::size_t{MAX_PATH});
+    expectError(ErrorNumber::BadFileName, [&] { profiles_.getString("S", "A", "DEF", 255, file); });
+    expectError(ErrorNumber::BadFileName, [&] { profiles_.writeString("S", "A", "1", file); });
+    expectError(ErrorNumber::BadFileName, [&] { profiles_.flush(file); });
+}
+
+TEST_F(Win32Profile, AFlushedFileReadsTheSame) {
+    put("S", "A", "1");
+    profiles_.flush(file_);
+    EXPECT_EQ(text("S", "A"), "1");
+}
+
+// --- The system profile
+
+class SystemProfile : public Win32Profile {
+  protected:
+    SystemProfile() { file_ = rules_.join(windowsFolder(), "WIN.INI"); }
+    ~SystemProfile() override { WriteProfileStringA(kSection, nullptr, nullptr); }
+
+    static constexpr const char* kSection = "VelmoraTestSection";
+};
+
+TEST_F(SystemProfile, IsReadAndWritten) {
+    put(kSection, "Text", "some text");
+    put(kSection, "Number", "-7");
+    put(kSection, "Path", "C:\\PSION");
+    EXPECT_EQ(text(kSection, "Text"), "some text");
+    EXPECT_EQ(profiles_.getInt(kSection, "Number", 42, file_), -7);
+    EXPECT_EQ(profiles_.getPath(kSection, "Path", "none", file_), "C:\\PSION");
+    EXPECT_THAT(entries(kSection), ElementsAre("Text=some text", "Number=-7", "Path=C:\\PSION"));
+    std::array<char, 32> value{};
+    GetProfileStringA(kSection, "Text", "", value.data(), static_cast<DWORD>(value.size()));
+    EXPECT_STREQ(value.data(), "some text");
+    profiles_.flush(file_);
+    EXPECT_EQ(text(kSection, "Text"), "some text");
+}
+
+TEST_F(SystemProfile, LosesEntriesAndSections) {
+    put(kSection, "A", "1");
+    put(kSection, "B", "2");
+    profiles_.writeString(kSection, "A", std::nullopt, file_);
+    EXPECT_THAT(entries(kSection), ElementsAre("B=2"));
+    profiles_.writeString(kSection, std::nullopt, std::nullopt, file_);
+    EXPECT_THAT(entries(kSection), IsEmpty());
+    EXPECT_EQ(text(kSection, "B"), "DEF");
+}
+
+}  // namespace
+}  // namespace velmora
