@@ -103,7 +103,7 @@ case "${1:-}" in
   tools) install_tools ;;
   '')
     scripts/setup.sh tests
-    install_tools dpkg-dev nsis zip
+    install_tools dpkg-dev nsis cmark-gfm zip
     build_toolkit
     ;;
   *)

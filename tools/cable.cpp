@@ -2,6 +2,7 @@
 
 #include <fcntl.h>
 #include <stdlib.h>
+#include <sys/ioctl.h>
 #include <termios.h>
 #include <unistd.h>
 
@@ -50,6 +51,12 @@ CableEnd::CableEnd() {
 CableEnd::~CableEnd() {
     ::close(slave_);
     ::close(master_);
+}
+
+void CableEnd::hold() {
+    if (::ioctl(slave_, TIOCEXCL) != 0) {
+        fail("TIOCEXCL");
+    }
 }
 
 CableDirection::CableDirection(CableEnd& from, CableEnd& to, unsigned baud)

@@ -18,6 +18,9 @@ class CableEnd {
     CableEnd(const CableEnd&) = delete;
     CableEnd& operator=(const CableEnd&) = delete;
 
+    /// Marks the device as in the exclusive use of this program: only a privileged one can still open it.
+    void hold();
+
     int master() const { return master_; }
     const std::string& device() const { return device_; }
 

@@ -3,7 +3,8 @@
 //
 // Prints the two devices, one a line, and carries bytes until its standard input closes or it is told to
 // stop. With --baud the bytes take the time that they take on a real line. With --link LINK1 LINK2 symbolic
-// links are made to the devices. On exit it prints how many bytes went each way.
+// links are made to the devices. With --held the devices are in use by the cable itself, as far as other
+// programs can tell, so that opening them fails. On exit it prints how many bytes went each way.
 
 #include <poll.h>
 #include <signal.h>
@@ -33,7 +34,7 @@ void requestStop(int /*signal*/) {
 }
 
 int usage() {
-    std::fputs("usage: velmora-cable [--baud N] [--link PATH1 PATH2]\n", stderr);
+    std::fputs("usage: velmora-cable [--baud N] [--held] [--link PATH1 PATH2]\n", stderr);
     return 2;
 }
 
@@ -76,10 +77,13 @@ void carry(CableDirection& forth, CableDirection& back) {
 
 int main(int argc, char** argv) {
     unsigned baud = 0;
+    bool held = false;
     const char* links[2] = {nullptr, nullptr};
     for (int i = 1; i < argc; ++i) {
         if (std::strcmp(argv[i], "--baud") == 0 && i + 1 < argc) {
             baud = static_cast<unsigned>(std::strtoul(argv[++i], nullptr, 10));
+        } else if (std::strcmp(argv[i], "--held") == 0) {
+            held = true;
         } else if (std::strcmp(argv[i], "--link") == 0 && i + 2 < argc) {
             links[0] = argv[++i];
             links[1] = argv[++i];
@@ -97,6 +101,10 @@ int main(int argc, char** argv) {
     try {
         CableEnd first;
         CableEnd second;
+        if (held) {
+            first.hold();
+            second.hold();
+        }
         const CableEnd* ends[2] = {&first, &second};
         for (int i = 0; i < 2; ++i) {
             if (links[i] != nullptr) {

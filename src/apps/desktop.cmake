@@ -7,4 +7,7 @@ velmora_library(desktop_server
 
 add_executable(velmora velmora_main.cpp)
 target_link_libraries(velmora PRIVATE velmora_desktop_server)
+# Windows opens no console for it.
+set_target_properties(velmora PROPERTIES WIN32_EXECUTABLE ON)
+velmora_windows_resources(velmora "Velmora")
 add_dependencies(programs velmora)

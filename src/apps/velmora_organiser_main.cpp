@@ -1,19 +1,19 @@
 // velmora-organiser: the virtual Organiser on the command line.
-#include <unistd.h>
-
 #include <cstdio>
 #include <iostream>
+#include <memory>
 #include <optional>
 #include <string>
-#include <vector>
 
+#include "apps/console.h"
 #include "organiser/command_line.h"
 #include "organiser/commands.h"
+#include "organiser/device_line.h"
 #include "organiser/fault_injector.h"
 #include "organiser/frame_text.h"
 #include "organiser/organiser_link.h"
-#include "organiser/posix_line.h"
 #include "organiser/progress.h"
+#include "platform/binary_streams.h"
 
 namespace {
 
@@ -24,18 +24,18 @@ void printFrame(FrameDirection direction, std::string_view frame) {
 }
 
 ExitStatus run(const CommandLine& line) {
-    PosixLine device(line.device, line.baud);
+    const std::unique_ptr<OrganiserLine> device = openDeviceLine(line.device, line.baud);
     std::optional<FaultInjector> faults;
     if (line.faults.any()) {
-        faults.emplace(device, line.faults);
+        faults.emplace(*device, line.faults);
     }
-    OrganiserLine& used = faults ? static_cast<OrganiserLine&>(*faults) : device;
+    OrganiserLine& used = faults ? static_cast<OrganiserLine&>(*faults) : *device;
     // A byte takes ten bits on the wire.
     const OrganiserLine::Time byteTime(10 * 1'000'000 / line.baud);
     OrganiserLink link(used, byteTime, line.trace ? printFrame : OrganiserLink::FrameTrace());
 
     const bool tour = line.command.kind == CommandKind::Tour;
-    const bool terminal = isatty(tour ? STDOUT_FILENO : STDERR_FILENO) != 0;
+    const bool terminal = isTerminal(tour ? stdout : stderr);
     Progress silent;
     ProgressBar bar(tour ? std::cout : std::cerr, terminal && !line.trace);
     const Console console{std::cout, std::cerr, tour || terminal ? bar : silent};
@@ -45,8 +45,11 @@ ExitStatus run(const CommandLine& line) {
 }  // namespace
 
 int main(int argc, char** argv) {
+    const Utf8Console console;
+    // Contents of files go to standard output as they are.
+    useBinaryStandardStreams();
     try {
-        const CommandLine line = parseCommandLine(std::vector<std::string>(argv + 1, argv + argc));
+        const CommandLine line = parseCommandLine(utf8Arguments(argc, argv));
         if (line.command.kind == CommandKind::Help) {
             std::cout << helpText();
             return kDone;

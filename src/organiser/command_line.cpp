@@ -4,10 +4,10 @@
 #include <array>
 #include <charconv>
 #include <cstddef>
-#include <filesystem>
 #include <string_view>
 
 #include "base/byte_text.h"
+#include "organiser/local_files.h"
 
 namespace velmora {
 namespace {
@@ -51,6 +51,12 @@ std::string serverName(std::string_view what, std::string_view typed) {
                          "\" has a character that the Organiser does not know.");
     }
     return *name;
+}
+
+/// The last part of a path without its extension, in UTF-8 as the path is.
+std::string stemOf(const std::string& path) {
+    const std::u8string stem = localPath(path).stem().u8string();
+    return {stem.begin(), stem.end()};
 }
 
 int fileType(std::string_view option, std::string_view value) {
@@ -364,7 +370,7 @@ class Parser {
             command.mode = FileMode::Append;
         }
         if (command.kind == Kind::Save && !given("--as")) {
-            command.name = upperCase(serverName("FILE", std::filesystem::path(command.file).stem().string()));
+            command.name = upperCase(serverName("FILE", stemOf(command.file)));
         }
     }
 

@@ -13,6 +13,8 @@
 #include <cerrno>
 #include <cstring>
 
+#include "organiser/device_line.h"
+
 namespace velmora {
 namespace {
 
@@ -182,6 +184,10 @@ std::string PosixLine::read(Time deadline) {
             return {};
         }
     }
+}
+
+std::unique_ptr<OrganiserLine> openDeviceLine(const std::string& device, int baud) {
+    return std::make_unique<PosixLine>(device, baud);
 }
 
 }  // namespace velmora

@@ -12,13 +12,13 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
-#include <cstring>
 #include <utility>
 
 #include "serial/device_facts.h"
 #include "serial/mode_string.h"
 #include "serial/open_diagnosis.h"
 #include "serial/port_names.h"
+#include "serial/system_text.h"
 
 namespace velmora {
 
@@ -342,7 +342,7 @@ std::string PosixCommDevice::errorMessage(SystemError number) const {
         case kDeviceFailed:
             return "The line was cut or the device failed";
         default:
-            return std::strerror(number);
+            return systemText(number);
     }
 }
 

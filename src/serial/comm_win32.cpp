@@ -1,0 +1,182 @@
+#include "serial/comm_win32.h"
+
+#include <algorithm>
+#include <array>
+#include <limits>
+#include <utility>
+
+#include "serial/port_names.h"
+#include "serial/system_text.h"
+
+namespace velmora {
+
+namespace {
+
+/// The number of the call that just failed. A driver may fail without one, and a failure must not read as
+/// success.
+SystemError lastError() {
+    const DWORD error = GetLastError();
+    return error == ERROR_SUCCESS ? kDeviceFailed : static_cast<SystemError>(error);
+}
+
+SystemError result(BOOL succeeded) {
+    return succeeded != FALSE ? kSuccess : lastError();
+}
+
+/// As result, for a device that is in use by this program: "access denied" cannot be another one's hold on
+/// it, it is what drivers of adapters say after the adapter was pulled.
+SystemError resultInUse(BOOL succeeded) {
+    const SystemError error = result(succeeded);
+    return error == ERROR_ACCESS_DENIED ? kDeviceFailed : error;
+}
+
+/// Brings the ways in which an opening fails down to the two that have a meaning of their own.
+SystemError openError(SystemError error) {
+    switch (error) {
+        case ERROR_PATH_NOT_FOUND:
+        case ERROR_INVALID_NAME:
+        case ERROR_BAD_PATHNAME:
+        case ERROR_DEV_NOT_EXIST:
+        case kNoSuchDevice:
+        case ERROR_DEVICE_NOT_CONNECTED:
+            return kNoSuchPort;
+        // Windows says "access denied" of a port that another program holds. Some drivers of virtual ports
+        // say so in the words for files, and Wine does in these three.
+        case ERROR_SHARING_VIOLATION:
+        case ERROR_LOCK_VIOLATION:
+        case ERROR_BUSY:
+            return kPortInUse;
+        default:
+            return error;
+    }
+}
+
+/// Beyond COM9 only this form names a device.
+std::string devicePath(const std::string& device) {
+    constexpr char prefix[] = R"(\\.\)";
+    return device.starts_with(prefix) ? device : prefix + device;
+}
+
+DWORD sizeOf(std::size_t bytes) {
+    constexpr std::size_t most = std::numeric_limits<DWORD>::max();
+    return static_cast<DWORD>(std::min(bytes, most));
+}
+
+}  // namespace
+
+std::unique_ptr<CommDevice> makeCommDevice(const PortNames& names) {
+    return std::make_unique<Win32CommDevice>(names);
+}
+
+SystemError Win32CommDevice::open(const std::string& name) {
+    close();
+    const std::optional<std::string> device = names_.device(name);
+    if (!device) {
+        return kNoSuchPort;
+    }
+    handle_ = CreateFileA(devicePath(*device).c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr,
+                          OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+    return handle_ == INVALID_HANDLE_VALUE ? openError(lastError()) : kSuccess;
+}
+
+SystemError Win32CommDevice::setupQueues(std::size_t input, std::size_t output) {
+    return result(SetupComm(handle_, sizeOf(input), sizeOf(output)));
+}
+
+SystemError Win32CommDevice::purge() {
+    return result(PurgeComm(handle_, PURGE_TXABORT | PURGE_RXABORT | PURGE_TXCLEAR | PURGE_RXCLEAR));
+}
+
+SystemError Win32CommDevice::setTimeouts(const CommTimeouts& timeouts) {
+    COMMTIMEOUTS values{};
+    values.ReadIntervalTimeout = timeouts.readInterval;
+    values.ReadTotalTimeoutMultiplier = timeouts.readTotalMultiplier;
+    values.ReadTotalTimeoutConstant = timeouts.readTotalConstant;
+    values.WriteTotalTimeoutMultiplier = timeouts.writeTotalMultiplier;
+    values.WriteTotalTimeoutConstant = timeouts.writeTotalConstant;
+    return result(SetCommTimeouts(handle_, &values));
+}
+
+SystemError Win32CommDevice::getState() {
+    block_ = DCB{};
+    block_.DCBlength = sizeof block_;
+    return result(GetCommState(handle_, &block_));
+}
+
+SystemError Win32CommDevice::buildState(const std::string& settings) {
+    return result(BuildCommDCBA(settings.c_str(), &block_));
+}
+
+/// The field has the bits 0x10 and 0x20 of the block's flag word; the second one, handshaking, stays off.
+void Win32CommDevice::setDtrControl(bool enable) {
+    block_.fDtrControl = enable ? DTR_CONTROL_ENABLE : DTR_CONTROL_DISABLE;
+}
+
+SystemError Win32CommDevice::setState() {
+    return result(SetCommState(handle_, &block_));
+}
+
+SystemError Win32CommDevice::close() {
+    // The value for "no handle" is also the current process's own, which CloseHandle would accept.
+    if (handle_ == INVALID_HANDLE_VALUE) {
+        return ERROR_INVALID_HANDLE;
+    }
+    return result(CloseHandle(std::exchange(handle_, INVALID_HANDLE_VALUE)));
+}
+
+SystemError Win32CommDevice::clearError(CommStatus& status) {
+    status = CommStatus{};
+    DWORD flags = 0;
+    COMSTAT state{};
+    const SystemError error = resultInUse(ClearCommError(handle_, &flags, &state));
+    if (error == kSuccess) {
+        status.inQueue = state.cbInQue;
+        status.errorFlags = flags;
+    }
+    return error;
+}
+
+SystemError Win32CommDevice::read(char* buffer, std::size_t count, std::size_t& transferred) {
+    DWORD got = 0;
+    overlapped_ = OVERLAPPED{};
+    const SystemError error = resultInUse(ReadFile(handle_, buffer, sizeOf(count), &got, &overlapped_));
+    transferred = got;
+    return error;
+}
+
+SystemError Win32CommDevice::write(std::string_view data, std::size_t& transferred) {
+    DWORD put = 0;
+    overlapped_ = OVERLAPPED{};
+    // A write that fails without giving a reason counts as done as far as it got, so the reason of an
+    // earlier call must not be there any more.
+    SetLastError(ERROR_SUCCESS);
+    const BOOL succeeded = WriteFile(handle_, data.data(), sizeOf(data.size()), &put, &overlapped_);
+    const bool withoutReason = succeeded == FALSE && GetLastError() == ERROR_SUCCESS;
+    const SystemError error = withoutReason ? kSuccess : resultInUse(succeeded);
+    transferred = put;
+    return error;
+}
+
+SystemError Win32CommDevice::pendingResult(std::size_t& transferred) {
+    DWORD done = 0;
+    const SystemError error = resultInUse(GetOverlappedResult(handle_, &overlapped_, &done, TRUE));
+    transferred = done;
+    return error;
+}
+
+SystemError Win32CommDevice::modemStatus(std::uint32_t& lines) {
+    DWORD status = 0;
+    const SystemError error = resultInUse(GetCommModemStatus(handle_, &status));
+    lines = error == kSuccess ? status : 0;
+    return error;
+}
+
+SystemError Win32CommDevice::escapeFunction(CommFunction function) {
+    return resultInUse(EscapeCommFunction(handle_, static_cast<DWORD>(function)));
+}
+
+std::string Win32CommDevice::errorMessage(SystemError number) const {
+    return systemText(number);
+}
+
+}  // namespace velmora

@@ -1,14 +1,46 @@
 #include "serial/open_diagnosis.h"
 
+#ifdef _WIN32
+#include "serial/comm_win32.h"
+#else
 #include <cerrno>
-#include <system_error>
+#endif
 
 #include "serial/comm_device.h"
 #include "serial/serial_port.h"
+#include "serial/system_text.h"
 
 namespace velmora {
 
 namespace {
+
+/// Whether the number is how this system says that a device is there but does not answer any more.
+bool isGone(std::int32_t code) {
+#ifdef _WIN32
+    switch (code) {
+        case ERROR_NOT_READY:
+        case ERROR_BAD_COMMAND:
+        case ERROR_GEN_FAILURE:
+        case kNoSuchDevice:
+        case ERROR_OPERATION_ABORTED:
+        case ERROR_DEVICE_NOT_CONNECTED:
+        case ERROR_DEVICE_REMOVED:
+            return true;
+        default:
+            break;
+    }
+#endif
+    return code == kDeviceFailed;
+}
+
+/// Whether the number is how this system says that a device is none that bytes go through.
+bool isNoSerialPort(std::int32_t code) {
+#ifdef _WIN32
+    return code == ERROR_INVALID_FUNCTION || code == ERROR_INVALID_HANDLE;
+#else
+    return code == ENOTTY;
+#endif
+}
 
 enum class Cause { Absent, NoPermission, Busy, Settings, Failed };
 
@@ -40,16 +72,23 @@ std::string absentSentence(const std::string& device, const DeviceFacts& facts) 
 }
 
 std::string failedSentence(const std::string& device, std::int32_t code) {
-    if (code == kDeviceFailed) {
+    if (isGone(code)) {
         return device + " does not respond; is the adapter still plugged in?";
     }
-    if (code == ENOTTY) {
+    if (isNoSerialPort(code)) {
         return device + " is not a serial port.";
     }
     if (code <= 0) {
         return device + " cannot be opened.";
     }
-    return device + " cannot be opened: " + std::system_category().message(code) + ".";
+    std::string text = systemText(code);
+    if (text.empty()) {
+        return device + " cannot be opened: error " + std::to_string(code) + ".";
+    }
+    if (!text.ends_with('.')) {
+        text += '.';
+    }
+    return device + " cannot be opened: " + text;
 }
 
 }  // namespace

@@ -1,0 +1,99 @@
+#include <devguid.h>
+#include <setupapi.h>
+#include <windows.h>
+
+#include <array>
+
+#include "serial/found_ports_win32.h"
+#include "serial/port_list.h"
+
+namespace velmora {
+
+namespace {
+
+/// The longest text that is read of a port; the system's own limit for such names is below it.
+using Buffer = std::array<char, 512>;
+
+/// A registry text may come with or without its closing zero.
+std::string textIn(const Buffer& buffer, DWORD size) {
+    const std::string text(buffer.data(), size);
+    return text.substr(0, text.find('\0'));
+}
+
+/// The ports that drivers have announced, with names only: the one list that has virtual ports too.
+std::vector<FoundPort> announcedPorts() {
+    std::vector<FoundPort> ports;
+    HKEY key = nullptr;
+    if (RegOpenKeyExA(HKEY_LOCAL_MACHINE, R"(HARDWARE\DEVICEMAP\SERIALCOMM)", 0, KEY_READ, &key) !=
+        ERROR_SUCCESS) {
+        return ports;
+    }
+    for (DWORD index = 0;; ++index) {
+        Buffer driver{};
+        Buffer name{};
+        DWORD driverLength = static_cast<DWORD>(driver.size());
+        DWORD nameSize = static_cast<DWORD>(name.size());
+        DWORD type = 0;
+        const LSTATUS status = RegEnumValueA(key, index, driver.data(), &driverLength, nullptr, &type,
+                                             reinterpret_cast<BYTE*>(name.data()), &nameSize);
+        if (status == ERROR_SUCCESS && type == REG_SZ) {
+            ports.push_back(FoundPort{textIn(name, nameSize), {}, {}});
+        } else if (status != ERROR_SUCCESS && status != ERROR_MORE_DATA) {
+            break;
+        }
+    }
+    RegCloseKey(key);
+    return ports;
+}
+
+std::string property(HDEVINFO devices, SP_DEVINFO_DATA& device, DWORD which) {
+    Buffer text{};
+    DWORD size = 0;
+    DWORD type = 0;
+    if (SetupDiGetDeviceRegistryPropertyA(devices, &device, which, &type,
+                                          reinterpret_cast<BYTE*>(text.data()),
+                                          static_cast<DWORD>(text.size()), &size) == FALSE ||
+        type != REG_SZ) {
+        return {};
+    }
+    return textIn(text, size);
+}
+
+std::string portName(HDEVINFO devices, SP_DEVINFO_DATA& device) {
+    HKEY key = SetupDiOpenDevRegKey(devices, &device, DICS_FLAG_GLOBAL, 0, DIREG_DEV, KEY_READ);
+    if (key == INVALID_HANDLE_VALUE) {
+        return {};
+    }
+    Buffer name{};
+    DWORD size = static_cast<DWORD>(name.size());
+    DWORD type = 0;
+    const LSTATUS status =
+        RegQueryValueExA(key, "PortName", nullptr, &type, reinterpret_cast<BYTE*>(name.data()), &size);
+    RegCloseKey(key);
+    return status == ERROR_SUCCESS && type == REG_SZ ? textIn(name, size) : std::string();
+}
+
+/// The devices of the class "Ports" that are plugged in, with what they are called in the device manager.
+std::vector<FoundPort> pluggedInPorts() {
+    std::vector<FoundPort> ports;
+    const HDEVINFO devices = SetupDiGetClassDevsA(&GUID_DEVCLASS_PORTS, nullptr, nullptr, DIGCF_PRESENT);
+    if (devices == INVALID_HANDLE_VALUE) {
+        return ports;
+    }
+    SP_DEVINFO_DATA device{};
+    device.cbSize = sizeof device;
+    for (DWORD index = 0; SetupDiEnumDeviceInfo(devices, index, &device) != FALSE; ++index) {
+        ports.push_back(FoundPort{portName(devices, device), property(devices, device, SPDRP_FRIENDLYNAME),
+                                  property(devices, device, SPDRP_MFG)});
+    }
+    SetupDiDestroyDeviceInfoList(devices);
+    return ports;
+}
+
+}  // namespace
+
+std::vector<SerialDevice> listSerialDevices(PortNames& names) {
+    return serialDevices(announcedPorts(), pluggedInPorts(), names);
+}
+
+}  // namespace velmora

@@ -13,6 +13,20 @@ namespace {
 
 constexpr int kLastPort = std::numeric_limits<std::int16_t>::max();
 
+#ifdef _WIN32
+
+constexpr int kFirstFreePort = 4097;
+
+/// The device that a number stands for by itself.
+std::optional<std::string> usualDevice(int number) {
+    if (number < 1 || number > kLastPort) {
+        return std::nullopt;
+    }
+    return "COM" + std::to_string(number);
+}
+
+#else
+
 struct DeviceRange {
     int first;
     int last;
@@ -25,6 +39,18 @@ constexpr std::array<DeviceRange, 3> kRanges = {{
     {21, 36, "/dev/ttyACM"},
 }};
 constexpr int kFirstFreePort = kRanges.back().last + 1;
+
+/// The device that a number stands for by itself.
+std::optional<std::string> usualDevice(int number) {
+    for (const DeviceRange& range : kRanges) {
+        if (number >= range.first && number <= range.last) {
+            return range.prefix + std::to_string(number - range.first);
+        }
+    }
+    return std::nullopt;
+}
+
+#endif
 
 }  // namespace
 
@@ -56,12 +82,7 @@ std::optional<std::string> PortNames::device(int number) const {
     if (const auto found = overrides_.find(number); found != overrides_.end()) {
         return found->second;
     }
-    for (const DeviceRange& range : kRanges) {
-        if (number >= range.first && number <= range.last) {
-            return range.prefix + std::to_string(number - range.first);
-        }
-    }
-    return std::nullopt;
+    return usualDevice(number);
 }
 
 std::optional<std::string> PortNames::device(std::string_view name) const {
@@ -75,11 +96,10 @@ int PortNames::numberFor(const std::string& nameOrDevice) {
     }
     int firstFree = 0;
     for (int number = 1; number <= kLastPort; ++number) {
-        const std::optional<std::string> path = device(number);
-        if (path == nameOrDevice) {
+        if (device(number) == nameOrDevice) {
             return number;
         }
-        if (!path && firstFree == 0 && number >= kFirstFreePort) {
+        if (firstFree == 0 && number >= kFirstFreePort && !overrides_.contains(number)) {
             firstFree = number;
         }
     }
@@ -87,6 +107,10 @@ int PortNames::numberFor(const std::string& nameOrDevice) {
         overrides_[firstFree] = nameOrDevice;
     }
     return firstFree;
+}
+
+int PortNames::firstFreeNumber() {
+    return kFirstFreePort;
 }
 
 }  // namespace velmora

@@ -11,11 +11,13 @@ namespace velmora {
 /// The number in "COM<n>", in any case; nothing for any other text and for numbers outside 1 to 32,767.
 std::optional<int> comNumber(std::string_view text);
 
-/// Numbers of serial ports and the devices behind them. A number that is not given a device stands for
-/// /dev/ttyS0-3 (1 to 4), /dev/ttyUSB0-15 (5 to 20) or /dev/ttyACM0-15 (21 to 36); all others do not exist.
+/// Numbers of serial ports and the devices behind them. A number that is not given a device stands on Windows
+/// for the device "COM<n>", whether there is one or not; on other systems for /dev/ttyS0-3 (1 to 4),
+/// /dev/ttyUSB0-15 (5 to 20) or /dev/ttyACM0-15 (21 to 36), and all others do not exist.
 class PortNames {
   public:
-    /// Texts like "COM7" and the device paths that they stand for.
+    /// Texts like "COM7" and the devices that they stand for: paths, on Windows the names of devices that
+    /// are called otherwise than COM and a number, as those of virtual ports may be.
     using Overrides = std::map<std::string, std::string>;
 
     PortNames() = default;
@@ -29,9 +31,13 @@ class PortNames {
     std::optional<std::string> device(std::string_view name) const;
 
     /// The number for a text "COM<n>" or a device path as a user gives it: the lowest number that stands for
-    /// the path, otherwise the first free one from 37 on, which stands for it from now on. 0 when none is
-    /// free.
+    /// it, otherwise the first free one from firstFreeNumber on, which stands for it from now on. 0 when none
+    /// is free.
     int numberFor(const std::string& nameOrDevice);
+
+    /// The lowest number that a device may get which has none: 37; 4097 on Windows, which itself gives
+    /// numbers up to 4096.
+    static int firstFreeNumber();
 
   private:
     std::map<int, std::string> overrides_;

@@ -11,16 +11,12 @@ namespace {
 
 class ConfigurationTest : public ServerFixture {
   protected:
-    void SetUp() override {
-        ServerFixture::SetUp();
-        std::filesystem::create_directories(home / "tmp");
-    }
-    std::string iniPath() const { return (home / "new.ini").string(); }
+    std::filesystem::path iniPath() const { return home / "new.ini"; }
     /// Lets the server write the default file, changes lines of it ("Key=" to a whole line), starts again.
     void startWith(const std::vector<std::pair<std::string, std::string>>& changes) {
         if (!std::filesystem::exists(iniPath())) {
-            startServer({"--config", iniPath()});
-            server->signal(SIGTERM);
+            startServer({"--config", serverPath(iniPath())});
+            stopServer();
             ASSERT_EQ(server->wait(), 0);
         }
         std::string text = contentsOf(iniPath());
@@ -31,31 +27,39 @@ class ConfigurationTest : public ServerFixture {
             text.replace(begin + 2, end - begin - 2, line);
         }
         writeFile(iniPath(), text);
-        server = std::make_unique<Process>(
-            std::vector<std::string>{program("velmorad"), "--config", iniPath(), "--port", serverDevice},
-            environment());
+        server = start("velmorad", {"--config", serverPath(iniPath()), "--port", serverPort});
     }
 };
 
 TEST_F(ConfigurationTest, AFirstStartWritesTheCommentedFileAndServesWithIt) {
-    startServer({"--config", iniPath()});
+    startServer({"--config", serverPath(iniPath())});
     const std::string text = contentsOf(iniPath());
     EXPECT_NE(text.find("; Velmora.ini:  INI file for Velmora\r\n"), std::string::npos);
     EXPECT_NE(text.find("DataFileType = 0\r\n"), std::string::npos);
     EXPECT_EQ(organiser({"formats"}).status, 0);
 }
 
+TEST_F(ConfigurationTest, WithoutANameTheFileLiesInTheUsersConfigurationFolder) {
+    const std::filesystem::path file = serverSide->configuration(home);
+    ASSERT_FALSE(std::filesystem::exists(file));
+    startServer();
+    EXPECT_NE(contentsOf(file).find("; Velmora.ini:  INI file for Velmora\r\n"), std::string::npos);
+    stopServer();
+    EXPECT_EQ(server->wait(), 0) << server->error();
+}
+
 TEST_F(ConfigurationTest, TheFilesTextsAreShown) {
     startWith({{"WaitLink=", "WaitLink=\"Hello there\",\" \""},
-               {"DownloadPath=", "DownloadPath=" + psion.string()}});
+               {"DownloadPath=", "DownloadPath=" + serverPath(psion)}});
     EXPECT_TRUE(server->waitForOutput("Hello there")) << server->output() << server->error();
 }
 
 TEST_F(ConfigurationTest, TheDataFileTypeChoosesTheForm) {
-    startWith({{"DataFileType ", "DataFileType = 3"}, {"DownloadPath=", "DownloadPath=" + psion.string()}});
+    startWith(
+        {{"DataFileType ", "DataFileType = 3"}, {"DownloadPath=", "DownloadPath=" + serverPath(psion)}});
     ASSERT_TRUE(server->waitForOutput("Waiting for link")) << server->error();
     writeFile(home / "local", "a\tb\r\n");
-    ASSERT_EQ(organiser({"save", (home / "local").string(), "--as", "MEMO"}).status, 0);
+    ASSERT_EQ(organiser({"save", organiserPath(home / "local"), "--as", "MEMO"}).status, 0);
     EXPECT_EQ(contentsOf(psion / "Memo.csv"), "a;b\r\n");
 }
 
@@ -83,6 +87,9 @@ TEST_F(ConfigurationTest, AQuestionNobodyCanAnswerIsANo) {
 }
 
 TEST_F(ConfigurationTest, TheSectionPortsNamesDevices) {
+    if (serverSide->windows()) {
+        GTEST_SKIP() << "devices have no names of their own there";
+    }
     startWith({{"Port=", "Port=7"}});
     server->signal(SIGKILL);
     server->wait();
@@ -92,8 +99,7 @@ TEST_F(ConfigurationTest, TheSectionPortsNamesDevices) {
     std::string text = contentsOf(iniPath());
     text.replace(text.find("COM7="), std::string::npos, "COM7=" + serverDevice + "\r\n");
     writeFile(iniPath(), text);
-    server = std::make_unique<Process>(std::vector<std::string>{program("velmorad"), "--config", iniPath()},
-                                       environment());
+    server = start("velmorad", {"--config", serverPath(iniPath())});
     ASSERT_TRUE(server->waitForOutput("Waiting for link")) << server->error();
     EXPECT_EQ(organiser({"formats"}).status, 0);
 }
@@ -104,15 +110,14 @@ TEST_F(ConfigurationTest, AFileOfRandomBytesIsLeftAloneAndServedWithDefaults) {
         noise += static_cast<char>((i * 7919 + i / 3) & 0xFF);
     }
     writeFile(iniPath(), noise);
-    startServer({"--config", iniPath()});
+    startServer({"--config", serverPath(iniPath())});
     EXPECT_EQ(organiser({"formats"}).status, 0);
     EXPECT_EQ(contentsOf(iniPath()), noise);
 }
 
 TEST_F(ConfigurationTest, AFolderInThePlaceOfTheFileEndsTheStartWithTheNameOfTheStep) {
     std::filesystem::create_directories(iniPath());
-    const Finished done =
-        run({program("velmorad"), "--config", iniPath(), "--port", serverDevice}, environment());
+    const Finished done = finish("velmorad", {"--config", serverPath(iniPath()), "--port", serverPort});
     EXPECT_EQ(done.status, 1);
     EXPECT_NE(done.error.find("load_INIfile"), std::string::npos) << done.error;
     EXPECT_TRUE(std::filesystem::is_directory(iniPath()));

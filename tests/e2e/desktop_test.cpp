@@ -14,32 +14,31 @@ class DesktopTest : public ServerFixture {
   protected:
     void SetUp() override {
         ServerFixture::SetUp();
-        std::filesystem::create_directories(home / "config");
-        std::filesystem::create_directories(home / "tmp");
-        port = home / "port";
-        plug(serverDevice);
-    }
-
-    /// Makes the configured device stand for this terminal; an adapter that comes back may have another one.
-    void plug(const std::string& device) {
-        std::filesystem::remove(port);
-        std::filesystem::create_symlink(device, port);
+        if (serverSide->windows()) {
+            port = serverPort.substr(std::string("COM").size());
+        } else {
+            ports = "[Ports]\r\nCOM" + port + "=" + serverDevice + "\r\n";
+        }
     }
 
     void writeIni(const std::string& more = {}) {
-        writeFile(ini(),
-                  "[Settings]\r\nPort=40\r\nBaud=9600\r\nAutoStart=True\r\nDataFileType=0\r\nDownloadPath=" +
-                      psion.string() + "\r\n[Ports]\r\nCOM40=" + port.string() + "\r\n" + more);
+        writeFile(ini(), "[Settings]\r\nPort=" + port +
+                             "\r\nBaud=9600\r\nAutoStart=True\r\nDataFileType=0\r\nDownloadPath=" +
+                             serverPath(psion) + "\r\n" + ports + more);
     }
-    std::filesystem::path ini() const { return home / "config" / "Velmora.ini"; }
+    std::filesystem::path ini() const { return serverSide->configuration(home); }
 
-    /// Starts the program; under `prefix`, such as a display of its own.
-    void startDesktop(const std::vector<std::string>& prefix = {},
-                      const std::string& platform = "offscreen") {
-        std::map<std::string, std::string> variables = environment();
-        variables["QT_QPA_PLATFORM"] = platform;
+    /// Starts the program without a display, or under `prefix`, such as a display of its own. The Windows
+    /// program has the display of whoever runs the tests.
+    void startDesktop(const std::vector<std::string>& options = {},
+                      const std::vector<std::string>& prefix = {}) {
+        std::map<std::string, std::string> variables = serverSide->environment(home, zone);
+        if (!serverSide->windows()) {
+            variables["QT_QPA_PLATFORM"] = prefix.empty() ? "offscreen" : "xcb";
+        }
         std::vector<std::string> arguments = prefix;
-        arguments.push_back(program("velmora"));
+        const std::vector<std::string> command = serverSide->command("velmora", options);
+        arguments.insert(arguments.end(), command.begin(), command.end());
         server = std::make_unique<Process>(arguments, variables);
     }
     /// Saves a file through the Organiser, which keeps asking for the link until the server is there.
@@ -47,7 +46,7 @@ class DesktopTest : public ServerFixture {
         writeFile(home / "local", contents);
         Finished done;
         for (int attempt = 0; attempt < 10; ++attempt) {
-            done = organiser({"save", (home / "local").string(), "--as", name});
+            done = organiser({"save", organiserPath(home / "local"), "--as", name});
             if (done.status == 0) {
                 return;
             }
@@ -55,7 +54,22 @@ class DesktopTest : public ServerFixture {
         FAIL() << done.status << done.output << done.error << server->error();
     }
 
-    std::filesystem::path port;  // the device as the configuration names it
+    /// The window's place goes to the user's settings, which are the registry on Windows.
+    void expectStoredWindowPosition() const {
+        if (!serverSide->windows()) {
+            const std::string settings = contentsOf(home / "config" / "Quillbrook" / "Velmora.conf");
+            EXPECT_NE(settings.find("XPos="), std::string::npos) << settings;
+            return;
+        }
+        const Finished query =
+            run({"wine", "reg", "query", R"(HKCU\Software\Quillbrook\Velmora)", "/v", "XPos"},
+                serverSide->environment(home, zone));
+        EXPECT_EQ(query.status, 0) << query.error;
+        EXPECT_NE(query.output.find("XPos"), std::string::npos) << query.output;
+    }
+
+    std::string port = "40";  // as the configuration names it
+    std::string ports;        // the section that says which device it is
 };
 
 TEST_F(DesktopTest, SavesAndLoadsAFileAndEndsOnRequestWithItsSettingsSaved) {
@@ -63,20 +77,22 @@ TEST_F(DesktopTest, SavesAndLoadsAFileAndEndsOnRequestWithItsSettingsSaved) {
     startDesktop();
     save("NAMES", "one\ttwo\r\n");
     EXPECT_EQ(contentsOf(psion / "Names.odb"), "one\ttwo\r\n");
-    const Finished loaded = organiser({"load", "NAMES", "-o", (home / "back").string()});
+    const Finished loaded = organiser({"load", "NAMES", "-o", organiserPath(home / "back")});
     EXPECT_EQ(loaded.status, 0) << loaded.error;
     EXPECT_EQ(contentsOf(home / "back"), "one\ttwo\r\n");
     organiser({"shutdown"});
     EXPECT_EQ(server->wait(), 0);
     const std::string saved = contentsOf(ini());
-    EXPECT_NE(saved.find("Port=40"), std::string::npos);
+    EXPECT_NE(saved.find("Port=" + port), std::string::npos);
     EXPECT_NE(saved.find("Baud=9600"), std::string::npos);
     EXPECT_NE(saved.find("AutoStart=True"), std::string::npos);
-    // The window's place goes to the toolkit's settings.
-    EXPECT_NE(contentsOf(home / "config" / "Quillbrook" / "Velmora.conf").find("XPos="), std::string::npos);
+    expectStoredWindowPosition();
 }
 
 TEST_F(DesktopTest, SignalEndsItAtOnceAndChangesNoSetting) {
+    if (serverSide->windows()) {
+        GTEST_SKIP() << "a program with windows gets no signals there";
+    }
     writeIni();
     startDesktop();
     save("NAMES", "one\r\n");
@@ -87,21 +103,22 @@ TEST_F(DesktopTest, SignalEndsItAtOnceAndChangesNoSetting) {
 }
 
 TEST_F(DesktopTest, DebugSwitchInAnyCaseStartsToo) {
-    writeIni();
-    std::map<std::string, std::string> variables = environment();
-    variables["QT_QPA_PLATFORM"] = "offscreen";
-    server = std::make_unique<Process>(std::vector<std::string>{program("velmora"), "-DeBuG"}, variables);
+    writeIni("[OnExit]\r\nAskUser=False\r\nAllowShutdown=True\r\n");
+    startDesktop({"-DeBuG"});
     save("NAMES", "one\r\n");
-    server->signal(SIGTERM);
+    organiser({"shutdown"});
     EXPECT_EQ(server->wait(), 0);
 }
 
 TEST_F(DesktopTest, ServesOnADisplay) {
+    if (serverSide->windows()) {
+        GTEST_SKIP() << "every test of the Windows program runs on a display";
+    }
     if (::access("/usr/bin/xvfb-run", X_OK) != 0) {
         GTEST_SKIP() << "xvfb-run is not installed";
     }
     writeIni("[OnExit]\r\nAskUser=False\r\nAllowShutdown=True\r\n");
-    startDesktop({"/usr/bin/xvfb-run", "-a"}, "xcb");
+    startDesktop({}, {"/usr/bin/xvfb-run", "-a"});
     save("NAMES", "one\r\n");
     EXPECT_EQ(contentsOf(psion / "Names.odb"), "one\r\n");
     organiser({"shutdown"});

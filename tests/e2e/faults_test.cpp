@@ -38,13 +38,13 @@ class FaultsTest : public ServerFixture {
             std::vector<std::string> options = faults;
             options.insert(options.end(), {"--seed", std::to_string(i + 1)});
             const Finished saved =
-                organiser({"save", (home / "local").string(), "--as", name, "--type", type}, options);
+                organiser({"save", organiserPath(home / "local"), "--as", name, "--type", type}, options);
             ASSERT_EQ(saved.status, 0) << name << '\n' << saved.output << saved.error;
             const std::filesystem::path stored =
                 psion / ("File" + std::to_string(i) + (block ? ".ob3" : ".odb"));
             ASSERT_EQ(contentsOf(stored).substr(block ? 6 : 0), contents) << name;
             const Finished loaded =
-                organiser({"load", name, "--type", type, "-o", (home / "loaded").string()}, options);
+                organiser({"load", name, "--type", type, "-o", organiserPath(home / "loaded")}, options);
             ASSERT_EQ(loaded.status, 0) << name << '\n' << loaded.output << loaded.error;
             ASSERT_EQ(contentsOf(home / "loaded"), contents) << name;
         }

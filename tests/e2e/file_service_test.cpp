@@ -19,7 +19,7 @@ class FileServiceTest : public ServerFixture {
 TEST_F(FileServiceTest, BytesAreWrittenAndRead) {
     const std::string bytes("any\0bytes\x10\x03\xFF", 12);
     writeFile(home / "local", bytes);
-    ASSERT_EQ(organiser({"write", "RAW.BIN", (home / "local").string()}).status, 0);
+    ASSERT_EQ(organiser({"write", "RAW.BIN", organiserPath(home / "local")}).status, 0);
     EXPECT_EQ(contentsOf(psion / "Raw.bin"), bytes);
     const Finished read = organiser({"read", "RAW.BIN"});
     EXPECT_EQ(read.status, 0) << read.error;
@@ -28,7 +28,7 @@ TEST_F(FileServiceTest, BytesAreWrittenAndRead) {
 
 TEST_F(FileServiceTest, LinesAreWrittenAndRead) {
     writeFile(home / "local", "first\r\nsecond\r\n");
-    ASSERT_EQ(organiser({"write", "NOTES.TXT", (home / "local").string(), "--text"}).status, 0);
+    ASSERT_EQ(organiser({"write", "NOTES.TXT", organiserPath(home / "local"), "--text"}).status, 0);
     EXPECT_EQ(contentsOf(psion / "Notes.txt"), "first\r\nsecond\r\n");
     const Finished read = organiser({"read", "NOTES.TXT", "--text"});
     EXPECT_EQ(read.status, 0) << read.error;

@@ -1,6 +1,5 @@
 // Clock, boot code and spreadsheets over the line, also when it loses and repeats frames.
 #include <gtest/gtest.h>
-#include <signal.h>
 
 #include <regex>
 #include <string>
@@ -42,14 +41,14 @@ TEST_F(ServicesTest, BootCodeArrivesRelocatedInThreeChunks) {
     put(16, 0x1234);
     put(448, 0x0100);
     writeFile(home / "code", code);
-    const Finished made = run({program("velmora-files"), "boot", "make", (home / "code").string(),
-                               "--relocations", "16,448", "-o", (psion / "Loader.bin").string()});
+    const Finished made = filesTool({"boot", "make", organiserPath(home / "code"), "--relocations", "16,448",
+                                     "-o", organiserPath(psion / "Loader.bin")});
     ASSERT_EQ(made.status, 0) << made.output << made.error;
 
     startServer({"--trace"});
     for (const auto& options : {std::vector<std::string>{}, faults}) {
         const Finished booted =
-            organiser({"boot", "LOADER", "--address", "2000", "-o", (home / "booted").string()}, options);
+            organiser({"boot", "LOADER", "--address", "2000", "-o", organiserPath(home / "booted")}, options);
         ASSERT_EQ(booted.status, 0) << booted.output << booted.error;
         put(16, 0x3234);
         put(448, 0x2100);
@@ -78,7 +77,8 @@ TEST_F(ServicesTest, SpreadsheetsGoThereAndBackInEveryFormat) {
               "A1 'Item\r\nB1 'Price\r\nA2 'Tea\r\nB2 1.25\r\nA3 'Cup\r\nB3 3\r\nB4 =SUM(B2:B3)\r\n");
     for (const std::string format : {"wks", "dif", "csv", "txt", "tab"}) {
         const Finished saved = organiser(
-            {"sheet-save", (home / "cells").string(), "--as", "SHEET" + format, "--format", format}, faults);
+            {"sheet-save", organiserPath(home / "cells"), "--as", "SHEET" + format, "--format", format},
+            faults);
         ASSERT_EQ(saved.status, 0) << format << saved.output << saved.error;
         const Finished loaded = organiser({"sheet-load", "SHEET" + format, "--format", format}, faults);
         ASSERT_EQ(loaded.status, 0) << format << loaded.output << loaded.error;
@@ -97,19 +97,19 @@ TEST_F(ServicesTest, SpreadsheetsGoThereAndBackInEveryFormat) {
 TEST_F(ServicesTest, TheCommonDialectMarksParenthesesInWorksheets) {
     constexpr char kParentheses = 4;
     writeFile(home / "cells", "A1 1\r\nB1 2\r\nC1 3\r\nD1 =(A1+B1)*C1\r\n");
-    std::filesystem::create_directories(home / "config");
     for (const bool common : {false, true}) {
         writeFile(
-            home / "config" / "Velmora.ini",
+            serverSide->configuration(home),
             "; " + std::string(100, '-') + "\r\n[Settings]\r\nWksDialect=" + (common ? "1" : "0") + "\r\n");
         startServer();
         ASSERT_EQ(
-            organiser({"sheet-save", (home / "cells").string(), "--as", "SUM", "--format", "wks"}).status, 0);
+            organiser({"sheet-save", organiserPath(home / "cells"), "--as", "SUM", "--format", "wks"}).status,
+            0);
         const std::string tokens = contentsOf(psion / "Sum.wks").substr(20);
         EXPECT_EQ(tokens.find(std::string("\x09") + kParentheses + "\x01") != std::string::npos, common);
         const Finished loaded = organiser({"sheet-load", "SUM", "--format", "wks"});
         EXPECT_NE(loaded.output.find("D1 =(A1+B1)*C1"), std::string::npos) << loaded.output;
-        server->signal(SIGTERM);
+        stopServer();
         server->wait();
     }
 }

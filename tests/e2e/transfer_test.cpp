@@ -16,7 +16,7 @@ class TransferTest : public ServerFixture {
     void save(const std::string& contents, const std::vector<std::string>& options) {
         const std::filesystem::path file = home / "local";
         writeFile(file, contents);
-        std::vector<std::string> command = {"save", file.string()};
+        std::vector<std::string> command = {"save", organiserPath(file)};
         command.insert(command.end(), options.begin(), options.end());
         const Finished done = organiser(command);
         ASSERT_EQ(done.status, 0) << done.output << done.error;
@@ -25,7 +25,7 @@ class TransferTest : public ServerFixture {
     std::string load(const std::string& name, const std::vector<std::string>& options = {}) {
         const std::filesystem::path file = home / "loaded";
         std::filesystem::remove(file);
-        std::vector<std::string> command = {"load", name, "-o", file.string()};
+        std::vector<std::string> command = {"load", name, "-o", organiserPath(file)};
         command.insert(command.end(), options.begin(), options.end());
         const Finished done = organiser(command);
         EXPECT_EQ(done.status, 0) << done.output << done.error;
@@ -51,7 +51,7 @@ TEST_F(TransferTest, DataFileInItsFourForms) {
         startServer({"--file-type", form.type});
         save(records, {"--as", "NAMES"});
         EXPECT_EQ(contentsOf(psion / form.file), form.contents) << form.type;
-        server->signal(SIGTERM);
+        stopServer();
         EXPECT_EQ(server->wait(), 0);
     }
 }
@@ -122,7 +122,7 @@ TEST_F(TransferTest, AppendingKeepsWhatIsThere) {
 TEST_F(TransferTest, AFileThatMustBeNewIsRefusedWhenItExists) {
     startServer();
     save("one\r\n", {"--as", "LOG"});
-    const Finished refused = organiser({"save", (home / "local").string(), "--as", "LOG", "--mode", "3"});
+    const Finished refused = organiser({"save", organiserPath(home / "local"), "--as", "LOG", "--mode", "3"});
     EXPECT_EQ(refused.status, 3);
     EXPECT_NE((refused.output + refused.error).find("187"), std::string::npos)
         << refused.output << refused.error;
@@ -131,7 +131,7 @@ TEST_F(TransferTest, AFileThatMustBeNewIsRefusedWhenItExists) {
 
 TEST_F(TransferTest, AMissingFileIsRefusedAndTheNextRequestIsServed) {
     startServer();
-    const Finished refused = organiser({"load", "NONE", "-o", (home / "none").string()});
+    const Finished refused = organiser({"load", "NONE", "-o", organiserPath(home / "none")});
     EXPECT_EQ(refused.status, 3);
     EXPECT_NE((refused.output + refused.error).find("189"), std::string::npos)
         << refused.output << refused.error;

@@ -13,6 +13,14 @@ namespace {
 
 using ::testing::HasSubstr;
 
+#ifdef _WIN32
+constexpr std::int32_t kNotSerial = 1;
+constexpr std::int32_t kOutOfMemory = 8;
+#else
+constexpr std::int32_t kNotSerial = ENOTTY;
+constexpr std::int32_t kOutOfMemory = ENOMEM;
+#endif
+
 DeviceFacts adapterOf(const std::string& login) {
     DeviceFacts facts;
     facts.exists = true;
@@ -91,9 +99,9 @@ INSTANTIATE_TEST_SUITE_P(
                   "does not take these line settings"},
         Diagnosis{"SettingsNumber", kInvalidParameter, openableAdapter(), "",
                   "does not take these line settings"},
-        Diagnosis{"NotSerial", ENOTTY, openableAdapter(), "", "/dev/ttyS1 is not a serial port."},
+        Diagnosis{"NotSerial", kNotSerial, openableAdapter(), "", "/dev/ttyS1 is not a serial port."},
         Diagnosis{"DeviceFailed", kDeviceFailed, openableAdapter(), "", "/dev/ttyS1 does not respond"},
-        Diagnosis{"Failed", ENOMEM, openableAdapter(), "", "/dev/ttyS1 cannot be opened: "},
+        Diagnosis{"Failed", kOutOfMemory, openableAdapter(), "", "/dev/ttyS1 cannot be opened: "},
         Diagnosis{"FailedWithoutNumber", kCommFailed, openableAdapter(), "", "/dev/ttyS1 cannot be opened."},
         Diagnosis{"VanishedMeanwhile", kCommFailed, {}, "", "/dev/ttyS1 does not exist"}),
     [](const auto& row) { return std::string(row.param.name); });

@@ -3,12 +3,14 @@
 #include <fcntl.h>
 #include <poll.h>
 #include <signal.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <array>
 #include <cerrno>
 #include <cstdlib>
+#include <stdexcept>
 #include <system_error>
 
 namespace velmora::e2e {
@@ -48,7 +50,7 @@ Process::Process(const std::vector<std::string>& arguments,
         for (const auto& [name, value] : environment) {
             ::setenv(name.c_str(), value.c_str(), 1);
         }
-        ::execv(argv[0], argv.data());
+        ::execvp(argv[0], argv.data());
         ::_exit(127);
     }
     ::close(in.ends[0]);
@@ -57,6 +59,10 @@ Process::Process(const std::vector<std::string>& arguments,
     input_ = in.ends[1];
     outputPipe_ = out.ends[0];
     errorPipe_ = err.ends[0];
+    end_ = static_cast<int>(::syscall(SYS_pidfd_open, id_, 0));
+    if (end_ < 0) {
+        throw std::system_error(errno, std::generic_category(), "pidfd_open");
+    }
 }
 
 Process::~Process() {
@@ -64,21 +70,20 @@ Process::~Process() {
         ::kill(id_, SIGKILL);
         ::waitpid(id_, nullptr, 0);
     }
-    for (const int pipe : {input_, outputPipe_, errorPipe_}) {
+    for (const int pipe : {input_, outputPipe_, errorPipe_, end_}) {
         if (pipe >= 0) {
             ::close(pipe);
         }
     }
 }
 
-/// Reads what comes next from either pipe; false at the end of both or at the deadline.
+/// Reads what comes next from either pipe; false at the deadline, and when the program has ended and all that
+/// it wrote is read. The ends of the pipes tell nothing: a program that it started may hold them open.
 bool Process::readSome(SteadyClock::time_point deadline) {
-    std::array<pollfd, 2> watched = {pollfd{outputPipe_, POLLIN, 0}, pollfd{errorPipe_, POLLIN, 0}};
+    std::array<pollfd, 3> watched = {pollfd{outputPipe_, POLLIN, 0}, pollfd{errorPipe_, POLLIN, 0},
+                                     pollfd{end_, POLLIN, 0}};
     const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(deadline - SteadyClock::now());
-    if ((outputPipe_ < 0 && errorPipe_ < 0) || left.count() <= 0) {
-        return false;
-    }
-    if (::poll(watched.data(), watched.size(), static_cast<int>(left.count())) <= 0) {
+    if (left.count() <= 0 || ::poll(watched.data(), watched.size(), static_cast<int>(left.count())) <= 0) {
         return false;
     }
     const auto take = [](const pollfd& polled, int& pipe, std::string& text) {
@@ -96,7 +101,7 @@ bool Process::readSome(SteadyClock::time_point deadline) {
     };
     take(watched[0], outputPipe_, output_);
     take(watched[1], errorPipe_, error_);
-    return true;
+    return watched[0].revents != 0 || watched[1].revents != 0;
 }
 
 bool Process::waitFor(const std::string& text, const std::string& where, std::size_t from) {
@@ -141,6 +146,15 @@ int Process::wait() {
     return status_;
 }
 
+void Process::feed(const std::string& input) {
+    const ssize_t count = ::write(input_, input.data(), input.size());
+    ::close(input_);
+    input_ = -1;
+    if (count != static_cast<ssize_t>(input.size())) {
+        throw std::runtime_error("the program takes no input");
+    }
+}
+
 void Process::closeOutput() {
     for (int* pipe : {&outputPipe_, &errorPipe_}) {
         ::close(*pipe);
@@ -163,14 +177,18 @@ bool Process::running() {
     return !reaped_;
 }
 
+Finished finished(Process& process) {
+    Finished result;
+    result.status = process.wait();
+    result.output = process.output();
+    result.error = process.error();
+    return result;
+}
+
 Finished run(const std::vector<std::string>& arguments,
              const std::map<std::string, std::string>& environment) {
     Process process(arguments, environment);
-    Finished finished;
-    finished.status = process.wait();
-    finished.output = process.output();
-    finished.error = process.error();
-    return finished;
+    return finished(process);
 }
 
 }  // namespace velmora::e2e

@@ -17,7 +17,8 @@ constexpr std::chrono::seconds kPatience{60};
 /// open. Destroying it kills the program.
 class Process {
   public:
-    /// `arguments[0]` is the program. `environment` entries are added to the test's own.
+    /// `arguments[0]` is the program, which is looked for in PATH when it is no path. `environment` entries
+    /// are added to the test's own.
     explicit Process(const std::vector<std::string>& arguments,
                      const std::map<std::string, std::string>& environment = {});
     ~Process();
@@ -32,6 +33,8 @@ class Process {
 
     /// Reads everything, waits for the end and returns the exit status (128 + signal when it was killed).
     int wait();
+    /// Writes all of the standard input that the program gets, and ends it. Only for texts that fit a pipe.
+    void feed(const std::string& input);
     /// Closes our end of the program's output and error output.
     void closeOutput();
     void signal(int number) const;
@@ -49,6 +52,7 @@ class Process {
     int input_ = -1;
     int outputPipe_ = -1;
     int errorPipe_ = -1;
+    int end_ = -1;  // readable when the program has ended
     std::string output_;
     std::string error_;
     std::size_t seen_ = 0;
@@ -62,6 +66,9 @@ struct Finished {
     std::string output;
     std::string error;
 };
+
+/// Waits for a program's end.
+Finished finished(Process& process);
 
 /// Runs a program to its end.
 Finished run(const std::vector<std::string>& arguments,

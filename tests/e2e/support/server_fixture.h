@@ -11,12 +11,9 @@
 #include <vector>
 
 #include "e2e/support/process.h"
+#include "e2e/support/programs_under_test.h"
 
 namespace velmora::e2e {
-
-inline std::string program(const std::string& name) {
-    return std::string(VELMORA_BIN_DIR) + "/" + name;
-}
 
 inline std::string contentsOf(const std::filesystem::path& path) {
     std::ifstream file(path, std::ios::binary);
@@ -41,6 +38,7 @@ class ServerFixture : public testing::Test {
         home = pattern;
         psion = home / "psion";
         std::filesystem::create_directories(psion);
+        std::filesystem::create_directories(home / "tmp");
     }
     ~ServerFixture() override {
         server.reset();
@@ -59,40 +57,68 @@ class ServerFixture : public testing::Test {
         std::istringstream lines(cable->output());
         std::getline(lines, serverDevice);
         std::getline(lines, organiserDevice);
+        serverPort = serverSide->port(serverDevice);
+        organiserPort = organiserSide->port(organiserDevice);
     }
 
-    /// The server's environment: no configuration of whoever runs the tests.
-    std::map<std::string, std::string> environment() const {
-        return {{"HOME", home.string()},
-                {"XDG_CONFIG_HOME", (home / "config").string()},
-                {"TMPDIR", (home / "tmp").string()},
-                {"TZ", zone},
-                {"LC_ALL", "C.UTF-8"}};
+    /// A file or folder as the server, or the Organiser, names it.
+    std::string serverPath(const std::filesystem::path& path) const { return serverSide->path(path); }
+    std::string organiserPath(const std::filesystem::path& path) const { return organiserSide->path(path); }
+
+    /// Starts a program of the server's side.
+    std::unique_ptr<Process> start(const std::string& program,
+                                   const std::vector<std::string>& arguments) const {
+        return std::make_unique<Process>(serverSide->command(program, arguments),
+                                         serverSide->environment(home, zone));
+    }
+    /// Runs a program of the server's side to its end.
+    Finished finish(const std::string& program, const std::vector<std::string>& arguments) const {
+        return finished(*start(program, arguments));
     }
 
     /// Starts velmorad on the cable and waits until it serves.
     void startServer(const std::vector<std::string>& options = {}) {
-        std::filesystem::create_directories(home / "tmp");
-        std::vector<std::string> arguments = {program("velmorad"), "--port", serverDevice, "--folder",
-                                              psion.string()};
+        std::vector<std::string> arguments = {"--port", serverPort, "--folder", serverPath(psion)};
         arguments.insert(arguments.end(), options.begin(), options.end());
-        server = std::make_unique<Process>(arguments, environment());
+        server = start("velmorad", arguments);
         ASSERT_TRUE(server->waitForOutput("Waiting for link")) << server->error();
     }
+    void stopServer() const { serverSide->stop(*server); }
 
-    /// Runs the Organiser with a command to its end.
-    Finished organiser(const std::vector<std::string>& command, const std::vector<std::string>& faults = {}) {
-        std::vector<std::string> arguments = {program("velmora-organiser"), "--device", organiserDevice};
-        arguments.insert(arguments.end(), faults.begin(), faults.end());
+    /// Starts the Organiser with a command.
+    std::unique_ptr<Process> startOrganiser(const std::vector<std::string>& command) const {
+        std::vector<std::string> arguments = {"--device", organiserPort};
         arguments.insert(arguments.end(), command.begin(), command.end());
-        return run(arguments, environment());
+        return std::make_unique<Process>(organiserSide->command("velmora-organiser", arguments),
+                                         organiserSide->environment(home, zone));
+    }
+    /// Runs the Organiser with a command to its end.
+    Finished organiser(const std::vector<std::string>& command,
+                       const std::vector<std::string>& faults = {}) const {
+        std::vector<std::string> arguments = faults;
+        arguments.insert(arguments.end(), command.begin(), command.end());
+        return finished(*startOrganiser(arguments));
     }
 
+    /// Runs velmora-files of the Organiser's side on an input; without one its standard input stays open.
+    Finished filesTool(const std::vector<std::string>& arguments, const std::string& input = {}) const {
+        Process process(organiserSide->command("velmora-files", arguments),
+                        organiserSide->environment(home, zone));
+        if (!input.empty()) {
+            process.feed(input);
+        }
+        return finished(process);
+    }
+
+    std::unique_ptr<ProgramsUnderTest> serverSide = ProgramsUnderTest::ofServer();
+    std::unique_ptr<ProgramsUnderTest> organiserSide = ProgramsUnderTest::ofOrganiser();
     std::filesystem::path home;
     std::filesystem::path psion;
     std::string zone = "UTC";
     std::string serverDevice;
     std::string organiserDevice;
+    std::string serverPort;  // the devices as the programs name them
+    std::string organiserPort;
     std::unique_ptr<Process> cable;
     std::unique_ptr<Process> server;
 };

@@ -1,0 +1,55 @@
+# What is installed on Windows, and the target "package": the installer and the archive.
+
+if(VELMORA_TOOLKIT)
+  set(programs velmora velmorad velmora-organiser velmora-files)
+else()
+  set(programs velmora-organiser velmora-files)
+endif()
+install(TARGETS ${programs} RUNTIME DESTINATION .)
+
+# A double click opens a page in the browser; Windows has nothing that opens Markdown.
+find_program(VELMORA_CMARK cmark-gfm REQUIRED)
+set(pages user-guide windows configuration formats headless organiser-tool)
+list(JOIN pages " " page_names)
+set(made "")
+foreach(page ${pages})
+  set(input ${PROJECT_SOURCE_DIR}/docs/${page}.md)
+  set(output ${PROJECT_BINARY_DIR}/documents/${page}.html)
+  add_custom_command(OUTPUT ${output}
+    COMMAND ${CMAKE_COMMAND} -DCMARK=${VELMORA_CMARK} -DINPUT=${input} -DOUTPUT=${output} "-DPAGES=${page_names}"
+      -P ${CMAKE_CURRENT_LIST_DIR}/document.cmake
+    DEPENDS ${input} ${CMAKE_CURRENT_LIST_DIR}/document.cmake
+    VERBATIM)
+  list(APPEND made ${output})
+endforeach()
+add_custom_target(velmora-documents ALL DEPENDS ${made})
+install(FILES ${made} DESTINATION docs)
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs/images DESTINATION docs FILES_MATCHING PATTERN "*.png")
+
+# Plain texts get the line ends and the ending that the Notepad goes by.
+function(velmora_install_text input name)
+  configure_file(${input} ${PROJECT_BINARY_DIR}/documents/${name} @ONLY NEWLINE_STYLE DOS)
+  install(FILES ${PROJECT_BINARY_DIR}/documents/${name} DESTINATION ${ARGN})
+endfunction()
+velmora_install_text(${PROJECT_SOURCE_DIR}/LICENSE LICENSE.txt .)
+if(VELMORA_TOOLKIT)
+  # The toolkit is in the programs; its licence wants its own text to go along.
+  velmora_install_text(${CMAKE_CURRENT_LIST_DIR}/third-party.txt third-party.txt licences)
+  velmora_install_text(/usr/share/common-licenses/LGPL-3 LGPL-3.txt licences)
+  velmora_install_text(/usr/share/common-licenses/GPL-3 GPL-3.txt licences)
+endif()
+
+set(CPACK_GENERATOR NSIS ZIP)
+set(CPACK_PACKAGE_NAME Velmora)
+set(CPACK_PACKAGE_VENDOR Quillbrook)
+set(CPACK_PACKAGE_VERSION ${PROJECT_VERSION})
+set(CPACK_PACKAGE_FILE_NAME Velmora-${PROJECT_VERSION}-windows-x86_64)
+set(CPACK_PACKAGE_INSTALL_DIRECTORY Velmora)
+set(CPACK_STRIP_FILES ON)
+set(CPACK_VERBATIM_VARIABLES ON)
+# The script of the installer is ours: CMake's own one asks for an administrator.
+list(PREPEND CMAKE_MODULE_PATH ${CMAKE_CURRENT_LIST_DIR})
+set(CPACK_PROJECT_CONFIG_FILE ${CMAKE_CURRENT_LIST_DIR}/pack.cmake)
+set(CPACK_VELMORA_ARTWORK ${CMAKE_CURRENT_LIST_DIR})
+file(STRINGS ${PROJECT_SOURCE_DIR}/LICENSE CPACK_VELMORA_COPYRIGHT REGEX "^Copyright" LIMIT_COUNT 1)
+include(CPack)

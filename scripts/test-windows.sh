@@ -1,0 +1,110 @@
+#!/usr/bin/env bash
+# Builds the Windows programs and tests them under Wine: the unit tests, then the end-to-end tests, which also
+# need a native build. Wine lives in build-windows/wine and is gone at the end.
+#   scripts/test-windows.sh        everything, on a display of its own
+#   scripts/test-windows.sh core   what needs no window toolkit; the server of the end-to-end tests is native
+set -euo pipefail
+cd "$(dirname "$0")/.."
+what=${1:-all}
+if [[ "$what" != all && "$what" != core ]]; then
+  echo "usage: scripts/test-windows.sh [core]" >&2
+  exit 2
+fi
+
+if [[ -z "${VELMORA_TEST_DISPLAY:-}" ]]; then
+  scripts/setup.sh tests
+  if [[ "$what" == core ]]; then
+    scripts/build-windows.sh core
+  else
+    scripts/build-windows.sh programs
+  fi
+  scripts/build.sh build -DCMAKE_BUILD_TYPE=RelWithDebInfo -DVELMORA_TESTS=ON -- e2e_tests
+  if [[ "$what" == all ]]; then
+    VELMORA_TEST_DISPLAY=own exec xvfb-run --auto-servernum --server-args="-screen 0 1280x1024x24" "$0" all
+  fi
+  unset DISPLAY
+fi
+
+jobs=$(nproc)
+work=$PWD/build-windows/wine
+logs=$work/logs
+export WINEPREFIX=$work/prefix WINEDEBUG=-all
+# Nothing of this user's is linked into the prefix, and nothing asks to be downloaded or changes the menus.
+export HOME=$work/home WINEDLLOVERRIDES="mscoree=;mshtml=;winemenubuilder.exe="
+
+# The server would inherit the output of the first program and hold it open, so it is started by itself.
+start_wine() {
+  rm -rf "$work"
+  mkdir -p "$logs" "$WINEPREFIX" "$HOME"
+  trap 'wineserver -k || true' EXIT
+  wineserver -p < /dev/null > "$logs/wineserver.log" 2>&1
+  wineboot -i < /dev/null > "$logs/wineboot.log" 2>&1 || {
+    cat "$logs/wineboot.log"
+    exit 1
+  }
+}
+
+# unit_tests NAME COMMAND …: runs CTest by a command and keeps what the test programs printed.
+unit_tests() {
+  local log=$logs/$1.log status=0
+  shift
+  "$@" --test-dir build-windows --output-on-failure || status=1
+  cp build-windows/Testing/Temporary/LastTest.log "$log"
+  return "$status"
+}
+
+# end_to_end_tests SHARDS [VARIABLE=VALUE …] -- [OPTION …]: runs the native test program against the Windows
+# programs, in a number of processes.
+end_to_end_tests() {
+  local shards=$1 settings=() processes=() i status=0
+  shift
+  while [[ "$1" != -- ]]; do
+    settings+=("$1")
+    shift
+  done
+  shift
+  for ((i = 0; i < shards; ++i)); do
+    env "${settings[@]}" VELMORA_E2E_WINDOWS="$PWD/build-windows/bin" GTEST_TOTAL_SHARDS="$shards" \
+      GTEST_SHARD_INDEX="$i" build/tests/e2e_tests "$@" > "$logs/end-to-end-$i.log" 2>&1 &
+    processes+=($!)
+  done
+  for ((i = 0; i < shards; ++i)); do
+    wait "${processes[i]}" || {
+      status=1
+      grep -v -e '^\[ RUN ' -e '^\[       OK ' "$logs/end-to-end-$i.log" || true
+    }
+  done
+  return "$status"
+}
+
+# count LOG … : adds up what GoogleTest's programs said at their ends.
+count() {
+  sed 's/\r$//' "$@" | awk '
+    /^\[==========\] [0-9]+ tests? from .* ran\./ { ran += $2 }
+    /^\[  PASSED  \] [0-9]+ tests?\./ { passed += $4 }
+    /^\[  SKIPPED \] [0-9]+ tests?, listed below:/ { skipped += $4 }
+    /^\[  FAILED  \] [0-9]+ tests?, listed below:/ { failed += $4 }
+    END { printf "%d run, %d passed, %d skipped, %d failed\n", ran, passed, skipped, failed }'
+}
+
+failed=0
+start_wine
+unit_tests unit ctest -j "$jobs" --label-exclude comport --no-tests=error || failed=1
+unit_tests com-ports scripts/with-com-ports.sh ctest --label-regex comport --no-tests=error || failed=1
+if [[ "$what" == core ]]; then
+  # Those in which the Organiser or velmora-files has a part.
+  end_to_end_tests "$jobs" VELMORA_E2E_SERVER=native -- --gtest_filter='TransferTest.*:FileServiceTest.*:ServicesTest.*:FilesToolTest.*:FaultsTest.*:StopTest.AnOrganiserThat*:StopTest.WithoutAServer*' || failed=1
+else
+  # One after the other: the prefix has one configuration file.
+  end_to_end_tests 1 -- || failed=1
+fi
+
+echo
+echo "Tests of the Windows programs under Wine (logs: build-windows/wine/logs)"
+echo "  unit tests:             $(count "$logs/unit.log")"
+echo "  unit tests on ports:    $(count "$logs/com-ports.log")"
+echo "  end-to-end tests:       $(count "$logs"/end-to-end-*.log)"
+if ((failed)); then
+  echo "  FAILED"
+fi
+exit "$failed"

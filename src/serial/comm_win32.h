@@ -1,0 +1,77 @@
+// The serial device on Windows.
+#pragma once
+
+#include <windows.h>
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "serial/comm_device.h"
+
+namespace velmora {
+
+/// ERROR_NO_SUCH_DEVICE, which not every compiler's headers have.
+inline constexpr SystemError kNoSuchDevice = 433;
+
+/// A communications device, one Win32 function for each member. The device is opened for this program alone
+/// and not for overlapped operation, so a transfer is over when its call returns; the overlapped record that
+/// goes with every transfer serves drivers that answer "pending" all the same.
+///
+/// Errors are GetLastError's numbers, with these exceptions: the different ways to say that a port is missing
+/// or held, when it is opened, are kNoSuchPort and kPortInUse; a refused access to the open device, as
+/// adapters report it that were pulled, is kDeviceFailed.
+class Win32CommDevice : public CommDevice {
+  public:
+    /// `names` says which device a port name stands for and must outlive this object.
+    explicit Win32CommDevice(const PortNames& names) : names_(names) {}
+    ~Win32CommDevice() override { Win32CommDevice::close(); }
+    Win32CommDevice(const Win32CommDevice&) = delete;
+    Win32CommDevice& operator=(const Win32CommDevice&) = delete;
+
+    /// CreateFileA.
+    SystemError open(const std::string& name) override;
+    /// SetupComm.
+    SystemError setupQueues(std::size_t input, std::size_t output) override;
+    /// PurgeComm.
+    SystemError purge() override;
+    /// SetCommTimeouts.
+    SystemError setTimeouts(const CommTimeouts& timeouts) override;
+    /// GetCommState.
+    SystemError getState() override;
+    /// BuildCommDCBA, which leaves DTR and RTS enabled and flow control off.
+    SystemError buildState(const std::string& settings) override;
+    void setDtrControl(bool enable) override;
+    /// SetCommState.
+    SystemError setState() override;
+    /// CloseHandle.
+    SystemError close() override;
+
+    /// ClearCommError.
+    SystemError clearError(CommStatus& status) override;
+    /// ReadFile. It waits up to the read's constant time-out when fewer than `count` bytes are there.
+    SystemError read(char* buffer, std::size_t count, std::size_t& transferred) override;
+    /// WriteFile. A write that the time-outs ended early is no failure; `transferred` tells.
+    SystemError write(std::string_view data, std::size_t& transferred) override;
+    /// GetOverlappedResult, waiting.
+    SystemError pendingResult(std::size_t& transferred) override;
+
+    /// GetCommModemStatus.
+    SystemError modemStatus(std::uint32_t& lines) override;
+    /// EscapeCommFunction.
+    SystemError escapeFunction(CommFunction function) override;
+
+    std::string errorMessage(SystemError number) const override;
+    std::intptr_t handle() const override { return reinterpret_cast<std::intptr_t>(handle_); }
+
+    /// The kept control block.
+    const DCB& controlBlock() const { return block_; }
+
+  private:
+    const PortNames& names_;
+    HANDLE handle_ = INVALID_HANDLE_VALUE;
+    DCB block_{};
+    OVERLAPPED overlapped_{};
+};
+
+}  // namespace velmora

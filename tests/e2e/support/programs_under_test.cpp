@@ -1,0 +1,135 @@
+#include "e2e/support/programs_under_test.h"
+
+#include <signal.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <stdexcept>
+#include <string_view>
+
+namespace velmora::e2e {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string variable(const char* name) {
+    const char* const value = std::getenv(name);
+    return value != nullptr ? value : "";
+}
+
+class NativePrograms : public ProgramsUnderTest {
+  public:
+    bool windows() const override { return false; }
+
+    std::vector<std::string> command(const std::string& program,
+                                     const std::vector<std::string>& arguments) const override {
+        std::vector<std::string> words = {std::string(VELMORA_BIN_DIR) + "/" + program};
+        words.insert(words.end(), arguments.begin(), arguments.end());
+        return words;
+    }
+    std::string path(const fs::path& path) const override { return path.string(); }
+    std::string port(const std::string& device) override { return device; }
+    std::map<std::string, std::string> environment(const fs::path& home,
+                                                   const std::string& zone) const override {
+        return {{"HOME", home.string()},
+                {"XDG_CONFIG_HOME", (home / "config").string()},
+                {"TMPDIR", (home / "tmp").string()},
+                {"TZ", zone},
+                {"LC_ALL", "C.UTF-8"}};
+    }
+    fs::path configuration(const fs::path& home) const override {
+        fs::create_directories(home / "config");
+        return home / "config" / "Velmora.ini";
+    }
+    void stop(const Process& process) const override { process.signal(SIGTERM); }
+};
+
+class WinePrograms : public ProgramsUnderTest {
+  public:
+    WinePrograms(fs::path folder, fs::path prefix) : folder_(std::move(folder)), prefix_(std::move(prefix)) {
+        // The prefix outlives a test; its configuration must not.
+        fs::remove(applicationData() / "Velmora.ini");
+    }
+    ~WinePrograms() override {
+        std::error_code ignored;
+        for (const fs::path& link : links_) {
+            fs::remove(link, ignored);
+        }
+        fs::remove(applicationData() / "Velmora.ini", ignored);
+    }
+
+    bool windows() const override { return true; }
+
+    std::vector<std::string> command(const std::string& program,
+                                     const std::vector<std::string>& arguments) const override {
+        std::vector<std::string> words = {"wine", (folder_ / (program + ".exe")).string()};
+        words.insert(words.end(), arguments.begin(), arguments.end());
+        return words;
+    }
+    /// Drive Z: is this machine's root.
+    std::string path(const fs::path& path) const override {
+        std::string name = "Z:" + path.string();
+        std::replace(name.begin(), name.end(), '/', '\\');
+        return name;
+    }
+    /// A pseudo-terminal's number is its own while it is open, so no two tests make the same port.
+    std::string port(const std::string& device) override {
+        constexpr int kFirstPort = 20;
+        const int number = kFirstPort + std::stoi(fs::path(device).filename().string());
+        const fs::path link = prefix_ / "dosdevices" / ("com" + std::to_string(number));
+        fs::remove(link);
+        fs::create_symlink(device, link);
+        links_.push_back(link);
+        return "COM" + std::to_string(number);
+    }
+    std::map<std::string, std::string> environment(const fs::path& /*home*/,
+                                                   const std::string& zone) const override {
+        return {{"WINEPREFIX", prefix_.string()}, {"WINEDEBUG", "-all"}, {"TZ", zone}, {"LC_ALL", "C.UTF-8"}};
+    }
+    fs::path configuration(const fs::path& /*home*/) const override {
+        return applicationData() / "Velmora.ini";
+    }
+    /// Wine makes an interrupt into Ctrl+C; other signals end the process without its knowledge.
+    void stop(const Process& process) const override { process.signal(SIGINT); }
+
+  private:
+    /// The application-data folder of the prefix's one user.
+    fs::path applicationData() const {
+        for (const fs::directory_entry& user : fs::directory_iterator(prefix_ / "drive_c" / "users")) {
+            if (user.path().filename() != "Public") {
+                return user.path() / "AppData" / "Roaming";
+            }
+        }
+        throw std::runtime_error("the Wine prefix " + prefix_.string() + " has no user");
+    }
+
+    fs::path folder_;
+    fs::path prefix_;
+    std::vector<fs::path> links_;
+};
+
+/// The side whose choice a variable overrides.
+std::unique_ptr<ProgramsUnderTest> side(const char* choice) {
+    const std::string folder = variable("VELMORA_E2E_WINDOWS");
+    if (folder.empty() || variable(choice) == "native") {
+        return std::make_unique<NativePrograms>();
+    }
+    const std::string prefix = variable("WINEPREFIX");
+    if (prefix.empty()) {
+        throw std::runtime_error("VELMORA_E2E_WINDOWS needs WINEPREFIX");
+    }
+    return std::make_unique<WinePrograms>(fs::absolute(folder), fs::absolute(prefix));
+}
+
+}  // namespace
+
+std::unique_ptr<ProgramsUnderTest> ProgramsUnderTest::ofServer() {
+    return side("VELMORA_E2E_SERVER");
+}
+
+std::unique_ptr<ProgramsUnderTest> ProgramsUnderTest::ofOrganiser() {
+    return side("VELMORA_E2E_ORGANISER");
+}
+
+}  // namespace velmora::e2e

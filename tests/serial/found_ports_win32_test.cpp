@@ -1,0 +1,95 @@
+#include "serial/found_ports_win32.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <windows.h>
+
+namespace velmora {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+std::vector<std::string> linesOf(const std::vector<SerialDevice>& devices) {
+    std::vector<std::string> lines;
+    for (const SerialDevice& device : devices) {
+        lines.push_back(std::to_string(device.number) + "|" + device.device + "|" + device.maker + "|" +
+                        device.product);
+    }
+    return lines;
+}
+
+TEST(FoundPortsWin32Test, PortsAreSortedByNumberAndNotByText) {
+    PortNames names;
+    const auto devices = serialDevices({{"COM10", "", ""}, {"COM2", "", ""}, {"COM1", "", ""}}, {}, names);
+    EXPECT_THAT(linesOf(devices), ElementsAre("1|COM1||", "2|COM2||", "10|COM10||"));
+}
+
+TEST(FoundPortsWin32Test, APluggedInDeviceGivesItsPortMakerAndProduct) {
+    PortNames names;
+    const auto devices = serialDevices({{"COM7", "", ""}, {"COM1", "", ""}},
+                                       {{"COM7", "USB Serial Port (COM7)", "Adapters Ltd"}}, names);
+    EXPECT_THAT(linesOf(devices), ElementsAre("1|COM1||", "7|COM7|Adapters Ltd|USB Serial Port"));
+    EXPECT_TRUE(devices[1].mayOpen);
+    EXPECT_EQ(devices[1].groupToJoin, "");
+}
+
+TEST(FoundPortsWin32Test, AMakerIsNotToldTwice) {
+    PortNames names;
+    const auto devices = serialDevices({}, {{"com4", "Adapters USB-to-Serial (COM4)", "Adapters"}}, names);
+    EXPECT_THAT(linesOf(devices), ElementsAre("4|COM4|Adapters|USB-to-Serial"));
+}
+
+TEST(FoundPortsWin32Test, ADeviceThatNoDriverAnnouncedIsListedAndPrintersAreNot) {
+    PortNames names;
+    const auto devices = serialDevices({},
+                                       {{"LPT1", "Printer Port (LPT1)", "(Standard port types)"},
+                                        {"", "Broken adapter", ""},
+                                        {"COM3", "Communications Port (COM3)", "(Standard port types)"}},
+                                       names);
+    EXPECT_THAT(linesOf(devices), ElementsAre("3|COM3|(Standard port types)|Communications Port"));
+}
+
+TEST(FoundPortsWin32Test, APortInBothListsOrTwiceInOneIsOneEntry) {
+    PortNames names;
+    const auto devices =
+        serialDevices({{"COM5", "", ""}, {"COM5", "", ""}, {"", "", ""}},
+                      {{"COM5", "Adapter (COM5)", "A"}, {"COM5", "Other (COM5)", "B"}}, names);
+    EXPECT_THAT(linesOf(devices), ElementsAre("5|COM5|A|Adapter"));
+}
+
+TEST(FoundPortsWin32Test, AnAnnouncedPortOfAnotherNameGetsANumber) {
+    PortNames names;
+    const auto devices = serialDevices({{"VIRT0", "", ""}}, {}, names);
+    EXPECT_THAT(linesOf(devices), ElementsAre("4097|VIRT0||"));
+    EXPECT_EQ(names.device(4097), "VIRT0");
+}
+
+TEST(FoundPortsWin32Test, NothingFoundIsAnEmptyList) {
+    PortNames names;
+    EXPECT_THAT(serialDevices({}, {}, names), IsEmpty());
+}
+
+/// What there is depends on the machine; whatever it is must be in order and fit to be opened by its number.
+TEST(FoundPortsWin32Test, TheMachinesOwnPortsAreInOrderAndKnown) {
+    PortNames names;
+    const std::vector<SerialDevice> devices = listSerialDevices(names);
+    HKEY key = nullptr;
+    DWORD announced = 0;
+    if (RegOpenKeyExA(HKEY_LOCAL_MACHINE, R"(HARDWARE\DEVICEMAP\SERIALCOMM)", 0, KEY_READ, &key) ==
+        ERROR_SUCCESS) {
+        RegQueryInfoKeyA(key, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, &announced, nullptr,
+                         nullptr, nullptr, nullptr);
+        RegCloseKey(key);
+    }
+    EXPECT_GE(devices.size(), announced);
+    int last = 0;
+    for (const SerialDevice& device : devices) {
+        EXPECT_GT(device.number, last);
+        EXPECT_EQ(names.device(device.number), device.device);
+        last = device.number;
+    }
+}
+
+}  // namespace
+}  // namespace velmora
