@@ -1,4 +1,5 @@
-// The registry's values as texts, and back.
+// The registry's values as texts, and back. For source files only: windows.h comes with it, whose macros
+// rename what other headers declare.
 #pragma once
 
 #include <windows.h>
