@@ -4,8 +4,8 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
-#include "apps/console.h"
 #include "organiser/command_line.h"
 #include "organiser/commands.h"
 #include "organiser/device_line.h"
@@ -14,6 +14,7 @@
 #include "organiser/organiser_link.h"
 #include "organiser/progress.h"
 #include "platform/binary_streams.h"
+#include "platform/console_output.h"
 
 namespace {
 
@@ -45,11 +46,11 @@ ExitStatus run(const CommandLine& line) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    const Utf8Console console;
+    const ConsoleOutput output;
     // Contents of files go to standard output as they are.
     useBinaryStandardStreams();
     try {
-        const CommandLine line = parseCommandLine(utf8Arguments(argc, argv));
+        const CommandLine line = parseCommandLine(std::vector<std::string>(argv + 1, argv + argc));
         if (line.command.kind == CommandKind::Help) {
             std::cout << helpText();
             return kDone;

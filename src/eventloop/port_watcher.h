@@ -9,9 +9,9 @@
 
 namespace velmora {
 
-/// Watches the open port where the system has a way to, so that the poll runs as soon as bytes wait instead of
-/// at its next tick. On Windows nothing wakes up: a COM port that is not overlapped has no handle to wait on,
-/// so there the poll's own interval is what it takes.
+/// Watches the open port where the system has a way to, so that the poll runs as soon as bytes wait instead
+/// of at its next tick. On Windows nothing wakes up: a COM port that is not overlapped has no handle to wait
+/// on, so there the poll's own interval is what it takes.
 ///
 /// The poll may be switched off while the link works; the watch then rests with it, since a descriptor that
 /// stays readable would otherwise keep the event loop busy.
