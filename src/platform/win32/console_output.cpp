@@ -4,18 +4,11 @@
 #include <windows.h>
 
 namespace velmora {
-namespace {
-
-bool isConsole(HANDLE stream) {
-    DWORD mode = 0;
-    return GetConsoleMode(stream, &mode) != FALSE;
-}
-
-}  // namespace
 
 // The run-time library's own question (_isatty) takes the null device for a terminal.
 bool isTerminal(std::FILE* stream) {
-    return isConsole(reinterpret_cast<HANDLE>(_get_osfhandle(_fileno(stream))));
+    DWORD mode = 0;
+    return GetConsoleMode(reinterpret_cast<HANDLE>(_get_osfhandle(_fileno(stream))), &mode) != FALSE;
 }
 
 // A console starts with the OEM code page of old, in which the bytes of the ANSI code page are other letters.
