@@ -1,6 +1,6 @@
 #include "organiser/boot_client.h"
 
-#include "base/system_text.h"
+#include "base/byte_text.h"
 #include "organiser/conversation.h"
 #include "services/service_codes.h"
 
@@ -38,7 +38,7 @@ BootCode fetchBootCode(OrganiserLink& link, Progress& progress, std::string_view
     const std::size_t length = word(announced);
     // Only the first request's content counts; the later ones just ask for more.
     const std::string request{static_cast<char>(address / 256), static_cast<char>(address % 256)};
-    const ProgressScope scope(progress, "Loading " + toSystemText(name), length, "bytes");
+    const ProgressScope scope(progress, "Loading " + toUtf8(name), length, "bytes");
     BootCode result;
     amidTransfer([&] {
         while (result.code.size() < length) {

@@ -4,7 +4,6 @@
 #include <string>
 
 #include "base/byte_text.h"
-#include "base/system_text.h"
 #include "organiser/boot_client.h"
 #include "organiser/cells_file.h"
 #include "organiser/conversation.h"
@@ -91,7 +90,7 @@ void Commands::save() {
             const bool adds = command_.mode == FileMode::Append && command_.fileType == kDataFile;
             return !(adds && client.written().sentData);
         });
-    console_.out << "Saved " << toSystemText(command_.name) << ", "
+    console_.out << "Saved " << toUtf8(command_.name) << ", "
                  << (command_.fileType == kDataFile    ? counted(lines.size(), "record")
                      : command_.fileType == kProcedure ? counted(lines.size(), "line")
                                                        : counted(bytes.size(), "byte"))
@@ -114,7 +113,7 @@ void Commands::load() {
         }
     });
     deliver(contents);
-    talk() << "Loaded " << toSystemText(command_.name) << ", " << amount << ".\n";
+    talk() << "Loaded " << toUtf8(command_.name) << ", " << amount << ".\n";
 }
 
 void Commands::dir() {
@@ -122,7 +121,7 @@ void Commands::dir() {
     std::vector<std::string> names;
     attempts_.run([&] { names = client.list(command_.name, command_.longNames); });
     for (const std::string& name : names) {
-        console_.out << toSystemText(name) << '\n';
+        console_.out << toUtf8(name) << '\n';
     }
 }
 
@@ -134,7 +133,7 @@ void Commands::read() {
                                  : client.readBytes(command_.name, command_.seek);
     });
     deliver(contents);
-    talk() << "Read " << toSystemText(command_.name) << ", " << counted(contents.size(), "byte") << ".\n";
+    talk() << "Read " << toUtf8(command_.name) << ", " << counted(contents.size(), "byte") << ".\n";
 }
 
 void Commands::write() {
@@ -163,7 +162,7 @@ void Commands::write() {
                               (command_.seek && command_.seek->from == Seek::From::End);
             return !(adds && client.written().sentData);
         });
-    console_.out << "Wrote " << toSystemText(command_.name) << ", " << counted(bytes.size(), "byte") << ".\n";
+    console_.out << "Wrote " << toUtf8(command_.name) << ", " << counted(bytes.size(), "byte") << ".\n";
 }
 
 void Commands::formats() {
@@ -171,7 +170,7 @@ void Commands::formats() {
     std::vector<SheetFormatEntry> entries;
     attempts_.run([&] { entries = client.formats(); });
     for (const SheetFormatEntry& entry : entries) {
-        console_.out << entry.code << "  " << toSystemText(entry.name) << '\n';
+        console_.out << entry.code << "  " << toUtf8(entry.name) << '\n';
     }
 }
 
@@ -184,7 +183,7 @@ void Commands::stop(const std::string& service, const std::string& effect) {
 void Commands::service() {
     std::string reply;
     attempts_.run([&] { reply = openService(link_, command_.name); });
-    console_.out << toSystemText(command_.name) << " answered " << counted(reply.size(), "byte") << ".\n";
+    console_.out << toUtf8(command_.name) << " answered " << counted(reply.size(), "byte") << ".\n";
     if (!reply.empty()) {
         console_.out << "hex:  " << hexDump(reply) << "\ntext: " << printable(reply) << '\n';
     }
@@ -205,7 +204,7 @@ void Commands::boot() {
     for (const std::size_t length : code.chunks) {
         pieces += (pieces.empty() ? " (" : ", ") + std::to_string(length);
     }
-    talk() << "Loaded " << toSystemText(command_.name) << ", " << counted(code.code.size(), "byte")
+    talk() << "Loaded " << toUtf8(command_.name) << ", " << counted(code.code.size(), "byte")
            << " of code in " << counted(code.chunks.size(), "piece") << pieces << (pieces.empty() ? "" : ")")
            << ".\n";
 }
@@ -214,7 +213,7 @@ void Commands::sheetSave() {
     SheetClient client(link_, console_.progress);
     const auto cells = parseCells(command_.file, readLocalFile(command_.file));
     attempts_.run([&] { client.save(command_.name, command_.sheetFormat, cells); });
-    console_.out << "Saved " << toSystemText(command_.name) << ", " << counted(cells.size(), "cell") << ".\n";
+    console_.out << "Saved " << toUtf8(command_.name) << ", " << counted(cells.size(), "cell") << ".\n";
 }
 
 void Commands::sheetLoad() {
@@ -222,7 +221,7 @@ void Commands::sheetLoad() {
     std::vector<SheetCell> cells;
     attempts_.run([&] { cells = client.load(command_.name, command_.sheetFormat); });
     deliver(joinLines(cellLines(cells), command_.crLf));
-    talk() << "Loaded " << toSystemText(command_.name) << ", " << counted(cells.size(), "cell") << ".\n";
+    talk() << "Loaded " << toUtf8(command_.name) << ", " << counted(cells.size(), "cell") << ".\n";
 }
 
 ExitStatus statusOf(const LinkFailure& failure) {

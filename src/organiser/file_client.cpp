@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "base/system_text.h"
+#include "base/byte_text.h"
 #include "organiser/conversation.h"
 #include "organiser/frame_text.h"
 
@@ -40,7 +40,7 @@ std::string FileClient::readBytes(std::string_view name, const std::optional<See
     }
     std::string bytes;
     for (const std::string& block :
-         readToEnd(link_, progress_, "Reading " + toSystemText(name), kMostData, "messages")) {
+         readToEnd(link_, progress_, "Reading " + toUtf8(name), kMostData, "messages")) {
         bytes += block;
     }
     return bytes;
@@ -48,12 +48,12 @@ std::string FileClient::readBytes(std::string_view name, const std::optional<See
 
 std::vector<std::string> FileClient::readLines(std::string_view name) {
     open(name, FileMode::Read, FileKind::Text);
-    return readToEnd(link_, progress_, "Reading " + toSystemText(name), kMostData, "lines");
+    return readToEnd(link_, progress_, "Reading " + toUtf8(name), kMostData, "lines");
 }
 
 std::vector<std::string> FileClient::list(std::string_view pattern, bool longNames) {
     open(pattern, FileMode::Read, longNames ? FileKind::LongNames : FileKind::ShortNames);
-    return readToEnd(link_, progress_, "Listing " + toSystemText(pattern), kMostName, "names");
+    return readToEnd(link_, progress_, "Listing " + toUtf8(pattern), kMostName, "names");
 }
 
 void FileClient::writeBytes(std::string_view name, FileMode mode, const std::optional<Seek>& seek,
@@ -62,12 +62,12 @@ void FileClient::writeBytes(std::string_view name, FileMode mode, const std::opt
     if (seek) {
         seekTo(*seek);
     }
-    writeAndClose(link_, progress_, "Writing " + toSystemText(name), inChunks(bytes), "messages", written_);
+    writeAndClose(link_, progress_, "Writing " + toUtf8(name), inChunks(bytes), "messages", written_);
 }
 
 void FileClient::writeLines(std::string_view name, FileMode mode, const std::vector<std::string>& lines) {
     open(name, mode, FileKind::Text);
-    writeAndClose(link_, progress_, "Writing " + toSystemText(name), lines, "lines", written_);
+    writeAndClose(link_, progress_, "Writing " + toUtf8(name), lines, "lines", written_);
 }
 
 }  // namespace velmora

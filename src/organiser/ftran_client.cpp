@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "base/system_text.h"
+#include "base/byte_text.h"
 #include "organiser/conversation.h"
 
 namespace velmora {
@@ -13,7 +13,7 @@ std::size_t word(std::string_view bytes, std::size_t at) {
 }
 
 std::string title(std::string_view verb, std::string_view name) {
-    return std::string(verb) + " " + toSystemText(name);
+    return std::string(verb) + " " + toUtf8(name);
 }
 
 /// The type byte of a file image is the file type with its top bit set.

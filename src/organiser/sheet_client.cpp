@@ -4,7 +4,6 @@
 
 #include "base/byte_text.h"
 #include "base/run_time_error.h"
-#include "base/system_text.h"
 #include "organiser/conversation.h"
 
 namespace velmora {
@@ -105,7 +104,7 @@ void SheetClient::sendCells(std::string_view name, const std::vector<SheetCell>&
         rows = std::max(rows, cell.row + 1);
     }
     requestExpecting(link_, std::string{static_cast<char>(columns), static_cast<char>(rows)}, kAccepted);
-    const ProgressScope scope(progress_, "Saving " + toSystemText(name), cells.size(), "cells");
+    const ProgressScope scope(progress_, "Saving " + toUtf8(name), cells.size(), "cells");
     std::size_t done = 0;
     for (const SheetCell& cell : cells) {
         requestExpecting(link_, message(cell), kAccepted);
@@ -122,7 +121,7 @@ std::vector<SheetCell> SheetClient::load(std::string_view name, int format) {
     } catch (const LinkFailure& failure) {
         rethrowImportFailure(failure);
     }
-    const ProgressScope scope(progress_, "Loading " + toSystemText(name), 0, "cells");
+    const ProgressScope scope(progress_, "Loading " + toUtf8(name), 0, "cells");
     return amidTransfer([&] {
         std::vector<SheetCell> cells;
         for (std::string reply = link_.request(kAccepted); reply != kEndOfSheet;

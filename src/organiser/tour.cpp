@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "base/system_text.h"
+#include "base/byte_text.h"
 #include "organiser/boot_client.h"
 #include "organiser/cells_file.h"
 #include "organiser/conversation.h"
@@ -181,7 +181,7 @@ void Tour::folder() {
         attempts_.run([&] { names = file_.list("TOUR*", longNames); });
         std::string text;
         for (const std::string& name : names) {
-            text += " " + toSystemText(name);
+            text += " " + toUtf8(name);
         }
         say((longNames ? "Long names: " : "Short names:") + text);
     }
@@ -192,14 +192,14 @@ void Tour::spreadsheet() {
     attempts_.run([&] { formats = sheet_.formats(); });
     std::string text;
     for (const SheetFormatEntry& format : formats) {
-        text += " " + toSystemText(format.name);
+        text += " " + toUtf8(format.name);
     }
     say("The server writes worksheets as" + text + ".");
     std::vector<SheetCell> received;
     attempts_.run([&] { sheet_.save("TOUR", kWorksheet, kCells); });
     attempts_.run([&] { received = sheet_.load("TOUR", kWorksheet); });
     for (const std::string& line : cellLines(received)) {
-        say("  " + toSystemText(line));
+        say("  " + toUtf8(line));
     }
     compare("The spreadsheet TOUR, 6 cells,", cellLines(kCells), cellLines(received));
 }
