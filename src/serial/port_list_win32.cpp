@@ -1,6 +1,9 @@
+// The first of these has the types of the others.
+// clang-format off
+#include <windows.h>
 #include <devguid.h>
 #include <setupapi.h>
-#include <windows.h>
+// clang-format on
 
 #include <array>
 
