@@ -4,8 +4,8 @@
 #include <memory>
 #include <optional>
 #include <string>
-#include <vector>
 
+#include "apps/console.h"
 #include "organiser/command_line.h"
 #include "organiser/commands.h"
 #include "organiser/device_line.h"
@@ -14,7 +14,6 @@
 #include "organiser/organiser_link.h"
 #include "organiser/progress.h"
 #include "platform/binary_streams.h"
-#include "platform/console_output.h"
 
 namespace {
 
@@ -46,11 +45,11 @@ ExitStatus run(const CommandLine& line) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    const ConsoleOutput output;
+    const Utf8Console console;
     // Contents of files go to standard output as they are.
     useBinaryStandardStreams();
     try {
-        const CommandLine line = parseCommandLine(std::vector<std::string>(argv + 1, argv + argc));
+        const CommandLine line = parseCommandLine(utf8Arguments(argc, argv));
         if (line.command.kind == CommandKind::Help) {
             std::cout << helpText();
             return kDone;

@@ -4,11 +4,10 @@
 #include <array>
 #include <charconv>
 #include <cstddef>
-#include <filesystem>
 #include <string_view>
 
 #include "base/byte_text.h"
-#include "base/system_text.h"
+#include "organiser/local_files.h"
 
 namespace velmora {
 namespace {
@@ -46,7 +45,7 @@ double probability(std::string_view option, std::string_view value) {
 
 /// A name for the server: its bytes are Windows-1252.
 std::string serverName(std::string_view what, std::string_view typed) {
-    const auto name = fromSystemText(typed);
+    const auto name = fromUtf8(typed);
     if (!name) {
         throw UsageError(std::string(what) + ": \"" + std::string(typed) +
                          "\" has a character that the Organiser does not know.");
@@ -54,13 +53,10 @@ std::string serverName(std::string_view what, std::string_view typed) {
     return *name;
 }
 
-/// The last part of a path without its extension. Cut by hand: the library's paths hold UTF-16 on Windows,
-/// and what they give back is not in the encoding that was typed.
+/// The last part of a path without its extension, in UTF-8 as the path is.
 std::string stemOf(const std::string& path) {
-    constexpr bool kWindows = std::filesystem::path::preferred_separator == '\\';
-    const std::string name = path.substr(path.find_last_of(kWindows ? "/\\:" : "/") + 1);
-    const std::size_t dot = name.rfind('.');
-    return dot == 0 ? name : name.substr(0, dot);
+    const std::u8string stem = localPath(path).stem().u8string();
+    return {stem.begin(), stem.end()};
 }
 
 int fileType(std::string_view option, std::string_view value) {

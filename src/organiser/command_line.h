@@ -39,7 +39,7 @@ enum class CommandKind : std::uint8_t {
     Tour,
 };
 
-/// What is to be done. Names of the server's files are Windows-1252 bytes, paths are as they were typed.
+/// What is to be done. Names of the server's files are Windows-1252 bytes, paths are UTF-8.
 struct Command {
     CommandKind kind = CommandKind::Help;
     std::string file;                      ///< FILE or CELLS: a path on this side

@@ -15,9 +15,14 @@ namespace {
 
 }  // namespace
 
+std::filesystem::path localPath(const std::string& path) {
+    // From char8_t nothing is converted where paths are bytes; Windows makes UTF-16 of it.
+    return {std::u8string(path.begin(), path.end())};
+}
+
 std::string readLocalFile(const std::string& path) {
     errno = 0;
-    std::ifstream file(path, std::ios::binary);
+    std::ifstream file(localPath(path), std::ios::binary);
     if (!file) {
         failed(path, "read");
     }
@@ -32,7 +37,7 @@ std::string readLocalFile(const std::string& path) {
 
 void writeLocalFile(const std::string& path, std::string_view bytes) {
     errno = 0;
-    std::ofstream file(path, std::ios::binary | std::ios::trunc);
+    std::ofstream file(localPath(path), std::ios::binary | std::ios::trunc);
     file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     file.close();
     if (!file) {

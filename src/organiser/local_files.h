@@ -1,6 +1,7 @@
 // The user's own files, on the side of the Organiser.
 #pragma once
 
+#include <filesystem>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -13,6 +14,9 @@ class LocalFileError : public std::runtime_error {
   public:
     using std::runtime_error::runtime_error;
 };
+
+/// A path as the system's own: in the program paths are UTF-8, as they were typed.
+std::filesystem::path localPath(const std::string& path);
 
 /// All bytes of a file. Throws LocalFileError.
 std::string readLocalFile(const std::string& path);

@@ -2,8 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <string>
 #include <vector>
+
+#include "support/temp_folder.h"
 
 namespace velmora {
 namespace {
@@ -33,6 +36,14 @@ TEST(LocalFiles, EmptyFileIsReadAsEmpty) {
     const std::string path = testing::TempDir() + "velmora-empty";
     writeLocalFile(path, "");
     EXPECT_EQ(readLocalFile(path), "");
+}
+
+TEST(LocalFiles, NameInUtf8IsTheFileOfThatName) {
+    const test::TempFolder folder;
+    const std::string path = folder.path() + "/Gr\xC3\xB6\xC3\x9F" + "e.txt";
+    writeLocalFile(path, "x");
+    EXPECT_TRUE(std::filesystem::exists(std::filesystem::path(folder.path()) / u8"Gr\u00F6\u00DFe.txt"));
+    EXPECT_EQ(readLocalFile(path), "x");
 }
 
 TEST(LocalFiles, FullDiskIsToldAndNotTakenForSuccess) {

@@ -1,19 +1,20 @@
 #include "platform/console_output.h"
 
-#include <io.h>
 #include <windows.h>
 
 namespace velmora {
+namespace {
 
-// The run-time library's own question (_isatty) takes the null device for a terminal.
-bool isTerminal(std::FILE* stream) {
+bool isConsole(DWORD stream) {
     DWORD mode = 0;
-    return GetConsoleMode(reinterpret_cast<HANDLE>(_get_osfhandle(_fileno(stream))), &mode) != FALSE;
+    return GetConsoleMode(GetStdHandle(stream), &mode) != FALSE;
 }
+
+}  // namespace
 
 // A console starts with the OEM code page of old, in which the bytes of the ANSI code page are other letters.
 ConsoleOutput::ConsoleOutput() {
-    if (!isTerminal(stdout) && !isTerminal(stderr)) {
+    if (!isConsole(STD_OUTPUT_HANDLE) && !isConsole(STD_ERROR_HANDLE)) {
         return;
     }
     const UINT earlier = GetConsoleOutputCP();

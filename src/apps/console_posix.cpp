@@ -1,0 +1,18 @@
+#include <unistd.h>
+
+#include "apps/console.h"
+
+namespace velmora {
+
+std::vector<std::string> utf8Arguments(int argc, char** argv) {
+    return {argv + 1, argv + argc};
+}
+
+bool isTerminal(std::FILE* stream) {
+    return ::isatty(::fileno(stream)) != 0;
+}
+
+Utf8Console::Utf8Console() = default;
+Utf8Console::~Utf8Console() = default;
+
+}  // namespace velmora

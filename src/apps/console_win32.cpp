@@ -1,0 +1,59 @@
+#include <io.h>
+#include <windows.h>
+// Needs windows.h before it.
+#include <shellapi.h>
+
+#include <memory>
+
+#include "apps/console.h"
+
+namespace velmora {
+namespace {
+
+std::string utf8Of(const wchar_t* text) {
+    // The length that is told counts the zero behind the text.
+    const int length = WideCharToMultiByte(CP_UTF8, 0, text, -1, nullptr, 0, nullptr, nullptr);
+    if (length <= 0) {
+        return {};
+    }
+    std::string bytes(static_cast<std::size_t>(length), '\0');
+    WideCharToMultiByte(CP_UTF8, 0, text, -1, bytes.data(), length, nullptr, nullptr);
+    bytes.pop_back();
+    return bytes;
+}
+
+}  // namespace
+
+std::vector<std::string> utf8Arguments(int argc, char** argv) {
+    int count = 0;
+    const std::unique_ptr<LPWSTR, decltype(&LocalFree)> wide(CommandLineToArgvW(GetCommandLineW(), &count),
+                                                             LocalFree);
+    if (!wide) {
+        return {argv + 1, argv + argc};
+    }
+    std::vector<std::string> arguments;
+    for (int i = 1; i < count; ++i) {
+        arguments.push_back(utf8Of(wide.get()[i]));
+    }
+    return arguments;
+}
+
+bool isTerminal(std::FILE* stream) {
+    // The C library also takes the null device for a terminal; only a console has a mode.
+    DWORD mode = 0;
+    return GetConsoleMode(reinterpret_cast<HANDLE>(_get_osfhandle(_fileno(stream))), &mode) != FALSE;
+}
+
+Utf8Console::Utf8Console() : before_(GetConsoleOutputCP()) {
+    if (before_ != 0) {
+        SetConsoleOutputCP(CP_UTF8);
+    }
+}
+
+Utf8Console::~Utf8Console() {
+    if (before_ != 0) {
+        SetConsoleOutputCP(before_);
+    }
+}
+
+}  // namespace velmora
