@@ -5,7 +5,6 @@
 #include <optional>
 #include <string>
 
-#include "apps/binary_streams.h"
 #include "apps/console.h"
 #include "organiser/command_line.h"
 #include "organiser/commands.h"
@@ -14,6 +13,7 @@
 #include "organiser/frame_text.h"
 #include "organiser/organiser_link.h"
 #include "organiser/progress.h"
+#include "platform/binary_streams.h"
 
 namespace {
 
@@ -47,7 +47,7 @@ ExitStatus run(const CommandLine& line) {
 int main(int argc, char** argv) {
     const Utf8Console console;
     // Contents of files go to standard output as they are.
-    makeStandardStreamsBinary();
+    useBinaryStandardStreams();
     try {
         const CommandLine line = parseCommandLine(utf8Arguments(argc, argv));
         if (line.command.kind == CommandKind::Help) {
