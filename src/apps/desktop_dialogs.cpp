@@ -1,8 +1,8 @@
 #include "apps/desktop_dialogs.h"
 
 #include "serial/port_list.h"
-#include "ui/qt/c_sh_folder.h"
 #include "ui/qt/frm_setup.h"
+#include "ui/qt/native_folder_browser.h"
 
 namespace velmora {
 
@@ -17,7 +17,7 @@ void DesktopDialogs::runSetup(QWidget& window, SerialPort& port, ServerOptions& 
 }
 
 std::string DesktopDialogs::browseForFolder(QWidget& window, const FolderQuestion& question) {
-    return folderBrowser(&window)(question);
+    return browseForFolderOver(window, question);
 }
 
 void DesktopDialogs::toggleDebugWindow() {

@@ -5,6 +5,7 @@
 #include <cstring>
 #include <system_error>
 
+#include "base/system_text.h"
 #include "platform/known_folders.h"
 #include "serial/open_diagnosis.h"
 
@@ -78,13 +79,13 @@ std::function<void(const std::string&)> HeadlessServer::traceOutput() {
         return {};
     }
     if (!arguments_.traceFile) {
-        return [](const std::string& line) { printLine(stderr, line); };
+        return [](const std::string& line) { printLine(stderr, toSystemText(line)); };
     }
     traceFile_ = std::fopen(arguments_.traceFile->c_str(), "w");
     if (traceFile_ == nullptr) {
         throw std::system_error(errno, std::generic_category(), *arguments_.traceFile);
     }
-    return [this](const std::string& line) { printLine(traceFile_, line); };
+    return [this](const std::string& line) { printLine(traceFile_, toSystemText(line)); };
 }
 
 /// Prints a warning. A server whose port failed ends, and says so in one line.

@@ -5,9 +5,11 @@
 
 #include "files/files_tool.h"
 #include "platform/binary_streams.h"
+#include "platform/console_output.h"
 #include "platform/native.h"
 
 int main(int argc, char** argv) {
+    const velmora::ConsoleOutput console;
     velmora::useBinaryStandardStreams();
     velmora::NativeFiles files(velmora::NativeFolders().temporary());
     const velmora::NativePaths paths(velmora::currentFolder());

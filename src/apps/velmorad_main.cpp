@@ -9,9 +9,11 @@
 #include "apps/headless_server.h"
 #include "apps/server_arguments.h"
 #include "eventloop/stop_signals.h"
+#include "platform/console_output.h"
 
 int main(int argc, char** argv) {
     using namespace velmora;
+    const ConsoleOutput console;
     ServerArguments arguments;
     try {
         arguments = parseServerArguments(std::vector<std::string>(argv + 1, argv + argc));

@@ -2,6 +2,7 @@
 #include <sys/signalfd.h>
 #include <unistd.h>
 
+#include <QSocketNotifier>
 #include <cerrno>
 #include <system_error>
 #include <utility>
@@ -21,7 +22,23 @@ sigset_t stopSet() {
 
 }  // namespace
 
-StopSignals::StopSignals(std::function<void()> handler) : handler_(std::move(handler)) {
+/// The signals, blocked for the program and read from a descriptor.
+class StopSignals::Watch {
+  public:
+    explicit Watch(std::function<void()> handler);
+    ~Watch();
+    Watch(const Watch&) = delete;
+    Watch& operator=(const Watch&) = delete;
+
+  private:
+    void read();
+
+    std::function<void()> handler_;
+    int descriptor_ = -1;
+    std::unique_ptr<QSocketNotifier> notifier_;
+};
+
+StopSignals::Watch::Watch(std::function<void()> handler) : handler_(std::move(handler)) {
     const sigset_t set = stopSet();
     // A signal that is read from a descriptor needs no handler, and so no variable outside this object.
     ::pthread_sigmask(SIG_BLOCK, &set, nullptr);
@@ -33,14 +50,14 @@ StopSignals::StopSignals(std::function<void()> handler) : handler_(std::move(han
     QObject::connect(notifier_.get(), &QSocketNotifier::activated, notifier_.get(), [this] { read(); });
 }
 
-StopSignals::~StopSignals() {
+StopSignals::Watch::~Watch() {
     notifier_.reset();
     ::close(descriptor_);
     const sigset_t set = stopSet();
     ::pthread_sigmask(SIG_UNBLOCK, &set, nullptr);
 }
 
-void StopSignals::read() {
+void StopSignals::Watch::read() {
     signalfd_siginfo info{};
     bool any = false;
     while (::read(descriptor_, &info, sizeof info) == static_cast<ssize_t>(sizeof info)) {
@@ -50,5 +67,9 @@ void StopSignals::read() {
         handler_();
     }
 }
+
+StopSignals::StopSignals(std::function<void()> handler)
+    : watch_(std::make_unique<Watch>(std::move(handler))) {}
+StopSignals::~StopSignals() = default;
 
 }  // namespace velmora

@@ -1,0 +1,86 @@
+#include <windows.h>
+
+#include <QWinEventNotifier>
+#include <mutex>
+#include <system_error>
+#include <utility>
+
+#include "eventloop/end_of_session_win32.h"
+#include "eventloop/stop_signals.h"
+
+namespace velmora {
+namespace {
+
+/// The event that a request sets. Outside of any object since SetConsoleCtrlHandler hands its routine nothing
+/// but the request's kind; behind a lock since the routine runs on a thread that the system makes for it.
+struct {
+    std::mutex lock;
+    HANDLE event = nullptr;
+} requested;
+
+/// Whether the system ends the program once the routine has returned, without waiting for anything else.
+bool endsAfterwards(DWORD request) {
+    return request == CTRL_CLOSE_EVENT || request == CTRL_LOGOFF_EVENT || request == CTRL_SHUTDOWN_EVENT;
+}
+
+BOOL WINAPI noteRequest(DWORD request) {
+    {
+        const std::lock_guard<std::mutex> guard(requested.lock);
+        if (requested.event == nullptr) {
+            return FALSE;
+        }
+        SetEvent(requested.event);
+    }
+    if (endsAfterwards(request)) {
+        // The main thread stops meanwhile; this one ends with the program.
+        Sleep(INFINITE);
+    }
+    return TRUE;
+}
+
+[[noreturn]] void fail(const char* what) {
+    throw std::system_error(static_cast<int>(GetLastError()), std::system_category(), what);
+}
+
+}  // namespace
+
+/// An event that the console's requests set and that the event loop waits for, and the session's end.
+class StopSignals::Watch {
+  public:
+    explicit Watch(std::function<void()> handler) : handler_(std::move(handler)), session_(handler_) {
+        event_ = CreateEventA(nullptr, FALSE, FALSE, nullptr);
+        if (event_ == nullptr) {
+            fail("CreateEvent");
+        }
+        notifier_.setHandle(event_);
+        QObject::connect(&notifier_, &QWinEventNotifier::activated, &notifier_, [this] { handler_(); });
+        notifier_.setEnabled(true);
+        note(event_);
+        SetConsoleCtrlHandler(noteRequest, TRUE);
+    }
+    ~Watch() {
+        SetConsoleCtrlHandler(noteRequest, FALSE);
+        note(nullptr);
+        notifier_.setEnabled(false);
+        CloseHandle(event_);
+    }
+    Watch(const Watch&) = delete;
+    Watch& operator=(const Watch&) = delete;
+
+  private:
+    static void note(HANDLE event) {
+        const std::lock_guard<std::mutex> guard(requested.lock);
+        requested.event = event;
+    }
+
+    std::function<void()> handler_;
+    EndOfSession session_;
+    HANDLE event_ = nullptr;
+    QWinEventNotifier notifier_;
+};
+
+StopSignals::StopSignals(std::function<void()> handler)
+    : watch_(std::make_unique<Watch>(std::move(handler))) {}
+StopSignals::~StopSignals() = default;
+
+}  // namespace velmora

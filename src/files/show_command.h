@@ -18,8 +18,8 @@ enum class FileKind { Worksheet, Dif, DataFile, CsvFile, BlockFile, Procedure, B
 FileKind recogniseFile(std::string_view bytes, const std::string& extension);
 
 /// Prints a file: worksheets as a table with their formulas, data files as records, block files and
-/// procedures with their headers, boot files with their parts. Texts are printed in UTF-8. KIND is wks, dif,
-/// data, csv, block, opl or boot. False when the file is damaged. UsageError, RunTimeError.
+/// procedures with their headers, boot files with their parts. Texts are printed in the system's encoding.
+/// KIND is wks, dif, data, csv, block, opl or boot. False when the file is damaged. UsageError, RunTimeError.
 bool runShowCommand(const std::vector<std::string>& arguments, const FileAccess& access);
 
 }  // namespace velmora

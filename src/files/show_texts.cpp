@@ -6,6 +6,7 @@
 #include <ostream>
 
 #include "base/byte_text.h"
+#include "base/system_text.h"
 #include "files/file_access.h"
 #include "services/block_file.h"
 #include "services/line_reader.h"
@@ -44,7 +45,7 @@ std::string printable(std::string_view windows1252) {
         const auto byte = static_cast<unsigned char>(c);
         c = byte < 32 || byte == 127 ? '.' : c;
     }
-    return toUtf8(text);
+    return toSystemText(text);
 }
 
 void printSheet(const SheetGrid& sheet, std::ostream& out) {

@@ -1,4 +1,4 @@
-// The texts that files are shown as, in UTF-8.
+// The texts that files are shown as, in the system's encoding.
 #pragma once
 
 #include <iosfwd>
@@ -10,7 +10,7 @@
 
 namespace velmora {
 
-/// Windows-1252 bytes as they may go to a terminal: UTF-8, "." for control codes.
+/// Windows-1252 bytes as they may go to a terminal: in the system's encoding, "." for control codes.
 std::string printable(std::string_view windows1252);
 
 /// A table with the letters of the columns above and the numbers of the rows in front; formulas with "=",

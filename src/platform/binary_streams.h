@@ -10,13 +10,14 @@
 
 namespace velmora {
 
-/// Lets standard input and output pass bytes as they are: on Windows they begin in text mode, which changes
-/// line ends and takes byte 26 for the end. To be called before the first use of either; nothing to do on
-/// other systems.
+/// Lets the standard streams pass bytes as they are: on Windows they begin in text mode, which changes line
+/// ends and takes byte 26 for the end. To be called before the first use of any; nothing to do on other
+/// systems.
 inline void useBinaryStandardStreams() {
 #ifdef _WIN32
-    _setmode(_fileno(stdin), _O_BINARY);
-    _setmode(_fileno(stdout), _O_BINARY);
+    for (std::FILE* const stream : {stdin, stdout, stderr}) {
+        _setmode(_fileno(stream), _O_BINARY);
+    }
 #endif
 }
 

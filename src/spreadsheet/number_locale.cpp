@@ -2,11 +2,10 @@
 
 #include <array>
 #include <cmath>
-#include <locale>
-#include <stdexcept>
 
 #include "base/number_text.h"
 #include "spreadsheet/sheet_number_text.h"
+#include "spreadsheet/system_number_signs.h"
 
 namespace velmora {
 namespace {
@@ -66,18 +65,6 @@ char signByte(wchar_t sign, char otherwise) {
     return sign > 0 && sign < 0x80 ? static_cast<char>(sign) : otherwise;
 }
 
-std::optional<NumberLocale> systemLocale(const std::string& name) {
-    try {
-        const std::locale locale(name);
-        const auto& signs = std::use_facet<std::numpunct<wchar_t>>(locale);
-        const bool groups = !signs.grouping().empty();
-        return NumberLocale{signByte(signs.decimal_point(), '.'),
-                            groups ? signByte(signs.thousands_sep(), '\0') : '\0'};
-    } catch (const std::runtime_error&) {
-        return std::nullopt;
-    }
-}
-
 bool isDigit(char c) {
     return c >= '0' && c <= '9';
 }
@@ -133,8 +120,11 @@ void takeSign(std::string_view& text, std::string& number) {
 }  // namespace
 
 std::optional<NumberLocale> namedNumberLocale(const std::string& name) {
-    if (const auto known = systemLocale(name)) {
-        return known;
+    if (const auto known = systemNumberSigns(name)) {
+        const char decimal = signByte(known->decimal, '.');
+        const char thousands = signByte(known->thousands, '\0');
+        // A text of a user who set both signs to the same one is read for its decimal sign.
+        return NumberLocale{decimal, thousands == decimal ? '\0' : thousands};
     }
     std::string wanted = name.substr(0, name.find_first_of(".@"));
     for (char& c : wanted) {

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "base/byte_text.h"
+#include "base/system_text.h"
 
 namespace velmora {
 
@@ -23,7 +24,7 @@ ConsoleView::ConsoleView(PrintLine output, PrintLine errors, ProgramCalls progra
     : output_(std::move(output)), errors_(std::move(errors)), program_(std::move(program)) {}
 
 void ConsoleView::showStatus(const std::string& text) {
-    output_(toUtf8(text));
+    output_(toSystemText(text));
 }
 
 void ConsoleView::showState(std::int32_t state) {
@@ -39,7 +40,7 @@ void ConsoleView::showMessages(const MessageLines& messages) {
     }
     message_ = std::move(text);
     if (!message_.empty()) {
-        (messages.warning ? errors_ : output_)(toUtf8(message_));
+        (messages.warning ? errors_ : output_)(toSystemText(message_));
     }
 }
 

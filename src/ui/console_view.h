@@ -14,7 +14,7 @@ namespace velmora {
 /// for the focus.
 class ConsoleView : public MainView {
   public:
-    /// Takes one line of UTF-8 without its line end.
+    /// Takes one line in the system's encoding without its line end.
     using PrintLine = std::function<void(const std::string& line)>;
 
     /// What the program does on its side; each may be missing.

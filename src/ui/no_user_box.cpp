@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "base/byte_text.h"
+#include "base/system_text.h"
 
 namespace velmora {
 
@@ -19,7 +20,7 @@ std::string oneLine(const std::string& title, const std::string& text) {
             line += ' ';
         }
     }
-    return toUtf8(trimRight(line));
+    return toSystemText(trimRight(line));
 }
 
 }  // namespace

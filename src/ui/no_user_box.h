@@ -11,7 +11,7 @@ namespace velmora {
 /// Prints what a box would have said; every question is answered with No.
 class NoUserBox : public MessageBox {
   public:
-    /// `errors` takes one line of UTF-8 without its line end.
+    /// `errors` takes one line in the system's encoding without its line end.
     explicit NoUserBox(std::function<void(const std::string& line)> errors);
 
     void inform(BoxIcon icon, const std::string& title, const std::string& text) override;

@@ -4,13 +4,15 @@
 
 #include <sstream>
 
+#include "base/system_text.h"
+
 namespace velmora {
 namespace {
 
 using namespace std::string_literals;
 
-TEST(Printable, IsUtf8WithoutControlCodes) {
-    EXPECT_EQ(printable("a\x80\xE4\x07\x7F\0b"s), "a\xE2\x82\xAC\xC3\xA4...b");
+TEST(Printable, HasTheSystemsEncodingAndNoControlCodes) {
+    EXPECT_EQ(printable("a\x80\xE4\x07\x7F\0b"s), toSystemText("a\x80\xE4...b"));
 }
 
 TEST(PrintSheet, IsATableWithLettersAndNumbers) {

@@ -20,6 +20,7 @@ class CommandsTest : public test::ConversationFixture {
         server.serve("TIME", timeService);
         server.serve("PLAN", plan);
     }
+
     std::string path(const std::string& name) const { return directory.path(name); }
     std::string local(const std::string& name, const std::string& contents) {
         writeLocalFile(path(name), contents);
@@ -32,7 +33,7 @@ class CommandsTest : public test::ConversationFixture {
         return runCommand(parseCommandLine(arguments), link(), {out, error, progress});
     }
 
-    const test::TempFolder directory;
+    test::TempFolder directory;
     std::ostringstream out;
     std::ostringstream error;
     test::ScriptedService exitService{test::reply("")};

@@ -2,11 +2,14 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <random>
 
+#include "base/number_text.h"
 #include "base/run_time_error.h"
 #include "spreadsheet/dif_writer.h"
 #include "spreadsheet/sample_file.h"
+#include "support/number_cases.h"
 
 namespace velmora {
 namespace {
@@ -53,6 +56,15 @@ TEST(DifReader, TextsStandInQuotes) {
     EXPECT_EQ(cellOf("1,0\n\"abc\"\n"), Cell(Label{"abc"}));
     EXPECT_EQ(cellOf("1,0\n\"a \"b\" c\"\n"), Cell(Label{"a \"b\" c"})) << "up to the last quote";
     EXPECT_EQ(cellOf("1,0\n\"" + std::string(300, 'x') + "\"\n"), Cell(Label{std::string(250, 'x')}));
+}
+
+TEST(DifReader, ReadsEveryNumberThatIsWritten) {
+    for (const test::NumberText& row : test::numberTexts()) {
+        const double value = numericValue(row.plain);
+        if (std::isfinite(value)) {
+            EXPECT_EQ(cellOf(std::string("0,") + row.plain + "\nV\n"), Cell(value)) << row.plain;
+        }
+    }
 }
 
 TEST(DifReader, EmptyTextsAndTextsWithoutQuotesStoreNothing) {

@@ -4,6 +4,8 @@
 
 #include <limits>
 
+#include "support/number_cases.h"
+
 namespace velmora {
 namespace {
 
@@ -29,6 +31,15 @@ TEST(DifWriter, EachKindOfCell) {
     EXPECT_EQ(writeDif(sheet), header(3, 2) + kBeginOfTuple +
                                    "0,-5\r\nV\r\n0,0.5\r\nV\r\n1,0\r\n\"two words\"\r\n" + kBeginOfTuple +
                                    "1,0\r\n\"\"\r\n1,0\r\n\"A1+1\"\r\n0,1E+20\r\nV\r\n" + kEndOfData);
+}
+
+TEST(DifWriter, NumbersHaveTheirPlainForm) {
+    for (const test::NumberText& row : test::numberTexts()) {
+        SheetGrid sheet(1, 1);
+        sheet.at({0, 0}) = row.value;
+        EXPECT_EQ(writeDif(sheet),
+                  header(1, 1) + kBeginOfTuple + "0," + row.plain + "\r\nV\r\n" + kEndOfData);
+    }
 }
 
 TEST(DifWriter, WhatIsNoNumberIsAnError) {

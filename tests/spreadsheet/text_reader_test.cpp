@@ -2,10 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <random>
 
+#include "base/number_text.h"
 #include "spreadsheet/sample_file.h"
 #include "spreadsheet/text_writer.h"
+#include "support/number_cases.h"
 
 namespace velmora {
 namespace {
@@ -47,6 +50,22 @@ TEST(FieldCell, NumbersAreWholeOrDouble) {
     EXPECT_EQ(fieldCell("1,234", kEnglish), whole(1234));
     EXPECT_EQ(fieldCell("\"7\"", kEnglish), whole(7));
     EXPECT_EQ(fieldCell("0,5", kGerman), Cell(0.5));
+}
+
+TEST(FieldCell, ReadsEveryNumberThatIsWritten) {
+    for (const test::NumberText& row : test::numberTexts()) {
+        const double value = numericValue(row.plain);
+        for (const NumberLocale& locale : {kEnglish, kGerman}) {
+            const Cell cell = fieldCell(cellText(Cell(row.value), locale), locale);
+            if (std::isinf(value)) {  // 15 digits of the largest number are larger than it
+                EXPECT_TRUE(std::holds_alternative<Label>(cell)) << row.plain;
+            } else if (value == std::floor(value) && std::abs(value) < 32768) {
+                EXPECT_EQ(cell, whole(static_cast<int>(value))) << row.plain;
+            } else {
+                EXPECT_EQ(cell, Cell(value)) << row.plain;
+            }
+        }
+    }
 }
 
 TEST(FieldCell, EverythingElseIsALabel) {

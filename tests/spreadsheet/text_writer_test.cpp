@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "support/number_cases.h"
+
 namespace velmora {
 namespace {
 
@@ -41,9 +43,15 @@ TEST(TextWriter, TheLocaleGivesTheDecimalSign) {
 }
 
 TEST(TextWriter, NumbersHaveTheirPlainForm) {
-    EXPECT_EQ(cellText(Cell(0.5)), "0.5");
-    EXPECT_EQ(cellText(Cell(1.0)), "1");
-    EXPECT_EQ(cellText(Cell(1e20)), "1E+20");
+    for (const test::NumberText& row : test::numberTexts()) {
+        SheetGrid sheet(1, 1);
+        sheet.at({0, 0}) = row.value;
+        const std::string plain = row.plain;
+        EXPECT_EQ(cellText(Cell(row.value)), plain);
+        EXPECT_EQ(writeCsv(sheet), '"' + plain + "\",\r\n");
+        EXPECT_EQ(writeTabText(sheet), plain + "\t\r\n");
+        EXPECT_EQ(writeFixedText(sheet), plain + " \r\n");
+    }
     EXPECT_EQ(cellText(Cell(std::int16_t{-32768})), "-32768");
     EXPECT_EQ(cellText(Cell()), "");
 }

@@ -4,6 +4,7 @@
 
 #include <vector>
 
+#include "base/system_text.h"
 #include "controller_fixture.h"
 #include "ui/no_user_box.h"
 
@@ -81,9 +82,9 @@ TEST_F(Console, OtherMessagesGoToTheOutput) {
     EXPECT_EQ(output, Lines{"one three"});
 }
 
-TEST_F(Console, TextsArePrintedAsUtf8) {
+TEST_F(Console, TextsArePrintedInTheSystemsEncoding) {
     controller.Display("Gr\xFC\xDF", "");
-    EXPECT_EQ(output, Lines{"Gr\xC3\xBC\xC3\x9F"});
+    EXPECT_EQ(output, Lines{toSystemText("Gr\xFC\xDF")});
 }
 
 TEST_F(Console, CountsInItsLabels) {

@@ -4,6 +4,8 @@
 
 #include <vector>
 
+#include "base/system_text.h"
+
 namespace velmora {
 namespace {
 
@@ -16,14 +18,14 @@ TEST(NoUserBox, AnswersNoWhateverTheDefaultAndSaysWhatItWouldHaveAsked) {
                                                 "Velmora: Really? - nobody to ask, taken as No"}));
 }
 
-TEST(NoUserBox, PrintsAnInformationOnOneLineOfUtf8) {
+TEST(NoUserBox, PrintsAnInformationOnOneLineInTheSystemsEncoding) {
     std::vector<std::string> errors;
     NoUserBox box([&](const std::string& line) { errors.push_back(line); });
     box.inform(BoxIcon::Critical, "Velmora Warning",
                "Folder missing:\r\n   C:\\B\xFC"
                "cher\r\n");
-    EXPECT_EQ(errors, std::vector<std::string>{"Velmora Warning: Folder missing:    C:\\B\xC3\xBC"
-                                               "cher"});
+    EXPECT_EQ(errors, std::vector<std::string>{toSystemText("Velmora Warning: Folder missing:    C:\\B\xFC"
+                                                            "cher")});
 }
 
 }  // namespace

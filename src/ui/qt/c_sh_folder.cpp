@@ -1,7 +1,6 @@
 #include "ui/qt/c_sh_folder.h"
 
 #include <QDir>
-#include <QFile>
 #include <QScreen>
 #include <QStandardPaths>
 #include <QTimer>
@@ -10,18 +9,6 @@
 #include "ui/qt/qt_text.h"
 
 namespace velmora {
-
-namespace {
-
-std::string systemPath(const QString& path) {
-    return QFile::encodeName(path).toStdString();
-}
-
-QString shownPath(const std::string& path) {
-    return QFile::decodeName(path.c_str());
-}
-
-}  // namespace
 
 std::string specialFolder(int number) {
     struct Row {
@@ -50,7 +37,7 @@ std::string specialFolder(int number) {
 void cSHFolder::setDefaultPath(const std::string& path) {
     defaultPath_ = path;
     if (dialog_) {
-        dialog_->setDirectory(shownPath(path));
+        dialog_->setDirectory(qtSystemText(path));
     }
 }
 
@@ -93,7 +80,7 @@ std::string cSHFolder::BrowseForFolder(QWidget* owner, const std::optional<std::
     displayName_.clear();
     FolderDialog::Options options;
     options.prompt = qtText(prompt.value_or(FolderQuestion().prompt));
-    options.root = shownPath(specialFolder(root));
+    options.root = qtSystemText(specialFolder(root));
     options.statusLine = statusTextArea_;
     options.files = includeFiles_;
     options.pathBox = editBox_;
@@ -106,7 +93,7 @@ std::string cSHFolder::BrowseForFolder(QWidget* owner, const std::optional<std::
     setStatusText(statusText_);
     const std::string special = specialFolder(defaultPidl_.value_or(0));
     if (!special.empty()) {
-        dialog.setDirectory(shownPath(special));
+        dialog.setDirectory(qtSystemText(special));
     }
     if (!caption_.empty()) {
         setCaption(caption_);

@@ -291,7 +291,7 @@ void frmMain::showMessages(const MessageLines& messages) {
 }
 
 void frmMain::showAdvice(const std::string& text) {
-    advice_->setText(QString::fromStdString(text));
+    advice_->setText(qtSystemText(text));
     advice_->setAccessibleName(advice_->text());
     const QRect room(0, 0, messageWidth(warningSign_->isVisibleTo(this)), 0);
     advice_->setFixedHeight(

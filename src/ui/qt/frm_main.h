@@ -49,7 +49,7 @@ class frmMain : public QWidget, public MainView {
     void setActions(Actions actions) { actions_ = std::move(actions); }
 
     /// A sentence under the messages that says what to do about the warning; it goes with the messages.
-    /// UTF-8.
+    /// In the system's encoding.
     void showAdvice(const std::string& text);
 
     // MainView

@@ -55,10 +55,10 @@ QColor groundFor(const QColor& mark, const QColor& own) {
 QString describe(const SerialDevice& device) {
     QStringList parts{QStringLiteral("COM%1").arg(device.number)};
     // On Windows the device is called as its port.
-    if (const QString name = QString::fromStdString(device.device); name != parts.front()) {
+    if (const QString name = qtSystemText(device.device); name != parts.front()) {
         parts.append(name);
     }
-    const QString product = QString::fromStdString(device.maker + " " + device.product).trimmed();
+    const QString product = qtSystemText(device.maker + " " + device.product).trimmed();
     if (!product.isEmpty()) {
         parts.append(product);
     }
@@ -334,10 +334,9 @@ void frmSetup::deviceChosen(int row) {
     keepFocus_ = false;
     QString hint;
     if (!device.mayOpen) {
-        hint = QString::fromStdString(device.device) + " may not be opened";
+        hint = qtSystemText(device.device) + " may not be opened";
         if (!device.groupToJoin.empty()) {
-            hint +=
-                ": join the group \"" + QString::fromStdString(device.groupToJoin) + "\" and log in again";
+            hint += ": join the group \"" + qtSystemText(device.groupToJoin) + "\" and log in again";
         }
     }
     lblDeviceHint->setText(hint);

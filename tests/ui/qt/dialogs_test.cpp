@@ -6,7 +6,6 @@
 
 #include "support/accessibility_walk.h"
 #include "support/scripted_port.h"
-#include "ui/qt/c_sh_folder.h"
 #include "ui/qt/frm_setup.h"
 
 namespace velmora {
@@ -40,12 +39,6 @@ class DialogsTest : public QObject {
         late.findChild<QPushButton*>("pbCancel")->click();
         QCOMPARE(port.number, std::int16_t(3));
         QVERIFY(!late.isVisible());
-    }
-    void cancelledFolderIsEmpty() {
-        cSHFolder folder;
-        connect(&folder, &cSHFolder::Initialized, &folder, [&folder] { folder.hWnd()->close(); });
-        QCOMPARE(folder.BrowseForFolder(nullptr), std::string());
-        QVERIFY(!folder.hWnd());
     }
     void setupShutsNobodyOut() {
         frmSetup dialog(port, options, transfer, probe(), {});

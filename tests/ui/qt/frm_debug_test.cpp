@@ -3,6 +3,7 @@
 #include <QAbstractItemModelTester>
 #include <QCheckBox>
 #include <QClipboard>
+#include <QDir>
 #include <QFile>
 #include <QFileDialog>
 #include <QGuiApplication>
@@ -262,7 +263,8 @@ class FrmDebugTest : public QObject {
             box->accept();
         });
         QVERIFY(!window->saveTo(path));
-        QVERIFY2(said.startsWith("The log could not be saved in\n" + path + "\n"), qPrintable(said));
+        QVERIFY2(said.startsWith("The log could not be saved in\n" + QDir::toNativeSeparators(path) + "\n"),
+                 qPrintable(said));
         QVERIFY2(said.endsWith("Choose another folder or name."), qPrintable(said));
     }
 

@@ -1,0 +1,16 @@
+// Texts in the system's narrow encoding: that of paths, arguments and the console.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace velmora {
+
+/// A Windows-1252 text in the system's encoding: UTF-8, or on Windows the ANSI code page, which is taken for
+/// Windows-1252. The five unassigned bytes become U+FFFD in UTF-8.
+std::string toSystemText(std::string_view windows1252);
+/// A text of the system as Windows-1252; nothing when it is not valid or a character has no byte.
+std::optional<std::string> fromSystemText(std::string_view text);
+
+}  // namespace velmora

@@ -1,0 +1,19 @@
+#include <locale>
+#include <stdexcept>
+
+#include "spreadsheet/system_number_signs.h"
+
+namespace velmora {
+
+std::optional<SystemNumberSigns> systemNumberSigns(const std::string& name) {
+    try {
+        const std::locale locale(name);
+        const auto& signs = std::use_facet<std::numpunct<wchar_t>>(locale);
+        const bool groups = !signs.grouping().empty();
+        return SystemNumberSigns{signs.decimal_point(), groups ? signs.thousands_sep() : L'\0'};
+    } catch (const std::runtime_error&) {
+        return std::nullopt;
+    }
+}
+
+}  // namespace velmora

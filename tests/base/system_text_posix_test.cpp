@@ -1,0 +1,19 @@
+#include <gtest/gtest.h>
+
+#include "base/system_text.h"
+
+namespace velmora {
+namespace {
+
+TEST(SystemText, IsUtf8) {
+    EXPECT_EQ(toSystemText("Gr\xFC\xDF \x80\x81"), "Gr\xC3\xBC\xC3\x9F \xE2\x82\xAC\xEF\xBF\xBD");
+    EXPECT_EQ(fromSystemText("Gr\xC3\xBC\xC3\x9F"), "Gr\xFC\xDF");
+}
+
+TEST(SystemText, WhatIsNoUtf8OrHasNoByteIsRefused) {
+    EXPECT_EQ(fromSystemText("Gr\xFC"), std::nullopt);
+    EXPECT_EQ(fromSystemText("\xE4\xB8\xAD"), std::nullopt);
+}
+
+}  // namespace
+}  // namespace velmora
