@@ -1,8 +1,8 @@
 // The shell's real dialog, answered by its own Initialized event. It needs a display.
-#include <commctrl.h>
 #include <gtest/gtest.h>
 #include <shlobj.h>
-#include <windows.h>
+// Needs the system's header before it.
+#include <commctrl.h>
 
 #include <algorithm>
 #include <string>
