@@ -41,6 +41,7 @@ function(velmora_test name)
   # The tests' own code is built often and runs briefly: the optimiser's time would be lost.
   target_compile_options(${name} PRIVATE -O0)
   target_link_libraries(${name} PRIVATE velmora_flags ${ARG_LIBS} GTest::gmock GTest::gtest_main)
+  target_precompile_headers(${name} REUSE_FROM velmora_test_headers)
   set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
   if(CMAKE_CROSSCOMPILING)
     add_test(NAME ${name} COMMAND ${name})

@@ -84,11 +84,18 @@ TEST_F(StopTest, AMissingPortNumberEndsTheServerWithOne) {
 }
 
 TEST_F(StopTest, APortThatAnotherServerHoldsEndsTheSecondWithOne) {
-    startServer();
+    if (serverSide->windows()) {
+        // Wine opens a port twice, but not one that another program of this machine holds.
+        connectCable({"--held"});
+    } else {
+        startServer();
+    }
     const Finished done = finish("velmorad", {"--port", serverPort, "--folder", serverPath(psion)});
     EXPECT_EQ(done.status, 1);
     EXPECT_NE(done.error.find("in use"), std::string::npos) << done.error;
-    EXPECT_EQ(organiser({"formats"}).status, 0) << "the first goes on serving";
+    if (server) {
+        EXPECT_EQ(organiser({"formats"}).status, 0) << "the first goes on serving";
+    }
 }
 
 TEST_F(StopTest, ALineThatGoesAwayEndsTheServerWithOneAndOneLine) {
