@@ -31,17 +31,19 @@ function(velmora_library name)
   target_link_libraries(velmora_${name} PUBLIC velmora_flags ${ARG_LIBS})
 endfunction()
 
-# velmora_test(NAME SOURCES a_test.cpp … [LIBS layer …] [LABELS label …])
+# velmora_test(NAME SOURCES a_test.cpp … [LIBS layer …] [LABELS label …] [TOOLKIT])
 # One GoogleTest program of a folder; each test case becomes a test of its own in CTest. Where another system
 # is emulated the program is one test, since starting it takes longer than what it tests.
 function(velmora_test name)
-  cmake_parse_arguments(ARG "" "" "SOURCES;LIBS;LABELS" ${ARGN})
+  cmake_parse_arguments(ARG "TOOLKIT" "" "SOURCES;LIBS;LABELS" ${ARGN})
   add_executable(${name} ${ARG_SOURCES})
   target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
   # The tests' own code is built often and runs briefly: the optimiser's time would be lost.
   target_compile_options(${name} PRIVATE -O0)
   target_link_libraries(${name} PRIVATE velmora_flags ${ARG_LIBS} GTest::gmock GTest::gtest_main)
-  target_precompile_headers(${name} REUSE_FROM velmora_test_headers)
+  if(NOT ARG_TOOLKIT)  # it has its users compiled in another way (-fPIC)
+    target_precompile_headers(${name} REUSE_FROM velmora_test_headers)
+  endif()
   set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
   if(CMAKE_CROSSCOMPILING)
     add_test(NAME ${name} COMMAND ${name})

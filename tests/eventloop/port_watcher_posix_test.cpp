@@ -1,0 +1,87 @@
+#include <unistd.h>
+
+#include <array>
+
+#include "base/timer.h"
+#include "event_loop_fixture.h"
+#include "eventloop/port_watcher.h"
+#include "eventloop/qt_timer.h"
+
+namespace velmora {
+namespace {
+
+using namespace std::chrono_literals;
+
+/// A pipe in place of a port.
+class PortWatcherTest : public EventLoopFixture {
+  protected:
+    PortWatcherTest() {
+        if (::pipe(ends_.data()) != 0) {
+            throw std::runtime_error("no pipe");
+        }
+    }
+    ~PortWatcherTest() override {
+        ::close(ends_[0]);
+        ::close(ends_[1]);
+    }
+    void bytesCome() const { EXPECT_EQ(::write(ends_[1], "x", 1), 1); }
+    /// Ends the loop after everything that is due.
+    void endSoon() {
+        last_.onTick([] { QCoreApplication::exit(); });
+        last_.setInterval(20ms);
+        last_.setEnabled(true);
+    }
+    int port() const { return ends_[0]; }
+
+  private:
+    std::array<int, 2> ends_{};
+    QtTimer last_;
+};
+
+TEST_F(PortWatcherTest, BytesThatComeWakeItOnceForEachLook) {
+    int woken = 0;
+    PortWatcher watcher([&] { ++woken; });
+    watcher.portOpened(port());
+    run([&] {
+        bytesCome();
+        endSoon();
+    });
+    EXPECT_EQ(woken, 1) << "the bytes were left where they are";
+    run([&] {
+        watcher.setActive(true);
+        endSoon();
+    });
+    EXPECT_EQ(woken, 2);
+    watcher.portClosing(port());
+}
+
+TEST_F(PortWatcherTest, RestsWithThePoll) {
+    PortWatcher watcher([] { FAIL() << "the poll is off"; });
+    WatchedTimer<QtTimer> poll(watcher);
+    poll.setEnabled(true);
+    poll.setEnabled(false);
+    watcher.portOpened(port());
+    run([&] {
+        bytesCome();
+        endSoon();
+    });
+    watcher.portClosing(port());
+}
+
+TEST_F(PortWatcherTest, APortMayBeClosedFromInsideItsOwnEvent) {
+    int woken = 0;
+    PortWatcher watcher([&] {
+        ++woken;
+        watcher.portClosing(port());
+        watcher.setActive(true);
+    });
+    watcher.portOpened(port());
+    run([&] {
+        bytesCome();
+        endSoon();
+    });
+    EXPECT_EQ(woken, 1);
+}
+
+}  // namespace
+}  // namespace velmora
