@@ -7,14 +7,11 @@
 #include <cstdlib>
 #include <limits>
 
+#include "base/ascii.h"
 #include "base/run_time_error.h"
 
 namespace velmora {
 namespace {
-
-bool isDigit(char c) {
-    return c >= '0' && c <= '9';
-}
 
 /// Rounds halves to the even neighbour whatever rounding mode the process is in.
 double roundHalfEven(double value) {

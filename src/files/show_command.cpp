@@ -38,7 +38,7 @@ bool beginsWith(std::string_view bytes, std::string_view start) {
 }
 
 /// The separator that the lines of a file show first; a comma when they show none.
-char separatorOf(std::string_view bytes) {
+char shownSeparator(std::string_view bytes) {
     const std::size_t found = bytes.find_first_of(";,");
     return found == std::string_view::npos ? ',' : bytes[found];
 }
@@ -66,7 +66,7 @@ bool show(FileKind kind, const std::string& bytes, WksDialect dialect, std::ostr
             printRecords(readRecords(file, '\0'), out);
             return true;
         case FileKind::CsvFile:
-            printRecords(readRecords(file, separatorOf(bytes)), out);
+            printRecords(readRecords(file, shownSeparator(bytes)), out);
             return true;
         case FileKind::BlockFile:
             return printBlockFile(bytes, out);

@@ -6,6 +6,7 @@
 #include <tuple>
 #include <utility>
 
+#include "base/ascii.h"
 #include "base/number_text.h"
 #include "organiser/conversation.h"
 #include "organiser/local_files.h"
@@ -15,10 +16,6 @@ namespace {
 
 constexpr std::string_view kBlanks = " \t";
 constexpr std::size_t kPrefix = 3;  // column, row and type precede the text in a message
-
-bool isDigit(char c) {
-    return c >= '0' && c <= '9';
-}
 
 std::size_t skipDigits(std::string_view text, std::size_t at) {
     while (at < text.size() && isDigit(text[at])) {

@@ -4,6 +4,7 @@
 #include <array>
 #include <utility>
 
+#include "base/ascii.h"
 #include "base/byte_text.h"
 #include "platform/path_components.h"
 
@@ -14,10 +15,6 @@ constexpr std::string_view kSeparators = "\\/";
 
 bool isSeparator(char c) {
     return c == '\\' || c == '/';
-}
-
-bool isLetter(char c) {
-    return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
 }
 
 bool beginsWithDrive(std::string_view path) {

@@ -1,11 +1,11 @@
 #include "services/file_service.h"
 
 #include "base/number_text.h"
+#include "services/file_operations.h"
 
 namespace velmora {
 namespace {
 
-enum Operation : std::uint8_t { Open = 0, Close = 1, Write = 2, Read = 3, Seek = 4 };
 enum SeekMode : int { FromStart = 0, FromPosition = 1, FromEnd = 2 };
 
 /// The number with at least eight digits.
@@ -21,20 +21,20 @@ std::string eightDigits(std::int32_t number) {
 }  // namespace
 
 void FileService::request(std::uint8_t operation, std::string_view argument) {
-    switch (operation) {
-        case Open:
+    switch (FileOperation{operation}) {
+        case FileOperation::Open:
             open(argument);
             break;
-        case Close:
+        case FileOperation::Close:
             close();
             break;
-        case Write:
+        case FileOperation::Write:
             writeAndReply(argument);
             break;
-        case Read:
+        case FileOperation::Read:
             readAndReply(argument);
             break;
-        case Seek:
+        case FileOperation::Seek:
             seek(argument);
             break;
         default:

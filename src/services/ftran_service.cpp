@@ -2,12 +2,11 @@
 
 #include "base/byte_text.h"
 #include "services/block_file.h"
+#include "services/file_operations.h"
 #include "services/procedure_image.h"
 
 namespace velmora {
 namespace {
-
-enum Operation : std::uint8_t { Open = 0, Close = 1, Write = 2, Read = 3 };
 
 constexpr int kTypeData = 0;
 constexpr int kTypeProcedure = 1;
@@ -45,17 +44,17 @@ bool hasExtension(std::string_view name) {
 }  // namespace
 
 void FtranService::request(std::uint8_t operation, std::string_view argument) {
-    switch (operation) {
-        case Open:
+    switch (FileOperation{operation}) {
+        case FileOperation::Open:
             open(argument);
             break;
-        case Close:
+        case FileOperation::Close:
             closeRequest();
             break;
-        case Write:
+        case FileOperation::Write:
             write(argument);
             break;
-        case Read:
+        case FileOperation::Read:
             read(argument);
             break;
         default:

@@ -2,14 +2,11 @@
 
 #include <optional>
 
+#include "base/ascii.h"
 #include "base/byte_text.h"
 
 namespace velmora {
 namespace {
-
-bool isLetter(char c) {
-    return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
-}
 
 /// Whether a folder is written with this drive letter.
 bool liesOnDrive(const std::string& folder, char letter) {

@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "base/ascii.h"
 #include "base/byte_text.h"
 #include "base/run_time_error.h"
 #include "spreadsheet/formula_tables.h"
@@ -13,13 +14,6 @@
 
 namespace velmora {
 namespace {
-
-bool isLetter(char c) {
-    return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
-}
-bool isDigit(char c) {
-    return c >= '0' && c <= '9';
-}
 
 /// The pieces of an argument list, cut at every ",".
 std::vector<std::string_view> splitAtCommas(std::string_view list) {
@@ -88,9 +82,9 @@ class ParenthesesNeeded {
     std::int16_t pending_ = kOperandPrecedence;  // rank of the operand just closed, if it may need a mark yet
 };
 
-class Conversion {
+class InfixConversion {
   public:
-    Conversion(std::string_view infix, WksDialect dialect, int nesting)
+    InfixConversion(std::string_view infix, WksDialect dialect, int nesting)
         : text_(infix), dialect_(dialect), nesting_(nesting) {
         if (nesting > kDeepestCall) {
             throw RunTimeError(ErrorNumber::SubscriptOutOfRange, "the formula's calls are nested too deep");
@@ -231,7 +225,7 @@ class Conversion {
         std::size_t count = 0;
         if (!list.empty()) {
             for (const std::string_view part : isCommon() ? splitArguments(list) : splitAtCommas(list)) {
-                const std::string argument = Conversion(part, dialect_, nesting_ + 1).run();
+                const std::string argument = InfixConversion(part, dialect_, nesting_ + 1).run();
                 if (!argument.empty()) {
                     emit(argument);
                 }
@@ -343,7 +337,7 @@ class Conversion {
 }  // namespace
 
 std::string InfixToRpn(std::string_view infix, WksDialect dialect) {
-    return Conversion(infix, dialect, 0).run();
+    return InfixConversion(infix, dialect, 0).run();
 }
 
 }  // namespace velmora

@@ -3,6 +3,7 @@
 #include <array>
 #include <cmath>
 
+#include "base/ascii.h"
 #include "base/number_text.h"
 #include "spreadsheet/sheet_number_text.h"
 #include "spreadsheet/system_number_signs.h"
@@ -63,10 +64,6 @@ char signByte(wchar_t sign, char otherwise) {
         return '\'';
     }
     return sign > 0 && sign < 0x80 ? static_cast<char>(sign) : otherwise;
-}
-
-bool isDigit(char c) {
-    return c >= '0' && c <= '9';
 }
 
 /// Whether a blank of a text counts as the separator: users type the ordinary blank for the other one.

@@ -4,6 +4,7 @@
 #include <utility>
 #include <vector>
 
+#include "base/ascii.h"
 #include "base/number_text.h"
 #include "spreadsheet/formula_tables.h"
 #include "spreadsheet/operand_stack.h"
@@ -13,16 +14,13 @@ namespace {
 
 constexpr const char* kError = "ERR";
 
-bool isLetter(char c) {
-    return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
-}
 bool isNumberByte(char c) {
     return (c >= '0' && c <= '9') || c == '.' || c == 'E' || c == '+' || c == '-';
 }
 
-class Conversion {
+class PostfixConversion {
   public:
-    Conversion(std::string_view postfix, WksDialect dialect) : text_(postfix), dialect_(dialect) {}
+    PostfixConversion(std::string_view postfix, WksDialect dialect) : text_(postfix), dialect_(dialect) {}
 
     std::string run() {
         while (position_ < text_.size()) {
@@ -179,7 +177,7 @@ class Conversion {
 }  // namespace
 
 std::string RpnToInfix(std::string_view postfix, WksDialect dialect) {
-    return Conversion(postfix, dialect).run();
+    return PostfixConversion(postfix, dialect).run();
 }
 
 }  // namespace velmora

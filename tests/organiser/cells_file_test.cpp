@@ -28,12 +28,12 @@ TEST(CellsFile, NumbersMayHaveSignPointAndExponent) {
     }
 }
 
-struct BadRow {
+struct BadCell {
     const char* name;
     std::string text;
     const char* problem;
 };
-class BadCells : public testing::TestWithParam<BadRow> {};
+class BadCells : public testing::TestWithParam<BadCell> {};
 
 TEST_P(BadCells, AreToldWithFileAndLine) {
     try {
@@ -48,16 +48,16 @@ TEST_P(BadCells, AreToldWithFileAndLine) {
 INSTANTIATE_TEST_SUITE_P(
     Lines, BadCells,
     testing::Values(
-        BadRow{"Nothing", "", "holds no cell"}, BadRow{"OnlyComments", "# x\n", "holds no cell"},
-        BadRow{"RowZero", "A0 1", "\"A0\" is no cell"}, BadRow{"RowHundred", "A100 1", "is no cell"},
-        BadRow{"TwoLetters", "AA1 1", "is no cell"}, BadRow{"NoReference", "1 1", "is no cell"},
-        BadRow{"NoRow", "A 1", "is no cell"}, BadRow{"LeadingBlank", " A1 1", "is no cell"},
-        BadRow{"NoContent", "A1", "is no number"}, BadRow{"Word", "A1 word", "is no number"},
-        BadRow{"Hexadecimal", "A1 0x10", "is no number"}, BadRow{"Infinity", "A1 inf", "is no number"},
-        BadRow{"TwoPoints", "A1 1.2.3", "is no number"}, BadRow{"BareExponent", "A1 1E", "is no number"},
-        BadRow{"OnlyASign", "A1 -", "is no number"},
-        BadRow{"Twice", "A1 1\nB1 2\na1 3", "line 3: A1 was given before"},
-        BadRow{"TooLong", "A1 '" + std::string(248, 'x'), "longer than the 247"}),
+        BadCell{"Nothing", "", "holds no cell"}, BadCell{"OnlyComments", "# x\n", "holds no cell"},
+        BadCell{"RowZero", "A0 1", "\"A0\" is no cell"}, BadCell{"RowHundred", "A100 1", "is no cell"},
+        BadCell{"TwoLetters", "AA1 1", "is no cell"}, BadCell{"NoReference", "1 1", "is no cell"},
+        BadCell{"NoRow", "A 1", "is no cell"}, BadCell{"LeadingBlank", " A1 1", "is no cell"},
+        BadCell{"NoContent", "A1", "is no number"}, BadCell{"Word", "A1 word", "is no number"},
+        BadCell{"Hexadecimal", "A1 0x10", "is no number"}, BadCell{"Infinity", "A1 inf", "is no number"},
+        BadCell{"TwoPoints", "A1 1.2.3", "is no number"}, BadCell{"BareExponent", "A1 1E", "is no number"},
+        BadCell{"OnlyASign", "A1 -", "is no number"},
+        BadCell{"Twice", "A1 1\nB1 2\na1 3", "line 3: A1 was given before"},
+        BadCell{"TooLong", "A1 '" + std::string(248, 'x'), "longer than the 247"}),
     [](const auto& row) { return std::string(row.param.name); });
 
 TEST(CellsFile, LongestTextPasses) {

@@ -88,12 +88,12 @@ TEST(OrganiserCommandLine, HelpNeedsNothingElse) {
     EXPECT_NE(helpText().find("sheet-save"), std::string::npos);
 }
 
-struct BadRow {
+struct BadArguments {
     const char* name;
     std::vector<std::string> arguments;
     const char* problem;
 };
-class BadCommandLine : public testing::TestWithParam<BadRow> {};
+class BadCommandLine : public testing::TestWithParam<BadArguments> {};
 
 TEST_P(BadCommandLine, IsToldClearly) {
     try {
@@ -107,35 +107,35 @@ TEST_P(BadCommandLine, IsToldClearly) {
 INSTANTIATE_TEST_SUITE_P(
     Rows, BadCommandLine,
     testing::Values(
-        BadRow{"NoCommand", {}, "A command is missing."},
-        BadRow{"UnknownCommand", {"sing"}, "no command \"sing\""},
-        BadRow{"UnknownOption", {"time", "--loud"}, "no option --loud"},
-        BadRow{"NoValue", {"time", "--baud"}, "--baud needs a value"},
-        BadRow{"ValueForASwitch", {"time", "--trace=1"}, "--trace takes no value"},
-        BadRow{"StrangeSpeed", {"time", "--baud", "9601"}, "\"9601\" is not a line speed"},
-        BadRow{"ProbabilityAboveOne", {"time", "--drop", "1.5"}, "not a probability"},
-        BadRow{"NegativeProbability", {"time", "--drop", "-0.1"}, "not a probability"},
-        BadRow{"ProbabilityNan", {"time", "--corrupt", "nan"}, "not a probability"},
-        BadRow{"NegativeSeed", {"time", "--seed", "-1"}, "not a whole number"},
-        BadRow{"NegativeDelay", {"time", "--delay", "-1"}, "not a number of milliseconds"},
-        BadRow{"NoTries", {"time", "--tries", "0"}, "from 1 to 100"},
-        BadRow{"BlockTypeOne", {"save", "f", "--type", "block:1"}, "block:2 to block:16"},
-        BadRow{"BlockTypeSeventeen", {"save", "f", "--type", "block:17"}, "block:2 to block:16"},
-        BadRow{"UnknownType", {"save", "f", "--type", "photo"}, "block:2 to block:16"},
-        BadRow{"ModeFive", {"save", "f", "--mode", "5"}, "0 to 4"},
-        BadRow{"SeekModeThree", {"read", "N", "--seek", "3:0"}, "MODE:OFFSET"},
-        BadRow{"SeekWithoutOffset", {"read", "N", "--seek", "2:"}, "MODE:OFFSET"},
-        BadRow{"SeekInText", {"read", "N", "--seek", "0:1", "--text"}, "does not go with --text"},
-        BadRow{"AddressTooLarge", {"boot", "N", "--address", "10000"}, "address in hexadecimal"},
-        BadRow{"BootWithoutAddress", {"boot", "N"}, "boot needs --address"},
-        BadRow{"SheetWithoutFormat", {"sheet-load", "N"}, "sheet-load needs --format"},
-        BadRow{"SheetWithoutName", {"sheet-save", "f", "--format", "wks"}, "sheet-save needs --as"},
-        BadRow{"UnknownFormat", {"sheet-load", "N", "--format", "xls"}, "wks, dif, csv, txt or tab"},
-        BadRow{"OptionOfAnotherCommand", {"time", "--long"}, "--long does not go with time"},
-        BadRow{"TooMuch", {"load", "A", "B"}, "It is: load NAME"},
-        BadRow{"TooLittle", {"write", "A"}, "It is: write NAME FILE"},
-        BadRow{"ForeignCharacter", {"load", "\xE2\x98\x83"}, "does not know"},
-        BadRow{"BrokenUtf8", {"load", "\xC3"}, "does not know"}),
+        BadArguments{"NoCommand", {}, "A command is missing."},
+        BadArguments{"UnknownCommand", {"sing"}, "no command \"sing\""},
+        BadArguments{"UnknownOption", {"time", "--loud"}, "no option --loud"},
+        BadArguments{"NoValue", {"time", "--baud"}, "--baud needs a value"},
+        BadArguments{"ValueForASwitch", {"time", "--trace=1"}, "--trace takes no value"},
+        BadArguments{"StrangeSpeed", {"time", "--baud", "9601"}, "\"9601\" is not a line speed"},
+        BadArguments{"ProbabilityAboveOne", {"time", "--drop", "1.5"}, "not a probability"},
+        BadArguments{"NegativeProbability", {"time", "--drop", "-0.1"}, "not a probability"},
+        BadArguments{"ProbabilityNan", {"time", "--corrupt", "nan"}, "not a probability"},
+        BadArguments{"NegativeSeed", {"time", "--seed", "-1"}, "not a whole number"},
+        BadArguments{"NegativeDelay", {"time", "--delay", "-1"}, "not a number of milliseconds"},
+        BadArguments{"NoTries", {"time", "--tries", "0"}, "from 1 to 100"},
+        BadArguments{"BlockTypeOne", {"save", "f", "--type", "block:1"}, "block:2 to block:16"},
+        BadArguments{"BlockTypeSeventeen", {"save", "f", "--type", "block:17"}, "block:2 to block:16"},
+        BadArguments{"UnknownType", {"save", "f", "--type", "photo"}, "block:2 to block:16"},
+        BadArguments{"ModeFive", {"save", "f", "--mode", "5"}, "0 to 4"},
+        BadArguments{"SeekModeThree", {"read", "N", "--seek", "3:0"}, "MODE:OFFSET"},
+        BadArguments{"SeekWithoutOffset", {"read", "N", "--seek", "2:"}, "MODE:OFFSET"},
+        BadArguments{"SeekInText", {"read", "N", "--seek", "0:1", "--text"}, "does not go with --text"},
+        BadArguments{"AddressTooLarge", {"boot", "N", "--address", "10000"}, "address in hexadecimal"},
+        BadArguments{"BootWithoutAddress", {"boot", "N"}, "boot needs --address"},
+        BadArguments{"SheetWithoutFormat", {"sheet-load", "N"}, "sheet-load needs --format"},
+        BadArguments{"SheetWithoutName", {"sheet-save", "f", "--format", "wks"}, "sheet-save needs --as"},
+        BadArguments{"UnknownFormat", {"sheet-load", "N", "--format", "xls"}, "wks, dif, csv, txt or tab"},
+        BadArguments{"OptionOfAnotherCommand", {"time", "--long"}, "--long does not go with time"},
+        BadArguments{"TooMuch", {"load", "A", "B"}, "It is: load NAME"},
+        BadArguments{"TooLittle", {"write", "A"}, "It is: write NAME FILE"},
+        BadArguments{"ForeignCharacter", {"load", "\xE2\x98\x83"}, "does not know"},
+        BadArguments{"BrokenUtf8", {"load", "\xC3"}, "does not know"}),
     [](const auto& row) { return std::string(row.param.name); });
 
 TEST(OrganiserCommandLine, DeviceIsNeeded) {

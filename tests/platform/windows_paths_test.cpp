@@ -5,18 +5,18 @@
 namespace velmora {
 namespace {
 
-const WindowsPaths kRules("C:\\Users\\Anna");
+const WindowsPaths kWindowsRules("C:\\Users\\Anna");
 
 TEST(WindowsPaths, HaveBackslashesAndDrives) {
-    EXPECT_EQ(kRules.separator(), '\\');
-    EXPECT_TRUE(kRules.hasDrives());
+    EXPECT_EQ(kWindowsRules.separator(), '\\');
+    EXPECT_TRUE(kWindowsRules.hasDrives());
 }
 
 TEST(WindowsPaths, KeepOrganiserNamesAsTheyAre) {
-    EXPECT_EQ(kRules.fromOrganiser("C:\\SUB\\\xC4RGER.TXT"), "C:\\SUB\\\xC4RGER.TXT");
-    EXPECT_EQ(kRules.fromOrganiser("SUB/FILE"), "SUB\\FILE");
-    EXPECT_EQ(kRules.fromOrganiser("..\\*.OD?"), "..\\*.OD?");
-    EXPECT_EQ(kRules.fromOrganiser("\\\\server\\share\\X"), "\\\\server\\share\\X");
+    EXPECT_EQ(kWindowsRules.fromOrganiser("C:\\SUB\\\xC4RGER.TXT"), "C:\\SUB\\\xC4RGER.TXT");
+    EXPECT_EQ(kWindowsRules.fromOrganiser("SUB/FILE"), "SUB\\FILE");
+    EXPECT_EQ(kWindowsRules.fromOrganiser("..\\*.OD?"), "..\\*.OD?");
+    EXPECT_EQ(kWindowsRules.fromOrganiser("\\\\server\\share\\X"), "\\\\server\\share\\X");
 }
 
 TEST(WindowsPaths, RefuseNamesThatNoFileCanHave) {
@@ -58,29 +58,29 @@ TEST(WindowsPaths, RefuseNamesThatNoFileCanHave) {
         "\\\\\\share\\X",
     };
     for (const std::string& name : names) {
-        EXPECT_FALSE(kRules.fromOrganiser(name)) << name;
+        EXPECT_FALSE(kWindowsRules.fromOrganiser(name)) << name;
     }
 }
 
 TEST(WindowsPaths, TakeNamesThatOnlyLookLikeDevices) {
     for (const char* name :
          {"CONTACTS", "COM", "COM12", "LPTX", "NULL.TXT", "X.CON", ".", "..", "A.", "\xC7ON"}) {
-        EXPECT_EQ(kRules.fromOrganiser(name), name);
+        EXPECT_EQ(kWindowsRules.fromOrganiser(name), name);
     }
 }
 
 TEST(WindowsPaths, GiveOrganiserBytesOfWhatHasACharacter) {
-    EXPECT_EQ(kRules.toOrganiser("\xC4rger"), "\xC4rger");
-    EXPECT_FALSE(kRules.toOrganiser("\x81"));
+    EXPECT_EQ(kWindowsRules.toOrganiser("\xC4rger"), "\xC4rger");
+    EXPECT_FALSE(kWindowsRules.toOrganiser("\x81"));
 }
 
 TEST(WindowsPaths, JoinWithExactlyOneSeparator) {
-    EXPECT_EQ(kRules.join("C:\\Psion", "Memo"), "C:\\Psion\\Memo");
-    EXPECT_EQ(kRules.join("C:\\Psion\\", "\\Memo"), "C:\\Psion\\Memo");
-    EXPECT_EQ(kRules.join("C:/Psion/", "Memo"), "C:/Psion\\Memo");
-    EXPECT_EQ(kRules.join("C:", "\\TEMP\\X"), "C:\\TEMP\\X");
-    EXPECT_EQ(kRules.join("C:\\", "X"), "C:\\X");
-    EXPECT_EQ(kRules.join("", "X"), "X");
+    EXPECT_EQ(kWindowsRules.join("C:\\Psion", "Memo"), "C:\\Psion\\Memo");
+    EXPECT_EQ(kWindowsRules.join("C:\\Psion\\", "\\Memo"), "C:\\Psion\\Memo");
+    EXPECT_EQ(kWindowsRules.join("C:/Psion/", "Memo"), "C:/Psion\\Memo");
+    EXPECT_EQ(kWindowsRules.join("C:", "\\TEMP\\X"), "C:\\TEMP\\X");
+    EXPECT_EQ(kWindowsRules.join("C:\\", "X"), "C:\\X");
+    EXPECT_EQ(kWindowsRules.join("", "X"), "X");
 }
 
 TEST(WindowsPaths, AreTakenApart) {
@@ -110,9 +110,9 @@ TEST(WindowsPaths, AreTakenApart) {
         {"//s/h/a", "//s/h", "//s/h/", "a"},
     };
     for (const auto& row : rows) {
-        EXPECT_EQ(kRules.drive(row.path), row.drive) << row.path;
-        EXPECT_EQ(kRules.parentFolder(row.path), row.parent) << row.path;
-        EXPECT_EQ(kRules.lastComponent(row.path), row.last) << row.path;
+        EXPECT_EQ(kWindowsRules.drive(row.path), row.drive) << row.path;
+        EXPECT_EQ(kWindowsRules.parentFolder(row.path), row.parent) << row.path;
+        EXPECT_EQ(kWindowsRules.lastComponent(row.path), row.last) << row.path;
     }
 }
 
@@ -138,7 +138,7 @@ TEST(WindowsPaths, BecomeAbsolute) {
         {"//s/h/a", "\\\\s\\h\\a"},
     };
     for (const auto& row : rows) {
-        EXPECT_EQ(kRules.absolute(row.path), row.absolute) << row.path;
+        EXPECT_EQ(kWindowsRules.absolute(row.path), row.absolute) << row.path;
     }
 }
 

@@ -12,23 +12,21 @@
 namespace velmora {
 namespace {
 
+using test::a1;
 using test::absoluteRef;
+using test::b1;
 using test::bytes;
+using test::c1;
 using test::end;
 using test::integer;
+using test::kC1;
 using test::number;
 using test::ref;
-
-constexpr CellPosition kC1{0, 2};
 
 /// Decodes tokens of a formula in C1.
 std::string decode(const std::string& tokens) {
     return DecodeFormula(tokens, kC1);
 }
-
-const std::string a1 = ref(-2, 0);
-const std::string b1 = ref(-1, 0);
-const std::string c1 = ref(0, 0);
 
 TEST(DecodeFormula, NothingIsAnEmptyFormula) {
     EXPECT_EQ(decode(""), "");

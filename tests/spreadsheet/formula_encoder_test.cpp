@@ -11,22 +11,21 @@
 namespace velmora {
 namespace {
 
+using test::a1;
 using test::absoluteRef;
+using test::b1;
 using test::bytes;
 using test::end;
 using test::integer;
+using test::kC1;
 using test::number;
 using test::ref;
-
-constexpr CellPosition kC1{0, 2};
 
 /// Encodes a formula that stands in C1.
 std::string encode(const std::string& text) {
     return EncodeFormula(text, kC1);
 }
 
-const std::string a1 = ref(-2, 0);
-const std::string b1 = ref(-1, 0);
 const std::string error = bytes({32, 3});
 
 TEST(EncodeFormula, EndsWithTheEndToken) {

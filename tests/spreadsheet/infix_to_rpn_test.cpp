@@ -3,25 +3,20 @@
 #include <gtest/gtest.h>
 
 #include "base/run_time_error.h"
+#include "spreadsheet/repeated.h"
 
 namespace velmora {
 namespace {
 
-std::string repeated(const std::string& text, int count) {
-    std::string out;
-    for (int i = 0; i < count; ++i) {
-        out += text;
-    }
-    return out;
-}
+using test::repeated;
 
-struct Row {
+struct InfixRow {
     const char* infix;
     const char* postfix;
 };
 
 TEST(InfixToRpn, PutsOperatorsBehindTheirOperands) {
-    const Row rows[] = {
+    const InfixRow rows[] = {
         {"", ""},
         {"  ", ""},
         {"A1", "A1"},
@@ -41,7 +36,7 @@ TEST(InfixToRpn, PutsOperatorsBehindTheirOperands) {
         {"A1>B1", "A1 B1 >"},
         {"A1&B1|!C1", "A1 B1 C1 ! | &"},
     };
-    for (const Row& row : rows) {
+    for (const InfixRow& row : rows) {
         EXPECT_EQ(InfixToRpn(row.infix), row.postfix) << row.infix;
     }
 }

@@ -4,25 +4,20 @@
 
 #include "base/run_time_error.h"
 #include "spreadsheet/formula_tables.h"
+#include "spreadsheet/repeated.h"
 
 namespace velmora {
 namespace {
 
-std::string repeated(const std::string& text, int count) {
-    std::string out;
-    for (int i = 0; i < count; ++i) {
-        out += text;
-    }
-    return out;
-}
+using test::repeated;
 
-struct Row {
+struct PostfixRow {
     const char* postfix;
     const char* infix;
 };
 
 TEST(RpnToInfix, PutsOperatorsBetweenTheirOperands) {
-    const Row rows[] = {
+    const PostfixRow rows[] = {
         {"", ""},
         {"A1", "A1"},
         {" A1  ", "A1"},
@@ -43,7 +38,7 @@ TEST(RpnToInfix, PutsOperatorsBetweenTheirOperands) {
         {"A1 B1 + _", "-(A1+B1)"},
         {"A1 B1 & C1 |", "A1&B1|C1"},
     };
-    for (const Row& row : rows) {
+    for (const PostfixRow& row : rows) {
         EXPECT_EQ(RpnToInfix(row.postfix), row.infix) << row.postfix;
     }
 }

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "spreadsheet/byte_conversions.h"
+#include "spreadsheet/sheet_grid.h"
 
 namespace velmora::test {
 
@@ -41,6 +42,12 @@ inline std::string string(const std::string& text) {
     return bytes({6}) + text + '\0';
 }
 inline const std::string end = bytes({3});
+
+/// Where the formulas stand that are encoded and decoded, and tokens that refer to A1, B1 and C1 from there.
+constexpr CellPosition kC1{0, 2};
+inline const std::string a1 = ref(-2, 0);
+inline const std::string b1 = ref(-1, 0);
+inline const std::string c1 = ref(0, 0);
 
 /// A record of a worksheet file.
 inline std::string record(int type, const std::string& body) {

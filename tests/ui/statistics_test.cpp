@@ -8,14 +8,14 @@
 namespace velmora {
 namespace {
 
-struct Row {
+struct StatisticsRow {
     const char* name;
     const char* label;
     int amount;
     const char* after;
 };
 
-class ByteCount : public testing::TestWithParam<Row> {};
+class ByteCount : public testing::TestWithParam<StatisticsRow> {};
 
 TEST_P(ByteCount, IsCountedInTheLabel) {
     EXPECT_EQ(addToByteCount(GetParam().label, static_cast<std::int16_t>(GetParam().amount)),
@@ -24,20 +24,27 @@ TEST_P(ByteCount, IsCountedInTheLabel) {
 
 INSTANTIATE_TEST_SUITE_P(
     Labels, ByteCount,
-    testing::Values(
-        Row{"First", "0", 12, "12"}, Row{"Grouped", "999", 1, "1,000"},
-        Row{"GroupedIsRead", "12,345", 5, "12,350"}, Row{"PastAMillion", "999,000", 2000, "1.00Mb"},
-        Row{"ExactlyAMillion", "999,999", 1, "1.00Mb"}, Row{"JustBelow", "999,998", 1, "999,999"},
-        Row{"SmallAdditionIsLost", "1.00Mb", 4000, "1.00Mb"},
-        Row{"LargestLostAddition", "1.00Mb", 4999, "1.00Mb"},
-        Row{"HalfAHundredthCounts", "1.00Mb", 5000, "1.01Mb"}, Row{"OneThird", "1.29Mb", 5000, "1.30Mb"},
-        Row{"Large", "1.29Mb", 32767, "1.32Mb"},
-        Row{"NoGroupingInMegabytes", "12345.67Mb", 10000, "12345.68Mb"},
-        Row{"KilobytesAreRead", "12kb", 1, "12,001"}, Row{"KilobytesWithDecimals", "1.5kb", 0, "1,500"},
-        Row{"KilobytesPastAMillion", "999.9kb", 100, "1.00Mb"}, Row{"OtherCaseIsNoUnit", "3MB", 1, "4"},
-        Row{"NoNumber", "bytes", 7, "7"}, Row{"Empty", "", 7, "7"}, Row{"OnlyTheUnit", "Mb", 7, "7"},
-        Row{"NegativeAmount", "100", -1, "99"}, Row{"BelowNought", "0", -1500, "-1,500"},
-        Row{"BackBelowAMillion", "1.00Mb", -1, "999,999"}, Row{"SmallestAmount", "0", -32768, "-32,768"}),
+    testing::Values(StatisticsRow{"First", "0", 12, "12"}, StatisticsRow{"Grouped", "999", 1, "1,000"},
+                    StatisticsRow{"GroupedIsRead", "12,345", 5, "12,350"},
+                    StatisticsRow{"PastAMillion", "999,000", 2000, "1.00Mb"},
+                    StatisticsRow{"ExactlyAMillion", "999,999", 1, "1.00Mb"},
+                    StatisticsRow{"JustBelow", "999,998", 1, "999,999"},
+                    StatisticsRow{"SmallAdditionIsLost", "1.00Mb", 4000, "1.00Mb"},
+                    StatisticsRow{"LargestLostAddition", "1.00Mb", 4999, "1.00Mb"},
+                    StatisticsRow{"HalfAHundredthCounts", "1.00Mb", 5000, "1.01Mb"},
+                    StatisticsRow{"OneThird", "1.29Mb", 5000, "1.30Mb"},
+                    StatisticsRow{"Large", "1.29Mb", 32767, "1.32Mb"},
+                    StatisticsRow{"NoGroupingInMegabytes", "12345.67Mb", 10000, "12345.68Mb"},
+                    StatisticsRow{"KilobytesAreRead", "12kb", 1, "12,001"},
+                    StatisticsRow{"KilobytesWithDecimals", "1.5kb", 0, "1,500"},
+                    StatisticsRow{"KilobytesPastAMillion", "999.9kb", 100, "1.00Mb"},
+                    StatisticsRow{"OtherCaseIsNoUnit", "3MB", 1, "4"},
+                    StatisticsRow{"NoNumber", "bytes", 7, "7"}, StatisticsRow{"Empty", "", 7, "7"},
+                    StatisticsRow{"OnlyTheUnit", "Mb", 7, "7"},
+                    StatisticsRow{"NegativeAmount", "100", -1, "99"},
+                    StatisticsRow{"BelowNought", "0", -1500, "-1,500"},
+                    StatisticsRow{"BackBelowAMillion", "1.00Mb", -1, "999,999"},
+                    StatisticsRow{"SmallestAmount", "0", -32768, "-32,768"}),
     [](const auto& row) { return row.param.name; });
 
 TEST(FileCount, IsGroupedAndNeverInMegabytes) {

@@ -5,14 +5,14 @@
 namespace velmora {
 namespace {
 
-struct Row {
+struct StatusLineRow {
     const char* name;
     const char* line1;
     const char* line2;
     const char* status;
 };
 
-class StatusLine : public testing::TestWithParam<Row> {};
+class StatusLine : public testing::TestWithParam<StatusLineRow> {};
 
 TEST_P(StatusLine, ReadsAsOneLine) {
     EXPECT_EQ(joinDisplayLines(GetParam().line1, GetParam().line2), GetParam().status);
@@ -20,14 +20,16 @@ TEST_P(StatusLine, ReadsAsOneLine) {
 
 INSTANTIATE_TEST_SUITE_P(
     Texts, StatusLine,
-    testing::Values(Row{"BlankLine2", "Waiting for link", " ", "Waiting for link"},
-                    Row{"EmptyLine1", "", "  Connecting...", "Connecting..."}, Row{"Nothing", " ", "", ""},
-                    Row{"SmallLetterGoesOn", "    Sending", "   directory", "Sending directory"},
-                    Row{"FullStopBetween", "Server Offline", "Click Start!", "Server Offline. Click Start!"},
-                    Row{"SentenceEnded", "Server was stopped by Organiser!", "Click Start!",
-                        "Server was stopped by Organiser! Click Start!"},
-                    Row{"WholeLongTexts", "No port selected", "The server could not find a free serial port!",
-                        "No port selected. The server could not find a free serial port!"}),
+    testing::Values(
+        StatusLineRow{"BlankLine2", "Waiting for link", " ", "Waiting for link"},
+        StatusLineRow{"EmptyLine1", "", "  Connecting...", "Connecting..."},
+        StatusLineRow{"Nothing", " ", "", ""},
+        StatusLineRow{"SmallLetterGoesOn", "    Sending", "   directory", "Sending directory"},
+        StatusLineRow{"FullStopBetween", "Server Offline", "Click Start!", "Server Offline. Click Start!"},
+        StatusLineRow{"SentenceEnded", "Server was stopped by Organiser!", "Click Start!",
+                      "Server was stopped by Organiser! Click Start!"},
+        StatusLineRow{"WholeLongTexts", "No port selected", "The server could not find a free serial port!",
+                      "No port selected. The server could not find a free serial port!"}),
     [](const auto& row) { return row.param.name; });
 
 TEST(StatusLineOfFile, NamesTheFileBehindTheActivity) {

@@ -19,25 +19,25 @@ using test::FileCall;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-const std::string kFile = "/home/velmora.ini";
+const std::string kTextFile = "/home/velmora.ini";
 
 class Profile : public ::testing::Test {
   protected:
-    void given(const std::string& contents) { memory_.addFile(kFile, contents); }
-    std::string contents() const { return memory_.content(kFile); }
+    void given(const std::string& contents) { memory_.addFile(kTextFile, contents); }
+    std::string contents() const { return memory_.content(kTextFile); }
     std::string text(const std::string& section, const std::string& key, const std::string& otherwise = "DEF",
                      std::size_t buffer = 255) {
-        return profiles_.getString(section, key, otherwise, buffer, kFile);
+        return profiles_.getString(section, key, otherwise, buffer, kTextFile);
     }
-    std::int32_t number(const std::string& key) { return profiles_.getInt("S", key, 42, kFile); }
-    std::string path() { return profiles_.getPath("S", "Path", "none", kFile); }
+    std::int32_t number(const std::string& key) { return profiles_.getInt("S", key, 42, kTextFile); }
+    std::string path() { return profiles_.getPath("S", "Path", "none", kTextFile); }
     std::vector<std::string> entries(const std::string& section) {
-        return profiles_.getSection(section, kFile);
+        return profiles_.getSection(section, kTextFile);
     }
     void put(const std::string& section, const std::string& key, const std::string& value) {
-        profiles_.writeString(section, key, value, kFile);
+        profiles_.writeString(section, key, value, kTextFile);
     }
-    void putPath(const std::string& value) { profiles_.writePath("S", "Path", value, kFile); }
+    void putPath(const std::string& value) { profiles_.writePath("S", "Path", value, kTextFile); }
     void expectError(ErrorNumber number, const std::function<void()>& action) {
         try {
             action();
@@ -123,7 +123,7 @@ TEST_F(Profile, AnEditByAnotherProgramIsSeenAtOnce) {
 
 TEST_F(Profile, TheWholeTextIsGivenWithoutItsMark) {
     given("\xEF\xBB\xBF[S] ; \xC3\xA9\r\n");
-    EXPECT_EQ(profiles_.text(kFile), "[S] ; \xE9\r\n");
+    EXPECT_EQ(profiles_.text(kTextFile), "[S] ; \xE9\r\n");
 }
 
 // --- Writing
@@ -132,7 +132,7 @@ class EditedProfile : public Profile, public ::testing::WithParamInterface<test:
 
 TEST_P(EditedProfile, ChangesOneLineAndNoOther) {
     given(GetParam().before);
-    profiles_.writeString("S", GetParam().key, GetParam().value, kFile);
+    profiles_.writeString("S", GetParam().key, GetParam().value, kTextFile);
     EXPECT_EQ(contents(), GetParam().after);
 }
 
@@ -160,7 +160,7 @@ TEST_F(Profile, WritingWhatIsThereTouchesNothing) {
 TEST_F(Profile, WritingLeavesNoTemporaryFile) {
     given("[S]\r\nA=1\r\n");
     put("S", "A", "2");
-    EXPECT_THAT(memory_.paths(), ElementsAre(kFile));
+    EXPECT_THAT(memory_.paths(), ElementsAre(kTextFile));
 }
 
 class UnstorableEntry : public Profile, public ::testing::WithParamInterface<std::array<std::string, 3>> {};
@@ -195,7 +195,7 @@ TEST_P(FailedWrite, IsAnErrorAndTheOldFileStands) {
     files_.failAtCall(GetParam().call, call, ErrorNumber::PathFileAccess);
     expectError(ErrorNumber::PathFileAccess, [&] { put("S", "A", "2"); });
     EXPECT_EQ(contents(), "[S]\r\nA=1\r\n");
-    EXPECT_THAT(memory_.paths(), ElementsAre(kFile));
+    EXPECT_THAT(memory_.paths(), ElementsAre(kTextFile));
     EXPECT_EQ(memory_.openFiles(), 0);
     put("S", "A", "3");
     EXPECT_EQ(text("S", "A"), "3");
@@ -214,7 +214,7 @@ TEST_F(Profile, AFullDiskIsAnErrorAndTheOldFileStands) {
     files_.failAfterBytes(4, ErrorNumber::DiskFull);
     expectError(ErrorNumber::DiskFull, [&] { put("S", "A", "2"); });
     EXPECT_EQ(contents(), "[S]\r\nA=1\r\n");
-    EXPECT_THAT(memory_.paths(), ElementsAre(kFile));
+    EXPECT_THAT(memory_.paths(), ElementsAre(kTextFile));
 }
 
 TEST_F(Profile, TheFirstFailureIsReportedWhenTheTemporaryFileStaysToo) {
@@ -231,7 +231,7 @@ TEST_F(Profile, AnUnreadableFileIsAnError) {
 }
 
 TEST_F(Profile, AFolderInTheFilesPlaceIsAnError) {
-    memory_.addFolder(kFile);
+    memory_.addFolder(kTextFile);
     expectError(ErrorNumber::PathFileAccess, [&] { text("S", "A"); });
     expectError(ErrorNumber::PathFileAccess, [&] { put("S", "A", "1"); });
     EXPECT_THAT(memory_.paths(), IsEmpty());
@@ -336,9 +336,9 @@ TEST_F(Profile, APathThatIsNotUtf8IsRefused) {
 TEST_F(Profile, OnASystemWithWindows1252PathsAPathIsAText) {
     TextProfileFiles profiles(files_, rules_, PathEncoding::Windows1252);
     given("[S]\r\nA=\xC3\xA9\r\n");
-    profiles.writePath("S", "Path", "C:\\\xFC", kFile);
+    profiles.writePath("S", "Path", "C:\\\xFC", kTextFile);
     EXPECT_EQ(contents(), "[S]\r\nA=\xC3\xA9\r\nPath=C:\\\xC3\xBC\r\n");
-    EXPECT_EQ(profiles.getPath("S", "Path", "", kFile), "C:\\\xFC");
+    EXPECT_EQ(profiles.getPath("S", "Path", "", kTextFile), "C:\\\xFC");
 }
 
 // --- Files that are no profile files
@@ -362,7 +362,7 @@ TEST_F(Profile, AStrangeFileIsReadAndAnEntryAddedWithoutDamage) {
         put("Velmora", "A", "1");
         EXPECT_EQ(text("Velmora", "A"), "1");
         ASSERT_TRUE(contents().starts_with(bytes));
-        profiles_.writeString("Velmora", std::nullopt, std::nullopt, kFile);
+        profiles_.writeString("Velmora", std::nullopt, std::nullopt, kTextFile);
         ASSERT_TRUE(contents().starts_with(bytes));
         EXPECT_LE(contents().size(), bytes.size() + 2);
     }
