@@ -15,13 +15,14 @@ fi
 case "$what" in
   core)
     scripts/setup-windows.sh tools
-    options+=(-DVELMORA_TOOLKIT=OFF -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_FLAGS_DEBUG=-O0)
+    options+=(-DVELMORA_TOOLKIT=OFF -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_FLAGS_DEBUG=-O0
+      -DCMAKE_UNITY_BUILD=ON -DCMAKE_UNITY_BUILD_BATCH_SIZE=16)
     ;;
   all | programs)
     scripts/setup-windows.sh
     # The linker strips the programs.
-    options+=(-DVELMORA_TOOLKIT=ON -DCMAKE_BUILD_TYPE=Release -DCMAKE_EXE_LINKER_FLAGS_RELEASE=-s
-      -DCMAKE_PREFIX_PATH="$(scripts/setup-windows.sh prefix)" -DQT_HOST_PATH=/usr
+    options+=(-DVELMORA_TOOLKIT=ON -DCMAKE_BUILD_TYPE=Release -DCMAKE_UNITY_BUILD=OFF
+      -DCMAKE_EXE_LINKER_FLAGS_RELEASE=-s -DCMAKE_PREFIX_PATH="$(scripts/setup-windows.sh prefix)" -DQT_HOST_PATH=/usr
       -DQT_HOST_PATH_CMAKE_DIR="/usr/lib/$(uname -m)-linux-gnu/cmake")
     ;;
   *)

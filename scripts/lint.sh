@@ -1,8 +1,43 @@
 #!/usr/bin/env bash
-# Runs clang-tidy with our .clang-tidy over the sources of a finished build in build/.
-# scripts/lint.sh [FILE …]; without files, everything below src/.
+# Runs clang-tidy with our .clang-tidy.
+#   scripts/lint.sh         over everything below src/: as the build in build-sanitize/ compiles it, which is made
+#                           first, and as the one for Windows in build-windows/ does when there is one
+#   scripts/lint.sh FILE …  over some sources, as the build in build/ compiles them
 set -euo pipefail
 cd "$(dirname "$0")/.."
-files=("$@")
-((${#files[@]} > 0)) || mapfile -t files < <(git ls-files 'src/*.cpp')
-printf '%s\0' "${files[@]}" | xargs -0 -P "$(nproc)" -n 4 clang-tidy -p build --quiet 2> /dev/null
+
+# tidy FOLDER [OPTION …]: checks the sources on standard input.
+tidy() {
+  local folder=$1
+  shift
+  xargs -r -P "$(nproc)" -n 1 clang-tidy -p "$folder" --quiet --config-file=.clang-tidy "$@" 2> /dev/null
+}
+
+# units FOLDER: what a build compiles below src/: its files of several sources, or the sources one by one.
+units() {
+  local several
+  several=$(find "$1/src" -path '*/Unity/unity_*.cxx')
+  if [[ -n "$several" ]]; then
+    echo "$several"
+  else
+    sed -n "s|^ *\"file\": \"$PWD/\(src/.*\)\".*|\1|p" "$1/compile_commands.json"
+  fi
+}
+
+if (($# > 0)); then
+  printf '%s\n' "$@" | tidy build
+  exit
+fi
+
+failed=0
+# Including sources is what files of several sources are for.
+checks=--checks=-bugprone-suspicious-include
+scripts/build-sanitize.sh
+units build-sanitize | tidy build-sanitize "$checks" || failed=1
+if [[ -e build-windows/compile_commands.json ]]; then
+  # The linter knows the system's headers, but not where this compiler keeps those of the language.
+  headers=$(x86_64-w64-mingw32-g++-posix -print-file-name=include/c++)
+  units build-windows | tidy build-windows "$checks" --extra-arg=--target=x86_64-w64-mingw32 \
+    --extra-arg="-isystem$headers" --extra-arg="-isystem$headers/x86_64-w64-mingw32" || failed=1
+fi
+exit "$failed"

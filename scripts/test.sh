@@ -26,10 +26,10 @@ ctest --test-dir build-sanitize --output-on-failure -j "$jobs" -LE e2e --progres
 stage "Programs as they are released"
 scripts/build.sh build -DCMAKE_BUILD_TYPE=Release -DCMAKE_CXX_FLAGS_RELEASE="-O2 -DNDEBUG" -DVELMORA_TESTS=ON \
   -DVELMORA_WERROR=ON -- programs e2e_tests
-stage "Linter"
-scripts/lint.sh
 stage "End-to-end tests"
 ctest --test-dir build --output-on-failure -j "$jobs" -L e2e --progress
 stage "Windows"
 scripts/test-windows.sh core
+stage "Linter"
+scripts/lint.sh
 stage "All passed"
