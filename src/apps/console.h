@@ -14,17 +14,4 @@ std::vector<std::string> utf8Arguments(int argc, char** argv);
 /// Whether somebody watches the stream; false for files and pipes.
 bool isTerminal(std::FILE* stream);
 
-/// While it lives the console, if there is one, takes what is written for UTF-8, which is what the programs
-/// write (SetConsoleOutputCP); afterwards it has its code page again. Nothing to do on other systems.
-class Utf8Console {
-  public:
-    Utf8Console();
-    ~Utf8Console();
-    Utf8Console(const Utf8Console&) = delete;
-    Utf8Console& operator=(const Utf8Console&) = delete;
-
-  private:
-    unsigned before_ = 0;  // code page to give back; 0 for none
-};
-
 }  // namespace velmora

@@ -12,7 +12,4 @@ bool isTerminal(std::FILE* stream) {
     return ::isatty(::fileno(stream)) != 0;
 }
 
-Utf8Console::Utf8Console() = default;
-Utf8Console::~Utf8Console() = default;
-
 }  // namespace velmora

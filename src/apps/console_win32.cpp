@@ -44,16 +44,4 @@ bool isTerminal(std::FILE* stream) {
     return GetConsoleMode(reinterpret_cast<HANDLE>(_get_osfhandle(_fileno(stream))), &mode) != FALSE;
 }
 
-Utf8Console::Utf8Console() : before_(GetConsoleOutputCP()) {
-    if (before_ != 0) {
-        SetConsoleOutputCP(CP_UTF8);
-    }
-}
-
-Utf8Console::~Utf8Console() {
-    if (before_ != 0) {
-        SetConsoleOutputCP(before_);
-    }
-}
-
 }  // namespace velmora

@@ -9,7 +9,7 @@
 #include "platform/native.h"
 
 int main(int argc, char** argv) {
-    const velmora::ConsoleOutput console;
+    const auto console = velmora::showOnConsole(velmora::PrintedText::System);
     velmora::useBinaryStandardStreams();
     velmora::NativeFiles files(velmora::NativeFolders().temporary());
     const velmora::NativePaths paths(velmora::currentFolder());

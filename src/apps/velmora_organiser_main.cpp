@@ -14,6 +14,7 @@
 #include "organiser/organiser_link.h"
 #include "organiser/progress.h"
 #include "platform/binary_streams.h"
+#include "platform/console_output.h"
 
 namespace {
 
@@ -45,7 +46,7 @@ ExitStatus run(const CommandLine& line) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    const Utf8Console console;
+    const auto console = showOnConsole(PrintedText::Utf8);
     // Contents of files go to standard output as they are.
     useBinaryStandardStreams();
     try {

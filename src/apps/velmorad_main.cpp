@@ -13,7 +13,7 @@
 
 int main(int argc, char** argv) {
     using namespace velmora;
-    const ConsoleOutput console;
+    const auto console = showOnConsole(PrintedText::System);
     ServerArguments arguments;
     try {
         arguments = parseServerArguments(std::vector<std::string>(argv + 1, argv + argc));

@@ -62,6 +62,18 @@ TEST_F(TransferTest, DataFileComesBackAsItWent) {
     EXPECT_EQ(load("NAMES"), records);
 }
 
+TEST_F(TransferTest, LocalFilesOfTheOrganisersMayHaveNamesInAnyAlphabet) {
+    startServer();
+    const std::filesystem::path file = home / "\u03A9mega \u00E4";
+    writeFile(file, records);
+    Finished done = organiser({"save", organiserPath(file), "--as", "NAMES"});
+    ASSERT_EQ(done.status, 0) << done.output << done.error;
+    std::filesystem::remove(file);
+    done = organiser({"load", "NAMES", "-o", organiserPath(file)});
+    ASSERT_EQ(done.status, 0) << done.output << done.error;
+    EXPECT_EQ(contentsOf(file), records);
+}
+
 TEST_F(TransferTest, ProcedureIsATextFileOnThisSideAndComesBack) {
     startServer();
     save("hello:\r\nPRINT \"HELLO\"\r\nGET\r\n", {"--as", "HELLO", "--type", "procedure"});

@@ -12,22 +12,18 @@ bool isConsole(DWORD stream) {
 
 }  // namespace
 
-// A console starts with the OEM code page of old, in which the bytes of the ANSI code page are other letters.
-ConsoleOutput::ConsoleOutput() {
+// A console starts with the OEM code page of old, in which the bytes of other encodings are other letters.
+std::shared_ptr<void> showOnConsole(PrintedText text) {
     if (!isConsole(STD_OUTPUT_HANDLE) && !isConsole(STD_ERROR_HANDLE)) {
-        return;
+        return nullptr;
     }
+    const UINT wanted = text == PrintedText::Utf8 ? CP_UTF8 : GetACP();
     const UINT earlier = GetConsoleOutputCP();
-    if (earlier != GetACP() && SetConsoleOutputCP(GetACP()) != FALSE) {
-        earlierCodePage_ = earlier;
+    if (earlier == wanted || SetConsoleOutputCP(wanted) == FALSE) {
+        return nullptr;
     }
-}
-
-// The console may be the shell's, which goes on using it.
-ConsoleOutput::~ConsoleOutput() {
-    if (earlierCodePage_ != 0) {
-        SetConsoleOutputCP(earlierCodePage_);
-    }
+    // The console may be the shell's, which goes on using it.
+    return {nullptr, [earlier](void*) { SetConsoleOutputCP(earlier); }};
 }
 
 }  // namespace velmora

@@ -81,7 +81,8 @@ class ServerFixture : public testing::Test {
         std::vector<std::string> arguments = {"--port", serverPort, "--folder", serverPath(psion)};
         arguments.insert(arguments.end(), options.begin(), options.end());
         server = start("velmorad", arguments);
-        ASSERT_TRUE(server->waitForOutput("Waiting for link")) << server->error();
+        ASSERT_TRUE(server->waitForOutput("Waiting for link"))
+            << server->output() << server->error() << "status " << server->wait();
     }
     void stopServer() const { serverSide->stop(*server); }
 
