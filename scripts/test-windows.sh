@@ -108,7 +108,10 @@ make_prefix
 unit_tests unit ctest -j "$jobs" --label-exclude comport --no-tests=error || failed=1
 # This script starts Wine's server itself.
 end_wineserver
-unit_tests com-ports scripts/with-com-ports.sh ctest --label-regex comport --no-tests=error || failed=1
+# Each program has a cable of its own to pull.
+for tests in serial_comport_tests organiser_comport_tests; do
+  unit_tests "ports-$tests" scripts/with-com-ports.sh ctest --tests-regex "^$tests\$" --no-tests=error || failed=1
+done
 end_wineserver
 start_wineserver
 if [[ "$what" == core ]]; then
@@ -122,7 +125,7 @@ fi
 echo
 echo "Tests of the Windows programs under Wine (logs: build-windows/wine/logs)"
 echo "  unit tests:             $(count "$logs/unit.log")"
-echo "  unit tests on ports:    $(count "$logs/com-ports.log")"
+echo "  unit tests on ports:    $(count "$logs"/ports-*.log)"
 echo "  end-to-end tests:       $(count "$logs"/end-to-end-*.log)"
 if ((failed)); then
   echo "  FAILED"
