@@ -34,7 +34,9 @@ TEST(EndOfSessionTest, ASessionThatGoesOnAfterAllChangesNothing) {
 }
 
 TEST(EndOfSessionTest, AnotherOneMayFollow) {
-    { const EndOfSession first([] { FAIL() << "is gone"; }); }
+    {
+        const EndOfSession first([] { FAIL() << "is gone"; });
+    }
     int requests = 0;
     const EndOfSession second([&] { ++requests; });
     if (!tell(TRUE)) {

@@ -11,7 +11,7 @@ namespace {
 
 #ifdef _WIN32
 
-// With the console that the test is run on as the process's standard output. Under Wine that takes a terminal.
+// With the console that the test is run on as the process's standard output. Wine has one on a terminal only.
 class ConsoleOutputTest : public testing::Test {
   protected:
     void SetUp() override {

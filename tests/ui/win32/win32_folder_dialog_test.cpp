@@ -88,8 +88,8 @@ class FolderDialog : public testing::Test {
         };
     }
 
-    /// Shows the dialog until it is answered with a folder. Wine's overlooks now and then which folder it is to
-    /// begin with, and then answers with the desktop.
+    /// Shows the dialog until it is answered with a folder. Wine's overlooks now and then which folder it is
+    /// to begin with, and then answers with the desktop.
     std::string browseFor(const std::string& wanted) {
         std::string chosen;
         for (int dialog = 0; dialog < 6 && chosen != wanted; ++dialog) {
