@@ -2,12 +2,16 @@
 # Installs what is missing on a Debian or Ubuntu machine.
 #   scripts/setup.sh          what it takes to build and run the programs
 #   scripts/setup.sh tests    that, and what the tests and checks need
+#   scripts/setup.sh pictures that, and what takes pictures of a display
 set -euo pipefail
 
 packages=(g++ cmake ninja-build qt6-base-dev ccache libwps-tools fonts-dejavu-core)
 if [[ "${1:-}" == tests ]]; then
   packages+=(libgtest-dev libgmock-dev libbenchmark-dev clang clang-format clang-tidy libclang-rt-dev
     xvfb xauth tzdata gnumeric python3)
+fi
+if [[ "${1:-}" == pictures ]]; then
+  packages+=(xvfb xauth imagemagick)
 fi
 
 missing=()

@@ -15,7 +15,7 @@ namespace velmora {
 namespace {
 
 constexpr std::string_view kBlanks = " \t";
-constexpr std::size_t kPrefix = 3;  // column, row and type precede the text in a message
+constexpr std::size_t kCellPrefix = 3;  // column, row and type precede the text in a message
 
 std::size_t skipDigits(std::string_view text, std::size_t at) {
     while (at < text.size() && isDigit(text[at])) {
@@ -77,8 +77,8 @@ std::string parseLine(std::string_view line, SheetCell& cell) {
                    "\" is no number; a label begins with ' and a formula with =";
         }
     }
-    if (content.size() > kMostData - kPrefix) {
-        return "the text is longer than the " + std::to_string(kMostData - kPrefix) +
+    if (content.size() > kMostData - kCellPrefix) {
+        return "the text is longer than the " + std::to_string(kMostData - kCellPrefix) +
                " bytes that one message holds";
     }
     cell.text = content;

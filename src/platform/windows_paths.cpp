@@ -11,18 +11,12 @@
 namespace velmora {
 namespace {
 
-constexpr std::string_view kSeparators = "\\/";
-
-bool isSeparator(char c) {
-    return c == '\\' || c == '/';
-}
-
 bool beginsWithDrive(std::string_view path) {
     return path.size() >= 2 && isLetter(path[0]) && path[1] == ':';
 }
 
 bool isNetworkPath(std::string_view path) {
-    return path.size() >= 2 && isSeparator(path[0]) && isSeparator(path[1]);
+    return path.size() >= 2 && isWindowsSeparator(path[0]) && isWindowsSeparator(path[1]);
 }
 
 /// Length of the drive or network share at the start of a path, without the separator behind it.
@@ -33,13 +27,13 @@ std::size_t driveLength(std::string_view path) {
     if (!isNetworkPath(path)) {
         return 0;
     }
-    const std::size_t server = std::min(path.find_first_of(kSeparators, 2), path.size());
-    return std::min(path.find_first_of(kSeparators, std::min(server + 1, path.size())), path.size());
+    const std::size_t server = std::min(path.find_first_of(kWindowsSeparators, 2), path.size());
+    return std::min(path.find_first_of(kWindowsSeparators, std::min(server + 1, path.size())), path.size());
 }
 
 /// Whether a network path names a server and a share; "." and "?" as the server are the roots of devices.
 bool namesShare(std::string_view path) {
-    const std::size_t serverEnd = std::min(path.find_first_of(kSeparators, 2), path.size());
+    const std::size_t serverEnd = std::min(path.find_first_of(kWindowsSeparators, 2), path.size());
     const std::size_t shareStart = std::min(serverEnd + 1, path.size());
     const auto isName = [](std::string_view component) {
         return component.find_first_not_of(".?* ") != std::string_view::npos;
@@ -82,7 +76,7 @@ std::optional<std::string> WindowsPaths::fromOrganiser(std::string_view name) co
     }
     std::string_view rest = beginsWithDrive(name) ? name.substr(2) : name;
     while (!rest.empty()) {
-        const std::size_t end = std::min(rest.find_first_of(kSeparators), rest.size());
+        const std::size_t end = std::min(rest.find_first_of(kWindowsSeparators), rest.size());
         if (!isAllowedComponent(rest.substr(0, end))) {
             return std::nullopt;
         }
@@ -98,7 +92,7 @@ std::optional<std::string> WindowsPaths::toOrganiser(std::string_view name) cons
 }
 
 std::string WindowsPaths::join(std::string_view folder, std::string_view name) const {
-    return joinWithOne(kSeparators, folder, name);
+    return joinWithOne(kWindowsSeparators, folder, name);
 }
 
 std::string WindowsPaths::drive(std::string_view path) const {
@@ -108,24 +102,24 @@ std::string WindowsPaths::drive(std::string_view path) const {
 std::string WindowsPaths::parentFolder(std::string_view path) const {
     const std::size_t rootEnd = driveLength(path);
     const std::string_view behindRoot = path.substr(rootEnd);
-    const std::size_t cut = behindRoot.find_last_of(kSeparators);
+    const std::size_t cut = behindRoot.find_last_of(kWindowsSeparators);
     if (cut == std::string_view::npos) {
         return std::string(path.substr(0, rootEnd));
     }
-    const std::size_t last = behindRoot.substr(0, cut).find_last_not_of(kSeparators);
+    const std::size_t last = behindRoot.substr(0, cut).find_last_not_of(kWindowsSeparators);
     return std::string(path.substr(0, rootEnd + (last == std::string_view::npos ? 1 : last + 1)));
 }
 
 std::string WindowsPaths::lastComponent(std::string_view path) const {
     const std::string_view behindRoot = path.substr(driveLength(path));
-    return std::string(behindRoot.substr(behindRoot.find_last_of(kSeparators) + 1));
+    return std::string(behindRoot.substr(behindRoot.find_last_of(kWindowsSeparators) + 1));
 }
 
 std::string WindowsPaths::absolute(std::string_view path) const {
     const std::string currentDrive = drive(currentFolder_);
     std::string root = drive(path);
     std::string_view rest = path.substr(root.size());
-    const bool rooted = isNetworkPath(path) || (!rest.empty() && isSeparator(rest.front()));
+    const bool rooted = isNetworkPath(path) || (!rest.empty() && isWindowsSeparator(rest.front()));
     const bool onCurrentDrive = root.empty() || upperCase(root) == upperCase(currentDrive);
     std::string components(rest);
     if (onCurrentDrive && !rooted) {
@@ -135,7 +129,7 @@ std::string WindowsPaths::absolute(std::string_view path) const {
         root = currentDrive;
     }
     std::replace(root.begin(), root.end(), '/', '\\');
-    return root + "\\" + resolvedComponents(kSeparators, components);
+    return root + "\\" + resolvedComponents(kWindowsSeparators, components);
 }
 
 }  // namespace velmora

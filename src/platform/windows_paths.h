@@ -2,9 +2,17 @@
 // the ANSI code page, Windows-1252. Compiled on every system, so that the rules are tested on every system.
 #pragma once
 
+#include <string_view>
+
 #include "base/path_rules.h"
 
 namespace velmora {
+
+/// What separates the components of a path.
+constexpr std::string_view kWindowsSeparators = "\\/";
+constexpr bool isWindowsSeparator(char c) {
+    return c == '\\' || c == '/';
+}
 
 /// Pure text. The root of "C:\PSION" is "C:\", that of "\\server\share\PSION" is "\\server\share\".
 class WindowsPaths : public PathRules {

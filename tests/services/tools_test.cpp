@@ -35,10 +35,6 @@ TEST(TranslateChars, DoesNotTranslateWhatItJustPutIn) {
 
 using Row = test::NameCase;
 
-std::string titleOf(const testing::TestParamInfo<Row>& info) {
-    return info.param.title;
-}
-
 /// What the mapping itself does, on every system: names with drives in a file system in memory.
 class WindowsNames : public testing::TestWithParam<Row> {
   protected:
@@ -70,7 +66,7 @@ TEST_P(WindowsNames, AreMapped) {
               test::placed(row.path, base));
 }
 
-INSTANTIATE_TEST_SUITE_P(Rows, WindowsNames, testing::ValuesIn(test::windowsNameCases()), titleOf);
+INSTANTIATE_TEST_SUITE_P(Rows, WindowsNames, testing::ValuesIn(test::windowsNameCases()), test::titleOf);
 
 TEST_F(WindowsNames, FindAFileByItsShortName) {
     EXPECT_EQ(tools.map_FileName("LONGER>1.TXT", true, false), "C:\\Psion\\Longer file name.txt");
@@ -175,7 +171,7 @@ const Row kPosixRows[] = {
     {"ByteWithoutACharacter", "ME\x9DMO", ""},
     {"FolderNameTooLong", std::string(300, 'A') + "\\MEMO", ""},
 };
-INSTANTIATE_TEST_SUITE_P(Rows, PosixNames, testing::ValuesIn(kPosixRows), titleOf);
+INSTANTIATE_TEST_SUITE_P(Rows, PosixNames, testing::ValuesIn(kPosixRows), test::titleOf);
 
 TEST_F(PosixNames, RootedOnesAreRootedAtTheOneRoot) {
     folder.makeFolder("Other");

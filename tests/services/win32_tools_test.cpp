@@ -12,10 +12,6 @@ namespace {
 
 using test::NameCase;
 
-std::string titleOf(const testing::TestParamInfo<NameCase>& info) {
-    return info.param.title;
-}
-
 class Win32Names : public testing::TestWithParam<NameCase> {
   protected:
     void SetUp() override {
@@ -48,7 +44,7 @@ TEST_P(Win32Names, AreMappedAsInMemory) {
               test::placed(row.path, base));
 }
 
-INSTANTIATE_TEST_SUITE_P(Rows, Win32Names, testing::ValuesIn(test::windowsNameCases()), titleOf);
+INSTANTIATE_TEST_SUITE_P(Rows, Win32Names, testing::ValuesIn(test::windowsNameCases()), test::titleOf);
 
 TEST_F(Win32Names, FindAFileByTheShortNameThatIsListed) {
     const std::string path = base + "\\Psion\\Longer file name.txt";

@@ -26,7 +26,7 @@ std::string encode(const std::string& text) {
     return EncodeFormula(text, kC1);
 }
 
-const std::string error = bytes({32, 3});
+const std::string errorToken = bytes({32, 3});
 
 TEST(EncodeFormula, EndsWithTheEndToken) {
     EXPECT_EQ(encode(""), end);
@@ -106,7 +106,7 @@ TEST(EncodeFormula, NumbersWithAPointOrFrom32768UpAreDoubles) {
 
 TEST(EncodeFormula, WhatIsNoNumberAsAWholeIsErr) {
     for (const char* text : {"5.0E-1", "1E", "1.2.3", ".", "1E5E5", "1E999"}) {
-        EXPECT_EQ(encode(text), error) << text;
+        EXPECT_EQ(encode(text), errorToken) << text;
     }
 }
 
@@ -123,8 +123,8 @@ TEST(EncodeFormula, StringsEndInAZeroByte) {
 }
 
 TEST(EncodeFormula, AStringWithABlankIsErr) {
-    EXPECT_EQ(encode("\"a b\""), error);
-    EXPECT_EQ(encode("\"a \""), error);
+    EXPECT_EQ(encode("\"a b\""), errorToken);
+    EXPECT_EQ(encode("\"a \""), errorToken);
 }
 
 TEST(EncodeFormula, AStringWithAParenthesisIsOneByteErr) {
@@ -137,10 +137,10 @@ TEST(EncodeFormula, AnUnknownFunctionIsOneByteInItsPlace) {
 }
 
 TEST(EncodeFormula, AnUnknownOperandMakesTheWholeErr) {
-    EXPECT_EQ(encode("A1+FOO"), error);
-    EXPECT_EQ(encode("AA1"), error);
-    EXPECT_EQ(encode("A1,B1"), error);
-    EXPECT_EQ(encode("A1+A99999"), error);
+    EXPECT_EQ(encode("A1+FOO"), errorToken);
+    EXPECT_EQ(encode("AA1"), errorToken);
+    EXPECT_EQ(encode("A1,B1"), errorToken);
+    EXPECT_EQ(encode("A1+A99999"), errorToken);
 }
 
 TEST(EncodeFormula, WhatCannotBeConvertedIsTheEndTokenAlone) {

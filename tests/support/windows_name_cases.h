@@ -2,6 +2,8 @@
 // memory on every system and on the disk of a real one; both must give the same.
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <ostream>
 #include <string>
 #include <vector>
@@ -17,6 +19,10 @@ struct NameCase {
     bool resolveExisting = false;
     bool allowWildcards = false;
 };
+
+inline std::string titleOf(const testing::TestParamInfo<NameCase>& info) {
+    return info.param.title;
+}
 
 inline void PrintTo(const NameCase& row, std::ostream* out) {
     *out << row.title;

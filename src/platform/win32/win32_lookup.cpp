@@ -20,12 +20,6 @@
 namespace velmora {
 namespace {
 
-constexpr const char* kSeparators = "\\/";
-
-bool isSeparator(char c) {
-    return c == '\\' || c == '/';
-}
-
 std::uint64_t joined(DWORD high, DWORD low) {
     return (std::uint64_t{high} << 32) | low;
 }
@@ -91,7 +85,7 @@ std::string withComponents(const std::string& path, const ComponentForm& formOf)
     const std::size_t root = WindowsPaths({}).drive(path).size();
     std::string out = path.substr(0, root);
     for (std::size_t start = root; start < path.size();) {
-        const std::size_t end = std::min(path.find_first_of(kSeparators, start), path.size());
+        const std::size_t end = std::min(path.find_first_of(kWindowsSeparators, start), path.size());
         const std::string component = path.substr(start, end - start);
         const bool isName = !component.empty() && component != "." && component != "..";
         out += isName ? formOf(out, component) : component;
@@ -139,7 +133,7 @@ std::uint32_t readWin32Status(const std::string& path, Win32Status& status) {
             return error;
         }
     }
-    return isSeparator(path.back()) && !status.isFolder ? ERROR_DIRECTORY : ERROR_SUCCESS;
+    return isWindowsSeparator(path.back()) && !status.isFolder ? ERROR_DIRECTORY : ERROR_SUCCESS;
 }
 
 std::string lookUpWin32Path(const std::string& path) {
