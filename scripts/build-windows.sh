@@ -14,6 +14,7 @@ if [[ "${CI:-}" == true ]]; then
 fi
 case "$what" in
   core)
+    scripts/setup.sh tests
     scripts/setup-windows.sh tools
     options+=(-DVELMORA_TOOLKIT=OFF -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_FLAGS_DEBUG=-O0
       -DCMAKE_UNITY_BUILD=ON -DCMAKE_UNITY_BUILD_BATCH_SIZE=16)

@@ -8,20 +8,17 @@ cd "$(dirname "$0")/.."
 
 # tidy FOLDER [OPTION …]: checks the sources on standard input.
 tidy() {
-  local folder=$1
+  local folder=$1 log=$1/lint.log
   shift
-  xargs -r -P "$(nproc)" -n 1 clang-tidy -p "$folder" --quiet --config-file=.clang-tidy "$@" 2> /dev/null
+  if ! xargs -r -P "$(nproc)" -n 1 clang-tidy -p "$folder" --quiet --config-file=.clang-tidy "$@" 2> "$log"; then
+    grep -v 'warnings\? generated' "$log" >&2 || true
+    return 1
+  fi
 }
 
-# units FOLDER: what a build compiles below src/: its files of several sources, or the sources one by one.
+# units FOLDER: what a build compiles of src/: the sources one by one, or files that include several.
 units() {
-  local several
-  several=$(find "$1/src" -path '*/Unity/unity_*.cxx')
-  if [[ -n "$several" ]]; then
-    echo "$several"
-  else
-    sed -n "s|^ *\"file\": \"$PWD/\(src/.*\)\".*|\1|p" "$1/compile_commands.json"
-  fi
+  sed -n "s|^ *\"file\": \"\($PWD/\($1/\)\?src/.*\)\".*|\1|p" "$1/compile_commands.json" | grep -v _autogen/
 }
 
 if (($# > 0)); then

@@ -7,27 +7,32 @@ picture=$(realpath "${1:-docs/images/windows.png}")
 
 if [[ -z "${VELMORA_PICTURE_STAGE:-}" ]]; then
   # On a display, a Windows and ports of its own.
-  command -v import > /dev/null || scripts/setup.sh pictures
+  scripts/setup.sh pictures
   work=$(mktemp -d)
   export WINEPREFIX=$work/wine WINEDEBUG=-all WINEDLLOVERRIDES='mscoree,mshtml=;winemenubuilder.exe='
   trap 'wineserver -k || true; rm -rf "$work"' EXIT
-  VELMORA_PICTURE_STAGE=display xvfb-run --auto-servernum --server-args="-screen 0 640x480x24" "$0" "$picture"
+  VELMORA_PICTURE_STAGE=display xvfb-run --auto-servernum --server-args="-screen 0 560x460x24" "$0" "$picture"
   ls -l "$picture"
   exit
 fi
 if [[ "$VELMORA_PICTURE_STAGE" == display ]]; then
   wineboot -i > /dev/null 2>&1 < /dev/null
+  # Those that every Windows has.
+  cp /usr/share/wine/fonts/{tahoma,tahomabd,marlett}.ttf "$WINEPREFIX/drive_c/windows/Fonts"
   wineserver -k || true
   VELMORA_PICTURE_STAGE=ports exec scripts/with-com-ports.sh "$0" "$picture"
 fi
 
 mkdir "$WINEPREFIX/drive_c/Psion"
 settings=$(echo "$WINEPREFIX"/drive_c/users/*/AppData/Roaming | tr ' ' '\n' | grep -v /Public/)/Velmora.ini
-printf '%s\r\n' '[Settings]' "Port=${VELMORA_TEST_PORT#COM}" 'Baud=9600' 'AutoStart=True' 'DownloadPath=C:\Psion' \
-  > "$settings"
+printf '%s\r\n' '; The configuration of the picture: its port is the cable, and serving begins at once. A file of' \
+  '; less than a hundred bytes would be replaced by the default one.' '[Settings]' \
+  "Port=${VELMORA_TEST_PORT#COM}" 'Baud=9600' 'AutoStart=True' 'DownloadPath=C:\Psion' > "$settings"
 # Wine's desktop gives the window a frame, as no window manager runs.
-wine explorer /desktop=Velmora,620x460 "$PWD/build-windows/bin/velmora.exe" > /dev/null 2>&1 < /dev/null &
-organiser() { wine build-windows/bin/velmora-organiser.exe --device "$VELMORA_TEST_FAR_PORT" "$@" > /dev/null 2>&1 < /dev/null; }
+wine explorer /desktop=Velmora,560x460 "$PWD/build-windows/bin/velmora.exe" > /dev/null 2>&1 < /dev/null &
+organiser() {
+  wine build-windows/bin/velmora-organiser.exe --device "$VELMORA_TEST_FAR_PORT" "$@" > /dev/null 2>&1 < /dev/null
+}
 
 file=$WINEPREFIX/drive_c/contacts.txt
 printf 'Babbage\t1 Dorset St\t01 2345\r\nLovelace\t12 St James Sq\t01 6789\r\n' > "$file"

@@ -49,22 +49,28 @@ install_tools() {
   if ((${#missing[@]} > 0)); then
     echo "Installing: ${missing[*]}"
     "${as_root[@]}" apt-get update -q
-    DEBIAN_FRONTEND=noninteractive "${as_root[@]}" apt-get install -qy --no-install-recommends "${missing[@]}"
+    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+      apt-get install -qy --no-install-recommends "${missing[@]}"
   fi
 }
 
 # Offers the source packages of the same places that the binary packages come from.
 offer_source_packages() {
   local target=/etc/apt/sources.list.d/velmora-src
-  if apt-get indextargets --format '$(CREATED_BY)' 2>/dev/null | grep -qx Sources; then
+  if [[ "$(apt-get indextargets --format '$(CREATED_BY)' 2>/dev/null)" == *Sources* ]]; then
     return
   fi
   if compgen -G '/etc/apt/sources.list.d/*.sources' > /dev/null; then
-    cat /etc/apt/sources.list.d/*.sources | sed -E 's/^Types:.*/Types: deb-src/' |
-      "${as_root[@]}" tee "$target.sources" > /dev/null
+    # An empty line parts the entries of two files.
+    awk 'FNR == 1 && NR > 1 { print "" } { sub(/^Types:.*/, "Types: deb-src"); print }' \
+      /etc/apt/sources.list.d/*.sources | "${as_root[@]}" tee "$target.sources" > /dev/null
   fi
-  if [[ -s /etc/apt/sources.list ]]; then
-    sed -nE 's/^deb /deb-src /p' /etc/apt/sources.list | "${as_root[@]}" tee "$target.list" > /dev/null
+  local file lists=()
+  for file in /etc/apt/sources.list /etc/apt/sources.list.d/*.list; do
+    [[ ! -f $file ]] || lists+=("$file")
+  done
+  if ((${#lists[@]} > 0)); then
+    sed -nE 's/^deb /deb-src /p' "${lists[@]}" | "${as_root[@]}" tee "$target.list" > /dev/null
   fi
   "${as_root[@]}" apt-get update -q
 }

@@ -11,7 +11,7 @@ if [[ "${1:-}" == tests ]]; then
     xvfb xauth tzdata gnumeric python3)
 fi
 if [[ "${1:-}" == pictures ]]; then
-  packages+=(xvfb xauth imagemagick)
+  packages+=(xvfb xauth imagemagick fonts-wine)
 fi
 
 missing=()
@@ -29,6 +29,5 @@ if ((EUID != 0)); then
   as_root=(sudo)
 fi
 echo "Installing: ${missing[*]}"
-export DEBIAN_FRONTEND=noninteractive
 "${as_root[@]}" apt-get update -q
-"${as_root[@]}" apt-get install -qy --no-install-recommends "${missing[@]}"
+"${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -qy --no-install-recommends "${missing[@]}"

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Builds the Windows programs and tests them under Wine: the unit tests, then the end-to-end tests, which also
-# need a native build. Wine lives in build-windows/wine and is gone at the end.
+# need a native build. Wine has a Windows of its own for it, in build-windows/wine.
 #   scripts/test-windows.sh        everything, on a display of its own
 #   scripts/test-windows.sh core   what needs no window toolkit; the server of the end-to-end tests is native
 set -euo pipefail
@@ -21,7 +21,8 @@ if [[ -z "${VELMORA_TEST_DISPLAY:-}" ]]; then
   # Whatever kind of native build is there already will do.
   scripts/build.sh build -DVELMORA_TESTS=ON -- e2e_tests
   if [[ "$what" == all ]]; then
-    VELMORA_TEST_DISPLAY=own exec xvfb-run --auto-servernum --server-args="-screen 0 1280x1024x24" "$0" all
+    VELMORA_TEST_DISPLAY=own exec xvfb-run --auto-servernum --server-args="-screen 0 1280x1024x24" \
+      scripts/test-windows.sh all
   fi
   unset DISPLAY
 fi
@@ -49,6 +50,8 @@ start_wineserver() {
 }
 
 make_prefix() {
+  # A run that was killed left its server behind.
+  [[ ! -d "$WINEPREFIX" ]] || end_wineserver
   rm -rf "$work"
   mkdir -p "$logs" "$WINEPREFIX" "$HOME"
   trap end_wineserver EXIT

@@ -3,15 +3,15 @@
 #
 #   scripts/with-com-ports.sh COMMAND [ARGUMENT …]
 #
-#   COM7, COM8    the two ends of a cable
-#   COM9          the end of a cable that is pulled when the file VELMORA_TEST_PULL is made
-#   COM10         in use by another program
-#   COM11         missing
+#   COM57, COM58   the two ends of a cable
+#   COM59          the end of a cable that is pulled when the file VELMORA_TEST_PULL is made
+#   COM60          in use by another program
+#   COM61          missing
 #
 # The command finds their names in VELMORA_TEST_PORT, VELMORA_TEST_FAR_PORT, VELMORA_TEST_PULLED_PORT,
-# VELMORA_TEST_HELD_PORT and VELMORA_TEST_MISSING_PORT. The ports are added to the Wine prefix WINEPREFIX and
-# removed again; VELMORA_CABLE names the cable program, which belongs to a native build. Only one command at a
-# time can use a prefix in this way.
+# VELMORA_TEST_HELD_PORT and VELMORA_TEST_MISSING_PORT. The ports are added to the Wine prefix WINEPREFIX, with
+# numbers above those that Wine gives to this machine's own, and removed again; VELMORA_CABLE names the cable
+# program, which belongs to a native build. Only one command at a time can use a prefix in this way.
 set -euo pipefail
 root=$(cd "$(dirname "$0")/.." && pwd)
 
@@ -40,7 +40,7 @@ cleanup() {
     done
     wait
     rm -rf "$folder"
-    rm -f "$ports"/com{7,8,9,10}
+    rm -f "$ports"/com{57,58,59,60}
 }
 trap cleanup EXIT
 trap 'exit 130' INT
@@ -52,26 +52,29 @@ start_cable() {
     shift
     mkfifo "$output"
     # The cable ends with its standard input: the pipe that nobody writes to lives as long as this script.
-    "$cable" "$@" <"$folder/hold" >"$output" &
+    "$cable" "$@" <"$folder/hold" >"$output" 9<&- &
     programs+=($!)
     exec 8<"$output"
     read -r _ <&8
     read -r _ <&8
     # What it prints at its end needs a reader.
-    cat <&8 >/dev/null &
+    cat <&8 >/dev/null 9<&- &
     programs+=($!)
     exec 8<&-
 }
 mkfifo "$folder/hold"
 exec 9<>"$folder/hold"
-rm -f "$ports"/com{7,8,9,10,11}
-start_cable plain --link "$ports/com7" "$ports/com8"
-start_cable pulled --link "$ports/com9" "$folder/unused"
+rm -f "$ports"/com{57,58,59,60,61}
+start_cable plain --link "$ports/com57" "$ports/com58"
+start_cable pulled --link "$ports/com59" "$folder/unused"
 pulled_cable=${programs[-2]}
-start_cable held --held --link "$ports/com10" "$folder/unused2"
+start_cable held --held --link "$ports/com60" "$folder/unused2"
 
 pull=$folder/pull
-until [ -e "$pull" ]; do sleep 0.05; done && kill "$pulled_cable" &
+{
+    until [ -e "$pull" ] || ! kill -0 $$; do sleep 0.05; done
+    kill "$pulled_cable"
+} 2>/dev/null 9<&- &
 programs+=($!)
 
 # Wine's server opens the ports for all programs. It must not be so privileged that it gets past another
@@ -83,8 +86,8 @@ else
     wineserver >/dev/null 2>&1 9<&- || true
 fi
 
-export VELMORA_TEST_PORT=COM7 VELMORA_TEST_FAR_PORT=COM8 VELMORA_TEST_PULLED_PORT=COM9
-export VELMORA_TEST_HELD_PORT=COM10 VELMORA_TEST_MISSING_PORT=COM11
+export VELMORA_TEST_PORT=COM57 VELMORA_TEST_FAR_PORT=COM58 VELMORA_TEST_PULLED_PORT=COM59
+export VELMORA_TEST_HELD_PORT=COM60 VELMORA_TEST_MISSING_PORT=COM61
 VELMORA_TEST_PULL=Z:$pull
 export VELMORA_TEST_PULL
 status=0
