@@ -162,6 +162,16 @@ check 'the installer ends well' run "$work/setup.exe" /S "${to_other[@]}"
 check 'the uninstaller ends well' run "$other/velmora-uninstall.exe" /S
 check 'a folder with nothing of the user'\''s goes' absent "$other"
 
+echo '-- Into a folder with files of the user'\''s'
+documents="$WINEPREFIX/drive_c/Documents"
+mkdir "$documents"
+echo 'mine' > "$documents/LICENSE.txt"
+check 'the installer ends well' run "$work/setup.exe" /S '/D=C:\Documents'
+check 'it makes a folder of its own there' holds_exactly "$documents/Velmora" "$expected"
+check 'the user'\''s file is as before' grep -qx mine "$documents/LICENSE.txt"
+check 'the uninstaller ends well' run "$documents/Velmora/velmora-uninstall.exe" /S
+check 'that folder is gone again, and the user'\''s file is not' holds_exactly "$documents" ./LICENSE.txt
+
 if ((failures > 0)); then
   echo "$failures checks failed."
   exit 1
