@@ -8,6 +8,10 @@ std::vector<std::string> utf8Arguments(int argc, char** argv) {
     return {argv + 1, argv + argc};
 }
 
+std::vector<std::string> systemArguments(int argc, char** argv) {
+    return {argv + 1, argv + argc};
+}
+
 bool isTerminal(std::FILE* stream) {
     return ::isatty(::fileno(stream)) != 0;
 }

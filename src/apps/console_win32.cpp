@@ -3,9 +3,11 @@
 // Needs windows.h before it.
 #include <shellapi.h>
 
+#include <functional>
 #include <memory>
 
 #include "apps/console.h"
+#include "apps/narrow_argument_win32.h"
 
 namespace velmora {
 namespace {
@@ -22,9 +24,9 @@ std::string utf8Of(const wchar_t* text) {
     return bytes;
 }
 
-}  // namespace
-
-std::vector<std::string> utf8Arguments(int argc, char** argv) {
+/// The words behind the program's name in another form; those of `main` when the system does not tell them.
+std::vector<std::string> argumentsAs(const std::function<std::string(const wchar_t*)>& form, int argc,
+                                     char** argv) {
     int count = 0;
     const std::unique_ptr<LPWSTR, decltype(&LocalFree)> wide(CommandLineToArgvW(GetCommandLineW(), &count),
                                                              LocalFree);
@@ -33,9 +35,19 @@ std::vector<std::string> utf8Arguments(int argc, char** argv) {
     }
     std::vector<std::string> arguments;
     for (int i = 1; i < count; ++i) {
-        arguments.push_back(utf8Of(wide.get()[i]));
+        arguments.push_back(form(wide.get()[i]));
     }
     return arguments;
+}
+
+}  // namespace
+
+std::vector<std::string> utf8Arguments(int argc, char** argv) {
+    return argumentsAs(utf8Of, argc, argv);
+}
+
+std::vector<std::string> systemArguments(int argc, char** argv) {
+    return argumentsAs(narrowArgument, argc, argv);
 }
 
 bool isTerminal(std::FILE* stream) {

@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "apps/console.h"
 #include "files/files_tool.h"
 #include "platform/binary_streams.h"
 #include "platform/console_output.h"
@@ -13,5 +14,12 @@ int main(int argc, char** argv) {
     velmora::useBinaryStandardStreams();
     velmora::NativeFiles files(velmora::NativeFolders().temporary());
     const velmora::NativePaths paths(velmora::currentFolder());
-    return velmora::runFilesTool({argv + 1, argv + argc}, files, paths, std::cin, std::cout, std::cerr);
+    std::vector<std::string> arguments;
+    try {
+        arguments = velmora::systemArguments(argc, argv);
+    } catch (const velmora::ArgumentError& error) {
+        std::cerr << "velmora-files: " << error.what() << '\n';
+        return 2;
+    }
+    return velmora::runFilesTool(arguments, files, paths, std::cin, std::cout, std::cerr);
 }

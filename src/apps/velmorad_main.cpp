@@ -3,9 +3,8 @@
 #include <csignal>
 #include <cstdio>
 #include <exception>
-#include <string>
-#include <vector>
 
+#include "apps/console.h"
 #include "apps/headless_server.h"
 #include "apps/server_arguments.h"
 #include "eventloop/stop_signals.h"
@@ -16,9 +15,12 @@ int main(int argc, char** argv) {
     const auto console = showOnConsole(PrintedText::System);
     ServerArguments arguments;
     try {
-        arguments = parseServerArguments(std::vector<std::string>(argv + 1, argv + argc));
+        arguments = parseServerArguments(systemArguments(argc, argv));
     } catch (const UsageError& error) {
         std::fprintf(stderr, "velmorad: %s\nTry --help.\n", error.what());
+        return 2;
+    } catch (const ArgumentError& error) {
+        std::fprintf(stderr, "velmorad: %s\n", error.what());
         return 2;
     }
     if (arguments.help) {

@@ -106,7 +106,7 @@ clsIniFile::clsIniFile(ProfileFiles& profiles, const PathRules& rules, MessageBo
 
 void clsIniFile::setIniFile(const std::string& path) {
     if (useWinIni_) {
-        privatePath_ = rules_.absolute(path);
+        privatePath_ = path.empty() ? std::string() : rules_.absolute(path);
         return;
     }
     setFile(path);
@@ -117,7 +117,7 @@ void clsIniFile::setFile(const std::string& path) {
     folder_ = rules_.parentFolder(path_);
     baseName_ = rules_.baseName(path_);
     extension_ = rules_.extension(path_);
-    registered_ = registered_ || (!path_.empty() && !section_.empty());
+    registered_ = !path_.empty() && (registered_ || !section_.empty());
 }
 
 void clsIniFile::setSectionName(const std::string& section) {

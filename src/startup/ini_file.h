@@ -24,9 +24,10 @@ struct KeyOrder {
 /// Key and value of entries. Of several with one key the first is kept.
 using SectionDictionary = std::map<std::string, std::string, KeyOrder>;
 
-/// Remembers one file and one section. Until both have been given, every reading or writing member shows the
-/// box "IniFile Logic Error" and returns 0, false or an empty text. Texts are Windows-1252 bytes, paths in
-/// the system's narrow encoding. Failures of the file layer come through as RunTimeError.
+/// Remembers one file and one section. Until both have been given, and while there is no file, every reading
+/// or writing member shows the box "IniFile Logic Error" and returns 0, false or an empty text. Texts are
+/// Windows-1252 bytes, paths in the system's narrow encoding. Failures of the file layer come through as
+/// RunTimeError.
 ///
 /// Holds references only: profiles, rules and box must outlive it.
 class clsIniFile {

@@ -7,9 +7,10 @@ namespace velmora {
 
 namespace {
 
-// A root keeps its separator, being nothing without it.
+/// A root keeps its separator: "/" is nothing without it, and "C:" is the current folder of the drive.
 std::string withoutFinalSeparator(std::string path) {
-    if (path.size() > 1 && (path.back() == '/' || path.back() == '\\')) {
+    const bool isRoot = path.size() == 1 || (path.size() == 3 && path[1] == ':');
+    if (!path.empty() && !isRoot && (path.back() == '/' || path.back() == '\\')) {
         path.pop_back();
     }
     return path;

@@ -33,6 +33,7 @@ TEST(ConsoleTest, TheArgumentsAreThoseBehindTheProgramsName) {
     char second[] = "zwei \xC3\xA4";
     char* arguments[] = {program, first, second, nullptr};
     EXPECT_EQ(utf8Arguments(3, arguments), (std::vector<std::string>{"first", "zwei \xC3\xA4"}));
+    EXPECT_EQ(systemArguments(3, arguments), (std::vector<std::string>{"first", "zwei \xC3\xA4"}));
 }
 #endif
 

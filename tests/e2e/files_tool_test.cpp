@@ -44,6 +44,20 @@ TEST_F(FilesToolTest, FileNamesMayHaveLettersThatOnlySomeLanguagesHave) {
     EXPECT_NE(shown.output.find("two"), std::string::npos) << shown.output;
 }
 
+TEST_F(FilesToolTest, AFileWithASimilarNameIsNeverWritten) {
+    writeFile(home / "in.odb", "one\r\n");
+    writeFile(home / "Lodz.txt", "precious");
+    // Where paths have every letter the file is written; where they do not it is refused.
+    const Finished done = filesTool({"data", at("in.odb"), at("\u0141odz.txt")});
+    EXPECT_EQ(contentsOf(home / "Lodz.txt"), "precious");
+    if (done.status == 0) {
+        EXPECT_TRUE(std::filesystem::exists(home / "\u0141odz.txt"));
+    } else {
+        EXPECT_EQ(done.status, 2);
+        EXPECT_NE(done.error.find("odz.txt"), std::string::npos) << done.error;
+    }
+}
+
 TEST_F(FilesToolTest, AMissingFileIsNamedAndEndsWithOne) {
     const Finished done = filesTool({"show", at("none.wks")});
     EXPECT_EQ(done.status, 1);

@@ -4,7 +4,9 @@
 #include <windows.h>
 
 #include <ctime>
+#include <functional>
 #include <map>
+#include <memory>
 
 #include "platform/win32/ansi_text.h"
 #include "platform/win32/win32_handle.h"
@@ -47,7 +49,14 @@ class Win32FilesTest : public testing::Test {
     }
 
     test::TempFolder folder;
-    Win32Files files{folder.path()};
+    int waits = 0;
+    std::function<void()> whileWaiting;
+    Win32Files files{folder.path(), [this](std::chrono::milliseconds) {
+                         ++waits;
+                         if (whileWaiting) {
+                             whileWaiting();
+                         }
+                     }};
 };
 
 /// The file as another program has it open.
@@ -137,6 +146,9 @@ TEST_F(Win32FilesTest, ADriveOrServerThatIsNotThereIsAMissingFolder) {
     EXPECT_FALSE(files.folderExists("A:\\"));
     EXPECT_EQ(errorOf([&] { files.open("A:\\Memo", OpenMode::Create); }), 76);
     EXPECT_EQ(errorOf([&] { files.createFolder("A:\\Sub"); }), 76);
+    const std::string server = "\\\\velmora-no-such-server\\share\\X";
+    EXPECT_FALSE(files.fileExists(server));
+    EXPECT_EQ(errorOf([&] { files.open(server, OpenMode::Create); }), 76);
 }
 
 // What is no file.
@@ -190,8 +202,37 @@ TEST_F(Win32FilesTest, AFileHeldByAnotherProgramIsNotReplaced) {
     folder.write("new", "new");
     const Win32Handle held = heldOpen(folder.write("held", "old"), GENERIC_READ, FILE_SHARE_READ);
     EXPECT_EQ(errorOf([&] { files.replaceFile(path("new"), path("held")); }), 70);
+    EXPECT_GT(waits, 1);
+    EXPECT_LT(waits, 100);
     EXPECT_EQ(folder.read("held"), "old");
     EXPECT_EQ(folder.read("new"), "new");
+}
+
+TEST_F(Win32FilesTest, AFileThatIsHeldForAMomentIsReplaced) {
+    for (const char* heldName : {"old", "new"}) {
+        folder.write("new", "new");
+        folder.write("old", "old");
+        auto held =
+            std::make_unique<Win32Handle>(heldOpen(path(heldName), GENERIC_READ, FILE_SHARE_READ).handOn());
+        ASSERT_TRUE(held->isValid());
+        waits = 0;
+        whileWaiting = [&] {
+            if (waits == 2) {
+                held.reset();
+            }
+        };
+        EXPECT_EQ(errorOf([&] { files.replaceFile(path("new"), path("old")); }), 0) << heldName;
+        EXPECT_EQ(waits, 2) << heldName;
+        EXPECT_EQ(folder.read("old"), "new") << heldName;
+    }
+}
+
+TEST_F(Win32FilesTest, AFileThatOthersReadAndShareIsReplacedAtOnce) {
+    folder.write("old", "old");
+    const Win32Handle held = heldOpen(folder.write("new", "new"), GENERIC_READ,
+                                      FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE);
+    files.replaceFile(path("new"), path("old"));
+    EXPECT_EQ(waits, 0);
 }
 
 TEST_F(Win32FilesTest, AReaderThatLetsOthersWriteDoesNoHarm) {

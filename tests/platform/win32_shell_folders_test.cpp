@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 #include <windows.h>
+// Above it they do not compile.
+#include <shlobj.h>
 
 #include <cctype>
 #include <string>
@@ -45,6 +47,12 @@ TEST(ShellFolders, ApplicationDataIsTheUsersOwn) {
     char fromEnvironment[MAX_PATH] = {};
     ASSERT_GT(GetEnvironmentVariableA("APPDATA", fromEnvironment, MAX_PATH), 0U);
     EXPECT_EQ(lstrcmpiA(ShellFolders().applicationData().c_str(), fromEnvironment), 0);
+}
+
+TEST(ShellFolders, DocumentsAreWhereTheShellHasThem) {
+    char documents[MAX_PATH] = {};
+    ASSERT_EQ(SHGetFolderPathA(nullptr, CSIDL_PERSONAL, nullptr, SHGFP_TYPE_CURRENT, documents), S_OK);
+    EXPECT_EQ(lstrcmpiA(ShellFolders().documents().c_str(), documents), 0) << documents;
 }
 
 TEST(ShellFolders, TheCurrentFolderIsFollowed) {

@@ -58,9 +58,12 @@ TEST_F(Win32Names, FindAFileByTheShortNameThatIsListed) {
 }
 
 TEST_F(Win32Names, WorkWithTheRootOfADriveAsTheDownloadFolder) {
-    settings.DownloadPath = "C:\\";
-    EXPECT_EQ(tools.map_FileName("MEMO", false, false), "C:\\Memo");
-    EXPECT_EQ(tools.map_FileName("C:MEMO", false, false), "C:\\Memo");
+    for (const char* root : {"C:\\", "C:"}) {
+        settings.DownloadPath = root;
+        EXPECT_EQ(tools.map_FileName("MEMO", false, false), "C:\\Memo") << root;
+        EXPECT_EQ(tools.map_FileName("C:MEMO", false, false), "C:\\Memo") << root;
+        EXPECT_EQ(tools.map_FileName("\\MEMO", false, false), "C:\\Memo") << root;
+    }
 }
 
 }  // namespace

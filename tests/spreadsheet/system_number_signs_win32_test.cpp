@@ -70,9 +70,22 @@ TEST(SystemNumberSigns, OfANamedLocaleAreKnown) {
     EXPECT_EQ(german->thousands, L'.');
 }
 
+TEST(SystemNumberSigns, OfALocaleWithoutANumberAreItsOwn) {
+    const LCID number = LocaleNameToLCID(L"en-DE", 0);
+    if (number != LOCALE_CUSTOM_UNSPECIFIED) {
+        GTEST_SKIP() << "this system gives it the number " << number;
+    }
+    const auto signs = systemNumberSigns("en_DE.UTF-8");
+    ASSERT_TRUE(signs.has_value());
+    EXPECT_EQ(signs->decimal, L',');
+    EXPECT_EQ(signs->thousands, L'.');
+}
+
 TEST(SystemNumberSigns, OfAnUnknownNameAreNothing) {
     EXPECT_FALSE(systemNumberSigns("C").has_value());
     EXPECT_FALSE(systemNumberSigns("qq_QQ").has_value());
+    EXPECT_FALSE(systemNumberSigns("en_QQ").has_value());
+    EXPECT_FALSE(systemNumberSigns(".UTF-8").has_value());
     EXPECT_FALSE(systemNumberSigns("no such locale").has_value());
 }
 

@@ -192,6 +192,30 @@ TEST_F(IniFile, AFileSetMeanwhileIsThePrivateOne) {
     EXPECT_EQ(ini.IniFile(), "/other.ini");
 }
 
+TEST_F(IniFile, WithoutAPrivateFileNoneComesBack) {
+    ini.setSectionName("S");
+    ini.setUseWinINI(true);
+    EXPECT_EQ(ini.GetString("A", "default"), "default");
+    ini.setUseWinINI(false);
+    EXPECT_EQ(ini.IniFile(), "");
+    EXPECT_EQ(ini.GetString("A", "default"), "");
+    ASSERT_EQ(box.shown.size(), 1U);
+    EXPECT_EQ(box.shown[0].title, "IniFile Logic Error");
+    givenEntry("A=1");
+    EXPECT_EQ(ini.GetString("A", "default"), "1");
+}
+
+TEST_F(IniFile, NoFileSetMeanwhileIsNoPrivateFile) {
+    givenEntry("A=private");
+    ini.setUseWinINI(true);
+    ini.setIniFile("");
+    EXPECT_EQ(ini.IniFile(), "/windows/win.ini");
+    ini.setUseWinINI(false);
+    EXPECT_EQ(ini.IniFile(), "");
+    EXPECT_EQ(ini.GetString("A", "default"), "");
+    EXPECT_EQ(box.shown.size(), 1U);
+}
+
 // --- Use without a file or section
 
 struct Member {

@@ -57,6 +57,14 @@ inline std::vector<ProfileEdit> profileEdits() {
         {"DeletesTheFirstOfTwoSections", "[S]\r\nA=1\r\n[S]\r\nB=2\r\n", std::nullopt, std::nullopt,
          "[S]\r\nB=2\r\n"},
         {"DeletesNoMissingSection", "[R]\r\nA=1\r\n", std::nullopt, std::nullopt, "[R]\r\nA=1\r\n"},
+        {"KeepsUtf8", "[S]\r\nA=\xC3\xA9\r\n", "B", "\xFC", "[S]\r\nA=\xC3\xA9\r\nB=\xC3\xBC\r\n"},
+        {"KeepsTheMarkBeforeASection", "\xEF\xBB\xBF[S]\r\nA=1\r\n", "A", "\xE9",
+         "\xEF\xBB\xBF[S]\r\nA=\xC3\xA9\r\n"},
+        {"MatchesKeysInUtf8", "[S]\r\nSchl\xC3\xBCssel=1\r\n", "SCHL\xDCSSEL", "2",
+         "[S]\r\nSchl\xC3\xBCssel=2\r\n"},
+        {"WritesAsUtf8WhatLooksLikeIt", "[S]\r\n", "A", "\xC3\xA9", "[S]\r\nA=\xC3\x83\xC2\xA9\r\n"},
+        {"DeletesASectionBehindTheMark", "\xEF\xBB\xBF[S]\r\nA=1\r\n[T]\r\n", std::nullopt, std::nullopt,
+         "\xEF\xBB\xBF[T]\r\n"},
         {"WritesBytesAboveAscii", "[S]\r\nA=\xE9\r\n", "B", "\xFC", "[S]\r\nA=\xE9\r\nB=\xFC\r\n"},
     };
 }

@@ -72,6 +72,7 @@ inline const std::vector<NameCase>& windowsNameCases() {
         {"AccentedCapitals", "\xC4RGER\xD6.TXT", "@\\Psion\\\xC4rger\xF6.txt"},
         {"AccentedSmallLetter", "M\xFCLL.TXT", "@\\Psion\\M\xFCLL.TXT"},
         {"OnlyAnExtension", ".TXT", "@\\Psion\\.txt"},
+        {"AFinalDotIsAnEmptyExtension", "MEMO.", "@\\Psion\\Memo."},
         {"BaseEndsAtTheLastDot", "A.b.TXT", "@\\Psion\\A.b.TXT"},
         {"ExistingIsGivenAsStored", "MIXEDCASE.TXT", "@\\Psion\\MixedCase.TXT", true},
         {"ExistingIsNotLookedUpUnasked", "MIXEDCASE.TXT", "@\\Psion\\Mixedcase.txt"},

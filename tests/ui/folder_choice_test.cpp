@@ -56,6 +56,9 @@ TEST_F(FolderChoice, AFinalSeparatorIsRemovedExceptFromARoot) {
     EXPECT_EQ(transfer.DownloadPath, "C:\\psion");
     choose("/");
     EXPECT_EQ(transfer.DownloadPath, "/");
+    choose("C:\\");
+    EXPECT_EQ(transfer.DownloadPath, "C:\\");
+    EXPECT_EQ(store.entries.back(), "[Settings] DownloadPath=C:\\");
 }
 
 TEST_F(FolderChoice, AFolderThatCannotBeSavedIsUsedAndSaidSo) {

@@ -14,6 +14,7 @@
 #include "platform/profile/profile_rules.h"
 #include "platform/profile/profile_text.h"
 #include "platform/profile/replace_contents.h"
+#include "platform/win32/ansi_text.h"
 #include "platform/win32/win32_errors.h"
 
 namespace velmora {
@@ -78,7 +79,10 @@ void writeSystemProfile(const std::string& section, const char* key, const char*
 }  // namespace
 
 Win32ProfileFiles::Win32ProfileFiles(Files& files, const PathRules& rules)
-    : files_(files), rules_(rules), systemProfile_(rules.join(windowsFolder(), "win.ini")) {}
+    : files_(files),
+      rules_(rules),
+      systemProfile_(rules.join(windowsFolder(), "win.ini")),
+      utf8_(files, rules, PathEncoding::Utf8) {}
 
 /// The path to give to the functions. They take a name without a folder, and a path that is too long, for
 /// something in the Windows folder.
@@ -109,10 +113,28 @@ bool Win32ProfileFiles::isSystemProfile(const std::string& path) const {
     return upperCase(path) == upperCase(systemProfile_);
 }
 
+/// Whether a file holds UTF-8, which the functions take for texts of the ANSI code page.
+bool Win32ProfileFiles::isUtf8Profile(const std::string& path) const {
+    return !isSystemProfile(path) && detectEncoding(contents(path)) == ProfileEncoding::Utf8;
+}
+
+/// Whether a file holds UTF-8 or, being plain, would be taken for UTF-8 once these bytes stand in it.
+bool Win32ProfileFiles::becomesUtf8Profile(const std::string& path, const std::string& bytes) const {
+    if (isSystemProfile(path)) {
+        return false;
+    }
+    const ProfileEncoding encoding = detectEncoding(contents(path));
+    return encoding == ProfileEncoding::Utf8 ||
+           (encoding == ProfileEncoding::Ascii && detectEncoding(bytes) == ProfileEncoding::Utf8);
+}
+
 std::string Win32ProfileFiles::getString(const std::string& section, const std::string& key,
                                          const std::string& defaultText, std::size_t bufferSize,
                                          const std::string& file) {
     const std::string path = readablePath(file);
+    if (isUtf8Profile(path)) {
+        return utf8_.getString(section, key, defaultText, bufferSize, path);
+    }
     if (bufferSize <= 1) {
         return {};
     }
@@ -141,6 +163,9 @@ std::string Win32ProfileFiles::wholeValue(const std::string& section, const std:
 std::int32_t Win32ProfileFiles::getInt(const std::string& section, const std::string& key,
                                        std::int32_t defaultValue, const std::string& file) {
     const std::string path = readablePath(file);
+    if (isUtf8Profile(path)) {
+        return utf8_.getInt(section, key, defaultValue, path);
+    }
     const std::string value = wholeValue(section, key, {}, path);
     if (value.empty()) {
         return defaultValue;
@@ -157,6 +182,9 @@ std::int32_t Win32ProfileFiles::getInt(const std::string& section, const std::st
 
 std::vector<std::string> Win32ProfileFiles::getSection(const std::string& section, const std::string& file) {
     const std::string path = readablePath(file);
+    if (isUtf8Profile(path)) {
+        return utf8_.getSection(section, path);
+    }
     const std::string list = grown(2, [&](char* buffer, DWORD size) {
         return isSystemProfile(path) ? GetProfileSectionA(section.c_str(), buffer, size)
                                      : GetPrivateProfileSectionA(section.c_str(), buffer, size, path.c_str());
@@ -211,7 +239,10 @@ void Win32ProfileFiles::writeString(const std::string& section, const std::optio
     const std::string path = readablePath(file);
     const char* keyText = key ? key->c_str() : nullptr;
     const char* valueText = key && value ? value->c_str() : nullptr;
-    if (isSystemProfile(path)) {
+    if (becomesUtf8Profile(path, '[' + section + ']' + key.value_or("") + '=' + value.value_or(""))) {
+        utf8_.writeString(section, key, value, path);
+        forget(path);
+    } else if (isSystemProfile(path)) {
         writeSystemProfile(section, keyText, valueText, path);
     } else {
         editCopy(section, keyText, valueText, path);
@@ -221,6 +252,10 @@ void Win32ProfileFiles::writeString(const std::string& section, const std::optio
 std::string Win32ProfileFiles::getPath(const std::string& section, const std::string& key,
                                        const std::string& defaultPath, const std::string& file) {
     const std::string path = readablePath(file);
+    if (isUtf8Profile(path)) {
+        return ansiPath(
+            wideFromUtf8(utf8_.getPath(section, key, utf8FromWide(wideFromAnsi(defaultPath)), path)));
+    }
     const std::string value = wholeValue(section, key, {}, path);
     if (!value.empty()) {
         return value;
@@ -234,23 +269,28 @@ void Win32ProfileFiles::writePath(const std::string& section, const std::string&
     if (!isOneProfileLine(path)) {
         throw RunTimeError(ErrorNumber::BadFileName, path);
     }
-    writeString(section, key, path, file);
+    const std::string profile = readablePath(file);
+    if (becomesUtf8Profile(profile, '[' + section + ']' + key + '=' + path)) {
+        utf8_.writePath(section, key, utf8FromWide(wideFromAnsi(path)), profile);
+        forget(profile);
+    } else {
+        writeString(section, key, path, file);
+    }
 }
 
 std::string Win32ProfileFiles::text(const std::string& file) {
     const std::string path = readablePath(file);
-    std::string bytes = contents(path);
-    if (bytes.starts_with(kUtf16Mark)) {
-        return fromUtf16(std::string_view(bytes).substr(kUtf16Mark.size()));
+    if (isUtf8Profile(path)) {
+        return utf8_.text(path);
     }
-    if (bytes.starts_with(kUtf8Mark)) {
-        bytes.erase(0, kUtf8Mark.size());
-    }
-    return bytes;
+    const std::string bytes = contents(path);
+    return bytes.starts_with(kUtf16Mark) ? fromUtf16(std::string_view(bytes).substr(kUtf16Mark.size()))
+                                         : bytes;
 }
 
 void Win32ProfileFiles::flush(const std::string& file) {
     const std::string path = pathFor(file);
+    utf8_.flush(path);
     if (isSystemProfile(path)) {
         WriteProfileStringA(nullptr, nullptr, nullptr);
     } else {

@@ -6,12 +6,17 @@
 #include "base/files.h"
 #include "base/path_rules.h"
 #include "platform/profile/profile_files.h"
+#include "platform/profile/text_profile_files.h"
 
 namespace velmora {
 
 /// Forwards to GetPrivateProfileStringA and its relatives (Win32, winbase.h). For "win.ini" in the Windows
 /// folder it takes the functions of the system profile (GetProfileStringA and so on), which know where the
 /// system keeps each section. Texts are in the ANSI code page.
+///
+/// Those functions know no UTF-8: they take its bytes for ANSI texts, and a UTF-8 mark in front of the first
+/// section hides that section from them. A file that begins with the mark or is valid UTF-8 is therefore read
+/// and edited by TextProfileFiles; paths in it are converted to and from the ANSI code page as ansiPath does.
 ///
 /// What those functions leave untold is made clear before and after: a file that cannot be read is an error
 /// and not a set of defaults, and a path that they would look for in the Windows folder is refused. A write
@@ -41,6 +46,8 @@ class Win32ProfileFiles : public ProfileFiles {
     std::string pathFor(const std::string& file) const;
     std::string readablePath(const std::string& file) const;
     bool isSystemProfile(const std::string& path) const;
+    bool isUtf8Profile(const std::string& path) const;
+    bool becomesUtf8Profile(const std::string& path, const std::string& bytes) const;
     std::string wholeValue(const std::string& section, const std::string& key, const std::string& otherwise,
                            const std::string& path) const;
     std::string contents(const std::string& path) const;
@@ -49,6 +56,7 @@ class Win32ProfileFiles : public ProfileFiles {
     Files& files_;
     const PathRules& rules_;
     std::string systemProfile_;  // the path of "win.ini"
+    TextProfileFiles utf8_;      // for files in UTF-8
 };
 
 }  // namespace velmora

@@ -24,20 +24,11 @@ std::string rootOfCurrentDrive() {
     return folder.substr(1, 1) == ":" ? folder.substr(0, 2) + "\\" : "C:\\";
 }
 
-bool isFolder(const std::string& path) {
-    const DWORD attributes = GetFileAttributesA(path.c_str());
-    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
-}
-
-/// The path of an item of the shell; empty for one that lies on no disk.
+/// The path of an item of the shell; empty for one that lies on no disk. The narrow function is not asked:
+/// the path that it tells may be that of another user with a similar name.
 std::string pathOfItem(const ITEMIDLIST* item) {
-    std::array<char, MAX_PATH> path{};
-    if (SHGetPathFromIDListA(item, path.data()) != 0 && isFolder(path.data())) {
-        return path.data();
-    }
-    // Not there, or there under a name that the narrow function cannot tell.
-    std::array<wchar_t, MAX_PATH> wide{};
-    return SHGetPathFromIDListW(item, wide.data()) == 0 ? std::string() : ansiPath(wide.data());
+    std::array<wchar_t, MAX_PATH> path{};
+    return SHGetPathFromIDListW(item, path.data()) == 0 ? std::string() : ansiPath(path.data());
 }
 
 std::string specialFolder(int number) {
@@ -67,15 +58,10 @@ std::string ShellFolders::documents() const {
 }
 
 std::string ShellFolders::temporary() const {
-    std::array<char, MAX_PATH + 1> folder{};
-    const DWORD length = GetTempPathA(static_cast<DWORD>(folder.size()), folder.data());
-    if (length != 0 && length < folder.size() && isFolder(folder.data())) {
-        return withoutFinalSeparator(folder.data());
-    }
-    std::array<wchar_t, MAX_PATH + 1> wide{};
-    const DWORD wideLength = GetTempPathW(static_cast<DWORD>(wide.size()), wide.data());
-    return wideLength == 0 || wideLength >= wide.size() ? rootOfCurrentDrive()
-                                                        : withoutFinalSeparator(ansiPath(wide.data()));
+    std::array<wchar_t, MAX_PATH + 1> folder{};
+    const DWORD length = GetTempPathW(static_cast<DWORD>(folder.size()), folder.data());
+    return length == 0 || length >= folder.size() ? rootOfCurrentDrive()
+                                                  : withoutFinalSeparator(ansiPath(folder.data()));
 }
 
 }  // namespace velmora

@@ -6,14 +6,15 @@
 namespace velmora {
 
 /// Folders as the shell knows them. One that the shell does not tell is the root of the current drive. A
-/// folder whose name is not in the ANSI code page is given by its short name.
+/// folder whose path is not in the ANSI code page is given by its short names, or where the volume keeps none
+/// with "?" in it, which the file layer refuses (64); never by a similar path, which may be another user's.
 class ShellFolders : public KnownFolders {
   public:
     /// CSIDL_APPDATA (26) of SHGetSpecialFolderLocation.
     std::string applicationData() const override;
     /// CSIDL_PERSONAL (5) of SHGetSpecialFolderLocation.
     std::string documents() const override;
-    /// GetTempPathA.
+    /// GetTempPathW.
     std::string temporary() const override;
 };
 

@@ -58,21 +58,35 @@ DWORD disposition(OpenMode mode) {
     return OPEN_EXISTING;
 }
 
+constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+
 /// Hands the bytes to the disk before the name changes hands, so that a power failure leaves one whole file.
-void flushToDisk(const std::string& path) {
+/// Answers 0 or the number of GetLastError.
+DWORD flushToDisk(const std::string& path) {
     const Win32Handle file(
-        CreateFileA(path.c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr));
-    if (!file.isValid() || FlushFileBuffers(file.get()) == 0) {
-        throw win32Error(GetLastError(), path);
+        CreateFileA(path.c_str(), GENERIC_WRITE, kShareAll, nullptr, OPEN_EXISTING, 0, nullptr));
+    return file.isValid() && FlushFileBuffers(file.get()) != 0 ? ERROR_SUCCESS : GetLastError();
+}
+
+/// Takes a step, which answers 0 or the number of GetLastError, again while the answer may be that another
+/// program holds the file. Gives up after half a second.
+DWORD patiently(const Win32Files::Wait& wait, const std::function<DWORD()>& step) {
+    constexpr int kAttempts = 26;
+    constexpr std::chrono::milliseconds kPause(20);
+    DWORD error = step();
+    for (int i = 1; i < kAttempts && (error == ERROR_SHARING_VIOLATION || error == ERROR_ACCESS_DENIED);
+         ++i) {
+        wait(kPause);
+        error = step();
     }
+    return error;
 }
 
 /// Why a file could not be replaced: the answer is "access denied" also when another program holds it.
 DWORD replaceError(const std::string& target, DWORD error) {
     if (error == ERROR_ACCESS_DENIED) {
-        const Win32Handle probe(CreateFileA(target.c_str(), DELETE,
-                                            FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
-                                            OPEN_EXISTING, 0, nullptr));
+        const Win32Handle probe(
+            CreateFileA(target.c_str(), DELETE, kShareAll, nullptr, OPEN_EXISTING, 0, nullptr));
         if (!probe.isValid() && GetLastError() == ERROR_SHARING_VIOLATION) {
             return ERROR_SHARING_VIOLATION;
         }
@@ -88,7 +102,11 @@ std::string withSeparator(const std::string& folder) {
 
 }  // namespace
 
-Win32Files::Win32Files(std::string temporaryFolder) : temporaryFolder_(std::move(temporaryFolder)) {
+Win32Files::Win32Files(std::string temporaryFolder, Wait wait)
+    : temporaryFolder_(std::move(temporaryFolder)), wait_(std::move(wait)) {
+    if (!wait_) {
+        wait_ = [](std::chrono::milliseconds time) { Sleep(static_cast<DWORD>(time.count())); };
+    }
     SetErrorMode(GetErrorMode() | SEM_FAILCRITICALERRORS);
 }
 
@@ -181,10 +199,16 @@ void Win32Files::replaceFile(const std::string& from, const std::string& to) {
         }
         target = withStoredLetters(target);  // the letters of the new name count otherwise
     }
-    flushToDisk(source);
-    if (MoveFileExA(source.c_str(), target.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) ==
-        0) {
-        throw win32Error(replaceError(target, GetLastError()), target);
+    if (const DWORD error = patiently(wait_, [&] { return flushToDisk(source); }); error != ERROR_SUCCESS) {
+        throw win32Error(error, source);
+    }
+    const DWORD error = patiently(wait_, [&]() -> DWORD {
+        const bool moved = MoveFileExA(source.c_str(), target.c_str(),
+                                       MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
+        return moved ? ERROR_SUCCESS : GetLastError();
+    });
+    if (error != ERROR_SUCCESS) {
+        throw win32Error(replaceError(target, error), target);
     }
 }
 

@@ -1,6 +1,8 @@
 // The file system of Windows as the services see it.
 #pragma once
 
+#include <chrono>
+#include <functional>
 #include <string>
 
 #include "base/files.h"
@@ -14,9 +16,13 @@ namespace velmora {
 /// (260) bytes when they are made absolute; a longer one is 64.
 class Win32Files : public Files {
   public:
-    /// `temporaryFolder`: where temporary files go that name no folder. From here on a drive without a disk
+    /// Waits for a while.
+    using Wait = std::function<void(std::chrono::milliseconds)>;
+
+    /// `temporaryFolder`: where temporary files go that name no folder. `wait`: between attempts at what may
+    /// soon be possible; without one the thread sleeps. From here on a drive without a disk
     /// is an error for this process instead of a question of Windows to the user (SetErrorMode).
-    explicit Win32Files(std::string temporaryFolder);
+    explicit Win32Files(std::string temporaryFolder, Wait wait = {});
 
     bool fileExists(const std::string& path) const override;
     bool folderExists(const std::string& path) const override;
@@ -25,7 +31,8 @@ class Win32Files : public Files {
     std::unique_ptr<File> open(const std::string& path, OpenMode mode) override;
     void deleteFile(const std::string& path) override;
     void createFolder(const std::string& path) override;
-    /// By MoveFileExA. The new file keeps the rights that it was made with.
+    /// By MoveFileExA. The new file keeps the rights that it was made with. Virus scanners and indexers hold
+    /// a file that was just closed for some milliseconds, so a refusal is final only after half a second.
     void replaceFile(const std::string& from, const std::string& to) override;
     /// By GetTempFileNameA.
     std::string createTemporaryFile(const std::string& folder = {}) override;
@@ -37,6 +44,7 @@ class Win32Files : public Files {
 
   private:
     std::string temporaryFolder_;
+    Wait wait_;
 };
 
 }  // namespace velmora

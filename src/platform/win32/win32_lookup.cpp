@@ -60,7 +60,7 @@ bool leadsToADevice(const std::string& absolute) {
 void requireFilePath(const std::string& path) {
     if (path.empty() || path.size() >= MAX_PATH ||
         path.find_first_of(std::string_view("*?<>|\"\0", 7)) != std::string::npos ||
-        path.find(':', 2) != std::string::npos || path.front() == ':') {
+        path.find(':', 2) != std::string::npos || path.front() == ':' || !isExactText(path, CP_ACP)) {
         throw RunTimeError(ErrorNumber::BadFileName, path);
     }
     std::array<char, MAX_PATH> absolute{};

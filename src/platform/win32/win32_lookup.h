@@ -20,8 +20,9 @@ std::uint32_t readWin32Status(const std::string& path, Win32Status& status);
 /// The path by which Windows finds what a path means: the path itself, or with long names in the place of
 /// short names that no file system keeps. Throws RunTimeError 64 for a path that is empty, has MAX_PATH bytes
 /// or more when it is made absolute, or holds the zero byte, a character of a pattern (which would find
-/// another file) or a ":" behind the drive (which would name a stream inside a file); 75 for one that leads
-/// to a device or a pipe, which is not touched.
+/// another file) or a ":" behind the drive (which would name a stream inside a file), or bytes that are no
+/// text in the ANSI code page (which would all name one file); 75 for one that leads to a device or a pipe,
+/// which is not touched.
 std::string lookUpWin32Path(const std::string& path);
 
 /// An existing path with the letters of every component as stored on disk and a capital drive letter. A

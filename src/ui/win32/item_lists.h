@@ -19,13 +19,9 @@ using ItemList = std::unique_ptr<ITEMIDLIST_ABSOLUTE, ItemListDeleter>;
 /// The special folder with a CSIDL number (SHGetSpecialFolderLocation); null when the number stands for none.
 ItemList specialFolderItem(HWND owner, int number);
 
-/// The item's path in the ANSI code page (SHGetPathFromIDListA). A path with other characters is given by its
-/// short names where the volume keeps them, never by one that names another folder. Nothing when there is
-/// no such path; empty when the item is no place in the file system.
+/// The item's path in the ANSI code page (SHGetPathFromIDListW, exactPath). A path with other characters is
+/// given by its short names where the volume keeps them, never by one that names another folder. Nothing when
+/// there is no such path; empty when the item is no place in the file system.
 std::optional<std::string> pathOfItem(PCIDLIST_ABSOLUTE item);
-
-/// A path in the ANSI code page that stands for exactly this file or folder: its own or, when that has
-/// other characters, the one of its short names (GetShortPathNameW).
-std::optional<std::string> exactPath(const std::wstring& path);
 
 }  // namespace velmora

@@ -253,22 +253,6 @@ TEST_F(Profile, BytesAboveAsciiAreWindows1252) {
     EXPECT_EQ(text("S", "A"), "caf\xE9 \x80");
 }
 
-TEST_F(Profile, ValidUtf8IsConverted) {
-    given("[S]\r\nA=caf\xC3\xA9 \xE2\x82\xAC\r\n");
-    EXPECT_EQ(text("S", "A"), "caf\xE9 \x80");
-    EXPECT_THAT(entries("S"), ElementsAre("A=caf\xE9 \x80"));
-}
-
-TEST_F(Profile, CharactersWithoutAByteBecomeQuestionMarks) {
-    given("[S]\r\nA=\xE2\x98\x83 and \xF0\x9F\x98\x80\r\n");
-    EXPECT_EQ(text("S", "A"), "? and ?");
-}
-
-TEST_F(Profile, AMarkMakesItUtf8EvenWithABrokenByte) {
-    given("\xEF\xBB\xBF[S]\r\nA=\xC3\xA9 \xE9\r\n");
-    EXPECT_EQ(text("S", "A"), "\xE9 ?");
-}
-
 TEST_F(Profile, OverlongFormsAndSurrogatesAreNotUtf8) {
     for (const std::string bytes : {"\xC0\xAF", "\xE0\x80\xAF", "\xED\xA0\x80", "\xF4\x90\x80\x80", "\xC3"}) {
         given("[S]\r\nA=" + bytes + "\r\n");

@@ -17,6 +17,7 @@
 #include "support/profile_cases.h"
 #include "support/profile_edits.h"
 #include "support/temp_folder.h"
+#include "support/win_ini_section.h"
 
 namespace velmora {
 namespace {
@@ -184,7 +185,7 @@ TEST_F(Win32Profile, AnEditByAnotherProgramIsSeenAtOnce) {
 }
 
 TEST_F(Win32Profile, TheWholeTextIsGivenWithoutItsMark) {
-    given("\xEF\xBB\xBF[S] ; \xE9\r\n");
+    given("\xEF\xBB\xBF[S] ; \xC3\xA9\r\n");
     EXPECT_EQ(profiles_.text(file_), "[S] ; \xE9\r\n");
     given(std::string("\xFF\xFE[\0S\0]\0\xE9\0\r\0\n\0", 14));
     EXPECT_EQ(profiles_.text(file_), "[S]\xE9\r\n");
@@ -193,6 +194,47 @@ TEST_F(Win32Profile, TheWholeTextIsGivenWithoutItsMark) {
 TEST_F(Win32Profile, AFileInWideCharactersIsRead) {
     given(std::string("\xFF\xFE[\0S\0]\0\r\0\n\0A\0=\0\xE9\0\r\0\n\0", 24));
     EXPECT_EQ(text("S", "A"), "\xE9");
+}
+
+TEST_F(Win32Profile, ANumberOfAMarkedFileIsRead) {
+    given("\xEF\xBB\xBF[S]\r\nA=-7\r\n");
+    EXPECT_EQ(number("A"), -7);
+    EXPECT_EQ(number("B"), 42);
+}
+
+TEST_F(Win32Profile, ATextThatLooksLikeUtf8ComesBack) {
+    put("S", "A", "\xC3\xA9");
+    EXPECT_EQ(text("S", "A"), "\xC3\xA9");
+    EXPECT_EQ(ours_.getString("S", "A", "", 255, file_), "\xC3\xA9");
+}
+
+TEST_F(Win32Profile, APathIsKeptInTheEncodingOfItsFile) {
+    struct Row {
+        std::string before;
+        std::string path;
+        std::string after;
+    };
+    const Row rows[] = {
+        {"[S]\r\n", "C:\\\xFC", "[S]\r\nPath=C:\\\xFC\r\n"},
+        {"[S]\r\nA=\xE9\r\n", "C:\\\xFC", "[S]\r\nA=\xE9\r\nPath=C:\\\xFC\r\n"},
+        {"[S]\r\nA=\xC3\xA9\r\n", "C:\\\xFC", "[S]\r\nA=\xC3\xA9\r\nPath=C:\\\xC3\xBC\r\n"},
+        {"\xEF\xBB\xBF[S]\r\n", "C:\\\xFC", "\xEF\xBB\xBF[S]\r\nPath=C:\\\xC3\xBC\r\n"},
+        {"[S]\r\n", "C:\\\xC3\xA9", "[S]\r\nPath=C:\\\xC3\x83\xC2\xA9\r\n"},
+    };
+    for (const Row& row : rows) {
+        given(row.before);
+        profiles_.writePath("S", "Path", row.path, file_);
+        EXPECT_EQ(contents(), row.after);
+        EXPECT_EQ(profiles_.getPath("S", "Path", "none", file_), row.path) << row.before;
+        EXPECT_EQ(profiles_.getPath("S", "Other", "\xE4", file_), "\xE4") << row.before;
+    }
+}
+
+TEST_F(Win32Profile, APathOutsideTheCodePageIsNeverASimilarOne) {
+    given(
+        "[S]\r\nPath=C:\\\xC5\x81"
+        "uk\r\n");
+    EXPECT_EQ(profiles_.getPath("S", "Path", "none", file_), "C:\\?uk");
 }
 
 // --- Writing: the same table as for our own writer
@@ -312,9 +354,14 @@ TEST_F(Win32Profile, AFlushedFileReadsTheSame) {
 class SystemProfile : public Win32Profile {
   protected:
     SystemProfile() { file_ = rules_.join(windowsFolder(), "WIN.INI"); }
-    ~SystemProfile() override { WriteProfileStringA(kSection, nullptr, nullptr); }
+    void SetUp() override {
+        if (!winIni_.isWritable()) {
+            GTEST_SKIP() << "win.ini cannot be written here";
+        }
+    }
 
     static constexpr const char* kSection = "VelmoraTestSection";
+    test::WinIniSection winIni_{kSection};
 };
 
 TEST_F(SystemProfile, IsReadAndWritten) {

@@ -23,31 +23,29 @@ TEST(ItemLists, WhatIsNoFolderOfTheFileSystemHasAnEmptyPath) {
     EXPECT_EQ(pathOfItem(item.get()), std::string());
 }
 
-TEST(ItemLists, APathOfTheCodePageStaysAsItIs) {
-    EXPECT_EQ(exactPath(L"C:\\B\u00FCcher \u20AC"),
-              "C:\\B\xFC"
-              "cher \x80");
-}
-
-TEST(ItemLists, APathThatIsNotThereAndHasNoAnsiNameHasNone) {
-    // The code page puts "L" and "o" for the first two letters when it is let.
-    EXPECT_EQ(exactPath(L"C:\\\u0141\u00F3d\u017A-missing"), std::nullopt);
-}
-
-TEST(ItemLists, AFolderWithOtherLettersIsGivenByItsShortNameAndNoOther) {
+TEST(ItemLists, AFolderWithOtherLettersIsNeverGivenByASimilarName) {
     wchar_t temporary[MAX_PATH];
     ASSERT_NE(GetTempPathW(MAX_PATH, temporary), 0U);
-    const std::wstring folder =
-        std::wstring(temporary) + L"\u0141\u00F3d\u017A " + std::to_wstring(GetCurrentProcessId());
+    const std::wstring number = std::to_wstring(GetCurrentProcessId());
+    // The code page makes the second of the first when it is let.
+    const std::wstring folder = std::wstring(temporary) + L"\u0141\u00F3d\u017A " + number;
+    const std::wstring similar = std::wstring(temporary) + L"L\u00F3dz " + number;
     ASSERT_TRUE(CreateDirectoryW(folder.c_str(), nullptr));
-    const auto path = exactPath(folder);
-    if (path) {
+    ASSERT_TRUE(CreateDirectoryW(similar.c_str(), nullptr));
+    const ItemList item(ILCreateFromPathW(folder.c_str()));
+    const auto path = item ? pathOfItem(item.get()) : std::nullopt;
+    EXPECT_NE(path, std::string());
+    if (path && !path->empty()) {
         // Whether it is the same folder shows in what is made inside.
-        const std::string inside = *path + "\\inside";
-        EXPECT_TRUE(CreateDirectoryA(inside.c_str(), nullptr)) << *path;
-        EXPECT_TRUE(RemoveDirectoryW((folder + L"\\inside").c_str()));
+        EXPECT_TRUE(CreateDirectoryA((*path + "\\inside").c_str(), nullptr)) << *path;
+        EXPECT_TRUE(RemoveDirectoryW((folder + L"\\inside").c_str())) << *path;
     }
+    EXPECT_TRUE(RemoveDirectoryW(similar.c_str()));
     EXPECT_TRUE(RemoveDirectoryW(folder.c_str()));
+    ASSERT_NE(item, nullptr);
+    if (!path) {
+        GTEST_SKIP() << "this volume keeps no short names";
+    }
 }
 
 }  // namespace
