@@ -13,6 +13,7 @@ using test::ConsoleRequest;
 
 class StopSignalsTest : public EventLoopFixture {
   protected:
+    static void SetUpTestSuite() { ConsoleRequest::keepTheProgram(); }
     void SetUp() override {
         if (!ConsoleRequest::canBeMade()) {
             GTEST_SKIP() << "this system's requests cannot be made from inside";

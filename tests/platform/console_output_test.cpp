@@ -5,8 +5,6 @@
 #ifdef _WIN32
 #include <windows.h>
 
-#include <atomic>
-
 #include "support/console_request.h"
 #endif
 
@@ -15,21 +13,10 @@ namespace {
 
 #ifdef _WIN32
 
-std::atomic<bool> programIsKept = false;
-
-/// Keeps a request from ending the test's program: routines that are registered later come before it.
-BOOL WINAPI keepTheProgram(DWORD /*request*/) {
-    return programIsKept ? TRUE : FALSE;
-}
-
 // With the console that the test is run on as the process's standard output. Wine has one on a terminal only.
 class ConsoleOutputTest : public testing::Test {
   protected:
-    static void SetUpTestSuite() {
-        // Once, also when the tests are repeated: the routine under test is registered only once, too.
-        static const BOOL registered = SetConsoleCtrlHandler(keepTheProgram, TRUE);
-        EXPECT_NE(registered, FALSE);
-    }
+    static void SetUpTestSuite() { test::ConsoleRequest::keepTheProgram(); }
     void SetUp() override {
         screen_ = CreateFileA("CONOUT$", GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE,
                               nullptr, OPEN_EXISTING, 0, nullptr);
@@ -70,9 +57,7 @@ TEST_F(ConsoleOutputTest, TheConsoleGetsItsOwnBackWhenARequestEndsTheProgram) {
     }
     auto console = showOnConsole(PrintedText::Utf8);
     EXPECT_EQ(GetConsoleOutputCP(), UINT{CP_UTF8});
-    programIsKept = true;
     EXPECT_TRUE(test::ConsoleRequest(CTRL_C_EVENT).isAnswered());
-    programIsKept = false;
     EXPECT_EQ(GetConsoleOutputCP(), 437u);
     ASSERT_NE(SetConsoleOutputCP(850), FALSE);
     console.reset();

@@ -3,22 +3,37 @@
 
 #include <windows.h>
 
+#include <atomic>
+
 namespace velmora::test {
 
 /// One request, on a thread of its own as the system makes it: by the system's own function for such threads,
 /// which calls the routines of SetConsoleCtrlHandler. The usual function, GenerateConsoleCtrlEvent, needs a
 /// console, would reach every program on it and has no request to close.
 ///
-/// A request that no routine answers ends the program.
+/// A request that no routine answers would end the program, and with success as far as others can tell. The
+/// tests' own routine keeps it from that while a request lives; it must be there before any other is.
 class ConsoleRequest {
   public:
     /// Whether this system lets itself be asked.
     static bool canBeMade() { return function() != nullptr; }
 
-    explicit ConsoleRequest(DWORD kind)
-        : thread_(CreateThread(nullptr, 0, function(), reinterpret_cast<void*>(static_cast<DWORD_PTR>(kind)),
-                               0, nullptr)) {}
-    ~ConsoleRequest() { CloseHandle(thread_); }
+    /// Registers the tests' own routine; for SetUpTestSuite.
+    static void keepTheProgram() {
+        // Once, also when the tests are repeated: routines that are registered later come before it.
+        static const BOOL registered = SetConsoleCtrlHandler(answerWhileOneLives, TRUE);
+        static_cast<void>(registered);
+    }
+
+    explicit ConsoleRequest(DWORD kind) {
+        ++living_;
+        thread_ = CreateThread(nullptr, 0, function(), reinterpret_cast<void*>(static_cast<DWORD_PTR>(kind)),
+                               0, nullptr);
+    }
+    ~ConsoleRequest() {
+        CloseHandle(thread_);
+        --living_;
+    }
     ConsoleRequest(const ConsoleRequest&) = delete;
     ConsoleRequest& operator=(const ConsoleRequest&) = delete;
 
@@ -39,7 +54,10 @@ class ConsoleRequest {
         return nullptr;
     }
 
-    HANDLE thread_;
+    static BOOL WINAPI answerWhileOneLives(DWORD /*kind*/) { return living_ > 0 ? TRUE : FALSE; }
+
+    static inline std::atomic<int> living_ = 0;
+    HANDLE thread_ = nullptr;
 };
 
 }  // namespace velmora::test
