@@ -4,7 +4,8 @@
 
 namespace velmora {
 
-EndOfSession::EndOfSession(std::function<void()> handler) : handler_(std::move(handler)) {
+EndOfSession::EndOfSession(std::function<void()> ends, std::function<void()> close)
+    : ends_(std::move(ends)), close_(std::move(close)) {
     WNDCLASSA windowClass{};
     windowClass.lpfnWndProc = take;
     windowClass.hInstance = GetModuleHandleA(nullptr);
@@ -26,11 +27,26 @@ EndOfSession::~EndOfSession() {
 }
 
 LRESULT CALLBACK EndOfSession::take(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    const auto* self = reinterpret_cast<const EndOfSession*>(GetWindowLongPtrA(window, GWLP_USERDATA));
-    // A session that was about to end and goes on is told with a wParam of 0.
-    if (message == WM_ENDSESSION && wParam != 0 && self != nullptr) {
-        self->handler_();
-        return 0;
+    auto* self = reinterpret_cast<EndOfSession*>(GetWindowLongPtrA(window, GWLP_USERDATA));
+    if (self != nullptr) {
+        switch (message) {
+            case WM_ENDSESSION:
+                // A session that was about to end and goes on is told with a wParam of 0.
+                if (wParam != 0) {
+                    self->ends_();
+                }
+                return 0;
+            case WM_CLOSE:
+                // What the system does by itself is to destroy the window, which would then hear of nothing.
+                self->close_();
+                return 0;
+            case WM_NCDESTROY:
+                self->window_ = nullptr;
+                SetWindowLongPtrA(window, GWLP_USERDATA, 0);
+                break;
+            default:
+                break;
+        }
     }
     return DefWindowProcA(window, message, wParam, lParam);
 }

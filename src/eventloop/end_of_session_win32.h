@@ -1,4 +1,5 @@
-// The end of the Windows session (logging off, shutting down) for a program that may have no window.
+// The end of the Windows session (logging off, shutting down), and requests to close, for a program that may
+// have no window.
 #pragma once
 
 #include <windows.h>
@@ -7,26 +8,31 @@
 
 namespace velmora {
 
-/// While it lives, the end of the session runs a handler on the thread that made it, whose messages must be
-/// dispatched. Programs that load user32.dll, as all with the toolkit do, are told of it by messages to their
-/// top-level windows only (WM_ENDSESSION), so this is such a window, which is never shown. Where the system
-/// makes no windows there is no session that ends, and it does nothing.
+/// While it lives, the end of the session and a request to close run handlers on the thread that made it,
+/// whose messages must be dispatched. Programs that load user32.dll, as all with the toolkit do, are told of
+/// it by messages to their top-level windows only (WM_ENDSESSION), so this is such a window, which is never
+/// shown. Where the system makes no windows there is no session that ends, and it does nothing.
 class EndOfSession {
   public:
     /// The class of the window.
     static constexpr const char* kWindowClass = "VelmoraEndOfSession";
 
-    /// The program may be ended as soon as `handler` returns.
-    explicit EndOfSession(std::function<void()> handler);
+    /// The program may be ended as soon as `ends` returns. `close` runs when the window is asked to close, as
+    /// all top-level windows of a program are by somebody who wants it to end; the window stays.
+    EndOfSession(std::function<void()> ends, std::function<void()> close);
     ~EndOfSession();
     EndOfSession(const EndOfSession&) = delete;
     EndOfSession& operator=(const EndOfSession&) = delete;
 
+    /// Whether there is a window that the requests come to.
+    bool hears() const { return window_ != nullptr; }
+
   private:
     static LRESULT CALLBACK take(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
-    std::function<void()> handler_;
-    HWND window_ = nullptr;
+    std::function<void()> ends_;
+    std::function<void()> close_;
+    HWND window_ = nullptr;  // none as well once the system has destroyed it
 };
 
 }  // namespace velmora

@@ -1,5 +1,6 @@
 // Requests of the system to stop as events of the event loop: SIGINT and SIGTERM on POSIX; on Windows Ctrl+C,
-// Ctrl+Break, the closing of the console's window, and the end of the session.
+// Ctrl+Break, the closing of the console's window, the end of the session and, for a program without windows
+// of its own, a request to close from outside (taskkill without /F).
 #pragma once
 
 #include <functional>

@@ -1,5 +1,6 @@
 #include <windows.h>
 
+#include <QCoreApplication>
 #include <QWinEventNotifier>
 #include <mutex>
 #include <system_error>
@@ -11,8 +12,9 @@
 namespace velmora {
 namespace {
 
-/// The event that a request sets. Outside of any object since SetConsoleCtrlHandler hands its routine nothing
-/// but the request's kind; behind a lock since the routine runs on a thread that the system makes for it.
+/// The event that a request sets; none while nobody watches. Outside of any object since
+/// SetConsoleCtrlHandler hands its routine nothing but the request's kind; behind a lock since the routine
+/// runs on a thread that the system makes for it.
 struct {
     std::mutex lock;
     HANDLE event = nullptr;
@@ -32,10 +34,25 @@ BOOL WINAPI noteRequest(DWORD request) {
         SetEvent(requested.event);
     }
     if (endsAfterwards(request)) {
-        // The main thread stops meanwhile; this one ends with the program.
+        // The main thread stops meanwhile and ends the program, and this thread with it.
         Sleep(INFINITE);
     }
     return TRUE;
+}
+
+/// Makes the system call the routine, which stays for good: the system holds its list of routines locked
+/// while one of them runs, so whoever took this one off it would wait for ever once the end was requested.
+void registerRoutine() {
+    static const BOOL registered = SetConsoleCtrlHandler(noteRequest, TRUE);
+    static_cast<void>(registered);
+}
+
+/// What a request to close the hidden window does. A program without windows of its own is asked to stop that
+/// way, by taskkill for one; one that has some is closed by these, which may want to ask the user first.
+std::function<void()> closeHandler(const std::function<void()>& handler) {
+    const QCoreApplication* const application = QCoreApplication::instance();
+    const bool hasWindows = application != nullptr && application->inherits("QGuiApplication");
+    return hasWindows ? std::function<void()>([] {}) : handler;
 }
 
 [[noreturn]] void fail(const char* what) {
@@ -47,7 +64,8 @@ BOOL WINAPI noteRequest(DWORD request) {
 /// An event that the console's requests set and that the event loop waits for, and the session's end.
 class StopSignals::Watch {
   public:
-    explicit Watch(std::function<void()> handler) : handler_(std::move(handler)), session_(handler_) {
+    explicit Watch(std::function<void()> handler)
+        : handler_(std::move(handler)), session_(handler_, closeHandler(handler_)) {
         event_ = CreateEventA(nullptr, FALSE, FALSE, nullptr);
         if (event_ == nullptr) {
             fail("CreateEvent");
@@ -56,10 +74,9 @@ class StopSignals::Watch {
         QObject::connect(&notifier_, &QWinEventNotifier::activated, &notifier_, [this] { handler_(); });
         notifier_.setEnabled(true);
         note(event_);
-        SetConsoleCtrlHandler(noteRequest, TRUE);
+        registerRoutine();
     }
     ~Watch() {
-        SetConsoleCtrlHandler(noteRequest, FALSE);
         note(nullptr);
         notifier_.setEnabled(false);
         CloseHandle(event_);

@@ -4,6 +4,8 @@
 #include <array>
 
 #include "organiser/device_line.h"
+#include "serial/comm_errors_win32.h"
+#include "serial/device_path_win32.h"
 
 namespace velmora {
 namespace {
@@ -17,37 +19,41 @@ constexpr DWORD kStalledWrite = 5'000;
 constexpr OrganiserLine::Time kLongestWait = 1s;
 constexpr DWORD kBitsPerByte = 10;
 
+std::wstring wideText(const std::string& utf8) {
+    const int length = static_cast<int>(utf8.size());
+    std::wstring wide(
+        static_cast<std::size_t>(MultiByteToWideChar(CP_UTF8, 0, utf8.data(), length, nullptr, 0)), L'\0');
+    MultiByteToWideChar(CP_UTF8, 0, utf8.data(), length, wide.data(), static_cast<int>(wide.size()));
+    return wide;
+}
+
+std::string utf8Text(std::wstring_view wide) {
+    const int length = static_cast<int>(wide.size());
+    const int size = WideCharToMultiByte(CP_UTF8, 0, wide.data(), length, nullptr, 0, nullptr, nullptr);
+    std::string utf8(static_cast<std::size_t>(size), '\0');
+    WideCharToMultiByte(CP_UTF8, 0, wide.data(), length, utf8.data(), size, nullptr, nullptr);
+    return utf8;
+}
+
 /// The system's words for one of its numbers, without the full stop and line end behind them.
-std::string systemText(DWORD error) {
-    std::array<char, 512> buffer{};
-    const DWORD length = FormatMessageA(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr,
+std::string wordsFor(DWORD error) {
+    std::array<wchar_t, 512> buffer{};
+    const DWORD length = FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr,
                                         error, 0, buffer.data(), static_cast<DWORD>(buffer.size()), nullptr);
-    std::string text(buffer.data(), length);
+    std::string text = utf8Text({buffer.data(), length});
     text.erase(text.find_last_not_of(" .\r\n") + 1);
     return text.empty() ? "error " + std::to_string(error) : text;
 }
 
 std::string openProblem(const std::string& name, DWORD error) {
-    switch (error) {
-        case ERROR_FILE_NOT_FOUND:
-        case ERROR_PATH_NOT_FOUND:
-        case ERROR_INVALID_NAME:
-        case ERROR_BAD_PATHNAME:
-        case ERROR_DEV_NOT_EXIST:
+    switch (openFailure(error)) {
+        case kNoSuchPort:
             return "There is no device " + name + ".";
-        case ERROR_ACCESS_DENIED:
-        case ERROR_SHARING_VIOLATION:
-        case ERROR_LOCK_VIOLATION:
-        case ERROR_BUSY:
+        case kPortInUse:
             return name + " is in use by another program.";
         default:
-            return name + " cannot be opened: " + systemText(error) + ".";
+            return name + " cannot be opened: " + wordsFor(error) + ".";
     }
-}
-
-/// The path by which CreateFileA finds a device of any number.
-std::string devicePath(const std::string& name) {
-    return name.starts_with("\\\\") ? name : "\\\\.\\" + name;
 }
 
 }  // namespace
@@ -69,8 +75,8 @@ Win32Line::~Win32Line() {
 
 void Win32Line::open() {
     // A sharing mode of 0 keeps other programs out.
-    handle_ = CreateFileA(devicePath(name_).c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr, OPEN_EXISTING,
-                          FILE_ATTRIBUTE_NORMAL, nullptr);
+    handle_ = CreateFileW(wideText(devicePath(name_)).c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr,
+                          OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
     if (handle_ == INVALID_HANDLE_VALUE) {
         throw LineError(openProblem(name_, GetLastError()));
     }
@@ -120,6 +126,9 @@ void Win32Line::allowWaits(DWORD readMilliseconds) {
 void Win32Line::close() {
     if (handle_ != INVALID_HANDLE_VALUE) {
         if (configured_) {
+            // Other settings would spoil the bytes that the adapter still has to send. Whether that worked
+            // makes no difference: the device may be gone.
+            FlushFileBuffers(handle_);
             SetCommState(handle_, &saved_);
             SetCommTimeouts(handle_, &savedTimeouts_);
         }
@@ -129,7 +138,7 @@ void Win32Line::close() {
 }
 
 void Win32Line::gone(DWORD error) const {
-    throw LineError(name_ + " is gone: " + systemText(error) + ".");
+    throw LineError(name_ + " is gone: " + wordsFor(error) + ".");
 }
 
 OrganiserLine::Time Win32Line::now() const {

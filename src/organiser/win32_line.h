@@ -15,9 +15,9 @@ namespace velmora {
 /// without modem lines works all the same.
 class Win32Line : public OrganiserLine {
   public:
-    /// Opens the port called `name`: "COM7", in any case, or a device path that begins with "\\". `baud` is
-    /// one of knownLineSpeeds(). Throws LineError that says what is wrong: absent, in use, not a serial
-    /// device, speed refused.
+    /// Opens the port called `name` (UTF-8): "COM7", in any case, or a device path that begins with "\\".
+    /// `baud` is one of knownLineSpeeds(). Throws LineError that says what is wrong: absent, in use, not a
+    /// serial device, speed refused.
     Win32Line(const std::string& name, int baud);
     ~Win32Line() override;
     Win32Line(const Win32Line&) = delete;

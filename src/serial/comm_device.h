@@ -20,6 +20,7 @@ class PortNames;
 using SystemError = std::int32_t;
 
 inline constexpr SystemError kSuccess = 0;
+inline constexpr SystemError kNoReason = -1;             ///< a write failed without a number
 inline constexpr SystemError kNoSuchPort = 2;            ///< no device of that name
 inline constexpr SystemError kPortInUse = 5;             ///< held by another program or another object
 inline constexpr SystemError kInvalidParameter = 87;     ///< bad mode string, or a value the device refuses
@@ -28,7 +29,8 @@ inline constexpr SystemError kTransferPending = 997;     ///< the transfer was s
 inline constexpr SystemError kDeviceFailed = 1117;       ///< the device is gone or reports an I/O error
 
 /// Time-outs in milliseconds, in the meaning of the Win32 structure COMMTIMEOUTS. A read interval of
-/// 0xFFFFFFFF lets a read return at once with what has arrived.
+/// 0xFFFFFFFF lets a read return at once with what has arrived; where nothing has, Windows waits for the
+/// total time-out, other systems do not.
 struct CommTimeouts {
     std::uint32_t readInterval = 0xFFFFFFFF;
     std::uint32_t readTotalMultiplier = 0;
@@ -92,9 +94,11 @@ class CommDevice {
     /// Reads the state of the input side and clears the error flags. A line that was hung up (a pulled
     /// adapter, the other end of a pseudo-terminal closed) is an error, not an empty queue.
     virtual SystemError clearError(CommStatus& status) = 0;
-    /// Reads up to `count` bytes that wait; never waits for more.
+    /// Reads up to `count` bytes that wait. Ask only for bytes that clearError has told of: what a read does
+    /// when none wait differs between systems (CommTimeouts).
     virtual SystemError read(char* buffer, std::size_t count, std::size_t& transferred) = 0;
-    /// Writes all bytes, waiting no longer than the time-outs allow.
+    /// Writes all bytes, waiting no longer than the time-outs allow. kNoReason when it failed and the system
+    /// told no number: it counts as done as far as it got.
     virtual SystemError write(std::string_view data, std::size_t& transferred) = 0;
     /// Waits for the transfer that read or write reported as kTransferPending. Systems whose transfers are
     /// over when the call returns never report that and keep this answer.

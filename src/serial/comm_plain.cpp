@@ -151,6 +151,9 @@ std::int32_t PlainComm::CommWrite(std::string_view data) {
     std::size_t transferred = 0;
     const SystemError error = device_.write(data, transferred);
     yield_.processEvents();
+    if (error == kNoReason) {
+        return countOf(transferred);
+    }
     if (error != kSuccess) {
         if (error != kTransferPending) {
             return failTransfer(error, "CommWrite (WriteFile)");

@@ -5,6 +5,8 @@
 #include <limits>
 #include <utility>
 
+#include "serial/comm_errors_win32.h"
+#include "serial/device_path_win32.h"
 #include "serial/port_names.h"
 #include "serial/system_text.h"
 
@@ -12,49 +14,12 @@ namespace velmora {
 
 namespace {
 
-/// The number of the call that just failed. A driver may fail without one, and a failure must not read as
-/// success.
-SystemError lastError() {
-    const DWORD error = GetLastError();
-    return error == ERROR_SUCCESS ? kDeviceFailed : static_cast<SystemError>(error);
-}
-
 SystemError result(BOOL succeeded) {
-    return succeeded != FALSE ? kSuccess : lastError();
+    return succeeded != FALSE ? kSuccess : failure(GetLastError());
 }
 
-/// As result, for a device that is in use by this program: "access denied" cannot be another one's hold on
-/// it, it is what drivers of adapters say after the adapter was pulled.
-SystemError resultInUse(BOOL succeeded) {
-    const SystemError error = result(succeeded);
-    return error == ERROR_ACCESS_DENIED ? kDeviceFailed : error;
-}
-
-/// Brings the ways in which an opening fails down to the two that have a meaning of their own.
-SystemError openError(SystemError error) {
-    switch (error) {
-        case ERROR_PATH_NOT_FOUND:
-        case ERROR_INVALID_NAME:
-        case ERROR_BAD_PATHNAME:
-        case ERROR_DEV_NOT_EXIST:
-        case kNoSuchDevice:
-        case ERROR_DEVICE_NOT_CONNECTED:
-            return kNoSuchPort;
-        // Windows says "access denied" of a port that another program holds. Some drivers of virtual ports
-        // say so in the words for files, and Wine does in these three.
-        case ERROR_SHARING_VIOLATION:
-        case ERROR_LOCK_VIOLATION:
-        case ERROR_BUSY:
-            return kPortInUse;
-        default:
-            return error;
-    }
-}
-
-/// Beyond COM9 only this form names a device.
-std::string devicePath(const std::string& device) {
-    constexpr char prefix[] = R"(\\.\)";
-    return device.starts_with(prefix) ? device : prefix + device;
+SystemError transferResult(BOOL succeeded) {
+    return succeeded != FALSE ? kSuccess : transferFailure(GetLastError());
 }
 
 DWORD sizeOf(std::size_t bytes) {
@@ -76,7 +41,7 @@ SystemError Win32CommDevice::open(const std::string& name) {
     }
     handle_ = CreateFileA(devicePath(*device).c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr,
                           OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
-    return handle_ == INVALID_HANDLE_VALUE ? openError(lastError()) : kSuccess;
+    return handle_ == INVALID_HANDLE_VALUE ? openFailure(GetLastError()) : kSuccess;
 }
 
 SystemError Win32CommDevice::setupQueues(std::size_t input, std::size_t output) {
@@ -128,7 +93,7 @@ SystemError Win32CommDevice::clearError(CommStatus& status) {
     status = CommStatus{};
     DWORD flags = 0;
     COMSTAT state{};
-    const SystemError error = resultInUse(ClearCommError(handle_, &flags, &state));
+    const SystemError error = transferResult(ClearCommError(handle_, &flags, &state));
     if (error == kSuccess) {
         status.inQueue = state.cbInQue;
         status.errorFlags = flags;
@@ -139,7 +104,7 @@ SystemError Win32CommDevice::clearError(CommStatus& status) {
 SystemError Win32CommDevice::read(char* buffer, std::size_t count, std::size_t& transferred) {
     DWORD got = 0;
     overlapped_ = OVERLAPPED{};
-    const SystemError error = resultInUse(ReadFile(handle_, buffer, sizeOf(count), &got, &overlapped_));
+    const SystemError error = transferResult(ReadFile(handle_, buffer, sizeOf(count), &got, &overlapped_));
     transferred = got;
     return error;
 }
@@ -147,32 +112,30 @@ SystemError Win32CommDevice::read(char* buffer, std::size_t count, std::size_t& 
 SystemError Win32CommDevice::write(std::string_view data, std::size_t& transferred) {
     DWORD put = 0;
     overlapped_ = OVERLAPPED{};
-    // A write that fails without giving a reason counts as done as far as it got, so the reason of an
-    // earlier call must not be there any more.
+    // The reason of an earlier call must not pass for this one's, which may give none.
     SetLastError(ERROR_SUCCESS);
     const BOOL succeeded = WriteFile(handle_, data.data(), sizeOf(data.size()), &put, &overlapped_);
-    const bool withoutReason = succeeded == FALSE && GetLastError() == ERROR_SUCCESS;
-    const SystemError error = withoutReason ? kSuccess : resultInUse(succeeded);
+    const SystemError error = succeeded != FALSE ? kSuccess : writeFailure(GetLastError());
     transferred = put;
     return error;
 }
 
 SystemError Win32CommDevice::pendingResult(std::size_t& transferred) {
     DWORD done = 0;
-    const SystemError error = resultInUse(GetOverlappedResult(handle_, &overlapped_, &done, TRUE));
+    const SystemError error = transferResult(GetOverlappedResult(handle_, &overlapped_, &done, TRUE));
     transferred = done;
     return error;
 }
 
 SystemError Win32CommDevice::modemStatus(std::uint32_t& lines) {
     DWORD status = 0;
-    const SystemError error = resultInUse(GetCommModemStatus(handle_, &status));
+    const SystemError error = transferResult(GetCommModemStatus(handle_, &status));
     lines = error == kSuccess ? status : 0;
     return error;
 }
 
 SystemError Win32CommDevice::escapeFunction(CommFunction function) {
-    return resultInUse(EscapeCommFunction(handle_, static_cast<DWORD>(function)));
+    return transferResult(EscapeCommFunction(handle_, static_cast<DWORD>(function)));
 }
 
 std::string Win32CommDevice::errorMessage(SystemError number) const {

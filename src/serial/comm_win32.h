@@ -11,16 +11,13 @@
 
 namespace velmora {
 
-/// ERROR_NO_SUCH_DEVICE, which not every compiler's headers have.
-inline constexpr SystemError kNoSuchDevice = 433;
-
 /// A communications device, one Win32 function for each member. The device is opened for this program alone
 /// and not for overlapped operation, so a transfer is over when its call returns; the overlapped record that
 /// goes with every transfer serves drivers that answer "pending" all the same.
 ///
-/// Errors are GetLastError's numbers, with these exceptions: the different ways to say that a port is missing
-/// or held, when it is opened, are kNoSuchPort and kPortInUse; a refused access to the open device, as
-/// adapters report it that were pulled, is kDeviceFailed.
+/// Errors are GetLastError's numbers with the exceptions of comm_errors_win32.h: those of openFailure for
+/// open; those of transferFailure for clearError, read, pendingResult, modemStatus and escapeFunction, and of
+/// writeFailure for write; those of failure for all others.
 class Win32CommDevice : public CommDevice {
   public:
     /// `names` says which device a port name stands for and must outlive this object.
@@ -49,7 +46,8 @@ class Win32CommDevice : public CommDevice {
 
     /// ClearCommError.
     SystemError clearError(CommStatus& status) override;
-    /// ReadFile. It waits up to the read's constant time-out when fewer than `count` bytes are there.
+    /// ReadFile. With the usual time-outs it takes what is there without waiting for `count` bytes, and waits
+    /// up to the read's constant time-out when nothing is.
     SystemError read(char* buffer, std::size_t count, std::size_t& transferred) override;
     /// WriteFile. A write that the time-outs ended early is no failure; `transferred` tells.
     SystemError write(std::string_view data, std::size_t& transferred) override;

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "serial/device_facts.h"
+#include "serial/device_path_win32.h"
 
 namespace velmora {
 
@@ -12,11 +13,11 @@ namespace {
 /// in it that were there at its start.
 bool deviceExists(const std::string& device) {
     std::array<char, MAX_PATH> target{};
-    if (QueryDosDeviceA(device.c_str(), target.data(), static_cast<DWORD>(target.size())) != 0 ||
+    if (QueryDosDeviceA(deviceName(device).c_str(), target.data(), static_cast<DWORD>(target.size())) != 0 ||
         GetLastError() == ERROR_INSUFFICIENT_BUFFER) {
         return true;
     }
-    const HANDLE handle = CreateFileA((R"(\\.\)" + device).c_str(), 0, FILE_SHARE_READ | FILE_SHARE_WRITE,
+    const HANDLE handle = CreateFileA(devicePath(device).c_str(), 0, FILE_SHARE_READ | FILE_SHARE_WRITE,
                                       nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
     if (handle == INVALID_HANDLE_VALUE) {
         return false;

@@ -12,7 +12,8 @@ namespace {
 
 /// The description without the port's name at its end, which stands beside it anyway.
 std::string productOf(const FoundPort& port) {
-    const std::string ending = "(" + upperCase(port.name) + ")";
+    std::string ending = "(";
+    ending += upperCase(port.name) + ")";
     if (!upperCase(port.description).ends_with(ending)) {
         return trimBlanks(port.description);
     }
@@ -29,14 +30,18 @@ std::string withoutMaker(std::string product, const std::string& maker) {
 
 void add(std::vector<SerialDevice>& devices, const FoundPort& port, PortNames& names) {
     SerialDevice found;
-    const std::optional<int> number = comNumber(port.name);
-    found.device = number ? "COM" + std::to_string(*number) : port.name;
-    found.number = names.numberFor(found.device);
+    const std::optional<int> ownNumber = comNumber(port.name);
+    found.device = ownNumber ? "COM" + std::to_string(*ownNumber) : port.name;
+    // A port "COM<n>" whose number was given to another device has no number unless it was given one.
+    found.number = ownNumber ? names.numberOf(found.device).value_or(0) : names.numberFor(found.device);
+    if (found.number == 0) {
+        return;
+    }
     found.maker = trimBlanks(port.maker);
     found.product = withoutMaker(productOf(port), found.maker);
     found.mayOpen = true;
     const auto same = std::find_if(devices.begin(), devices.end(), [&found](const SerialDevice& device) {
-        return device.device == found.device;
+        return device.number == found.number;
     });
     if (same == devices.end()) {
         devices.push_back(std::move(found));

@@ -18,7 +18,8 @@ struct FoundPort {
 /// Joins the ports that drivers have announced (names only) with the devices that are plugged in (with their
 /// descriptions), in the order of the numbers that `names` has for them. Of the devices, only those called
 /// COM and a number count: the others, the printer ports, are of the same class. A name that is in both lists
-/// or twice in one makes one entry.
+/// or twice in one makes one entry. A port "COM<n>" whose number `names` gives to another device is listed by
+/// another number that stands for it, or not at all.
 std::vector<SerialDevice> serialDevices(const std::vector<FoundPort>& announced,
                                         const std::vector<FoundPort>& pluggedIn, PortNames& names);
 

@@ -1,7 +1,7 @@
 #include "serial/open_diagnosis.h"
 
 #ifdef _WIN32
-#include "serial/comm_win32.h"
+#include "serial/comm_errors_win32.h"
 #else
 #include <cerrno>
 #endif
@@ -64,16 +64,27 @@ Cause causeOf(std::int32_t code, const DeviceFacts& facts) {
     return facts.mayOpen ? Cause::Failed : Cause::NoPermission;
 }
 
+std::string goneSentence(const std::string& device) {
+    return device + " does not respond; is the adapter still plugged in?";
+}
+
+/// For a device that is missing to those who open it. One that is there by its name has lost its adapter on
+/// Windows, where the name may stay for a while; elsewhere it is one of the standard ports' names, which are
+/// there for ports that a machine has not.
 std::string absentSentence(const std::string& device, const DeviceFacts& facts) {
     if (facts.exists) {
+#ifdef _WIN32
+        return goneSentence(device);
+#else
         return device + " has no serial hardware behind it; choose another port.";
+#endif
     }
     return device + " does not exist; is the adapter plugged in, and is it the right port?";
 }
 
 std::string failedSentence(const std::string& device, std::int32_t code) {
     if (isGone(code)) {
-        return device + " does not respond; is the adapter still plugged in?";
+        return goneSentence(device);
     }
     if (isNoSerialPort(code)) {
         return device + " is not a serial port.";

@@ -7,6 +7,10 @@
 
 #include "base/byte_text.h"
 
+#ifdef _WIN32
+#include "serial/device_path_win32.h"
+#endif
+
 namespace velmora {
 
 namespace {
@@ -14,6 +18,11 @@ namespace {
 constexpr int kLastPort = std::numeric_limits<std::int16_t>::max();
 
 #ifdef _WIN32
+
+/// What all ways to write a device have in common.
+std::string comparedForm(const std::string& device) {
+    return upperCase(deviceName(device));
+}
 
 constexpr int kFirstFreePort = 4097;
 
@@ -26,6 +35,11 @@ std::optional<std::string> usualDevice(int number) {
 }
 
 #else
+
+/// What all ways to write a device have in common.
+std::string comparedForm(const std::string& device) {
+    return device;
+}
 
 struct DeviceRange {
     int first;
@@ -90,23 +104,31 @@ std::optional<std::string> PortNames::device(std::string_view name) const {
     return number ? device(*number) : std::nullopt;
 }
 
+std::optional<int> PortNames::numberOf(const std::string& device) const {
+    const std::string wanted = comparedForm(device);
+    for (int number = 1; number <= kLastPort; ++number) {
+        const std::optional<std::string> candidate = this->device(number);
+        if (candidate && comparedForm(*candidate) == wanted) {
+            return number;
+        }
+    }
+    return std::nullopt;
+}
+
 int PortNames::numberFor(const std::string& nameOrDevice) {
     if (const std::optional<int> number = comNumber(nameOrDevice)) {
         return *number;
     }
-    int firstFree = 0;
-    for (int number = 1; number <= kLastPort; ++number) {
-        if (device(number) == nameOrDevice) {
+    if (const std::optional<int> number = numberOf(nameOrDevice)) {
+        return *number;
+    }
+    for (int number = kFirstFreePort; number <= kLastPort; ++number) {
+        if (!overrides_.contains(number)) {
+            overrides_[number] = nameOrDevice;
             return number;
         }
-        if (firstFree == 0 && number >= kFirstFreePort && !overrides_.contains(number)) {
-            firstFree = number;
-        }
     }
-    if (firstFree != 0) {
-        overrides_[firstFree] = nameOrDevice;
-    }
-    return firstFree;
+    return 0;
 }
 
 int PortNames::firstFreeNumber() {

@@ -30,6 +30,10 @@ class PortNames {
     /// The device for a text "COM<n>"; nothing when there is no such port.
     std::optional<std::string> device(std::string_view name) const;
 
+    /// The lowest number that stands for a device; nothing when none does. On Windows a device may be given
+    /// with or without its prefix "\\.\" and in any case.
+    std::optional<int> numberOf(const std::string& device) const;
+
     /// The number for a text "COM<n>" or a device path as a user gives it: the lowest number that stands for
     /// it, otherwise the first free one from firstFreeNumber on, which stands for it from now on. 0 when none
     /// is free.

@@ -2,46 +2,80 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <string_view>
+
 namespace velmora {
 namespace {
 
-/// Tells the program's windows of a session that ends (1), or that was about to and goes on (0).
-bool tell(WPARAM ends) {
-    const HWND window = FindWindowA(EndOfSession::kWindowClass, nullptr);
-    if (window == nullptr) {
-        return false;
+/// Keeps the window at `found` when it is the one, which ends the search.
+BOOL CALLBACK keepIfSession(HWND window, LPARAM found) {
+    std::array<char, 64> name{};
+    GetClassNameA(window, name.data(), static_cast<int>(name.size()));
+    if (std::string_view(name.data()) != EndOfSession::kWindowClass) {
+        return TRUE;
     }
-    SendMessageA(window, WM_ENDSESSION, ends, 0);
-    return true;
+    *reinterpret_cast<HWND*>(found) = window;
+    return FALSE;
 }
 
-TEST(EndOfSessionTest, ASessionThatEndsRunsTheHandlerBeforeTheSystemGoesOn) {
-    int requests = 0;
-    const EndOfSession endOfSession([&] { ++requests; });
-    if (!tell(TRUE)) {
-        GTEST_SKIP() << "this system makes no windows";
-    }
-    EXPECT_EQ(requests, 1);
+/// The window of this thread; other programs that run may have one of the same class.
+HWND sessionWindow() {
+    HWND found = nullptr;
+    EnumThreadWindows(GetCurrentThreadId(), keepIfSession, reinterpret_cast<LPARAM>(&found));
+    return found;
 }
 
-TEST(EndOfSessionTest, ASessionThatGoesOnAfterAllChangesNothing) {
-    int requests = 0;
-    const EndOfSession endOfSession([&] { ++requests; });
-    if (!tell(FALSE)) {
-        GTEST_SKIP() << "this system makes no windows";
+class EndOfSessionTest : public testing::Test {
+  protected:
+    void SetUp() override {
+        if (sessionWindow() == nullptr) {
+            GTEST_SKIP() << "this system makes no windows";
+        }
     }
-    EXPECT_EQ(requests, 0);
+
+    int ends = 0;
+    int closes = 0;
+    EndOfSession endOfSession{[this] { ++ends; }, [this] { ++closes; }};
+};
+
+TEST_F(EndOfSessionTest, ASessionThatEndsRunsTheHandlerBeforeTheSystemGoesOn) {
+    SendMessageA(sessionWindow(), WM_ENDSESSION, TRUE, 0);
+    EXPECT_EQ(ends, 1);
+    EXPECT_EQ(closes, 0);
 }
 
-TEST(EndOfSessionTest, AnotherOneMayFollow) {
+TEST_F(EndOfSessionTest, ASessionThatGoesOnAfterAllChangesNothing) {
+    SendMessageA(sessionWindow(), WM_ENDSESSION, FALSE, 0);
+    EXPECT_EQ(ends, 0);
+}
+
+TEST_F(EndOfSessionTest, ARequestToCloseRunsItsHandlerAndLeavesTheWindow) {
+    SendMessageA(sessionWindow(), WM_CLOSE, 0, 0);
+    EXPECT_EQ(closes, 1);
+    EXPECT_EQ(ends, 0);
+    ASSERT_NE(sessionWindow(), nullptr) << "the end of the session could not be told any more";
+    SendMessageA(sessionWindow(), WM_ENDSESSION, TRUE, 0);
+    EXPECT_EQ(ends, 1);
+}
+
+TEST_F(EndOfSessionTest, AWindowThatTheSystemDestroyedIsNotDestroyedAgain) {
+    EXPECT_TRUE(endOfSession.hears());
+    DestroyWindow(sessionWindow());
+    EXPECT_FALSE(endOfSession.hears());
+}
+
+TEST(EndOfSessionLifeTest, AnotherOneMayFollow) {
     {
-        const EndOfSession first([] { FAIL() << "is gone"; });
+        const EndOfSession first([] { FAIL() << "is gone"; }, [] {});
     }
+    EXPECT_EQ(sessionWindow(), nullptr);
     int requests = 0;
-    const EndOfSession second([&] { ++requests; });
-    if (!tell(TRUE)) {
+    const EndOfSession second([&] { ++requests; }, [] {});
+    if (sessionWindow() == nullptr) {
         GTEST_SKIP() << "this system makes no windows";
     }
+    SendMessageA(sessionWindow(), WM_ENDSESSION, TRUE, 0);
     EXPECT_EQ(requests, 1);
 }
 

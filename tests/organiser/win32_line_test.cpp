@@ -4,6 +4,7 @@
 
 #include <cctype>
 #include <cstdlib>
+#include <filesystem>
 #include <fstream>
 #include <memory>
 #include <string>
@@ -152,6 +153,17 @@ TEST_F(Win32LineTest, SettingsAreGivenBackOnClosing) {
     EXPECT_EQ(after.fBinary, before.fBinary);
 }
 
+TEST_F(Win32LineTest, ClosingDoesNotWaitForWhomeverDoesNotRead) {
+    const Win32Line other(there, 9600);
+    OrganiserLine::Time begin{};
+    {
+        Win32Line line(here, 9600);
+        begin = line.now();
+        line.write(std::string(1'000, 'x'));
+    }
+    EXPECT_LT(other.now() - begin, 10s);
+}
+
 TEST_F(Win32LineTest, EverySpeedOfTheCommandLineIsTaken) {
     for (const int baud : knownLineSpeeds()) {
         EXPECT_EQ(problemWith(here, baud), "") << baud;
@@ -186,6 +198,17 @@ TEST_F(Win32LineTest, PulledCableIsALineError) {
     std::ofstream(pull) << "now";
     EXPECT_THROW(line.read(line.now() + 20s), LineError);
     EXPECT_THROW(line.write("x"), LineError);
+}
+
+// A file stands for a device of that name: no machine has one.
+TEST(Win32LineName, IsUtf8) {
+    const std::filesystem::path file = std::filesystem::temp_directory_path() / L"velmora-\u03a9-\u0436";
+    std::ofstream(file) << "none";
+    const std::u8string name = file.u8string();
+    const std::string device = R"(\\.\)" + std::string(name.begin(), name.end());
+    EXPECT_EQ(problemWith(device), device + " is not a serial device.");
+    std::filesystem::remove(file);
+    EXPECT_EQ(problemWith(device), "There is no device " + device + ".");
 }
 
 TEST(Win32LineName, WhatCannotBeOpenedIsToldInOneSentence) {

@@ -4,6 +4,8 @@
 
 #ifdef _WIN32
 #include <windows.h>
+
+#include "support/console_request.h"
 #endif
 
 namespace velmora {
@@ -14,6 +16,7 @@ namespace {
 // With the console that the test is run on as the process's standard output. Wine has one on a terminal only.
 class ConsoleOutputTest : public testing::Test {
   protected:
+    static void SetUpTestSuite() { test::ConsoleRequest::keepTheProgram(); }
     void SetUp() override {
         screen_ = CreateFileA("CONOUT$", GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE,
                               nullptr, OPEN_EXISTING, 0, nullptr);
@@ -46,6 +49,19 @@ TEST_F(ConsoleOutputTest, TheConsoleHasTheTextsEncodingAndGetsItsOwnBack) {
     EXPECT_EQ(GetConsoleOutputCP(), GetACP());
     console.reset();
     EXPECT_EQ(GetConsoleOutputCP(), 437u);
+}
+
+TEST_F(ConsoleOutputTest, TheConsoleGetsItsOwnBackWhenARequestEndsTheProgram) {
+    if (!test::ConsoleRequest::canBeMade()) {
+        GTEST_SKIP() << "this system's requests cannot be made from inside";
+    }
+    auto console = showOnConsole(PrintedText::Utf8);
+    EXPECT_EQ(GetConsoleOutputCP(), UINT{CP_UTF8});
+    EXPECT_TRUE(test::ConsoleRequest(CTRL_C_EVENT).isAnswered());
+    EXPECT_EQ(GetConsoleOutputCP(), 437u);
+    ASSERT_NE(SetConsoleOutputCP(850), FALSE);
+    console.reset();
+    EXPECT_EQ(GetConsoleOutputCP(), 850u) << "it was given back already";
 }
 
 #else

@@ -249,6 +249,24 @@ TEST_F(CommPlainTest, AFailedWriteLetsEventsRunOnce) {
     EXPECT_EQ(yield.calls, 1);
 }
 
+TEST_F(CommPlainTest, AWriteThatFailsWithoutAReasonCountsAsFarAsItGotAndLetsEventsRunOnce) {
+    open();
+    device.errors["write"] = kNoReason;
+    device.writtenWithoutReason = 3;
+    EXPECT_EQ(plain.CommWrite("hello"), 3);
+    EXPECT_EQ(plain.lastErrorNumber(), 0);
+    EXPECT_EQ(yield.calls, 1);
+}
+
+TEST_F(CommPlainTest, APendingWriteIsWaitedForUntilItIsComplete) {
+    open();
+    device.errors["write"] = kTransferPending;
+    device.pendingResults = {kTransferIncomplete, kSuccess};
+    EXPECT_EQ(plain.CommWrite("hello"), 5);
+    EXPECT_EQ(device.pendingResults.size(), 0U);
+    EXPECT_EQ(yield.calls, 11);
+}
+
 TEST_F(CommPlainTest, APendingWriteThatFailsNamesTheWait) {
     open();
     device.errors["write"] = kTransferPending;

@@ -6,7 +6,9 @@
 #include <cstring>
 #include <string>
 
+#include "serial/comm_plain.h"
 #include "support/com_ports.h"
+#include "support/no_yield.h"
 
 namespace velmora {
 namespace {
@@ -186,6 +188,24 @@ TEST_F(CommWin32Test, ModemLinesAreReadOrTheFailureSaysThatThereAreNone) {
     EXPECT_THAT(device.escapeFunction(CommFunction::SetRts),
                 AnyOf(kSuccess, ERROR_NOT_SUPPORTED, ERROR_INVALID_FUNCTION));
     EXPECT_EQ(device.escapeFunction(CommFunction::None), kInvalidParameter);
+}
+
+TEST_F(CommWin32Test, OpeningGivesTheDriverTheTimeOutsAndTheDtrState) {
+    device.close();
+    test::NoYield yield;
+    for (const bool dtr : {false, true}) {
+        PlainComm plain(device, yield);
+        ASSERT_EQ(plain.CommOpen(ports.port, "9600,N,8,1", dtr), kSuccess);
+        COMMTIMEOUTS timeouts{};
+        ASSERT_NE(GetCommTimeouts(reinterpret_cast<HANDLE>(plain.handle()), &timeouts), FALSE);
+        EXPECT_EQ(timeouts.ReadIntervalTimeout, 0xFFFFFFFFU);
+        EXPECT_EQ(timeouts.ReadTotalTimeoutMultiplier, 0U);
+        EXPECT_EQ(timeouts.ReadTotalTimeoutConstant, 1000U);
+        EXPECT_EQ(timeouts.WriteTotalTimeoutMultiplier, 1000U);
+        EXPECT_EQ(timeouts.WriteTotalTimeoutConstant, 0U);
+        EXPECT_EQ(device.controlBlock().fDtrControl, dtr ? DTR_CONTROL_ENABLE : DTR_CONTROL_DISABLE) << dtr;
+        EXPECT_EQ(plain.CommClose(), kSuccess);
+    }
 }
 
 TEST_F(CommWin32Test, AClosedPortIsFreeForOthers) {

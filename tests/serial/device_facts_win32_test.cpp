@@ -23,6 +23,12 @@ TEST(DeviceFactsWin32Test, WhatExistsMayBeOpenedAndHasNoOwners) {
     EXPECT_EQ(facts.group, "");
 }
 
+TEST(DeviceFactsWin32Test, APrefixMakesNoOtherDevice) {
+    EXPECT_TRUE(gatherDeviceFacts(R"(\\.\NUL)").exists);
+    EXPECT_TRUE(gatherDeviceFacts(R"(\\?\NUL)").exists);
+    EXPECT_FALSE(gatherDeviceFacts(R"(\\.\COM4000)").exists);
+}
+
 TEST(DeviceFactsWin32Test, TheHolderOfAPortIsUnknown) {
     EXPECT_EQ(findHolder("NUL"), "");
 }
@@ -30,12 +36,26 @@ TEST(DeviceFactsWin32Test, TheHolderOfAPortIsUnknown) {
 TEST(DeviceFactsWin32Test, APortIsFoundByItsName) {
     const test::ComPorts ports;
     if (ports.port.empty()) {
-        GTEST_SKIP() << "no ports are named for this test";
+        GTEST_SKIP() << "no port is named for this test";
     }
     EXPECT_TRUE(gatherDeviceFacts(ports.port).exists);
+}
+
+TEST(DeviceFactsWin32Test, AMissingPortIsToldToBeMissing) {
+    const test::ComPorts ports;
+    if (ports.missing.empty()) {
+        GTEST_SKIP() << "no missing port is named for this test";
+    }
     EXPECT_FALSE(gatherDeviceFacts(ports.missing).exists);
     EXPECT_EQ(describeOpenFailure(ports.missing, kCommInvalidPort),
               ports.missing + " does not exist; is the adapter plugged in, and is it the right port?");
+}
+
+TEST(DeviceFactsWin32Test, AHeldPortIsToldToBeInUse) {
+    const test::ComPorts ports;
+    if (ports.held.empty()) {
+        GTEST_SKIP() << "no port that another program holds is named for this test";
+    }
     EXPECT_EQ(describeOpenFailure(ports.held, kCommAlreadyOpen),
               ports.held + " is in use by another program.");
 }

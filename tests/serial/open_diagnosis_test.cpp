@@ -16,9 +16,11 @@ using ::testing::HasSubstr;
 #ifdef _WIN32
 constexpr std::int32_t kNotSerial = 1;
 constexpr std::int32_t kOutOfMemory = 8;
+constexpr const char* kNameOnly = "/dev/ttyS1 does not respond; is the adapter still plugged in?";
 #else
 constexpr std::int32_t kNotSerial = ENOTTY;
 constexpr std::int32_t kOutOfMemory = ENOMEM;
+constexpr const char* kNameOnly = "/dev/ttyS1 has no serial hardware behind it";
 #endif
 
 DeviceFacts adapterOf(const std::string& login) {
@@ -88,8 +90,8 @@ INSTANTIATE_TEST_SUITE_P(
     ::testing::Values(
         Diagnosis{"Absent", kNoSuchPort, {}, "", "/dev/ttyS1 does not exist; is the adapter plugged in"},
         Diagnosis{"AbsentRaised", kCommInvalidPort, {}, "", "/dev/ttyS1 does not exist"},
-        Diagnosis{"NoHardware", kNoSuchPort, openableAdapter(), "",
-                  "/dev/ttyS1 has no serial hardware behind it"},
+        Diagnosis{"NameOnly", kNoSuchPort, openableAdapter(), "", kNameOnly},
+        Diagnosis{"NameOnlyRaised", kCommInvalidPort, openableAdapter(), "", kNameOnly},
         Diagnosis{"NoPermission", EACCES, adapterOf("ed"), "", "No permission to open /dev/ttyS1"},
         Diagnosis{"NoPermissionRaised", kCommFailed, adapterOf("ed"), "", "No permission to open /dev/ttyS1"},
         Diagnosis{"Busy", kPortInUse, openableAdapter(), "", "/dev/ttyS1 is in use by another program."},

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "serial/comm_win32.h"
+#include "serial/comm_errors_win32.h"
 #include "serial/open_diagnosis.h"
 #include "serial/system_text.h"
 
@@ -25,6 +25,21 @@ TEST(OpenDiagnosisWin32Test, TheManyWordsForAPulledAdapterAreOneSentence) {
         EXPECT_EQ(describeOpenFailure("COM7", code, presentPort(), ""),
                   "COM7 does not respond; is the adapter still plugged in?")
             << code;
+    }
+}
+
+TEST(OpenDiagnosisWin32Test, AnAdapterThatGoesBeforeItsPortsNameDoesIsThatSentenceToo) {
+    for (const SystemError code :
+         {openFailure(kNoSuchDevice), openFailure(ERROR_DEVICE_NOT_CONNECTED), kNoSuchPort}) {
+        EXPECT_EQ(describeOpenFailure("COM7", code, presentPort(), ""),
+                  "COM7 does not respond; is the adapter still plugged in?")
+            << code;
+    }
+}
+
+TEST(OpenDiagnosisWin32Test, ADeviceThatNoBytesGoThroughIsNoSerialPort) {
+    for (const SystemError code : {ERROR_INVALID_FUNCTION, ERROR_INVALID_HANDLE}) {
+        EXPECT_EQ(describeOpenFailure("NUL", code, presentPort(), ""), "NUL is not a serial port.") << code;
     }
 }
 

@@ -30,5 +30,15 @@ TEST(PortNamesWin32Test, APortOfAnotherNameGetsANumberThatWindowsDoesNotGive) {
     EXPECT_EQ(names.device("COM4097"), "VIRT0");
 }
 
+TEST(PortNamesWin32Test, ADeviceIsFoundWithAndWithoutItsPrefixAndInAnyCase) {
+    PortNames names(PortNames::Overrides{{"COM12", R"(\\.\VIRT0)"}, {"COM7", "Virt1"}});
+    EXPECT_EQ(names.numberFor("virt0"), 12);
+    EXPECT_EQ(names.numberFor(R"(\\?\VIRT1)"), 7);
+    EXPECT_EQ(names.numberFor(R"(\\.\com9)"), 9);
+    EXPECT_EQ(names.numberOf("COM7"), std::nullopt) << "its number is another device's";
+    EXPECT_EQ(names.numberOf("COM12"), std::nullopt);
+    EXPECT_EQ(names.numberOf("COM8"), 8);
+}
+
 }  // namespace
 }  // namespace velmora

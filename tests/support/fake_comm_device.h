@@ -59,8 +59,10 @@ class FakeCommDevice : public CommDevice {
     }
     SystemError write(std::string_view data, std::size_t& transferred) override {
         const SystemError error = answer("write");
-        transferred = error == kSuccess ? data.size() : 0;
+        transferred = error == kSuccess ? data.size() : error == kNoReason ? writtenWithoutReason : 0;
         sent += data;
+        pendingBuffer = nullptr;
+        pendingWrite = data.size();
         return error;
     }
     SystemError pendingResult(std::size_t& transferred) override {
@@ -69,7 +71,10 @@ class FakeCommDevice : public CommDevice {
         if (!pendingResults.empty()) {
             pendingResults.erase(pendingResults.begin());
         }
-        transferred = error == kSuccess && pendingBuffer ? take(pendingBuffer, lastReadCount) : 0;
+        transferred = 0;
+        if (error == kSuccess) {
+            transferred = pendingBuffer ? take(pendingBuffer, lastReadCount) : pendingWrite;
+        }
         return error;
     }
     SystemError modemStatus(std::uint32_t& lines) override {
@@ -105,6 +110,7 @@ class FakeCommDevice : public CommDevice {
     std::size_t inputQueue = 0;
     std::size_t outputQueue = 0;
     std::size_t lastReadCount = 0;
+    std::size_t writtenWithoutReason = 0;  ///< what a write that fails with kNoReason has written
     std::uint32_t errorFlags = 0;
     std::uint32_t modemLines = 0;
     bool isOpen = false;
@@ -121,7 +127,8 @@ class FakeCommDevice : public CommDevice {
         return taken;
     }
 
-    char* pendingBuffer = nullptr;
+    char* pendingBuffer = nullptr;  // of a read; none when a write was the last transfer
+    std::size_t pendingWrite = 0;
 };
 
 }  // namespace velmora::test
