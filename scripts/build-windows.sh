@@ -23,7 +23,8 @@ case "$what" in
     scripts/setup-windows.sh
     # The linker strips the programs.
     options+=(-DVELMORA_TOOLKIT=ON -DCMAKE_BUILD_TYPE=Release -DCMAKE_CXX_FLAGS_RELEASE="-O2 -DNDEBUG"
-      -DCMAKE_UNITY_BUILD=OFF -DCMAKE_EXE_LINKER_FLAGS_RELEASE=-s -DCMAKE_PREFIX_PATH="$(scripts/setup-windows.sh prefix)" -DQT_HOST_PATH=/usr
+      -DCMAKE_UNITY_BUILD=OFF -DCMAKE_EXE_LINKER_FLAGS_RELEASE=-s
+      -DCMAKE_PREFIX_PATH="$(scripts/setup-windows.sh prefix)" -DQT_HOST_PATH=/usr
       -DQT_HOST_PATH_CMAKE_DIR="/usr/lib/$(uname -m)-linux-gnu/cmake")
     ;;
   *)

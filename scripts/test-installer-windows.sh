@@ -105,6 +105,7 @@ check 'nothing was installed' registered DisplayVersion 0.0.1
 check 'nothing was removed' [ -e "$folder/left-over.txt" ]
 check 'the uninstaller refuses' exits_with 3 "$folder/velmora-uninstall.exe" /S "_?=$windows_folder"
 check 'all files are still there' [ -e "$folder/left-over.txt" -a -e "$folder/docs/user-guide.html" ]
+kill "$running"
 exec 9>&-
 wait "$running" || true
 running=

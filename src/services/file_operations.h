@@ -6,6 +6,6 @@
 namespace velmora {
 
 /// The first byte of a request. Not every service has all of them.
-enum class FileOperation : std::uint8_t { Open = 0, Close = 1, Write = 2, Read = 3, Seek = 4 };
+enum class ServiceOperation : std::uint8_t { Open = 0, Close = 1, Write = 2, Read = 3, Seek = 4 };
 
 }  // namespace velmora

@@ -21,20 +21,20 @@ std::string eightDigits(std::int32_t number) {
 }  // namespace
 
 void FileService::request(std::uint8_t operation, std::string_view argument) {
-    switch (FileOperation{operation}) {
-        case FileOperation::Open:
+    switch (ServiceOperation{operation}) {
+        case ServiceOperation::Open:
             open(argument);
             break;
-        case FileOperation::Close:
+        case ServiceOperation::Close:
             close();
             break;
-        case FileOperation::Write:
+        case ServiceOperation::Write:
             writeAndReply(argument);
             break;
-        case FileOperation::Read:
+        case ServiceOperation::Read:
             readAndReply(argument);
             break;
-        case FileOperation::Seek:
+        case ServiceOperation::Seek:
             seek(argument);
             break;
         default:

@@ -44,17 +44,17 @@ bool hasExtension(std::string_view name) {
 }  // namespace
 
 void FtranService::request(std::uint8_t operation, std::string_view argument) {
-    switch (FileOperation{operation}) {
-        case FileOperation::Open:
+    switch (ServiceOperation{operation}) {
+        case ServiceOperation::Open:
             open(argument);
             break;
-        case FileOperation::Close:
+        case ServiceOperation::Close:
             closeRequest();
             break;
-        case FileOperation::Write:
+        case ServiceOperation::Write:
             write(argument);
             break;
-        case FileOperation::Read:
+        case ServiceOperation::Read:
             read(argument);
             break;
         default:

@@ -70,6 +70,7 @@ void cSHFolder::CenterDialog() {
 }
 
 void cSHFolder::Cancel() {
+    cancelled_ = true;
     if (dialog_ != nullptr) {
         PostMessageA(dialog_, WM_COMMAND, IDCANCEL, 0);
     }
@@ -78,6 +79,7 @@ void cSHFolder::Cancel() {
 std::string cSHFolder::BrowseForFolder(HWND owner, const std::optional<std::string>& prompt, int root) {
     displayName_.clear();
     choiceHasNoName_ = false;
+    cancelled_ = false;
     const OleScope ole;
     const ItemList rootItem = specialFolderItem(owner, root);
     const std::string title = prompt.value_or(FolderQuestion().prompt);
@@ -151,6 +153,10 @@ BrowseForFolder folderBrowser(HWND owner, cSHFolder& folder) {
                         "The folder's name has letters that files cannot be opened with here.\n"
                         "Choose another folder or give it another name.",
                         question.caption.c_str(), MB_OK | MB_ICONEXCLAMATION);
+            // The owner may have been closed meanwhile; another dialog would keep the program alive.
+            if (folder.cancelled()) {
+                return std::string();
+            }
             answer = folder.BrowseForFolder(owner, question.prompt);
         }
         return answer;

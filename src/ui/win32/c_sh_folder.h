@@ -62,6 +62,8 @@ class cSHFolder {
     void CenterDialog();
     /// Closes the open dialog as its Cancel button does, as soon as it reads its messages.
     void Cancel();
+    /// Whether Cancel was called since the dialog was last opened, be it before or after the user's answer.
+    bool cancelled() const { return cancelled_; }
 
     /// Asks, modally for the owner (may be null), with the prompt above the folders. Nothing outside the
     /// special folder `root` (CSIDL number) can be chosen; 0, the desktop, and a number that stands for no
@@ -85,6 +87,7 @@ class cSHFolder {
     bool includeFiles_ = false;
     bool editBox_ = false;
     bool choiceHasNoName_ = false;
+    bool cancelled_ = false;
     WindowHandle dialog_ = nullptr;
 };
 

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <iostream>
 #include <stdexcept>
 #include <string_view>
 
@@ -43,6 +44,7 @@ class NativePrograms : public ProgramsUnderTest {
         return home / "config" / "Velmora.ini";
     }
     void stop(const Process& process) const override { process.signal(SIGTERM); }
+    bool lost(const Finished& /*done*/) const override { return false; }
 };
 
 class WinePrograms : public ProgramsUnderTest {
@@ -85,13 +87,20 @@ class WinePrograms : public ProgramsUnderTest {
     }
     std::map<std::string, std::string> environment(const fs::path& /*home*/,
                                                    const std::string& zone) const override {
-        return {{"WINEPREFIX", prefix_.string()}, {"WINEDEBUG", "-all"}, {"TZ", zone}, {"LC_ALL", "C.UTF-8"}};
+        return {{"WINEPREFIX", prefix_.string()}, {"WINEDEBUG", debug_}, {"TZ", zone}, {"LC_ALL", "C.UTF-8"}};
     }
     fs::path configuration(const fs::path& /*home*/) const override {
         return applicationData() / "Velmora.ini";
     }
     /// Wine makes an interrupt into Ctrl+C; other signals end the process without its knowledge.
     void stop(const Process& process) const override { process.signal(SIGINT); }
+    bool lost(const Finished& done) const override {
+        const bool silent = done.status == 1 && done.output.empty() && done.error.empty();
+        if (silent) {
+            std::cout << "Wine ended a program with status 1 and without a word; it is started again.\n";
+        }
+        return silent;
+    }
 
   private:
     /// The application-data folder of the prefix's one user.
@@ -106,6 +115,8 @@ class WinePrograms : public ProgramsUnderTest {
 
     fs::path folder_;
     fs::path prefix_;
+    /// What Wine says of itself, on the programs' standard error: nothing, unless the caller wants it.
+    std::string debug_ = variable("WINEDEBUG").empty() ? "-all" : variable("WINEDEBUG");
     std::vector<fs::path> links_;
 };
 

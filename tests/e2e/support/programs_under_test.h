@@ -43,6 +43,9 @@ class ProgramsUnderTest {
     virtual std::filesystem::path configuration(const std::filesystem::path& home) const = 0;
     /// Asks a running program to end, as its user would.
     virtual void stop(const Process& process) const = 0;
+    /// Whether a program was ended by Wine instead of by itself. That happens to about one of a thousand,
+    /// which ends with status 1 and without a word; ours have a message for every failure.
+    virtual bool lost(const Finished& done) const = 0;
 
   protected:
     ProgramsUnderTest() = default;

@@ -81,6 +81,9 @@ class ServerFixture : public testing::Test {
         std::vector<std::string> arguments = {"--port", serverPort, "--folder", serverPath(psion)};
         arguments.insert(arguments.end(), options.begin(), options.end());
         server = start("velmorad", arguments);
+        if (!server->waitForOutput("Waiting for link") && serverSide->lost(finished(*server))) {
+            server = start("velmorad", arguments);
+        }
         ASSERT_TRUE(server->waitForOutput("Waiting for link"))
             << server->output() << server->error() << "status " << server->wait();
     }
@@ -98,7 +101,8 @@ class ServerFixture : public testing::Test {
                        const std::vector<std::string>& faults = {}) const {
         std::vector<std::string> arguments = faults;
         arguments.insert(arguments.end(), command.begin(), command.end());
-        return finished(*startOrganiser(arguments));
+        const Finished done = finished(*startOrganiser(arguments));
+        return organiserSide->lost(done) ? finished(*startOrganiser(arguments)) : done;
     }
 
     /// Runs velmora-files of the Organiser's side on an input; without one its standard input stays open.

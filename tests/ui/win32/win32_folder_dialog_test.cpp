@@ -5,6 +5,7 @@
 #include <commctrl.h>
 
 #include <algorithm>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -90,12 +91,15 @@ class FolderDialog : public testing::Test {
 
     /// Shows the dialog until it is answered with a folder. Wine's overlooks now and then which folder it is
     /// to begin with, and then answers with the desktop.
-    std::string browseFor(const std::string& wanted) {
+    static std::string answerOf(const std::function<std::string()>& dialog, const std::string& wanted) {
         std::string chosen;
-        for (int dialog = 0; dialog < 6 && chosen != wanted; ++dialog) {
-            chosen = folder.BrowseForFolder(nullptr);
+        for (int attempt = 0; attempt < 6 && chosen != wanted; ++attempt) {
+            chosen = dialog();
         }
         return chosen;
+    }
+    std::string browseFor(const std::string& wanted) {
+        return answerOf([this] { return folder.BrowseForFolder(nullptr); }, wanted);
     }
 
     std::string place;
@@ -123,6 +127,15 @@ TEST_F(FolderDialog, CancelIsEmptyAndForgetsTheLastChoice) {
     EXPECT_EQ(folder.DisplayName(), "");
     EXPECT_EQ(folder.hWnd(), nullptr);
     EXPECT_FALSE(folder.choiceHasNoName());
+}
+
+TEST_F(FolderDialog, AnAnswerThatTheProgramGaveIsToldFromTheUsers) {
+    folder.Initialized = [&] { folder.Cancel(); };
+    EXPECT_EQ(folder.BrowseForFolder(nullptr), "");
+    EXPECT_TRUE(folder.cancelled());
+    answerWith(IDCANCEL);
+    EXPECT_EQ(folder.BrowseForFolder(nullptr), "");
+    EXPECT_FALSE(folder.cancelled());
 }
 
 TEST_F(FolderDialog, CaptionPromptAndStatusAreShown) {
@@ -190,7 +203,8 @@ TEST_F(FolderDialog, AQuestionIsAskedWithItsCaptionPromptAndStart) {
     question.caption = "Velmora - Select folder";
     question.prompt = "Select the folder for up/downloading files:";
     question.startFolder = place;
-    EXPECT_EQ(folderBrowser(nullptr, folder)(question), place);
+    const BrowseForFolder ask = folderBrowser(nullptr, folder);
+    EXPECT_EQ(answerOf([&] { return ask(question); }, place), place);
     EXPECT_EQ(caption, question.caption);
     EXPECT_EQ(std::count(texts.begin(), texts.end(), question.prompt), 1);
 }
