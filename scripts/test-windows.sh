@@ -31,6 +31,8 @@ jobs=$(nproc)
 work=$PWD/build-windows/wine
 logs=$work/logs
 export WINEPREFIX=$work/prefix WINEDEBUG=-all
+# A zone in which a wrong sign, a forgotten half hour and a forgotten summer show.
+export TZ=America/St_Johns
 # Nothing of this user's is linked into the prefix, and nothing asks to be downloaded or changes the menus.
 export HOME=$work/home WINEDLLOVERRIDES="mscoree=;mshtml=;winemenubuilder.exe="
 
