@@ -256,7 +256,7 @@ std::string Win32ProfileFiles::getPath(const std::string& section, const std::st
         return ansiPath(
             wideFromUtf8(utf8_.getPath(section, key, utf8FromWide(wideFromAnsi(defaultPath)), path)));
     }
-    const std::string value = wholeValue(section, key, {}, path);
+    std::string value = wholeValue(section, key, {}, path);
     if (!value.empty()) {
         return value;
     }
