@@ -31,6 +31,8 @@ jobs=$(nproc)
 work=$PWD/build-windows/wine
 logs=$work/logs
 export WINEPREFIX=$work/prefix WINEDEBUG=-all
+# Wine takes the names of files for texts in this encoding.
+export LC_ALL=C.UTF-8
 # A zone in which a wrong sign, a forgotten half hour and a forgotten summer show.
 export TZ=America/St_Johns
 # Nothing of this user's is linked into the prefix, and nothing asks to be downloaded or changes the menus.
