@@ -7,9 +7,9 @@
 
 #include "serial/port_names.h"
 #include "serial/serial_port.h"
+#include "server/main_view.h"
+#include "server/server_controller.h"
 #include "startup/startup_form.h"
-#include "ui/main_view.h"
-#include "ui/server_controller.h"
 
 namespace velmora {
 

@@ -8,10 +8,10 @@
 #include "link/debug.h"
 #include "serial/port_names.h"
 #include "serial/serial_port.h"
+#include "server/server_options.h"
 #include "services/transfer_settings.h"
 #include "ui/folder_choice.h"
 #include "ui/qt/frm_debug.h"
-#include "ui/server_options.h"
 #include "ui/setup_model.h"
 
 namespace velmora {

@@ -6,7 +6,7 @@
 
 #include "platform/known_folders.h"
 #include "serial/open_diagnosis.h"
-#include "ui/port_test.h"
+#include "server/port_test.h"
 
 namespace velmora {
 

@@ -3,7 +3,7 @@
 #pragma once
 
 #ifdef _WIN32
-#include "startup/registry_win32.h"
+#include "ui/registry_win32.h"
 #else
 #include "ui/qt/window_position.h"
 #endif

@@ -15,6 +15,10 @@
 #include "link/plp.h"
 #include "link/trace.h"
 #include "serial/serial_port.h"
+#include "server/link_control.h"
+#include "server/main_view.h"
+#include "server/server_controller.h"
+#include "server/server_options.h"
 #include "services/boot_service.h"
 #include "services/dispatcher.h"
 #include "services/file_service.h"
@@ -29,10 +33,6 @@
 #include "services/transfer_settings.h"
 #include "spreadsheet/spreadsheet.h"
 #include "startup/settings.h"
-#include "ui/link_control.h"
-#include "ui/main_view.h"
-#include "ui/server_controller.h"
-#include "ui/server_options.h"
 
 namespace velmora {
 

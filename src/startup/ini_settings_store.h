@@ -3,9 +3,9 @@
 
 #include <string>
 
+#include "server/settings_store.h"
 #include "startup/ini_file.h"
 #include "startup/run_overrides.h"
-#include "ui/settings_store.h"
 
 namespace velmora {
 

@@ -8,8 +8,8 @@
 #include <string_view>
 #include <vector>
 
+#include "server/server_options.h"
 #include "startup/ini_file.h"
-#include "ui/server_options.h"
 
 namespace velmora {
 

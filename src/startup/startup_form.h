@@ -5,8 +5,8 @@
 #include <string>
 
 #include "serial/serial_port.h"
+#include "server/server_options.h"
 #include "startup/settings.h"
-#include "ui/server_options.h"
 
 namespace velmora {
 

@@ -6,7 +6,7 @@
 #include <functional>
 #include <string>
 
-#include "ui/main_view.h"
+#include "server/main_view.h"
 
 namespace velmora {
 

@@ -1,7 +1,7 @@
 #include "ui/folder_choice.h"
 
 #include "base/run_time_error.h"
-#include "ui/caption.h"
+#include "server/caption.h"
 
 namespace velmora {
 

@@ -5,10 +5,10 @@
 #include <string>
 
 #include "base/message_box.h"
+#include "server/main_view.h"
+#include "server/settings_store.h"
 #include "services/strings.h"
 #include "services/transfer_settings.h"
-#include "ui/main_view.h"
-#include "ui/settings_store.h"
 
 namespace velmora {
 

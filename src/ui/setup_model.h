@@ -8,9 +8,9 @@
 #include <string>
 
 #include "serial/serial_port.h"
+#include "server/port_status.h"
+#include "server/server_options.h"
 #include "services/transfer_settings.h"
-#include "ui/port_status.h"
-#include "ui/server_options.h"
 
 namespace velmora {
 

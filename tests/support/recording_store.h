@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "base/run_time_error.h"
-#include "ui/settings_store.h"
+#include "server/settings_store.h"
 
 namespace velmora::test {
 

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "ui/main_view.h"
+#include "server/main_view.h"
 
 namespace velmora::test {
 

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "link/server_state.h"
-#include "ui/link_control.h"
+#include "server/link_control.h"
 
 namespace velmora::test {
 

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "startup/registry.h"
+#include "ui/registry.h"
 
 namespace velmora::test {
 

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <string>
 
+#include "server/server_controller.h"
 #include "support/fake_timers.h"
 #include "support/no_yield.h"
 #include "support/recording_store.h"
@@ -11,7 +12,6 @@
 #include "support/scripted_link.h"
 #include "support/scripted_port.h"
 #include "ui/qt/frm_main.h"
-#include "ui/server_controller.h"
 
 namespace velmora::test {
 

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "base/system_text.h"
-#include "controller_fixture.h"
+#include "support/controller_fixture.h"
 #include "ui/no_user_box.h"
 
 namespace velmora {

@@ -11,7 +11,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "ui/caption.h"
+#include "server/caption.h"
 #include "ui/qt/artwork.h"
 #include "ui/qt/debug_switch.h"
 #include "ui/qt/lcd_line.h"

@@ -6,8 +6,8 @@
 #include <functional>
 #include <string>
 
-#include "ui/main_view.h"
-#include "ui/server_controller.h"
+#include "server/main_view.h"
+#include "server/server_controller.h"
 
 class QCloseEvent;
 class QGridLayout;

@@ -3,7 +3,7 @@
 
 #include <QLabel>
 
-#include "ui/message_lines.h"
+#include "server/message_lines.h"
 
 namespace velmora {
 

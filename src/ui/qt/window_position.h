@@ -6,7 +6,7 @@
 #include <optional>
 #include <string>
 
-#include "startup/registry.h"
+#include "ui/registry.h"
 
 namespace velmora {
 

@@ -8,8 +8,8 @@
 #include <QTest>
 #include <QWindow>
 
+#include "server/caption.h"
 #include "support/window_rig.h"
-#include "ui/caption.h"
 
 namespace velmora {
 namespace {

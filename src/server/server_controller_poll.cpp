@@ -1,0 +1,82 @@
+// What the timers drive.
+#include "server/controller_scope.h"
+#include "server/server_controller.h"
+
+namespace velmora {
+
+void ServerController::ComTimer_Tick() {
+    if (closed_ || !parts_.ComTimer.enabled()) {
+        return;
+    }
+    if (state_ == LinkFailed) {
+        setState(Offline);
+        return;
+    }
+    // A port that failed while the user keeps the server running is left alone until it is stopped.
+    if (!running() || pollFailed_ || stopping_ > 0) {
+        return;
+    }
+    try {
+        if (parts_.port.InBufferCount() <= 0) {
+            return;
+        }
+    } catch (const CommError& error) {
+        reportPortError(error);
+        return;
+    }
+    receive();
+}
+
+void ServerController::receive() {
+    std::int32_t next = kNoStateChange;
+    {
+        const Scope scope(linkCalls_);
+        next = link_->PLP_ReceiveEvent();
+    }
+    if (running()) {
+        setState(next);
+    }
+    afterLinkCall();
+}
+
+void ServerController::afterLinkCall() {
+    if (startWaits_ && linkCalls_ == 0) {
+        startWaits_ = false;
+        setState(WaitLink);
+    }
+}
+
+void ServerController::reportPortError(const CommError& error) {
+    ShowWarning("COM" + std::to_string(parts_.port.CommPort()) + ": " + error.description(), "");
+    pollFailed_ = true;
+    portFails();
+    setState(Offline);
+}
+
+void ServerController::portFails() {
+    portFailed_ = true;
+    if (onPortFailure_) {
+        onPortFailure_();
+    }
+}
+
+void ServerController::PLPtimer_Tick() {
+    if (closed_) {
+        return;
+    }
+    if (state_ == Shutdown) {
+        parts_.PLPtimer.setEnabled(false);
+        parts_.view.close();
+        return;
+    }
+    if (!running() || stopping_ > 0) {
+        return;
+    }
+    {
+        const Scope scope(linkCalls_);
+        link_->PLP_Timeout();
+    }
+    afterLinkCall();
+}
+
+}  // namespace velmora

@@ -1,0 +1,97 @@
+#include "ui/registry.h"
+
+#include <charconv>
+#include <limits>
+#include <string_view>
+
+#include "base/byte_text.h"
+
+namespace velmora {
+namespace {
+
+constexpr const char* kLeft = "XPos";
+constexpr const char* kTop = "YPos";
+/// How far, in twips, a window may stand off the screen without being moved.
+constexpr std::int32_t kMargin = 200;
+
+std::string hexText(std::uint32_t number) {
+    constexpr std::string_view kDigits = "0123456789ABCDEF";
+    std::string text = "&h";
+    for (int shift = 28; shift >= 0; shift -= 4) {
+        text += kDigits[(number >> shift) & 0xF];
+    }
+    return text;
+}
+
+/// The 32-bit number that a whole text stands for, decimal or "&h" and hexadecimal digits.
+std::optional<std::int32_t> wholeNumber(const std::string& text) {
+    const std::string trimmed = lowerCase(trimBlanks(text));
+    const bool hex = trimmed.starts_with("&h");
+    const char* begin = trimmed.data() + (hex ? 2 : 0);
+    const char* end = trimmed.data() + trimmed.size();
+    std::uint32_t bits = 0;
+    std::int32_t number = 0;
+    const auto [stop, error] =
+        hex ? std::from_chars(begin, end, bits, 16) : std::from_chars(begin, end, number);
+    if (error != std::errc() || stop != end) {
+        return std::nullopt;
+    }
+    return hex ? static_cast<std::int32_t>(bits) : number;
+}
+
+}  // namespace
+
+std::optional<std::string> Registry::RegReadValue(const std::string& name) {
+    const std::optional<StoredValue> value = store_.read(name);
+    if (!value) {
+        return std::nullopt;
+    }
+    if (const auto* number = std::get_if<std::uint32_t>(&*value)) {
+        return hexText(*number);
+    }
+    const std::string& text = std::get<std::string>(*value);
+    return text.substr(0, text.find('\0'));
+}
+
+bool Registry::RegWriteValue(const std::string& name, const StoredValue& value) {
+    return store_.write(name, value);
+}
+
+void Registry::RegDeleteSettingsKey() {
+    store_.deleteAll();
+}
+
+std::optional<std::int16_t> Registry::readPosition(const std::string& name) {
+    using Limits = std::numeric_limits<std::int16_t>;
+    const auto number = wholeNumber(RegReadValue(name).value_or(std::string()));
+    if (!number || *number < Limits::min() || *number > Limits::max()) {
+        return std::nullopt;
+    }
+    return static_cast<std::int16_t>(*number);
+}
+
+void Registry::LoadWindowPos(WindowGeometry& window) {
+    const auto left = readPosition(kLeft);
+    const auto top = readPosition(kTop);
+    window.setLeft(left ? *left : (window.screenWidth() - window.width()) / 2);
+    window.setTop(top ? *top : (window.screenHeight() - window.height()) / 2);
+}
+
+void Registry::writePosition(const std::string& name, std::int32_t position, std::int32_t size,
+                             std::int32_t screen) {
+    if (position < -kMargin) {
+        RegWriteValue(name, std::string());
+        return;
+    }
+    const bool beyond = std::int64_t{screen} - position - size < -kMargin;
+    RegWriteValue(name, static_cast<std::uint32_t>(beyond ? screen - size : position));
+}
+
+void Registry::SaveWindowPos(WindowGeometry& window) {
+    RegDeleteSettingsKey();
+    window.normalise();
+    writePosition(kLeft, window.left(), window.width(), window.screenWidth());
+    writePosition(kTop, window.top(), window.height(), window.screenHeight());
+}
+
+}  // namespace velmora
