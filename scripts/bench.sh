@@ -3,7 +3,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 scripts/setup.sh tests
-scripts/build.sh build-bench -DCMAKE_BUILD_TYPE=Release -DVELMORA_BENCH=ON -DVELMORA_TESTS=OFF
+scripts/build.sh build-bench -DCMAKE_BUILD_TYPE=Release -DVELMORA_BENCH=ON -DBUILD_TESTING=OFF
 export QT_QPA_PLATFORM=offscreen
 for program in build-bench/bench/*_bench; do
   echo

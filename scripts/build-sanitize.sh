@@ -7,7 +7,7 @@ cd "$(dirname "$0")/.."
 # Several sources at a time compile much faster than one by one. That hides a missing #include, which the other
 # builds find.
 scripts/build.sh build-sanitize -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_FLAGS_DEBUG="-O1 -g1" \
-  -DCMAKE_CXX_COMPILER=clang++ -DVELMORA_TESTS=ON -DVELMORA_FUZZ=ON -DVELMORA_SANITIZE=ON \
+  -DCMAKE_CXX_COMPILER=clang++ -DBUILD_TESTING=ON -DVELMORA_FUZZ=ON -DVELMORA_SANITIZE=ON \
   -DCMAKE_UNITY_BUILD=ON -DCMAKE_UNITY_BUILD_BATCH_SIZE=16 -- "$@" \
   > build-sanitize.log 2>&1 || {
   tail -40 build-sanitize.log

@@ -8,7 +8,7 @@ cd "$(dirname "$0")/.."
 what=${1:-all}
 
 options=(-DCMAKE_TOOLCHAIN_FILE="$PWD/cmake/mingw-w64.cmake" -DCMAKE_CROSSCOMPILING_EMULATOR=wine
-  -DVELMORA_TESTS=ON)
+  -DBUILD_TESTING=ON)
 if [[ "${CI:-}" == true ]]; then
   options+=(-DVELMORA_WERROR=ON)
 fi

@@ -19,7 +19,7 @@ if [[ -z "${VELMORA_TEST_DISPLAY:-}" ]]; then
     scripts/build-windows.sh programs
   fi
   # Whatever kind of native build is there already will do.
-  scripts/build.sh build -DVELMORA_TESTS=ON -- e2e_tests
+  scripts/build.sh build -DBUILD_TESTING=ON -- e2e_tests
   if [[ "$what" == all ]]; then
     VELMORA_TEST_DISPLAY=own exec xvfb-run --auto-servernum --server-args="-screen 0 1280x1024x24" \
       scripts/test-windows.sh all

@@ -8,7 +8,7 @@ scripts/setup.sh tests
 jobs=$(nproc)
 
 if [[ "${CI:-}" != true ]]; then
-  scripts/build.sh build -DCMAKE_BUILD_TYPE=RelWithDebInfo -DVELMORA_TESTS=ON
+  scripts/build.sh build -DCMAKE_BUILD_TYPE=RelWithDebInfo -DBUILD_TESTING=ON
   ctest --test-dir build --output-on-failure -j "$jobs" --progress
   exit
 fi
@@ -24,7 +24,7 @@ stage "Unit tests under the address and undefined-behaviour sanitizers"
 scripts/build-sanitize.sh
 ctest --test-dir build-sanitize --output-on-failure -j "$jobs" -LE e2e --progress
 stage "Programs as they are released"
-scripts/build.sh build -DCMAKE_BUILD_TYPE=Release -DCMAKE_CXX_FLAGS_RELEASE="-O2 -DNDEBUG" -DVELMORA_TESTS=ON \
+scripts/build.sh build -DCMAKE_BUILD_TYPE=Release -DCMAKE_CXX_FLAGS_RELEASE="-O2 -DNDEBUG" -DBUILD_TESTING=ON \
   -DVELMORA_WERROR=ON -- programs e2e_tests
 stage "End-to-end tests"
 ctest --test-dir build --output-on-failure -j "$jobs" -L e2e --progress
