@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Builds optimised programs and prints every figure of docs/performance.md.
+# Builds optimised programs and prints every figure of docs/development/performance.md.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 scripts/setup.sh tests
