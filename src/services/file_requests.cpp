@@ -6,6 +6,12 @@
 #include "services/running_server.h"
 
 namespace velmora {
+namespace {
+
+/// The first byte of a request.
+enum class Operation : std::uint8_t { Open = 0, Close = 1, Write = 2, Read = 3, Seek = 4 };
+
+}  // namespace
 
 void FileRequests::handle(std::int32_t& code, std::string& payload) {
     ended_ = code == PLP_EV_RESET;
@@ -23,6 +29,28 @@ void FileRequests::handle(std::int32_t& code, std::string& payload) {
     if (ended_) {
         closeFile();
         code = PLP_EV_RESET;
+    }
+}
+
+void FileRequests::request(std::uint8_t operation, std::string_view argument) {
+    switch (Operation{operation}) {
+        case Operation::Open:
+            open(argument);
+            break;
+        case Operation::Close:
+            close();
+            break;
+        case Operation::Write:
+            write(argument);
+            break;
+        case Operation::Read:
+            read(argument);
+            break;
+        case Operation::Seek:
+            seek(argument);
+            break;
+        default:
+            refuse(kCodeInvalidRequest);
     }
 }
 

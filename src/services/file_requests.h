@@ -28,8 +28,14 @@ class FileRequests : public ServiceHandler {
 
     /// The service was opened; the empty reply has not been sent yet.
     virtual void begin() {}
-    /// Answers one request.
-    virtual void request(std::uint8_t operation, std::string_view argument) = 0;
+
+    // The requests. Each is given what follows the operation byte, and answers or refuses it.
+    virtual void open(std::string_view argument) = 0;
+    virtual void close() = 0;
+    virtual void write(std::string_view argument) = 0;
+    virtual void read(std::string_view argument) = 0;
+    /// A service that cannot seek knows no such operation.
+    virtual void seek(std::string_view) { refuse(kCodeInvalidRequest); }
 
     /// Answers; false when the port refused the bytes.
     bool reply(std::string_view data);
@@ -52,6 +58,8 @@ class FileRequests : public ServiceHandler {
     OpenFile& file() { return file_; }
 
   private:
+    /// Hands a request to its function; an operation that is none is refused.
+    void request(std::uint8_t operation, std::string_view argument);
     ServiceCode readRecord(std::string_view argument, std::string& record);
 
     FrameSender& sender_;

@@ -1,7 +1,6 @@
 #include "services/file_service.h"
 
 #include "base/number_text.h"
-#include "services/file_operations.h"
 
 namespace velmora {
 namespace {
@@ -19,28 +18,6 @@ std::string eightDigits(std::int32_t number) {
 }
 
 }  // namespace
-
-void FileService::request(std::uint8_t operation, std::string_view argument) {
-    switch (ServiceOperation{operation}) {
-        case ServiceOperation::Open:
-            open(argument);
-            break;
-        case ServiceOperation::Close:
-            close();
-            break;
-        case ServiceOperation::Write:
-            writeAndReply(argument);
-            break;
-        case ServiceOperation::Read:
-            readAndReply(argument);
-            break;
-        case ServiceOperation::Seek:
-            seek(argument);
-            break;
-        default:
-            refuse(kCodeInvalidRequest);
-    }
-}
 
 void FileService::open(std::string_view argument) {
     if (file().isOpen()) {

@@ -1,8 +1,6 @@
 // FILE: records or bytes of any PC file, seeking, and folder listings.
 #pragma once
 
-#include <cstdint>
-#include <string>
 #include <string_view>
 
 #include "services/file_name_mapper.h"
@@ -20,11 +18,12 @@ class FileService : public FileRequests {
         : FileRequests(sender, window, file), names_(names) {}
 
   private:
-    void request(std::uint8_t operation, std::string_view argument) override;
+    void open(std::string_view argument) override;
+    void close() override;
+    void write(std::string_view argument) override { writeAndReply(argument); }
+    void read(std::string_view argument) override { readAndReply(argument); }
+    void seek(std::string_view argument) override;
 
-    void open(std::string_view argument);
-    void close();
-    void seek(std::string_view argument);
     ServiceCode checkSeek(std::string_view argument);
 
     const FileNameMapper& names_;

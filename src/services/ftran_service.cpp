@@ -2,7 +2,7 @@
 
 #include "base/byte_text.h"
 #include "services/block_file.h"
-#include "services/file_operations.h"
+#include "services/name_extension.h"
 #include "services/procedure_image.h"
 
 namespace velmora {
@@ -11,7 +11,6 @@ namespace {
 constexpr int kTypeData = 0;
 constexpr int kTypeProcedure = 1;
 constexpr int kTypeLast = 16;
-constexpr std::size_t kLongestExtension = 4;
 
 struct DataFileForm {
     const char* extension;
@@ -36,31 +35,7 @@ std::string blockExtension(int type) {
     return extension + kDigits[type % 16];
 }
 
-bool hasExtension(std::string_view name) {
-    const std::size_t dot = name.rfind('.');
-    return dot != std::string_view::npos && name.size() - dot - 1 <= kLongestExtension;
-}
-
 }  // namespace
-
-void FtranService::request(std::uint8_t operation, std::string_view argument) {
-    switch (ServiceOperation{operation}) {
-        case ServiceOperation::Open:
-            open(argument);
-            break;
-        case ServiceOperation::Close:
-            closeRequest();
-            break;
-        case ServiceOperation::Write:
-            write(argument);
-            break;
-        case ServiceOperation::Read:
-            read(argument);
-            break;
-        default:
-            refuse(kCodeInvalidRequest);
-    }
-}
 
 void FtranService::open(std::string_view argument) {
     closeFile();
@@ -115,7 +90,7 @@ void FtranService::answerOpened(const std::string& path) {
     replyOpened(header, Upload, path);
 }
 
-void FtranService::closeRequest() {
+void FtranService::close() {
     reply({});
     const bool nothingAppended = openMode_ == kModeAppend && !dataWritten_;
     if (file().isOpen() && !nothingAppended) {

@@ -1,7 +1,6 @@
 // FTRAN: whole files between the Organiser and the download folder.
 #pragma once
 
-#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -23,12 +22,10 @@ class FtranService : public FileRequests {
 
   private:
     void begin() override { dataWritten_ = false; }
-    void request(std::uint8_t operation, std::string_view argument) override;
-
-    void open(std::string_view argument);
-    void closeRequest();
-    void write(std::string_view argument);
-    void read(std::string_view argument);
+    void open(std::string_view argument) override;
+    void close() override;
+    void write(std::string_view argument) override;
+    void read(std::string_view argument) override;
 
     /// The name with the extension of its type if it has none; sets the field separator then.
     std::string withExtension(std::string_view name);

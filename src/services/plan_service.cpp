@@ -5,6 +5,7 @@
 #include "base/run_time_error.h"
 #include "link/server_state.h"
 #include "services/map_error.h"
+#include "services/name_extension.h"
 #include "services/plan_cells.h"
 #include "spreadsheet/sheet_format.h"
 
@@ -21,13 +22,6 @@ int byteAt(std::string_view message, std::size_t index) {
 
 const std::string kAccepted(1, '\0');
 const std::string kEndReply = {kEndOfSheet, '\0'};
-
-/// Whether a name ends in an extension: up to four characters behind its last ".".
-bool hasExtension(std::string_view name) {
-    constexpr std::size_t kLongestExtension = 4;
-    const std::size_t point = name.rfind('.');
-    return point != std::string_view::npos && name.size() - point - 1 <= kLongestExtension;
-}
 
 [[noreturn]] void failMessage(const char* what) {
     throw RunTimeError(ErrorNumber::InvalidProcedureCall, what);
