@@ -3,7 +3,7 @@ velmora_library(desktop_server
   SOURCES
     desktop_dialogs.cpp
     desktop_server.cpp
-  LIBS velmora_server_core velmora_ui_qt velmora_qt_dialogs velmora_eventloop velmora_profile)
+  LIBS velmora_server_program velmora_ui_qt velmora_qt_dialogs)
 
 add_executable(velmora velmora_main.cpp)
 target_link_libraries(velmora PRIVATE velmora_desktop_server)

@@ -4,15 +4,10 @@
 #include <QObject>
 #include <string>
 
-#include "apps/controller_form.h"
 #include "apps/desktop_dialogs.h"
 #include "apps/native_position_store.h"
 #include "apps/platform_parts.h"
-#include "apps/server_core.h"
-#include "link/debug.h"
-#include "startup/comms_link.h"
-#include "startup/ini_file.h"
-#include "startup/ini_settings_store.h"
+#include "apps/server_program.h"
 #include "startup/run_overrides.h"
 #include "ui/qt/frm_main.h"
 #include "ui/qt/qt_message_box.h"
@@ -23,7 +18,8 @@ namespace velmora {
 /// Serves behind a window until the window closes; needs a QApplication.
 class DesktopServer {
   public:
-    DesktopServer();
+    /// `overrides`: what the command line says instead of the configuration file.
+    explicit DesktopServer(const RunOverrides& overrides = {});
     DesktopServer(const DesktopServer&) = delete;
     DesktopServer& operator=(const DesktopServer&) = delete;
 
@@ -36,7 +32,7 @@ class DesktopServer {
     void stop();
 
     frmMain& window() { return window_; }
-    ServerController& controller() { return core_.controller(); }
+    ServerController& controller() { return program_.controller(); }
 
   private:
     frmMain::Actions windowActions();
@@ -45,23 +41,16 @@ class DesktopServer {
     void openSetup();
     void placeWindow();
     void saveWindowPlace();
-    void portFailed();
     void quit();
 
     bool quitting_ = false;
     bool sessionEnds_ = false;  // the desktop session has begun to end
 
-    RunOverrides overrides_;
     PlatformParts platform_;
     DesktopDialogs dialogs_;
-    Debug debug_;
     frmMain window_;
     QtMessageBox box_;
-    ServerCore core_;
-    ControllerForm form_;
-    clsIniFile ini_;
-    IniSettingsStore settingsStore_;
-    CommsLink start_;
+    ServerProgram program_;
     NativePositionStore positions_;
     Registry registry_;
     QObject session_;  // ends the connections to the session before anything above ends

@@ -6,8 +6,6 @@
 #include <system_error>
 
 #include "base/system_text.h"
-#include "platform/known_folders.h"
-#include "serial/open_diagnosis.h"
 
 namespace velmora {
 namespace {
@@ -34,37 +32,20 @@ void printLine(std::FILE* file, const std::string& line) {
 
 HeadlessServer::HeadlessServer(const ServerArguments& arguments)
     : arguments_(arguments),
-      overrides_(overridesOf(arguments)),
-      platform_([this] { core_.controller().ComTimer_Tick(); }),
+      platform_([this] { program_.controller().ComTimer_Tick(); }),
       traceSink_(platform_.clock, arguments.traceCategories, traceOutput()),
-      debug_(traceSink_),
       view_([](const std::string& line) { printLine(stdout, line); },
             [this](const std::string& line) { printError(line); },
             {[this] {
-                 if (core_.controller().queryUnload(CloseReason::Program)) {
+                 if (program_.controller().queryUnload(CloseReason::Program)) {
                      quit(0);
                  }
              },
              [this](std::int32_t state) { stateChanged(state); }}),
       box_([this](const std::string& line) { printError(line); }),
-      core_({view_, box_, platform_.files, platform_.rules, platform_.port, debug_, platform_.ComTimer,
-             platform_.PLPtimer, platform_.DisplayTimer, platform_.clock, platform_.zone, platform_.yield}),
-      form_(core_.controller(), view_, core_.options, platform_.port, platform_.portNames),
-      ini_(platform_.profiles, platform_.rules, box_, windowsFolder()),
-      settingsStore_(ini_, overrides_),
-      start_({&platform_.files,
-              platform_.rules,
-              ini_,
-              box_,
-              form_,
-              core_.crc,
-              core_.strings,
-              core_.transfer,
-              {platform_.folders.applicationData(), platform_.folders.documents()}},
-             overrides_) {
-    debug_.showStateOf([this] { return core_.link().linkState(); });
-    core_.controller().setClosingActions({&settingsStore_, {}, {}});
-    core_.controller().onPortFailure([this] { portFailed(); });
+      program_(platform_, overridesOf(arguments), {view_, box_, traceSink_, {}}) {
+    program_.controller().setClosingActions({&program_.settingsStore(), {}, {}});
+    program_.controller().onPortFailure([this] { portFailed(); });
 }
 
 HeadlessServer::~HeadlessServer() {
@@ -96,9 +77,7 @@ void HeadlessServer::printError(const std::string& line) {
     std::string text = line;
     const std::string start = "Port COM" + std::to_string(platform_.port.CommPort()) + " ";
     if (line.starts_with(start)) {
-        const std::string device = platform_.portNames.device(static_cast<int>(platform_.port.CommPort()))
-                                       .value_or("COM" + std::to_string(platform_.port.CommPort()));
-        text += " " + describeOpenFailure(device, platform_.port.lastErrorNumber());
+        text += " " + program_.describePortFailure();
     }
     errorPrinted_ = true;
     printLine(stderr, "velmorad: " + text);
@@ -132,23 +111,22 @@ void HeadlessServer::quit(int status) {
 }
 
 void HeadlessServer::stop() {
-    core_.controller().queryUnload(CloseReason::Terminated);
+    program_.controller().queryUnload(CloseReason::Terminated);
     quit(0);
 }
 
 int HeadlessServer::run() {
-    const StartupReport report = start_.Main("");
+    const StartupReport report = program_.start("");
     if (report.outcome != StartupOutcome::Running) {
         if (!errorPrinted_) {
             printError("start-up failed in " + report.step + ": " + report.detail);
         }
         return 1;
     }
-    core_.applySettings(start_.settings());
     if (!quitting_) {
         QCoreApplication::exec();
     }
-    core_.controller().queryUnload(CloseReason::Terminated);
+    program_.controller().queryUnload(CloseReason::Terminated);
     return exitStatus_;
 }
 

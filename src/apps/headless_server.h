@@ -2,19 +2,13 @@
 #pragma once
 
 #include <cstdio>
-#include <memory>
+#include <functional>
 #include <string>
 
 #include "apps/console_trace.h"
-#include "apps/controller_form.h"
 #include "apps/platform_parts.h"
 #include "apps/server_arguments.h"
-#include "apps/server_core.h"
-#include "link/debug.h"
-#include "startup/comms_link.h"
-#include "startup/ini_file.h"
-#include "startup/ini_settings_store.h"
-#include "startup/run_overrides.h"
+#include "apps/server_program.h"
 #include "ui/console_view.h"
 #include "ui/no_user_box.h"
 
@@ -48,17 +42,11 @@ class HeadlessServer {
     int exitStatus_ = 0;
 
     ServerArguments arguments_;
-    RunOverrides overrides_;
     PlatformParts platform_;
     ConsoleTrace traceSink_;
-    Debug debug_;
     ConsoleView view_;
     NoUserBox box_;
-    ServerCore core_;
-    ControllerForm form_;
-    clsIniFile ini_;
-    IniSettingsStore settingsStore_;
-    CommsLink start_;
+    ServerProgram program_;
 };
 
 }  // namespace velmora

@@ -1,0 +1,44 @@
+#include "apps/server_program.h"
+
+#include <utility>
+
+#include "platform/known_folders.h"
+#include "serial/open_diagnosis.h"
+
+namespace velmora {
+
+ServerProgram::ServerProgram(PlatformParts& platform, RunOverrides overrides, const ServerFace& face)
+    : platform_(platform),
+      overrides_(std::move(overrides)),
+      debug_(face.trace),
+      core_({face.view, face.box, platform.files, platform.rules, platform.port, debug_, platform.ComTimer,
+             platform.PLPtimer, platform.DisplayTimer, platform.clock, platform.zone, platform.yield}),
+      form_(core_.controller(), face.view, core_.options, platform.port, platform.portNames, face.window),
+      ini_(platform.profiles, platform.rules, face.box, windowsFolder()),
+      settingsStore_(ini_, overrides_),
+      start_({&platform.files,
+              platform.rules,
+              ini_,
+              face.box,
+              form_,
+              core_.crc,
+              core_.strings,
+              core_.transfer,
+              {platform.folders.applicationData(), platform.folders.documents()}},
+             overrides_) {
+    debug_.showStateOf([this] { return core_.link().linkState(); });
+}
+
+StartupReport ServerProgram::start(const std::string& commandLine) {
+    const StartupReport report = start_.Main(commandLine);
+    core_.applySettings(start_.settings());
+    return report;
+}
+
+std::string ServerProgram::describePortFailure() const {
+    const int number = platform_.port.CommPort();
+    const std::string device = platform_.portNames.device(number).value_or("COM" + std::to_string(number));
+    return describeOpenFailure(device, platform_.port.lastErrorNumber());
+}
+
+}  // namespace velmora

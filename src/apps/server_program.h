@@ -1,0 +1,57 @@
+// What the programs that serve have in common: the server on this machine, and its start.
+#pragma once
+
+#include <string>
+
+#include "apps/controller_form.h"
+#include "apps/platform_parts.h"
+#include "apps/server_core.h"
+#include "base/message_box.h"
+#include "link/debug.h"
+#include "server/main_view.h"
+#include "startup/comms_link.h"
+#include "startup/ini_file.h"
+#include "startup/ini_settings_store.h"
+#include "startup/run_overrides.h"
+
+namespace velmora {
+
+/// How a program shows its server; all of it must outlive the server.
+struct ServerFace {
+    MainView& view;
+    MessageBox& box;
+    TraceSink& trace;
+    ControllerForm::WindowCalls window;  ///< nothing for a program without one
+};
+
+/// The server with everything that starts it, built once and connected. Needs the toolkit's event loop.
+class ServerProgram {
+  public:
+    /// `platform` must outlive it and polls the controller below.
+    ServerProgram(PlatformParts& platform, RunOverrides overrides, const ServerFace& face);
+    ServerProgram(const ServerProgram&) = delete;
+    ServerProgram& operator=(const ServerProgram&) = delete;
+
+    /// Runs the start-up steps; a failed one has been told by the box. `commandLine` as CommsLink::Main.
+    StartupReport start(const std::string& commandLine);
+
+    /// Why the server's port cannot be opened or failed, and what helps, as one sentence.
+    std::string describePortFailure() const;
+
+    ServerCore& core() { return core_; }
+    ServerController& controller() { return core_.controller(); }
+    /// Where settings are written that the command line does not override.
+    IniSettingsStore& settingsStore() { return settingsStore_; }
+
+  private:
+    PlatformParts& platform_;
+    RunOverrides overrides_;
+    Debug debug_;
+    ServerCore core_;
+    ControllerForm form_;
+    clsIniFile ini_;
+    IniSettingsStore settingsStore_;
+    CommsLink start_;
+};
+
+}  // namespace velmora
