@@ -29,6 +29,8 @@ class MainView {
     /// The display as one readable line with its whole texts ("Downloading file: Memo.odb"): for a console,
     /// a tool-tip, a screen reader. Follows each change of the display, not its scrolling.
     virtual void showStatus(const std::string& text) = 0;
+    /// A line for the log, where there is one; a window leaves it to the trace.
+    virtual void showReport(const std::string& line) = 0;
     /// The server's state (ServerState) after each change.
     virtual void showState(std::int32_t state) = 0;
     /// The warning marker and the three message lines.

@@ -98,6 +98,7 @@ class ServerController : public ServerWindow {
     const std::string& ErrorMsg() const { return errorMsg_; }
     void Display(const std::string& line1, const std::string& line2) override;
     void ShowWarning(const std::string& text2, const std::string& text3) override;
+    void Report(const std::string& line) override { parts_.view.showReport(line); }
     void SetStats(std::int32_t which, std::int16_t amount) override;
 
     void ShowText(const std::string& text1, const std::string& text2, const std::string& text3);

@@ -10,8 +10,8 @@
 
 namespace velmora {
 
-/// Prints one line for each change of the display and one for each warning. Never visible, so nothing asks it
-/// for the focus.
+/// Prints one line for each change of the display, for each report and for each warning. Never visible, so
+/// nothing asks it for the focus.
 class ConsoleView : public MainView {
   public:
     /// Takes one line in the system's encoding without its line end.
@@ -27,6 +27,7 @@ class ConsoleView : public MainView {
 
     void setDisplayLine(int, const std::string&) override {}
     void showStatus(const std::string& text) override;
+    void showReport(const std::string& line) override { showStatus(line); }
     void showState(std::int32_t state) override;
     void showMessages(const MessageLines& messages) override;
     std::string statsText(StatsLabel label) const override;

@@ -109,6 +109,13 @@ TEST_F(Controller, MessagesReachTheView) {
     EXPECT_EQ(view.warning(), "");
 }
 
+TEST_F(Controller, AReportReachesTheViewAndChangesNothingElse) {
+    const auto displayed = view.statuses.size();
+    controller.Report("Plan.wks: saved");
+    EXPECT_EQ(view.reports, std::vector<std::string>{"Plan.wks: saved"});
+    EXPECT_EQ(view.statuses.size(), displayed);
+}
+
 TEST_F(Controller, StatisticsSurviveStartAndStop) {
     controller.SetStats(StatsBytesReceived, 12);
     reach(WaitLink);

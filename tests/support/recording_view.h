@@ -17,6 +17,7 @@ class RecordingView : public MainView {
         ++displayChanges;
     }
     void showStatus(const std::string& text) override { statuses.push_back(text); }
+    void showReport(const std::string& line) override { reports.push_back(line); }
     void showState(std::int32_t state) override { states.push_back(state); }
     void showMessages(const MessageLines& shown) override { messages = shown; }
     std::string statsText(StatsLabel label) const override { return stats.at(label); }
@@ -64,6 +65,7 @@ class RecordingView : public MainView {
     std::string line1;
     std::string line2;
     int displayChanges = 0;
+    std::vector<std::string> reports;
     std::vector<std::string> statuses;
     std::vector<std::int32_t> states;
     MessageLines messages;

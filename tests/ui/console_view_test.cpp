@@ -56,6 +56,14 @@ TEST_F(Console, PrintsWholeTextsNotSixteenColumns) {
     EXPECT_EQ(output, Lines{"No port selected. The server could not find a free serial port!"});
 }
 
+TEST_F(Console, AReportIsALineBetweenThoseOfTheDisplay) {
+    controller.setState(Downld);
+    controller.Report("Plan.wks, B3: caf\xE9");
+    controller.setState(WaitLink);
+    EXPECT_EQ(output, (Lines{"Downloading file", toSystemText("Plan.wks, B3: caf\xE9"), "Waiting for link"}));
+    EXPECT_TRUE(errors.empty());
+}
+
 TEST_F(Console, ScrollingPrintsNothing) {
     controller.setState(NoPort);
     time.advance(test::milliseconds(10'000));

@@ -55,6 +55,7 @@ class frmMain : public QWidget, public MainView {
     // MainView
     void setDisplayLine(int line, const std::string& text) override;
     void showStatus(const std::string& text) override;
+    void showReport(const std::string&) override {}
     void showState(std::int32_t state) override;
     void showMessages(const MessageLines& messages) override;
     std::string statsText(StatsLabel label) const override;
