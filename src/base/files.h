@@ -31,6 +31,9 @@ class File {
     virtual std::uint64_t position() const = 0;
     virtual void seek(std::uint64_t position) = 0;
     virtual std::uint64_t size() const = 0;
+    /// Whether the path by which it was opened still leads to this very file: it was not deleted, moved or
+    /// replaced meanwhile, nor was a folder on the way.
+    virtual bool isInPlace() const = 0;
     /// Closes the file; a write that the system reports as failed only now is thrown. Closing twice is fine.
     virtual void close() = 0;
 };

@@ -76,6 +76,15 @@ void FileRequests::closeFile() {
     file_.close();
 }
 
+bool FileRequests::saveAndReply() {
+    if (const ServiceCode failure = file_.save(); failure != kCodeNone) {
+        refuse(failure);
+        return false;
+    }
+    reply({});
+    return true;
+}
+
 bool FileRequests::writeAndReply(std::string_view record) {
     const ServiceCode failure =
         file_.status() == kOpenForWriting ? file_.writeRecord(record) : kCodeNotPossible;

@@ -48,6 +48,9 @@ class FileRequests : public ServiceHandler {
     /// Closes the file and forgets its name.
     void closeFile();
 
+    /// Makes sure of what was written and replies empty; false when it is not saved, which was told as a
+    /// refusal.
+    bool saveAndReply();
     /// Writes a record and replies empty; false when it was refused.
     bool writeAndReply(std::string_view record);
     /// Reads a record of up to the maximum in the argument's first byte and replies with it. Returns

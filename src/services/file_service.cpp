@@ -42,7 +42,7 @@ void FileService::open(std::string_view argument) {
 }
 
 void FileService::close() {
-    reply({});
+    saveAndReply();
     end();
 }
 

@@ -91,7 +91,9 @@ void FtranService::answerOpened(const std::string& path) {
 }
 
 void FtranService::close() {
-    reply({});
+    if (!saveAndReply()) {
+        return;
+    }
     const bool nothingAppended = openMode_ == kModeAppend && !dataWritten_;
     if (file().isOpen() && !nothingAppended) {
         window().SetStats(file().status() == kOpenForWriting ? StatsFilesReceived : StatsFilesSent, 1);

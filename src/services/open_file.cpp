@@ -125,15 +125,17 @@ void OpenFile::openForWriting(const std::string& path, int mode, int kind) {
     file_ = files_.open(target, writingMode(mode));
     if (kind == kKindText) {
         writesText_ = true;
-        prepareAppending();
+        goToEnd();
     } else if (isBlockFile(kind)) {
         file_->write(blockHeader(-kind));
         headerPending_ = true;
     }
 }
 
-void OpenFile::prepareAppending() {
+/// Text is added at the end; a last line without one is ended first.
+void OpenFile::goToEnd() {
     const std::uint64_t length = file_->size();
+    lineEndMissing_ = false;
     if (length > 0) {
         file_->seek(length - 1);
         lineEndMissing_ = readBytes(1) != "\n";
@@ -197,6 +199,9 @@ ServiceCode OpenFile::writeRecord(std::string_view record) {
 
 void OpenFile::writeLine(std::string_view record) {
     addToStats(window_, StatsBytesReceived, record.size() + 2);
+    if (file_->position() != file_->size()) {
+        goToEnd();  // another program has added or taken away something
+    }
     std::string line = lineEndMissing_ ? "\r\n" : "";
     if (fieldSeparator_ != '\0') {
         line += record_ToLine(record, fieldSeparator_);
@@ -217,8 +222,24 @@ void OpenFile::requireRoom(std::size_t count) const {
 
 void OpenFile::completeHeader() {
     const std::string length = imageLengthField(file_->size());
+    const std::uint64_t position = file_->position();
     file_->seek(kImageMark);
     file_->write(length);
+    file_->seek(position);
+}
+
+ServiceCode OpenFile::save() {
+    if (status_ != kOpenForWriting) {
+        return kCodeNone;
+    }
+    try {
+        if (headerPending_) {
+            completeHeader();
+        }
+    } catch (const RunTimeError& error) {
+        return map_Error(error);
+    }
+    return file_->isInPlace() ? kCodeNone : kCodeNotPossible;
 }
 
 void OpenFile::close() {

@@ -83,6 +83,11 @@ class OpenFile {
     std::uint64_t size() const { return file_->size(); }
     void seek(std::uint64_t position) { file_->seek(position); }
 
+    /// Makes sure of what was written, for the answer that it is saved: a block file gets its length, and the
+    /// file must still be the one of its name. The file stays open at its position. Returns kCodeNone, also
+    /// when nothing was to be saved, or the code of the failure.
+    ServiceCode save();
+
     /// Completes a block file's length, closes, and deletes a temporary file. Never fails; what cannot be
     /// done is left. Closing when nothing is open is fine.
     void close();
@@ -102,7 +107,7 @@ class OpenFile {
     void openProcedureImage(const std::string& path);
     void openForReading(const std::string& path, int kind);
     void openForWriting(const std::string& path, int mode, int kind);
-    void prepareAppending();
+    void goToEnd();
 
     std::optional<std::string> readTextBlock(std::size_t maximum);
     std::string readBinaryBlock(std::size_t maximum);

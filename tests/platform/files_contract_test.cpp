@@ -184,6 +184,12 @@ TEST_P(FilesContract, AClosedFileIsClosedAgainButNotUsed) {
     EXPECT_EQ(errorOf([&] { file->size(); }), 52);
 }
 
+TEST_P(FilesContract, AnOpenFileIsTheOneOfItsName) {
+    write("Memo", "x");
+    const std::unique_ptr<File> file = files.open(path("MEMO"), OpenMode::ReadWrite);
+    EXPECT_TRUE(file->isInPlace());
+}
+
 TEST_P(FilesContract, ReplaceLeavesOneFileUnderTheStoredName) {
     write("Old.ini", "old");
     write("new", "new");

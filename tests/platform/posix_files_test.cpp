@@ -230,6 +230,21 @@ TEST_F(PosixFilesTest, AFileThatAnotherProgramReadsCanBeReadToo) {
     EXPECT_EQ(openError("held", OpenMode::ReadWrite), 70);
 }
 
+TEST_F(PosixFilesTest, AnOpenFileWhoseNameLeadsElsewhereIsNotInPlace) {
+    folder.write("real", "x");
+    folder.write("other", "x");
+    std::filesystem::create_symlink("real", folder.path("link"));
+    const auto file = files.open(folder.path("link"), OpenMode::ReadWrite);
+    EXPECT_TRUE(file->isInPlace()) << "it is where the link leads";
+    std::filesystem::remove(folder.path("link"));
+    EXPECT_FALSE(file->isInPlace());
+    std::filesystem::create_symlink("other", folder.path("link"));
+    EXPECT_FALSE(file->isInPlace());
+    std::filesystem::remove(folder.path("link"));
+    std::filesystem::create_hard_link(folder.path("real"), folder.path("link"));
+    EXPECT_TRUE(file->isInPlace());
+}
+
 TEST_F(PosixFilesTest, TooManyOpenFilesIsSaidSo) {
     folder.write("file");
     // A rehearsal: sanitizers take a descriptor to look at each type for the first time.

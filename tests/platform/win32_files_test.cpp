@@ -241,10 +241,26 @@ TEST_F(Win32FilesTest, AReaderThatLetsOthersWriteDoesNoHarm) {
     EXPECT_EQ(openError("shown", OpenMode::Create), 0);
 }
 
+TEST_F(Win32FilesTest, AFileThatAnotherProgramWritesAndSharesIsRead) {
+    const Win32Handle writer =
+        heldOpen(folder.write("log", "so far"), GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE);
+    ASSERT_TRUE(writer.isValid());
+    EXPECT_EQ(openError("log", OpenMode::ReadWrite), 70);
+    EXPECT_EQ(contentOf(path("log")), "so far");
+}
+
+TEST_F(Win32FilesTest, AFileThatIsReadCannotBeWrittenByOthers) {
+    folder.write("memo", "x");
+    const auto reading = files.open(path("memo"), OpenMode::Read);
+    EXPECT_FALSE(heldOpen(path("memo"), GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE)
+                     .isValid());
+}
+
 TEST_F(Win32FilesTest, WhatIsBeingWrittenIsHeldAgainstOthers) {
     const auto writing = files.open(path("memo"), OpenMode::Create);
-    EXPECT_EQ(openError("memo", OpenMode::Read), 70);
     EXPECT_EQ(openError("MEMO", OpenMode::Create), 70);
+    EXPECT_EQ(MoveFileA(path("memo").c_str(), path("elsewhere").c_str()), 0);
+    EXPECT_TRUE(writing->isInPlace());
     const Win32Handle looking = heldOpen(path("memo"), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE);
     EXPECT_TRUE(looking.isValid()) << "a program that lets others write may look on";
 }

@@ -29,8 +29,10 @@ constexpr char kSeek = 4;
 
 class ServiceFixture : public testing::Test {
   protected:
-    ServiceFixture() {
-        memory.addFolder("/psion");
+    ServiceFixture() : ServiceFixture(nullptr, "/psion") { memory.addFolder("/psion"); }
+    /// On a file layer of the test's own instead of the one in memory.
+    ServiceFixture(Files* disk, const std::string& folder)
+        : files(disk != nullptr ? *disk : memory), settings{folder, 0} {
         dispatcher.add("FTRAN", ftran);
         dispatcher.add("FILE", fileService);
         dispatcher.add("BOOT", boot);
@@ -88,9 +90,9 @@ class ServiceFixture : public testing::Test {
     }
 
     MemoryFiles memory;
-    FailingFiles files{memory};
+    FailingFiles files;
     SimplePathRules rules;
-    TransferSettings settings{"/psion", 0};
+    TransferSettings settings;
     FolderMapper names{files, rules, settings.DownloadPath};
     RecordingWindow window;
     RecordingSender sender;

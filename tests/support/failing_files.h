@@ -127,6 +127,7 @@ class FailingFiles : public Files {
         std::uint64_t position() const override { return inner_->position(); }
         void seek(std::uint64_t position) override { inner_->seek(position); }
         std::uint64_t size() const override { return inner_->size(); }
+        bool isInPlace() const override { return inner_->isInPlace(); }
         void close() override {
             script_->count(FileCall::Close);
             inner_->close();

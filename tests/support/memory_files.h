@@ -16,7 +16,7 @@ namespace velmora::test {
 
 /// Files and folders by absolute path, found without regard to case. With '\\' as the separator names are
 /// Windows-1252 and "C:\" is there from the start; with '/' only ASCII letters have a case and "/" is there.
-/// A file that is deleted while open lives on until it is closed.
+/// A file that is deleted while open lives on until it is closed; open files use this object.
 class MemoryFiles : public Files {
   public:
     explicit MemoryFiles(char separator = '/')
@@ -73,7 +73,7 @@ class MemoryFiles : public Files {
         if (creates) {
             bytes->clear();
         }
-        return std::make_unique<OpenFile>(std::move(bytes), mode != OpenMode::Read, openFiles_);
+        return std::make_unique<OpenFile>(*this, path, std::move(bytes), mode != OpenMode::Read);
     }
     void deleteFile(const std::string& path) override {
         entry(path);
@@ -134,8 +134,8 @@ class MemoryFiles : public Files {
 
     class OpenFile : public File {
       public:
-        OpenFile(std::shared_ptr<std::string> bytes, bool writable, std::shared_ptr<int> openFiles)
-            : bytes_(std::move(bytes)), writable_(writable), openFiles_(std::move(openFiles)) {
+        OpenFile(const MemoryFiles& disk, std::string path, std::shared_ptr<std::string> bytes, bool writable)
+            : disk_(disk), path_(std::move(path)), bytes_(std::move(bytes)), writable_(writable) {
             ++*openFiles_;
         }
         ~OpenFile() override { release(); }
@@ -162,6 +162,10 @@ class MemoryFiles : public Files {
             requireOpen();
             return bytes_->size();
         }
+        bool isInPlace() const override {
+            const auto named = disk_.find(path_);
+            return named != disk_.files_.end() && named->second.content == bytes_;
+        }
         void close() override { release(); }
 
       private:
@@ -176,9 +180,11 @@ class MemoryFiles : public Files {
                 bytes_ = nullptr;
             }
         }
+        const MemoryFiles& disk_;
+        std::string path_;
         std::shared_ptr<std::string> bytes_;
         bool writable_;
-        std::shared_ptr<int> openFiles_;
+        std::shared_ptr<int> openFiles_ = disk_.openFiles_;
         std::uint64_t position_ = 0;
     };
 

@@ -87,6 +87,13 @@ std::uint64_t PosixFile::size() const {
     return static_cast<std::uint64_t>(status.st_size);
 }
 
+bool PosixFile::isInPlace() const {
+    struct stat open {};
+    struct stat named {};
+    return fstat(descriptor_, &open) == 0 && stat(path_.c_str(), &named) == 0 &&
+           open.st_dev == named.st_dev && open.st_ino == named.st_ino;
+}
+
 void PosixFile::close() {
     if (descriptor_ == -1) {
         return;

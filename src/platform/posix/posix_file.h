@@ -11,7 +11,7 @@ namespace velmora {
 /// close() is 52, a write to a file opened for reading 75.
 class PosixFile : public File {
   public:
-    /// Takes over an open descriptor of a regular file. `path` is for the texts of errors.
+    /// Takes over an open descriptor of a regular file. `path` is the one that led to it.
     PosixFile(int descriptor, bool writable, std::string path);
     PosixFile(const PosixFile&) = delete;
     PosixFile& operator=(const PosixFile&) = delete;
@@ -23,6 +23,8 @@ class PosixFile : public File {
     /// Throws 5 for a position that no file can have (2^63 and above).
     void seek(std::uint64_t position) override;
     std::uint64_t size() const override;
+    /// By device and inode number; the path is followed through links.
+    bool isInPlace() const override;
     void close() override;
 
   private:

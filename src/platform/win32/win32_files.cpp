@@ -58,6 +58,19 @@ DWORD disposition(OpenMode mode) {
     return OPEN_EXISTING;
 }
 
+/// Opens a file. Others may look on, but neither write nor delete it; one that another program is writing
+/// already, and shares, is read beside it. INVALID_HANDLE_VALUE and GetLastError as CreateFileA.
+HANDLE openShared(const std::string& path, DWORD access, OpenMode mode) {
+    const auto attempt = [&](DWORD share) {
+        return CreateFileA(path.c_str(), access, share, nullptr, disposition(mode), FILE_ATTRIBUTE_NORMAL,
+                           nullptr);
+    };
+    const HANDLE file = attempt(FILE_SHARE_READ);
+    const bool isWrittenByOthers =
+        mode == OpenMode::Read && file == INVALID_HANDLE_VALUE && GetLastError() == ERROR_SHARING_VIOLATION;
+    return isWrittenByOthers ? attempt(FILE_SHARE_READ | FILE_SHARE_WRITE) : file;
+}
+
 constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 
 /// Hands the bytes to the disk before the name changes hands, so that a power failure leaves one whole file.
@@ -145,8 +158,7 @@ std::unique_ptr<File> Win32Files::open(const std::string& path, OpenMode mode) {
     }
     const bool writable = mode != OpenMode::Read;
     const DWORD access = GENERIC_READ | (writable ? GENERIC_WRITE : 0);
-    Win32Handle file(CreateFileA(found.c_str(), access, FILE_SHARE_READ, nullptr, disposition(mode),
-                                 FILE_ATTRIBUTE_NORMAL, nullptr));
+    Win32Handle file(openShared(found, access, mode));
     if (!file.isValid()) {
         throw win32Error(GetLastError(), found);
     }

@@ -12,7 +12,8 @@ namespace velmora {
 /// Keeps what base/files.h promises by the narrow Win32 functions. Only files on disk, or links to them, are
 /// files: devices, pipes and streams inside files are refused and never touched. A file open for writing
 /// cannot be opened by others but for reading that allows writers, a file open for reading not for writing,
-/// and neither can be deleted; a file that another program holds so is 70. Paths have less than MAX_PATH
+/// and neither can be deleted or renamed; a file that another program holds so is 70. One that another
+/// program has open for writing, and shares, can be read. Paths have less than MAX_PATH
 /// (260) bytes when they are made absolute; a longer one is 64.
 class Win32Files : public Files {
   public:
