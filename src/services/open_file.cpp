@@ -127,8 +127,12 @@ void OpenFile::openForWriting(const std::string& path, int mode, int kind) {
         writesText_ = true;
         goToEnd();
     } else if (isBlockFile(kind)) {
-        file_->write(blockHeader(-kind));
-        headerPending_ = true;
+        blockType_ = -kind;
+        header_ = Header::Due;
+        if (mode != kModeAppend) {
+            file_->write(blockHeader(blockType_));
+            header_ = Header::Pending;
+        }
     }
 }
 
@@ -183,15 +187,13 @@ std::string OpenFile::readImageHeader(std::size_t count) {
 }
 
 ServiceCode OpenFile::writeRecord(std::string_view record) {
-    requireRoom(record.size());
     try {
-        if (writesText_) {
-            writeLine(record);
-        } else {
-            file_->write(record);
-            addToStats(window_, StatsBytesReceived, record.size());
-        }
+        writesText_ ? writeLine(record) : writeBytes(record);
     } catch (const RunTimeError& error) {
+        leaveHeader();
+        if (!isFileFailure(error)) {
+            throw;
+        }
         return map_Error(error);
     }
     return kCodeNone;
@@ -214,9 +216,27 @@ void OpenFile::writeLine(std::string_view record) {
     lineEndMissing_ = false;
 }
 
+void OpenFile::writeBytes(std::string_view record) {
+    // A header that is due goes in the same write: refused, it leaves the old file as it was.
+    const std::string header = header_ == Header::Due ? blockHeader(blockType_) : std::string();
+    requireRoom(header.size() + record.size());
+    file_->write(header + std::string(record));
+    if (header_ == Header::Due) {
+        header_ = Header::Pending;
+    }
+    addToStats(window_, StatsBytesReceived, record.size());
+}
+
 void OpenFile::requireRoom(std::size_t count) const {
-    if (headerPending_ && std::max(file_->size(), file_->position() + count) > kLargestBlockFile) {
+    if (header_ != Header::Settled &&
+        std::max(file_->size(), file_->position() + count) > kLargestBlockFile) {
         throw RunTimeError(ErrorNumber::Overflow, "block file above 65,535 bytes");
+    }
+}
+
+void OpenFile::leaveHeader() {
+    if (header_ == Header::Pending) {
+        header_ = Header::Settled;
     }
 }
 
@@ -233,7 +253,7 @@ ServiceCode OpenFile::save() {
         return kCodeNone;
     }
     try {
-        if (headerPending_) {
+        if (header_ == Header::Pending) {
             completeHeader();
         }
     } catch (const RunTimeError& error) {
@@ -245,7 +265,7 @@ ServiceCode OpenFile::save() {
 void OpenFile::close() {
     if (file_ != nullptr) {
         try {
-            if (headerPending_) {
+            if (header_ == Header::Pending) {
                 completeHeader();
             }
         } catch (const RunTimeError&) {
@@ -263,7 +283,7 @@ void OpenFile::close() {
     status_ = kNoFile;
     writesText_ = false;
     lineEndMissing_ = false;
-    headerPending_ = false;
+    header_ = Header::Settled;
     procedureImage_ = false;
 }
 

@@ -70,7 +70,8 @@ class OpenFile {
     /// Requires: open for reading.
     std::optional<std::string> readBlock(std::size_t maximum);
     /// Writes and counts a record: a line in text mode, its bytes in binary mode. Returns kCodeNone or the
-    /// code of the failure; of a line that failed nothing is in the file.
+    /// code of the failure; of a line that failed nothing is in the file. A block file keeps the length 0 in
+    /// its header then, so that no reading takes for whole what is there.
     /// A block file that would outgrow its length field is a RunTimeError 6. Requires: open for writing.
     ServiceCode writeRecord(std::string_view record);
 
@@ -101,6 +102,13 @@ class OpenFile {
     static constexpr std::size_t kLongestLine = 65'536;
 
   private:
+    /// What is still to be done to the header of a block file.
+    enum class Header {
+        Settled,  ///< nothing, or it is no block file
+        Due,      ///< it goes before the first record; until then the old file is as it was
+        Pending,  ///< it has the length 0 and gets the file's at the end
+    };
+
     int openChecked(const std::string& path, int mode, int kind);
     ServiceCode checkMode(const std::string& path, int mode) const;
     void openListing(const std::string& pattern, int kind);
@@ -113,7 +121,10 @@ class OpenFile {
     std::string readBinaryBlock(std::size_t maximum);
     std::string readBytes(std::size_t count);
     void writeLine(std::string_view record);
+    void writeBytes(std::string_view record);
     void requireRoom(std::size_t count) const;
+    /// A write was refused.
+    void leaveHeader();
     void completeHeader();
 
     Files& files_;
@@ -127,7 +138,8 @@ class OpenFile {
     std::unique_ptr<LineReader> lines_;
     bool writesText_ = false;
     bool lineEndMissing_ = false;
-    bool headerPending_ = false;
+    Header header_ = Header::Settled;
+    int blockType_ = 0;
     bool procedureImage_ = false;
 };
 

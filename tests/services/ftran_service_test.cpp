@@ -284,6 +284,9 @@ TEST_F(FtranTest, TheWriteThatOutgrowsABlockFileIsARunTimeError) {
     expectRefused(188);
     expectTraced("6: Overflow: block file above 65,535 bytes");
     EXPECT_EQ(content("Pic.ob2").size(), 65'541U);
+    openService("FTRAN");
+    openRequest(0, 2, "PIC");
+    expectRefused(190);
 }
 
 // Procedures.

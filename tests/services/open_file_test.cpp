@@ -292,13 +292,58 @@ TEST_F(OpenFileTest, ABlockFileMayFillItsLengthField) {
     EXPECT_EQ(window.stats[StatsBytesReceived], 65'535);
 }
 
-TEST_F(OpenFileTest, TheWriteThatCrossesTheLimitOverflows) {
+TEST_F(OpenFileTest, ARefusedWriteLeavesABlockFileThatNoReadingTakesForWhole) {
     open(1, -2);
     ASSERT_EQ(file.writeRecord(std::string(65'535, 'x')), kCodeNone);
     EXPECT_THROW(file.writeRecord("x"), RunTimeError);
     file.close();
     EXPECT_EQ(content().size(), 65'541U);
-    EXPECT_EQ(content().substr(3, 2), "\xFF\xFF") << "what was written before stays readable";
+    EXPECT_EQ(content().substr(0, 6), "ORG\0\0\x82"s);
+}
+
+TEST_F(OpenFileTest, AFullDiskLeavesABlockFileThatNoReadingTakesForWhole) {
+    open(1, -2);
+    ASSERT_EQ(file.writeRecord("whole"), kCodeNone);
+    files.failAfterBytes(0, ErrorNumber::DiskFull);
+    EXPECT_EQ(file.writeRecord("x"), kCodeDiskFull);
+    files.healthy();
+    file.close();
+    EXPECT_EQ(content(), "ORG\0\0\x82whole"s);
+}
+
+TEST_F(OpenFileTest, OpeningABlockFileInMode4AloneChangesNothing) {
+    for (const std::string& bytes :
+         {"ORG\0\x05\x83hello"s, "ORG\0\x05\x82hello"s, "no block file"s, "x"s, ""s}) {
+        add(bytes);
+        open(4, -3);
+        EXPECT_EQ(content(), bytes) << "while it is open";
+        file.close();
+        EXPECT_EQ(content(), bytes);
+    }
+}
+
+TEST_F(OpenFileTest, ARefusedFirstWriteInMode4ChangesNothing) {
+    const std::string bytes = "ORG\0\x05\x82hello"s;
+    add(bytes);
+    open(4, -3);
+    files.failAfterBytes(0, ErrorNumber::DiskFull);
+    EXPECT_EQ(file.writeRecord("AB"), kCodeDiskFull);
+    files.healthy();
+    file.close();
+    EXPECT_EQ(content(), bytes);
+    open(4, -3);
+    EXPECT_THROW(file.writeRecord(std::string(65'536, 'x')), RunTimeError);
+    file.close();
+    EXPECT_EQ(content(), bytes);
+}
+
+TEST_F(OpenFileTest, AFileTooLargeForABlockFileIsNotChangedInMode4) {
+    const std::string bytes(70'000, 'x');
+    add(bytes);
+    open(4, -3);
+    EXPECT_THROW(file.writeRecord("AB"), RunTimeError);
+    file.close();
+    EXPECT_EQ(content(), bytes);
 }
 
 TEST_F(OpenFileTest, ABinaryFileHasNoSuchLimit) {
