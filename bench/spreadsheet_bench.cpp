@@ -40,6 +40,7 @@ class RepeatedFile : public File {
     std::uint64_t position() const override { return position_; }
     void seek(std::uint64_t position) override { position_ = position; }
     std::uint64_t size() const override { return size_; }
+    void flush() override {}
     bool isInPlace() const override { return true; }
     void close() override {}
 

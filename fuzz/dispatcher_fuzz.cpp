@@ -65,6 +65,7 @@ class SmallFile : public File {
     std::uint64_t position() const override { return inner_->position(); }
     void seek(std::uint64_t position) override { inner_->seek(position); }
     std::uint64_t size() const override { return inner_->size(); }
+    void flush() override { inner_->flush(); }
     bool isInPlace() const override { return inner_->isInPlace(); }
     void close() override { inner_->close(); }
 

@@ -31,6 +31,9 @@ class File {
     virtual std::uint64_t position() const = 0;
     virtual void seek(std::uint64_t position) = 0;
     virtual std::uint64_t size() const = 0;
+    /// Hands what was written to the disk, with the name of a new file: after it a power failure takes
+    /// nothing.
+    virtual void flush() = 0;
     /// Whether the path by which it was opened still leads to this very file: it was not deleted, moved or
     /// replaced meanwhile, nor was a folder on the way.
     virtual bool isInPlace() const = 0;
@@ -69,7 +72,8 @@ class Files {
     virtual void deleteFile(const std::string& path) = 0;
     /// Makes a folder and the missing folders on the way to it; an existing one is fine.
     virtual void createFolder(const std::string& path) = 0;
-    /// Renames `from` over `to` in one step, so that `to` is always either the old or the new file.
+    /// Renames `from` over `to` in one step, so that `to` is always either the old or the new file, and hands
+    /// both to the disk.
     /// Both must lie on one volume.
     virtual void replaceFile(const std::string& from, const std::string& to) = 0;
     /// Makes a new empty file with a generated name in the folder, with the rights of any new file there, and

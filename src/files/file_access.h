@@ -22,6 +22,7 @@ class BytesFile : public File {
     std::uint64_t position() const override { return position_; }
     void seek(std::uint64_t position) override { position_ = position; }
     std::uint64_t size() const override { return bytes_.size(); }
+    void flush() override {}
     bool isInPlace() const override { return true; }
     void close() override {}
 

@@ -256,6 +256,7 @@ ServiceCode OpenFile::save() {
         if (header_ == Header::Pending) {
             completeHeader();
         }
+        file_->flush();
     } catch (const RunTimeError& error) {
         return map_Error(error);
     }

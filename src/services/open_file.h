@@ -84,9 +84,9 @@ class OpenFile {
     std::uint64_t size() const { return file_->size(); }
     void seek(std::uint64_t position) { file_->seek(position); }
 
-    /// Makes sure of what was written, for the answer that it is saved: a block file gets its length, and the
-    /// file must still be the one of its name. The file stays open at its position. Returns kCodeNone, also
-    /// when nothing was to be saved, or the code of the failure.
+    /// Makes sure of what was written, for the answer that it is saved: a block file gets its length, all is
+    /// handed to the disk, and the file must still be the one of its name. The file stays open at its
+    /// position. Returns kCodeNone, also when nothing was to be saved, or the code of the failure.
     ServiceCode save();
 
     /// Completes a block file's length, closes, and deletes a temporary file. Never fails; what cannot be

@@ -182,6 +182,7 @@ TEST_P(FilesContract, AClosedFileIsClosedAgainButNotUsed) {
     EXPECT_EQ(errorOf([&] { file->read(&byte, 1); }), 52);
     EXPECT_EQ(errorOf([&] { file->write("x"); }), 52);
     EXPECT_EQ(errorOf([&] { file->size(); }), 52);
+    EXPECT_EQ(errorOf([&] { file->flush(); }), 52);
 }
 
 TEST_P(FilesContract, AnOpenFileIsTheOneOfItsName) {

@@ -220,6 +220,57 @@ TEST_F(FtranTest, AClosedFileStaysOpen) {
     EXPECT_EQ(dispatcher.currentService(), "FTRAN");
 }
 
+struct FlushRow {
+    const char* name;
+    ErrorNumber failure;
+    int code;
+};
+
+class FtranFlushTest : public FtranTest, public testing::WithParamInterface<FlushRow> {};
+
+TEST_P(FtranFlushTest, AFailureIsTheAnswerToTheCloseRequest) {
+    openRequest(1, 0, "MEMO");
+    write("one");
+    sender.frames.clear();
+    files.failAtCall(FileCall::Flush, 1, GetParam().failure);
+    closeRequest();
+    expectRefused(GetParam().code);
+    EXPECT_EQ(window.stats[StatsFilesReceived], 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(Rows, FtranFlushTest,
+                         testing::Values(FlushRow{"FullDisk", ErrorNumber::DiskFull, 186},
+                                         FlushRow{"BrokenDisk", ErrorNumber::DeviceIoError, 188}),
+                         [](const auto& row) { return row.param.name; });
+
+TEST_F(FtranTest, ABlockFileHasItsLengthWhenItsCloseIsAnswered) {
+    openRequest(1, 3, "PIC");
+    write("abc");
+    closeRequest();
+    EXPECT_EQ(content("Pic.ob3"), "ORG\0\x03\x83"s + "abc");
+    write("de");
+    EXPECT_EQ(content("Pic.ob3").substr(6), "abcde");
+    dropLink();
+    EXPECT_EQ(content("Pic.ob3"), "ORG\0\x05\x83"s + "abcde");
+}
+
+TEST_F(FtranTest, ABlockFileWhoseLengthCannotBeWrittenIsNotSaved) {
+    openRequest(1, 3, "PIC");
+    write("abc");
+    sender.frames.clear();
+    files.failAtCall(FileCall::Write, 1, ErrorNumber::DiskFull);
+    closeRequest();
+    expectRefused(186);
+}
+
+TEST_F(FtranTest, AFileThatWasReadIsNotFlushed) {
+    add("Memo.odb", "one\r\n");
+    openRequest(0, 0, "MEMO");
+    closeRequest();
+    expectReply("");
+    EXPECT_EQ(files.calls(FileCall::Flush), 0);
+}
+
 TEST_F(FtranTest, ClosingNothingCountsNothing) {
     closeRequest();
     expectReply("");

@@ -1,9 +1,12 @@
 // Files on disk that other programs touch while the Organiser saves them.
+#include <gmock/gmock.h>
+
 #include <filesystem>
 #include <fstream>
 
 #include "platform/native.h"
 #include "services/service_fixture.h"
+#include "support/disk_calls.h"
 #include "support/temp_folder.h"
 
 namespace velmora {
@@ -56,6 +59,13 @@ class TouchedFileTest : public SavedFilesTest, public testing::WithParamInterfac
 TEST_P(TouchedFileTest, IsSavedWhenNobodyTouchesIt) {
     closeRequest();
     expectReply("");
+}
+
+TEST_P(TouchedFileTest, IsOnTheDiskBeforeItIsToldToBeSaved) {
+    diskCalls() = {};
+    closeRequest();
+    EXPECT_THAT(diskCalls().made,
+                testing::ElementsAre("flush " + folder.path(GetParam().stored), "flush " + folder.path()));
 }
 
 TEST_P(TouchedFileTest, IsNotSavedUnderANameThatIsGone) {

@@ -24,6 +24,7 @@ enum class FileCall {
     List,
     Read,
     Write,
+    Flush,
     Close,
 };
 
@@ -127,6 +128,10 @@ class FailingFiles : public Files {
         std::uint64_t position() const override { return inner_->position(); }
         void seek(std::uint64_t position) override { inner_->seek(position); }
         std::uint64_t size() const override { return inner_->size(); }
+        void flush() override {
+            script_->count(FileCall::Flush);
+            inner_->flush();
+        }
         bool isInPlace() const override { return inner_->isInPlace(); }
         void close() override {
             script_->count(FileCall::Close);

@@ -162,6 +162,7 @@ class MemoryFiles : public Files {
             requireOpen();
             return bytes_->size();
         }
+        void flush() override { requireOpen(); }
         bool isInPlace() const override {
             const auto named = disk_.find(path_);
             return named != disk_.files_.end() && named->second.content == bytes_;

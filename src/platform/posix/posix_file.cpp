@@ -7,6 +7,7 @@
 #include <limits>
 #include <utility>
 
+#include "platform/posix/disk_flush.h"
 #include "platform/posix/system_errors.h"
 
 namespace velmora {
@@ -85,6 +86,11 @@ std::uint64_t PosixFile::size() const {
         throw openFileError(errno, path_);
     }
     return static_cast<std::uint64_t>(status.st_size);
+}
+
+void PosixFile::flush() {
+    flushFile(descriptor_, path_);
+    flushEntry(path_);
 }
 
 bool PosixFile::isInPlace() const {

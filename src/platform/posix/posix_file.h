@@ -23,6 +23,7 @@ class PosixFile : public File {
     /// Throws 5 for a position that no file can have (2^63 and above).
     void seek(std::uint64_t position) override;
     std::uint64_t size() const override;
+    void flush() override;
     /// By device and inode number; the path is followed through links.
     bool isInPlace() const override;
     void close() override;

@@ -14,6 +14,8 @@
 #include <vector>
 
 #include "base/run_time_error.h"
+#include "platform/posix/descriptor.h"
+#include "platform/posix/disk_flush.h"
 #include "platform/posix/folder_reader.h"
 #include "platform/posix/path_lookup.h"
 #include "platform/posix/posix_file.h"
@@ -22,24 +24,6 @@
 
 namespace velmora {
 namespace {
-
-/// A descriptor that is closed unless it is handed on.
-class Descriptor {
-  public:
-    explicit Descriptor(int number) : number_(number) {}
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-    ~Descriptor() {
-        if (number_ != -1) {
-            ::close(number_);
-        }
-    }
-    int number() const { return number_; }
-    int handOn() { return std::exchange(number_, -1); }
-
-  private:
-    int number_;
-};
 
 /// Type and rights of what a path leads to; nothing when it leads nowhere.
 std::optional<struct stat> statusOf(const std::string& path) {
@@ -60,16 +44,6 @@ struct stat requireFile(const std::string& path) {
         throw RunTimeError(ErrorNumber::PathFileAccess, path);
     }
     return status;
-}
-
-/// Calls a system function again while a signal interrupts it.
-template <typename Call>
-int withoutInterruption(const Call& call) {
-    int result = 0;
-    do {
-        result = call();
-    } while (result == -1 && errno == EINTR);
-    return result;
 }
 
 int openFlags(OpenMode mode) {
@@ -97,11 +71,12 @@ void lock(int descriptor, bool writable, const std::string& path) {
 }
 
 /// Hands the bytes to the disk before the name changes hands, so that a power failure leaves one whole file.
-void flushToDisk(const std::string& path) {
+void flushContents(const std::string& path) {
     const Descriptor file(withoutInterruption([&] { return ::open(path.c_str(), O_RDONLY | O_CLOEXEC); }));
-    if (file.number() == -1 || fsync(file.number()) != 0) {
+    if (file.number() == -1) {
         throw systemError(errno, path);
     }
+    flushFile(file.number(), path);
 }
 
 /// Whether an entry that a folder listed is a file; what has vanished is not.
@@ -239,10 +214,11 @@ void PosixFiles::replaceFile(const std::string& from, const std::string& to) {
             throw systemError(errno, source);
         }
     }
-    flushToDisk(source);
+    flushContents(source);
     if (rename(source.c_str(), target.c_str()) != 0) {
         throw systemError(errno, target);
     }
+    flushEntry(target);
 }
 
 std::string PosixFiles::createTemporaryFile(const std::string& folder) {

@@ -34,9 +34,11 @@ void cutBack(HANDLE handle, std::uint64_t size) {
     }
 }
 
-/// What a file system that keeps nothing back answers to FlushFileBuffers.
-bool hasNothingToFlush(DWORD error) {
-    return error == ERROR_INVALID_FUNCTION || error == ERROR_NOT_SUPPORTED;
+/// Hands what was written to the disk. Answers 0 or the number of GetLastError; a file system that keeps
+/// nothing back is fine.
+DWORD flushError(HANDLE handle) {
+    const DWORD error = FlushFileBuffers(handle) != 0 ? ERROR_SUCCESS : GetLastError();
+    return error == ERROR_INVALID_FUNCTION || error == ERROR_NOT_SUPPORTED ? ERROR_SUCCESS : error;
 }
 
 }  // namespace
@@ -113,15 +115,19 @@ std::uint64_t Win32File::size() const {
     return static_cast<std::uint64_t>(size.QuadPart);
 }
 
+void Win32File::flush() {
+    if (const DWORD error = flushError(handle_); error != ERROR_SUCCESS) {
+        throw win32OpenFileError(error, path_);
+    }
+    written_ = false;
+}
+
 void Win32File::close() {
     if (handle_ == INVALID_HANDLE_VALUE) {
         return;
     }
     const HANDLE handle = std::exchange(handle_, INVALID_HANDLE_VALUE);
-    DWORD error = ERROR_SUCCESS;
-    if (written_ && FlushFileBuffers(handle) == 0 && !hasNothingToFlush(GetLastError())) {
-        error = GetLastError();
-    }
+    DWORD error = written_ ? flushError(handle) : ERROR_SUCCESS;
     if (CloseHandle(handle) == 0 && error == ERROR_SUCCESS) {
         error = GetLastError();
     }

@@ -25,10 +25,11 @@ class Win32File : public File {
     /// Throws 5 for a position that no file can have (2^63 and above).
     void seek(std::uint64_t position) override;
     std::uint64_t size() const override;
+    /// By FlushFileBuffers; a network drive tells the failures of writes only then.
+    void flush() override;
     /// Always: the way in which files are opened here keeps others from deleting and renaming them.
     bool isInPlace() const override { return true; }
-    /// Hands what was written to the disk or the server of a network drive, whose failures Windows tells only
-    /// then.
+    /// Flushes what was written first.
     void close() override;
 
   private:
