@@ -3,6 +3,7 @@
 #   scripts/setup.sh          what it takes to build and run the programs
 #   scripts/setup.sh tests    that, and what the tests and checks need
 #   scripts/setup.sh pictures that, and what takes pictures of a display
+#   scripts/setup.sh bare     that, and what makes a minimal system to try all this in
 set -euo pipefail
 
 packages=(g++ cmake ninja-build qt6-base-dev ccache libwps-tools fonts-dejavu-core)
@@ -12,6 +13,9 @@ if [[ "${1:-}" == tests ]]; then
 fi
 if [[ "${1:-}" == pictures ]]; then
   packages+=(xvfb xauth imagemagick fonts-wine)
+fi
+if [[ "${1:-}" == bare ]]; then
+  packages+=(debootstrap)
 fi
 
 missing=()
