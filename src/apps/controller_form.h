@@ -57,6 +57,7 @@ class ControllerForm : public StartupForm {
     void ShowWarning(const std::string& text2, const std::string& text3) override {
         controller_.ShowWarning(text2, text3);
     }
+    bool ended() const override { return controller_.closed(); }
     std::int32_t state() const override { return controller_.state(); }
     void setState(std::int32_t newState) override { controller_.setState(newState); }
 

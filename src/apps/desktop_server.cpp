@@ -86,7 +86,7 @@ void DesktopServer::saveWindowPlace() {
 }
 
 bool DesktopServer::start(const std::string& commandLine) {
-    return program_.start(commandLine).outcome == StartupOutcome::Running;
+    return program_.start(commandLine).outcome != StartupOutcome::Failed;
 }
 
 int DesktopServer::run() {

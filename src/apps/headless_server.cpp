@@ -117,7 +117,7 @@ void HeadlessServer::stop() {
 
 int HeadlessServer::run() {
     const StartupReport report = program_.start("");
-    if (report.outcome != StartupOutcome::Running) {
+    if (report.outcome == StartupOutcome::Failed) {
         if (!errorPrinted_) {
             printError("start-up failed in " + report.step + ": " + report.detail);
         }

@@ -9,6 +9,7 @@
 
 int main(int argc, char** argv) {
     using namespace velmora;
+    const HeldStopSignals held;
     std::string commandLine;
     for (int i = 1; i < argc; ++i) {
         commandLine += (i > 1 ? " " : "") + std::string(argv[i]);
@@ -19,7 +20,7 @@ int main(int argc, char** argv) {
         // The main window ends the program, also when it is minimised while another window closes.
         QApplication::setQuitOnLastWindowClosed(false);
         DesktopServer server;
-        const StopSignals stopSignals([&server] { server.stop(); });
+        const StopSignals stopSignals(held, [&server] { server.stop(); });
         return server.start(commandLine) ? server.run() : 1;
     } catch (const std::exception& error) {
         std::fprintf(stderr, "velmora: %s\n", error.what());

@@ -35,10 +35,11 @@ int main(int argc, char** argv) {
     // Whoever reads the output may go away; the Organiser is served all the same.
     std::signal(SIGPIPE, SIG_IGN);
 #endif
+    const HeldStopSignals held;
     QCoreApplication application(argc, argv);
     try {
         HeadlessServer server(arguments);
-        const StopSignals stopSignals([&server] { server.stop(); });
+        const StopSignals stopSignals(held, [&server] { server.stop(); });
         return server.run();
     } catch (const std::exception& error) {
         std::fprintf(stderr, "velmorad: %s\n", error.what());

@@ -4,6 +4,7 @@
 
 #include <QSocketNotifier>
 #include <cerrno>
+#include <ctime>
 #include <system_error>
 #include <utility>
 
@@ -12,20 +13,53 @@
 namespace velmora {
 namespace {
 
+bool isIgnored(int signal) {
+    struct sigaction action {};
+    return ::sigaction(signal, nullptr, &action) == 0 && action.sa_handler == SIG_IGN;
+}
+
+/// A signal that is blocked is read from the descriptor also when it is ignored, so nohup's is left out.
 sigset_t stopSet() {
     sigset_t set;
     ::sigemptyset(&set);
     ::sigaddset(&set, SIGINT);
     ::sigaddset(&set, SIGTERM);
+    if (!isIgnored(SIGHUP)) {
+        ::sigaddset(&set, SIGHUP);
+    }
     return set;
 }
 
 }  // namespace
 
-/// The signals, blocked for the program and read from a descriptor.
+/// The signals, blocked for this thread and those that it makes.
+class HeldStopSignals::Set {
+  public:
+    Set() { ::pthread_sigmask(SIG_BLOCK, &set_, &earlier_); }
+    ~Set() {
+        // The program has stopped; a second request must not end it with another status now.
+        constexpr timespec kNoWait{};
+        while (::sigtimedwait(&set_, nullptr, &kNoWait) > 0) {
+        }
+        ::pthread_sigmask(SIG_SETMASK, &earlier_, nullptr);
+    }
+    Set(const Set&) = delete;
+    Set& operator=(const Set&) = delete;
+
+    const sigset_t& set() const { return set_; }
+
+  private:
+    sigset_t set_ = stopSet();
+    sigset_t earlier_{};
+};
+
+HeldStopSignals::HeldStopSignals() : set_(std::make_unique<Set>()) {}
+HeldStopSignals::~HeldStopSignals() = default;
+
+/// The held signals, read from a descriptor.
 class StopSignals::Watch {
   public:
-    explicit Watch(std::function<void()> handler);
+    Watch(const sigset_t& set, std::function<void()> handler);
     ~Watch();
     Watch(const Watch&) = delete;
     Watch& operator=(const Watch&) = delete;
@@ -38,10 +72,8 @@ class StopSignals::Watch {
     std::unique_ptr<QSocketNotifier> notifier_;
 };
 
-StopSignals::Watch::Watch(std::function<void()> handler) : handler_(std::move(handler)) {
-    const sigset_t set = stopSet();
-    // A signal that is read from a descriptor needs no handler, and so no variable outside this object.
-    ::pthread_sigmask(SIG_BLOCK, &set, nullptr);
+// A signal that is read from a descriptor needs no handler, and so no variable outside this object.
+StopSignals::Watch::Watch(const sigset_t& set, std::function<void()> handler) : handler_(std::move(handler)) {
     descriptor_ = ::signalfd(-1, &set, SFD_CLOEXEC | SFD_NONBLOCK);
     if (descriptor_ < 0) {
         throw std::system_error(errno, std::generic_category(), "signalfd");
@@ -53,8 +85,6 @@ StopSignals::Watch::Watch(std::function<void()> handler) : handler_(std::move(ha
 StopSignals::Watch::~Watch() {
     notifier_.reset();
     ::close(descriptor_);
-    const sigset_t set = stopSet();
-    ::pthread_sigmask(SIG_UNBLOCK, &set, nullptr);
 }
 
 void StopSignals::Watch::read() {
@@ -68,8 +98,8 @@ void StopSignals::Watch::read() {
     }
 }
 
-StopSignals::StopSignals(std::function<void()> handler)
-    : watch_(std::make_unique<Watch>(std::move(handler))) {}
+StopSignals::StopSignals(const HeldStopSignals& held, std::function<void()> handler)
+    : watch_(std::make_unique<Watch>(held.set_->set(), std::move(handler))) {}
 StopSignals::~StopSignals() = default;
 
 }  // namespace velmora

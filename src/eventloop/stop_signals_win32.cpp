@@ -61,6 +61,11 @@ std::function<void()> closeHandler(const std::function<void()>& handler) {
 
 }  // namespace
 
+class HeldStopSignals::Set {};
+
+HeldStopSignals::HeldStopSignals() = default;
+HeldStopSignals::~HeldStopSignals() = default;
+
 /// An event that the console's requests set and that the event loop waits for, and the session's end.
 class StopSignals::Watch {
   public:
@@ -96,7 +101,7 @@ class StopSignals::Watch {
     QWinEventNotifier notifier_;
 };
 
-StopSignals::StopSignals(std::function<void()> handler)
+StopSignals::StopSignals(const HeldStopSignals& /*held*/, std::function<void()> handler)
     : watch_(std::make_unique<Watch>(std::move(handler))) {}
 StopSignals::~StopSignals() = default;
 

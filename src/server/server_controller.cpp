@@ -103,8 +103,12 @@ void ServerController::setDebugMode(bool on) {
 }
 
 std::int32_t ServerController::checkPort(std::int16_t port, std::int16_t flags) {
+    parts_.yield.processEvents();
     if (running() || starting_ > 0) {
         return kStatusInUse;
+    }
+    if (closed_) {
+        return kStatusError;
     }
     return testPort(parts_.port, port, portTestProbes(flags, parts_.options.DontTestModem), parts_.clock,
                     parts_.yield);

@@ -110,7 +110,8 @@ class ServerController : public ServerWindow {
     void setDebugMode(bool on);
 
     /// Tests one serial port (PortStatusNumber). Sets the number of the server's port object, so the caller
-    /// sets the wanted one again. A running server keeps its port: the answer is then kStatusInUse.
+    /// sets the wanted one again. A running server keeps its port: the answer is then kStatusInUse. Lets
+    /// events run first, so that whoever tests many ports can be stopped; a closed controller tests none.
     std::int32_t checkPort(std::int16_t port, std::int16_t flags);
 
     /// The window has appeared: with AutoStart, a stopped server (state Offline) starts.
@@ -136,6 +137,8 @@ class ServerController : public ServerWindow {
     /// does nothing more.
     bool queryUnload(CloseReason reason);
 
+    /// Whether queryUnload has said that the program may end.
+    bool closed() const { return closed_; }
     /// Whether the server runs.
     bool running() const { return state_ >= WaitLink; }
     /// Whether the port failed since the server was last started.

@@ -79,7 +79,12 @@ void CommsLink::runSteps() {
     step_ = "load_CRCtable";
     parts_.crc.load_CRCtable();
     step_ = "init_Ports";
-    parts_.form.setState(init_Ports());
+    const std::int32_t state = init_Ports();
+    abandoned_ = parts_.form.ended();
+    if (abandoned_) {
+        return;
+    }
+    parts_.form.setState(state);
     step_ = "get_WindowPos";
     parts_.form.loadWindowPos();
 }
@@ -157,13 +162,16 @@ std::int32_t CommsLink::init_Ports() {
         return WaitLink;
     }
     form.options().AutoSelectPort = false;
+    if (form.ended()) {
+        return Offline;
+    }
     form.ShowWarning("No port selected!", "");
     return NoPort;
 }
 
 bool CommsLink::searchPort() {
     StartupForm& form = parts_.form;
-    for (std::int16_t port = 1; port <= kLastSearchedPort; ++port) {
+    for (std::int16_t port = 1; port <= kLastSearchedPort && !form.ended(); ++port) {
         std::int32_t status = 0;
         form.checkPort(port, 0, status);
         if (status == kPortFree) {

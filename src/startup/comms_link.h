@@ -38,7 +38,7 @@ struct StartupParts {
 
 enum class StartupOutcome {
     Running,    ///< the window is shown
-    Abandoned,  ///< the user gave up; all windows are unloaded
+    Abandoned,  ///< the user gave up, or the program was told to end; all windows are unloaded
     Failed,     ///< a box has told the user; all windows are unloaded
 };
 
@@ -73,7 +73,8 @@ class CommsLink {
     /// Reads the settings and chooses the download folder. False when the user abandons the start.
     bool get_Settings();
     /// Sets up the port, searching ports 1 to 64 when none is configured. The server's first state: Offline,
-    /// WaitLink after a search that found a free port, NoPort after one that did not.
+    /// WaitLink after a search that found a free port, NoPort after one that did not. A search ends early
+    /// when the program is told to end.
     std::int32_t init_Ports();
 
   private:

@@ -47,6 +47,9 @@ class StartupForm {
     virtual void ShowClear() = 0;
     virtual void ShowWarning(const std::string& text2, const std::string& text3) = 0;
 
+    /// Whether the program was told to end; checkPort lets it be told.
+    virtual bool ended() const = 0;
+
     virtual std::int32_t state() const = 0;
     virtual void setState(std::int32_t newState) = 0;
 };

@@ -1,13 +1,48 @@
 // How the server ends: by request of the Organiser, by a signal, by a port that is not there or goes away.
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <poll.h>
 #include <signal.h>
+#include <unistd.h>
 
+#include <array>
 #include <string>
+#include <system_error>
 
 #include "e2e/support/server_fixture.h"
 
 namespace velmora::e2e {
 namespace {
+
+/// A modem at the other end of the line.
+class Modem {
+  public:
+    explicit Modem(const std::string& device) : line_(::open(device.c_str(), O_RDWR | O_NOCTTY | O_CLOEXEC)) {
+        if (line_ < 0) {
+            throw std::system_error(errno, std::generic_category(), device);
+        }
+    }
+    ~Modem() { ::close(line_); }
+    Modem(const Modem&) = delete;
+    Modem& operator=(const Modem&) = delete;
+
+    /// Takes what comes within a moment; true when it is a probe.
+    bool listen() {
+        pollfd watched{line_, POLLIN, 0};
+        std::array<char, 64> buffer{};
+        if (::poll(&watched, 1, 20) <= 0 || ::read(line_, buffer.data(), buffer.size()) <= 0) {
+            return false;
+        }
+        ++probes_;
+        return true;
+    }
+    void answer() const { EXPECT_EQ(::write(line_, "OK\r", 3), 3); }
+    int probes() const { return probes_; }
+
+  private:
+    int line_;
+    int probes_ = 0;
+};
 
 class StopTest : public ServerFixture {
   protected:
@@ -37,14 +72,58 @@ TEST_F(StopTest, AnAcceptedShutdownEndsTheServerWithStatusZero) {
 }
 
 TEST_F(StopTest, ASignalWhileWaitingEndsTheServerWithStatusZero) {
-    for (const int number : {SIGINT, SIGTERM}) {
-        if (number == SIGTERM && serverSide->windows()) {
+    for (const int number : {SIGINT, SIGTERM, SIGHUP}) {
+        if (number != SIGINT && serverSide->windows()) {
             continue;  // has no counterpart there
         }
         startServer();
         server->signal(number);
         EXPECT_EQ(server->wait(), 0) << server->error();
     }
+}
+
+TEST_F(StopTest, AHangUpThatItsCallerHasSwitchedOffDoesNotEndTheServer) {
+    if (serverSide->windows()) {
+        GTEST_SKIP() << "has no counterpart there";
+    }
+    std::vector<std::string> command = {"nohup"};
+    for (const std::string& word :
+         serverSide->command("velmorad", {"--port", serverPort, "--folder", serverPath(psion)})) {
+        command.push_back(word);
+    }
+    server = std::make_unique<Process>(command, serverSide->environment(home, zone));
+    ASSERT_TRUE(server->waitForOutput("Waiting for link")) << server->error();
+    server->signal(SIGHUP);
+    EXPECT_EQ(organiser({"formats"}).status, 0) << "still serving";
+    server->signal(SIGTERM);
+    EXPECT_EQ(server->wait(), 0) << server->error();
+}
+
+TEST_F(StopTest, ASignalEndsThePortSearchWithThePortThatIsBeingTested) {
+    if (serverSide->windows()) {
+        GTEST_SKIP() << "devices have no names of their own there";
+    }
+    std::string ini =
+        "[Settings]\r\nPort=0\r\nDontTestModem=False\r\nDownloadPath=" + psion.string() + "\r\n[Ports]\r\n";
+    for (int number = 1; number <= 64; ++number) {
+        ini += "COM" + std::to_string(number) + "=" + serverDevice + "\r\n";
+    }
+    writeFile(home / "search.ini", ini);
+    Modem modem(organiserDevice);
+    server = start("velmorad", {"--config", (home / "search.ini").string()});
+    while (modem.probes() == 0 && server->running()) {
+        modem.listen();
+    }
+    server->signal(SIGTERM);
+    modem.answer();  // so that a search that went on would test the next port
+    while (server->running()) {
+        if (modem.listen()) {
+            modem.answer();
+        }
+    }
+    EXPECT_EQ(server->wait(), 0) << server->error();
+    EXPECT_EQ(modem.probes(), 1);
+    EXPECT_EQ(server->error(), "");
 }
 
 TEST_F(StopTest, ASignalInTheMiddleOfASaveClosesTheFileAndLeavesWholeRecords) {

@@ -23,6 +23,8 @@ class StopSignalsTest : public EventLoopFixture {
         }
     }
 
+    HeldStopSignals held;
+
     /// Made once; the request's thread then keeps the system's list of routines locked for good.
     static inline bool consoleHasClosed = false;
 };
@@ -31,7 +33,7 @@ TEST_F(StopSignalsTest, CtrlCAndCtrlBreakRunTheHandlerOnTheEventLoop) {
     const DWORD here = GetCurrentThreadId();
     for (const DWORD kind : {CTRL_C_EVENT, CTRL_BREAK_EVENT}) {
         int requests = 0;
-        const StopSignals stopSignals([&] {
+        const StopSignals stopSignals(held, [&] {
             EXPECT_EQ(GetCurrentThreadId(), here);
             ++requests;
             QCoreApplication::exit();
@@ -43,7 +45,7 @@ TEST_F(StopSignalsTest, CtrlCAndCtrlBreakRunTheHandlerOnTheEventLoop) {
 
 TEST_F(StopSignalsTest, AConsoleThatClosesIsHeldBackUntilTheProgramHasStoppedByItself) {
     int requests = 0;
-    auto stopSignals = std::make_unique<StopSignals>([&] {
+    auto stopSignals = std::make_unique<StopSignals>(held, [&] {
         ++requests;
         QCoreApplication::exit();
     });
@@ -53,7 +55,7 @@ TEST_F(StopSignalsTest, AConsoleThatClosesIsHeldBackUntilTheProgramHasStoppedByI
     EXPECT_EQ(requests, 1);
     // Must not wait for the request, which is not answered before the program has ended.
     stopSignals.reset();
-    const StopSignals next([] {});
+    const StopSignals next(held, [] {});
     EXPECT_TRUE(request->waits());
 }
 

@@ -237,6 +237,14 @@ TEST_F(Controller, CheckPortHeedsDontTestModemUnlessForced) {
     EXPECT_EQ(port.sent.size(), 2U);
 }
 
+TEST_F(Controller, CheckPortHearsARequestToEndBeforeItOpensThePort) {
+    yield.onYield = [this] { controller.queryUnload(CloseReason::Terminated); };
+    EXPECT_EQ(controller.checkPort(3, kProbeModem), kStatusError);
+    EXPECT_TRUE(controller.closed());
+    EXPECT_TRUE(port.sent.empty());
+    EXPECT_EQ(port.number, 1);
+}
+
 TEST_F(Controller, CheckPortLeavesTheRunningServersPortAlone) {
     reach(WaitLink);
     EXPECT_EQ(controller.checkPort(9, kProbeModem), kStatusInUse);

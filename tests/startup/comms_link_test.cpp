@@ -264,6 +264,15 @@ TEST_F(Startup, TheSearchEndsAtPort64) {
     EXPECT_EQ(form_.scriptedPort.number, 64);
 }
 
+TEST_F(Startup, TheSearchEndsWhenTheProgramIsToldToEnd) {
+    givenIni("[Settings]\r\nPort=0\r\n");
+    form_.endsAfterChecks = 3;
+    EXPECT_EQ(start().outcome, StartupOutcome::Abandoned);
+    EXPECT_THAT(form_.checked, ElementsAre(1, 2, 3));
+    EXPECT_THAT(form_.calls, ElementsAre("load", "setVersionTexts", "unload"));
+    EXPECT_THAT(form_.warnings, IsEmpty());
+}
+
 TEST_F(Startup, WithoutAFreePortThereIsNone) {
     form_.freePort = 65;
     start();

@@ -1,6 +1,7 @@
 // A main window for start-up tests: it remembers what start-up did with it.
 #pragma once
 
+#include <cstddef>
 #include <functional>
 #include <map>
 #include <string>
@@ -38,6 +39,7 @@ class RecordingForm : public StartupForm {
     void ShowWarning(const std::string& text2, const std::string& text3) override {
         warnings.emplace_back(text2, text3);
     }
+    bool ended() const override { return checked.size() >= endsAfterChecks; }
     std::int32_t state() const override { return current; }
     void setState(std::int32_t newState) override {
         did("setState");
@@ -53,6 +55,7 @@ class RecordingForm : public StartupForm {
     std::vector<std::int16_t> checked;
     std::int16_t checkFlags = -1;
     std::int16_t freePort = 0;
+    std::size_t endsAfterChecks = 1000;  ///< how many ports are tested before the program is told to end
     std::vector<std::pair<std::string, std::string>> warnings;
     std::string versionTexts;
     bool debugMode = false;
