@@ -1,0 +1,180 @@
+// What the documents show to be typed or written, tried as it stands there.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <set>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "e2e/support/server_fixture.h"
+
+namespace velmora::e2e {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Lines of a document that are set as they are to be typed: between fences, or indented.
+struct CodeBlock {
+    std::string document;
+    std::vector<std::string> lines;
+};
+
+std::string withoutIndent(const std::string& line) {
+    return line.substr(std::min(line.find_first_not_of(' '), line.size()));
+}
+
+std::vector<CodeBlock> codeBlocksOf(const fs::path& document) {
+    std::vector<CodeBlock> blocks;
+    bool fenced = false;
+    bool before = false;  // the line before belonged to a block
+    std::istringstream lines(contentsOf(document));
+    for (std::string line; std::getline(lines, line);) {
+        const std::string text = withoutIndent(line);
+        if (text.starts_with("```")) {
+            fenced = !fenced;
+            before = false;
+            continue;
+        }
+        // An empty line within a block is a line of it.
+        const bool inside = fenced || line.starts_with("    ") || (before && text.empty());
+        if (inside && !before) {
+            blocks.push_back({document.filename().string(), {}});
+        }
+        if (inside) {
+            blocks.back().lines.push_back(text);
+        }
+        before = inside;
+    }
+    for (CodeBlock& block : blocks) {
+        while (!block.lines.empty() && block.lines.back().empty()) {
+            block.lines.pop_back();
+        }
+    }
+    return blocks;
+}
+
+std::vector<CodeBlock> codeBlocks() {
+    std::vector<CodeBlock> blocks = codeBlocksOf(VELMORA_SOURCE_DIR "/README.md");
+    for (const fs::directory_entry& entry : fs::directory_iterator(VELMORA_SOURCE_DIR "/docs")) {
+        if (entry.path().extension() == ".md") {
+            const std::vector<CodeBlock> more = codeBlocksOf(entry.path());
+            blocks.insert(blocks.end(), more.begin(), more.end());
+        }
+    }
+    return blocks;
+}
+
+bool isConfiguration(const CodeBlock& block) {
+    return std::ranges::any_of(block.lines, [](const std::string& line) {
+        return line.starts_with('[') && line.find(']') != std::string::npos;
+    });
+}
+
+/// The program that a line starts, without the folder that it is built into.
+std::string programOf(const std::string& line) {
+    const std::string word = line.substr(0, line.find(' '));
+    return word.substr(word.rfind('/') + 1);
+}
+
+std::string replaced(std::string text, const std::string& what, const std::string& by) {
+    for (std::size_t at = 0; (at = text.find(what, at)) != std::string::npos; at += by.size()) {
+        text.replace(at, what.size(), by);
+    }
+    return text;
+}
+
+/// The documents speak of the first adapter as the server's and of the second as the Organiser's, and of files
+/// that their reader has.
+class DocumentExamples : public ServerFixture {
+  protected:
+    void SetUp() override {
+        if (serverSide->windows() || organiserSide->windows()) {
+            GTEST_SKIP() << "what is typed is for this system's shell";
+        }
+        ServerFixture::SetUp();
+        writeFile(home / "plan.tab", "Tea\t1.25\r\nCup\t3\r\n");
+        ASSERT_EQ(filesTool({"sheet", (home / "plan.tab").string(), (home / "plan.wks").string()}).status, 0);
+    }
+
+    /// Starts a line as the reader would, in a folder with the reader's files.
+    std::unique_ptr<Process> type(const std::string& line) const {
+        std::string typed = replaced(line, "/dev/ttyUSB0", serverPort);
+        typed = replaced(typed, "/dev/ttyUSB1", organiserPort);
+        typed = replaced(typed, "~/psion", psion.string());
+        typed = replaced(typed, "build/bin/", "");
+        std::map<std::string, std::string> environment = organiserSide->environment(home, zone);
+        environment["PATH"] = VELMORA_BIN_DIR ":/usr/bin:/bin";
+        return std::make_unique<Process>(
+            std::vector<std::string>{"sh", "-c", "cd \"$HOME\" && exec " + typed}, environment);
+    }
+};
+
+TEST_F(DocumentExamples, EveryConfigurationStartsTheServerAndIsLeftAsItIs) {
+    int tried = 0;
+    for (const CodeBlock& block : codeBlocks()) {
+        if (!isConfiguration(block)) {
+            continue;
+        }
+        SCOPED_TRACE(block.document + ", the one with " + block.lines.back());
+        ++tried;
+        std::string text;
+        for (const std::string& line : block.lines) {
+            text += line + "\n";
+        }
+        const fs::path file = home / "Example.ini";
+        writeFile(file, text);
+        startServer({"--config", file.string()});
+        stopServer();
+        EXPECT_EQ(server->wait(), 0) << server->error();
+        EXPECT_TRUE(contentsOf(file) == text) << "it is too short, and was replaced by the default file";
+    }
+    EXPECT_GE(tried, 3);
+}
+
+TEST_F(DocumentExamples, EveryCommandDoesItsWork) {
+    std::set<std::string> tried;
+    for (const CodeBlock& block : codeBlocks()) {
+        for (const std::string& line : block.lines) {
+            const std::string program = programOf(line);
+            SCOPED_TRACE(block.document + ": " + line);
+            if (program == "velmorad") {
+                server = type(line);
+                EXPECT_TRUE(server->waitForOutput("Waiting for link")) << server->output() << server->error();
+                stopServer();
+                EXPECT_EQ(server->wait(), 0) << server->error();
+            } else if (program == "velmora-organiser") {
+                startServer();
+                const Finished done = finished(*type(line));
+                EXPECT_EQ(done.status, 0) << done.error;
+                stopServer();
+                EXPECT_EQ(server->wait(), 0) << server->error();
+            } else if (program == "velmora-files") {
+                const Finished done = finished(*type(line));
+                EXPECT_EQ(done.status, 0) << done.error;
+            } else {
+                continue;
+            }
+            tried.insert(program);
+        }
+    }
+    EXPECT_EQ(tried, (std::set<std::string>{"velmorad", "velmora-files", "velmora-organiser"}));
+}
+
+TEST_F(DocumentExamples, EveryScriptThatIsNamedIsThere) {
+    int found = 0;
+    for (const CodeBlock& block : codeBlocks()) {
+        for (const std::string& line : block.lines) {
+            for (std::size_t at = 0; (at = line.find("scripts/", at)) != std::string::npos; ++at) {
+                const std::string name = line.substr(at, line.find_first_of(" ;", at) - at);
+                EXPECT_TRUE(fs::exists(fs::path(VELMORA_SOURCE_DIR) / name)) << block.document << ": " << name;
+                ++found;
+            }
+        }
+    }
+    EXPECT_GE(found, 4);
+}
+
+}  // namespace
+}  // namespace velmora::e2e
