@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cstdio>
-#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -12,16 +11,14 @@ namespace velmora {
 /// characters that its ANSI code page has (CommandLineToArgvW); elsewhere they are `main`'s own.
 std::vector<std::string> utf8Arguments(int argc, char** argv);
 
-/// An argument that has no narrow form; the text names it.
-class ArgumentError : public std::runtime_error {
-  public:
-    using std::runtime_error::runtime_error;
-};
-
 /// The arguments behind the program's name in the system's narrow encoding, in which paths are. Windows gives
 /// `main` similar letters for those that its ANSI code page lacks, which may name another file; here such an
-/// argument is the short path of a file that is there, or an ArgumentError.
+/// argument is the short path of a file that is there, or a UsageError that names it.
 std::vector<std::string> systemArguments(int argc, char** argv);
+
+/// Lets a program with windows speak on the console that it was started from: Windows gives it none. Nothing
+/// to do where its streams lead somewhere already.
+void useStartersConsole();
 
 /// Whether somebody watches the stream; false for files and pipes.
 bool isTerminal(std::FILE* stream);

@@ -12,6 +12,8 @@ std::vector<std::string> systemArguments(int argc, char** argv) {
     return {argv + 1, argv + argc};
 }
 
+void useStartersConsole() {}
+
 bool isTerminal(std::FILE* stream) {
     return ::isatty(::fileno(stream)) != 0;
 }

@@ -50,6 +50,15 @@ std::vector<std::string> systemArguments(int argc, char** argv) {
     return argumentsAs(narrowArgument, argc, argv);
 }
 
+void useStartersConsole() {
+    const bool told = GetFileType(GetStdHandle(STD_OUTPUT_HANDLE)) != FILE_TYPE_UNKNOWN ||
+                      GetFileType(GetStdHandle(STD_ERROR_HANDLE)) != FILE_TYPE_UNKNOWN;
+    if (!told && AttachConsole(ATTACH_PARENT_PROCESS) != FALSE) {
+        std::freopen("CONOUT$", "w", stdout);
+        std::freopen("CONOUT$", "w", stderr);
+    }
+}
+
 bool isTerminal(std::FILE* stream) {
     // The C library also takes the null device for a terminal; only a console has a mode.
     DWORD mode = 0;

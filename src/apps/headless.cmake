@@ -2,6 +2,6 @@
 add_executable(velmorad velmorad_main.cpp headless_server.cpp)
 target_link_libraries(velmorad PRIVATE
   velmora_server_program velmora_server_arguments velmora_console)
-target_compile_definitions(velmorad PRIVATE VELMORA_VERSION="${PROJECT_VERSION}" QT_NO_KEYWORDS)
+target_compile_definitions(velmorad PRIVATE QT_NO_KEYWORDS)
 velmora_windows_resources(velmorad "Velmora server without a window")
 add_dependencies(programs velmorad)

@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "apps/console.h"
+#include "arguments/usage_error.h"
 #include "platform/win32/ansi_text.h"
 
 namespace velmora {
@@ -18,8 +18,8 @@ std::string narrowArgument(const std::wstring& word) {
             return *option + *value;
         }
     }
-    throw ArgumentError("\"" + ansiPath(word) +
-                        "\" has a character that this system's ANSI code page lacks, shown as \"?\"");
+    throw UsageError("\"" + ansiPath(word) +
+                     "\" has a character that this system's ANSI code page lacks, shown as \"?\"");
 }
 
 }  // namespace velmora

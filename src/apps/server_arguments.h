@@ -3,7 +3,6 @@
 
 #include <cstdint>
 #include <optional>
-#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -19,21 +18,10 @@ struct ServerArguments {
     bool trace = false;
     std::vector<std::string> traceCategories;  ///< in capitals; empty means all
     std::optional<std::string> traceFile;
-    bool help = false;
-    bool version = false;
 };
 
-/// A command line that makes no sense; the text says what is wrong with it.
-class UsageError : public std::runtime_error {
-  public:
-    using std::runtime_error::runtime_error;
-};
-
-/// Reads the arguments that follow the program's name; an option's value may follow it or stand behind "=".
-/// Throws UsageError.
-ServerArguments parseServerArguments(const std::vector<std::string>& arguments);
-
-/// The help text.
-std::string serverUsage();
+/// Reads the arguments behind the program's name. Throws UsageError, and RequestedText for --help and
+/// --version.
+ServerArguments readServerArguments(const std::vector<std::string>& arguments);
 
 }  // namespace velmora

@@ -1,29 +1,43 @@
 // velmora: the server with a window.
 #include <QApplication>
-#include <cstdio>
-#include <exception>
+#include <iostream>
 #include <string>
+#include <vector>
 
+#include "apps/console.h"
+#include "apps/desktop_arguments.h"
 #include "apps/desktop_server.h"
+#include "arguments/program.h"
 #include "eventloop/stop_signals.h"
 
-int main(int argc, char** argv) {
-    using namespace velmora;
+namespace {
+
+using namespace velmora;
+
+int serve(int argc, char** argv) {
     const HeldStopSignals held;
-    std::string commandLine;
-    for (int i = 1; i < argc; ++i) {
-        commandLine += (i > 1 ? " " : "") + std::string(argv[i]);
-    }
-    try {
-        QApplication application(argc, argv);
-        QApplication::setDesktopFileName(QStringLiteral("velmora"));
-        // The main window ends the program, also when it is minimised while another window closes.
-        QApplication::setQuitOnLastWindowClosed(false);
-        DesktopServer server;
-        const StopSignals stopSignals(held, [&server] { server.stop(); });
-        return server.start(commandLine) ? server.run() : 1;
-    } catch (const std::exception& error) {
-        std::fprintf(stderr, "velmora: %s\n", error.what());
-        return 1;
-    }
+    answerWithoutDisplay({argv + 1, argv + argc});
+    // It takes its own arguments out of argc and argv.
+    QApplication application(argc, argv);
+    QApplication::setDesktopFileName(QStringLiteral("velmora"));
+    // The main window ends the program, also when it is minimised while another window closes.
+    QApplication::setQuitOnLastWindowClosed(false);
+    const std::string commandLine = desktopCommandLine({argv + 1, argv + argc});
+    DesktopServer server;
+    const StopSignals stopSignals(held, [&server] { server.stop(); });
+    return server.start(commandLine) ? server.run() : 1;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    return runProgram("velmora", std::cout, std::cerr, [argc, argv] {
+        try {
+            return serve(argc, argv);
+        } catch (...) {
+            // What is told now has no window.
+            useStartersConsole();
+            throw;
+        }
+    });
 }

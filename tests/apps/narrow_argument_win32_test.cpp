@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 #include <windows.h>
 
-#include "apps/console.h"
+#include "arguments/usage_error.h"
 #include "platform/win32/ansi_text.h"
 #include "platform/win32/win32_handle.h"
 #include "support/temp_folder.h"
@@ -39,13 +39,13 @@ TEST_F(NarrowArgument, OfAMissingFileIsRefusedAndNamed) {
         try {
             const std::string narrow = narrowArgument(word);
             ADD_FAILURE() << narrow;
-        } catch (const ArgumentError& error) {
+        } catch (const UsageError& error) {
             EXPECT_NE(std::string(error.what()).find('?'), std::string::npos) << error.what();
         }
     }
     try {
         narrowArgument(L"\u0141\u00F3dz.txt");
-    } catch (const ArgumentError& error) {
+    } catch (const UsageError& error) {
         EXPECT_NE(std::string(error.what())
                       .find("?\xF3"
                             "dz.txt"),
@@ -62,7 +62,7 @@ TEST_F(NarrowArgument, OfAFileThatIsThereIsItsShortNameAndNoOther) {
     try {
         plain = narrowArgument(pathOf(L"\u0141\u00F3dz.txt"));
         option = narrowArgument(L"--config=" + pathOf(L"\u0141\u00F3dz.txt"));
-    } catch (const ArgumentError&) {
+    } catch (const UsageError&) {
         GTEST_SKIP() << "this volume keeps no short names";
     }
     EXPECT_EQ(option, "--config=" + plain);
