@@ -20,8 +20,8 @@ BELOW = {
     "ui/win32": ["ui"],
     "ui": ["server"],
     "startup": ["server"],
-    "organiser": ["services"],
-    "files": ["services", "capture"],
+    "organiser": ["services", "arguments"],
+    "files": ["services", "capture", "arguments"],
     "server": ["services", "capture", "doctor"],
     "services": ["spreadsheet", "transfers", "link"],
     "capture": ["link"],
@@ -32,6 +32,7 @@ BELOW = {
     "serial": ["platform"],
     "spreadsheet": ["base"],
     "platform": ["base"],
+    "arguments": [],
     "base": [],
 }
 KNOW_TOOLKIT = {"apps", "ui/qt", "eventloop"}

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "apps/console.h"
+#include "arguments/program.h"
 #include "organiser/command_line.h"
 #include "organiser/commands.h"
 #include "organiser/device_line.h"
@@ -49,23 +50,10 @@ int main(int argc, char** argv) {
     const auto console = showOnConsole(PrintedText::Utf8);
     // Contents of files go to standard output as they are.
     useBinaryStandardStreams();
-    try {
-        const CommandLine line = parseCommandLine(utf8Arguments(argc, argv));
-        if (line.command.kind == CommandKind::Help) {
-            std::cout << helpText();
-            return kDone;
-        }
+    return runProgram("velmora-organiser", std::cout, std::cerr, [argc, argv] {
+        const CommandLine line = readCommandLine(utf8Arguments(argc, argv));
         ExitStatus status = kDone;
         const ExitStatus failed = guarded(std::cerr, [&] { status = run(line); });
-        std::cout.flush();
-        if (!std::cout) {
-            std::cerr << "Standard output cannot be written.\n";
-            return kLocalProblem;
-        }
         return failed != kDone ? failed : status;
-    } catch (const UsageError& error) {
-        std::cerr << "velmora-organiser: " << error.what()
-                  << "\nvelmora-organiser --help tells what there is.\n";
-        return kWrongUsage;
-    }
+    });
 }

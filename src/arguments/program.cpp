@@ -10,7 +10,7 @@ namespace velmora {
 
 int runProgram(const std::string& name, std::ostream& out, std::ostream& err,
                const std::function<int()>& work) {
-    int status = 0;
+    int status = kStatusDone;
     try {
         status = work();
     } catch (const RequestedText& requested) {
@@ -22,7 +22,7 @@ int runProgram(const std::string& name, std::ostream& out, std::ostream& err,
         err << name << ": " << error.what() << '\n';
         return kStatusFailed;
     }
-    if (!out.flush() && status == 0) {
+    if (!out.flush() && status == kStatusDone) {
         err << name << ": standard output cannot be written\n";
         return kStatusFailed;
     }

@@ -135,8 +135,8 @@ std::string complaint(const CLI::App& program, const std::vector<std::string>& a
     return known.empty() ? error.what() : known;
 }
 
-/// The arguments in the order that the library wants, the last one first. A value behind "=" becomes a word of
-/// its own where the library would see none: an empty one, or one of a short option.
+/// The arguments in the order that the library wants, the last one first. A value behind "=" becomes a word
+/// of its own where the library would see none: an empty one, or one of a short option.
 std::vector<std::string> prepared(const CLI::App& app, const std::vector<std::string>& arguments) {
     std::vector<std::string> words;
     bool optionsEnded = false;

@@ -6,9 +6,7 @@
 #include <ostream>
 #include <sstream>
 
-#include "base/byte_text.h"
-#include "base/run_time_error.h"
-#include "files/arguments.h"
+#include "arguments/usage_error.h"
 #include "services/boot_file.h"
 #include "services/two_byte_number.h"
 
@@ -53,23 +51,6 @@ std::string parseRelocations(const std::string& text, std::size_t codeLength) {
     }
     finish();
     return table;
-}
-
-void makeBootCommand(const Arguments& parsed, const FileAccess& access) {
-    parsed.requireWords({"make", "CODE"});
-    if (!parsed.has("-o")) {
-        throw UsageError("-o NAME.bin is missing");
-    }
-    if (!parsed.has("--relocations")) {
-        throw UsageError(
-            "--relocations OFFSETS is missing; give \"\" when no word of the code holds an address");
-    }
-    const std::string code = access.readInput(parsed.words()[1]);
-    std::string offsets = parsed.value("--relocations");
-    if (!offsets.empty() && offsets.front() == '@') {
-        offsets = access.readInput(offsets.substr(1));
-    }
-    access.writeOutput(parsed.value("-o"), makeBootFile(code, parseRelocations(offsets, code.size())));
 }
 
 std::string hexNumber(std::string_view bytes) {
@@ -123,22 +104,17 @@ bool describeBootFile(std::string_view bytes, std::ostream& out) {
     return file.problem == BootFileProblem::None;
 }
 
-bool runBootCommand(const std::vector<std::string>& arguments, const FileAccess& access) {
-    const Arguments parsed(arguments, {"--relocations", "-o"});
-    const std::string action = parsed.words().empty() ? std::string() : parsed.words().front();
-    if (action == "make") {
-        makeBootCommand(parsed, access);
-        return true;
+void runBootMakeCommand(const BootMakeRequest& request, const FileAccess& access) {
+    const std::string code = access.readInput(request.code);
+    std::string offsets = request.relocations;
+    if (!offsets.empty() && offsets.front() == '@') {
+        offsets = access.readInput(offsets.substr(1));
     }
-    if (action != "check") {
-        throw UsageError(action.empty() ? "make or check is missing"
-                                        : "\"" + action + "\" is neither make nor check");
-    }
-    if (parsed.has("-o") || parsed.has("--relocations")) {
-        throw UsageError("check takes no options");
-    }
-    parsed.requireWords({"check", "NAME.bin"});
-    return describeBootFile(access.readInput(parsed.words()[1]), access.out());
+    access.writeOutput(request.out, makeBootFile(code, parseRelocations(offsets, code.size())));
+}
+
+bool runBootCheckCommand(const std::string& name, const FileAccess& access) {
+    return describeBootFile(access.readInput(name), access.out());
 }
 
 }  // namespace velmora

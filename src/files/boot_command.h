@@ -4,21 +4,24 @@
 #include <iosfwd>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "files/file_access.h"
 
 namespace velmora {
 
-constexpr const char* kBootUsage =
-    "velmora-files boot make CODE --relocations OFFSETS -o NAME.bin\n"
-    "velmora-files boot check NAME.bin";
+/// What a boot file is to be made of.
+struct BootMakeRequest {
+    std::string code;         ///< name of a file with machine code that was assembled for address 0
+    std::string relocations;  ///< offsets of its words that hold an address, separated by commas, decimal or
+                              ///< hexadecimal with "0x"; "@FILE" for a text file of them
+    std::string out;
+};
 
-/// "make" wraps machine code that was assembled for address 0; OFFSETS are those of its words that hold an
-/// address, separated by commas, decimal or hexadecimal with "0x", or "@FILE" for a text file of them; "" for
-/// none. "check" prints lengths, sums, the table and what is wrong. False when something is.
-/// UsageError, RunTimeError.
-bool runBootCommand(const std::vector<std::string>& arguments, const FileAccess& access);
+/// Makes a boot file. UsageError when an offset makes no sense, RunTimeError.
+void runBootMakeCommand(const BootMakeRequest& request, const FileAccess& access);
+
+/// Prints lengths, sums, the table of a boot file and what is wrong. False when something is. RunTimeError.
+bool runBootCheckCommand(const std::string& name, const FileAccess& access);
 
 /// Prints what a boot file holds; whether it is right.
 bool describeBootFile(std::string_view bytes, std::ostream& out);

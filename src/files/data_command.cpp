@@ -2,8 +2,7 @@
 
 #include <limits>
 
-#include "base/byte_text.h"
-#include "files/arguments.h"
+#include "arguments/usage_error.h"
 #include "services/data_conversion.h"
 #include "services/line_reader.h"
 
@@ -12,7 +11,20 @@ namespace {
 
 constexpr char kTabs = '\0';
 
-std::optional<char> separatorOf(const std::string& form) {
+/// The separator of the form that was given or else of the one that the name's extension tells.
+char chosenSeparator(const std::optional<char>& given, const char* option, const std::string& name,
+                     const FileAccess& access) {
+    const auto separator = given ? given : separatorOfForm(lowerExtension(access.rules(), name));
+    if (!separator) {
+        throw UsageError("the name \"" + name + "\" tells no form; use " + option +
+                         " odb, txt, csv or csv-semicolon");
+    }
+    return *separator;
+}
+
+}  // namespace
+
+std::optional<char> separatorOfForm(const std::string& form) {
     if (form == "odb" || form == "txt") {
         return kTabs;
     }
@@ -25,23 +37,6 @@ std::optional<char> separatorOf(const std::string& form) {
     return std::nullopt;
 }
 
-char chosenSeparator(const Arguments& arguments, const std::string& option, const std::string& name,
-                     const FileAccess& access) {
-    const bool given = arguments.has(option);
-    const auto separator =
-        separatorOf(given ? lowerCase(arguments.value(option)) : lowerExtension(access.rules(), name));
-    if (!separator && given) {
-        throw UsageError("\"" + arguments.value(option) + "\" is no form: odb, txt, csv or csv-semicolon");
-    }
-    if (!separator) {
-        throw UsageError("the name \"" + name + "\" tells no form; use " + option +
-                         " odb, txt, csv or csv-semicolon");
-    }
-    return *separator;
-}
-
-}  // namespace
-
 std::vector<std::string> readRecords(File& file, char separator) {
     LineReader reader(file);
     std::vector<std::string> records;
@@ -53,22 +48,18 @@ std::vector<std::string> readRecords(File& file, char separator) {
     return records;
 }
 
-void runDataCommand(const std::vector<std::string>& arguments, const FileAccess& access) {
-    const Arguments parsed(arguments, {"--from", "--to"});
-    parsed.requireWords({"IN", "OUT"});
-    const std::string& in = parsed.words()[0];
-    const std::string& out = parsed.words()[1];
-    const char from = chosenSeparator(parsed, "--from", in, access);
-    const char to = chosenSeparator(parsed, "--to", out, access);
+void runDataCommand(const DataRequest& request, const FileAccess& access) {
+    const char from = chosenSeparator(request.from, "--from", request.in, access);
+    const char to = chosenSeparator(request.to, "--to", request.out, access);
 
-    const std::unique_ptr<File> file = access.openInput(in);
+    const std::unique_ptr<File> file = access.openInput(request.in);
     std::string bytes;
     for (const std::string& record : readRecords(*file, from)) {
         bytes += to == kTabs ? record : record_ToLine(record, to);
         bytes += "\r\n";
     }
     file->close();
-    access.writeOutput(out, bytes);
+    access.writeOutput(request.out, bytes);
 }
 
 }  // namespace velmora

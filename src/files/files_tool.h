@@ -5,18 +5,15 @@
 #include <string>
 #include <vector>
 
+#include "arguments/program.h"
 #include "base/files.h"
 #include "base/path_rules.h"
 
 namespace velmora {
 
-constexpr int kExitDone = 0;
-constexpr int kExitFailure = 1;  ///< a file failed, or is damaged
-constexpr int kExitUsage = 2;    ///< the command line cannot be understood
-
 /// Runs the program. `arguments`: the command line without the program's name. Reads and writes files only
-/// through `files`; "-" is `in` or `out`. One clear line goes to `err` for each failure. Returns the exit
-/// status.
+/// through `files`; "-" is `in` or `out`. One clear line goes to `err` for each failure. Returns
+/// kStatusDone, kStatusFailed when a file failed or is damaged, or kStatusWrongUsage.
 int runFilesTool(const std::vector<std::string>& arguments, Files& files, const PathRules& rules,
                  std::istream& in, std::ostream& out, std::ostream& err);
 

@@ -1,21 +1,30 @@
 // velmora-files sheet: worksheets between the formats.
 #pragma once
 
+#include <optional>
 #include <string>
-#include <vector>
 
 #include "files/file_access.h"
-#include "spreadsheet/sheet_grid.h"
+#include "spreadsheet/number_locale.h"
+#include "spreadsheet/wks_dialect.h"
 
 namespace velmora {
 
-constexpr const char* kSheetUsage =
-    "velmora-files sheet IN OUT [--from FORMAT] [--to FORMAT] [--locale NAME] [--separator SIGN]\n"
-    "                    [--wks-dialect own|common] [--from-dialect own|common] [--to-dialect own|common]";
+/// What is to be converted, and how. Formats are the codes of the spreadsheet layer; without one it is told
+/// by the name's extension.
+struct SheetRequest {
+    std::string in;
+    std::string out;
+    std::optional<int> from;
+    std::optional<int> to;
+    NumberLocale locale;
+    std::optional<std::string> separator;  ///< of the fields that are read; empty to find it from the lines
+    WksDialect fromDialect = WksDialect::Own;
+    WksDialect toDialect = WksDialect::Own;
+};
 
-/// Converts a worksheet. `arguments`: what follows the command's name. Formats are "wks", "dif", "csv", "txt"
-/// and "tab", taken from the extensions where they are not given. UsageError, RunTimeError.
-void runSheetCommand(const std::vector<std::string>& arguments, const FileAccess& access);
+/// Converts a worksheet. UsageError when a name tells no format, RunTimeError.
+void runSheetCommand(const SheetRequest& request, const FileAccess& access);
 
 /// The format of a name's extension (wks, wk1, dif, csv, txt, tab, tsv); 0 when it is none of them.
 int sheetFormatOf(const std::string& extension);

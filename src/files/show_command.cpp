@@ -1,8 +1,6 @@
 #include "files/show_command.h"
 
-#include "base/byte_text.h"
-#include "base/run_time_error.h"
-#include "files/arguments.h"
+#include "arguments/usage_error.h"
 #include "files/boot_command.h"
 #include "files/data_command.h"
 #include "files/show_texts.h"
@@ -24,15 +22,6 @@ constexpr KindName kKinds[] = {{"wks", FileKind::Worksheet},   {"dif", FileKind:
                                {"block", FileKind::BlockFile}, {"opl", FileKind::Procedure},
                                {"boot", FileKind::BootFile}};
 
-FileKind kindNamed(const std::string& name) {
-    for (const KindName& entry : kKinds) {
-        if (name == entry.name) {
-            return entry.kind;
-        }
-    }
-    throw UsageError("\"" + name + "\" is no kind: wks, dif, data, csv, block, opl or boot");
-}
-
 bool beginsWith(std::string_view bytes, std::string_view start) {
     return bytes.substr(0, start.size()) == start;
 }
@@ -41,16 +30,6 @@ bool beginsWith(std::string_view bytes, std::string_view start) {
 char shownSeparator(std::string_view bytes) {
     const std::size_t found = bytes.find_first_of(";,");
     return found == std::string_view::npos ? ',' : bytes[found];
-}
-
-WksDialect dialectOf(const std::string& value) {
-    if (value.empty() || value == "own") {
-        return WksDialect::Own;
-    }
-    if (value == "common") {
-        return WksDialect::Common;
-    }
-    throw UsageError("\"" + value + "\" is no dialect: own or common");
 }
 
 bool show(FileKind kind, const std::string& bytes, WksDialect dialect, std::ostream& out) {
@@ -83,6 +62,15 @@ bool show(FileKind kind, const std::string& bytes, WksDialect dialect, std::ostr
 
 }  // namespace
 
+FileKind kindNamed(const std::string& name) {
+    for (const KindName& entry : kKinds) {
+        if (name == entry.name) {
+            return entry.kind;
+        }
+    }
+    return FileKind::Unknown;
+}
+
 FileKind recogniseFile(std::string_view bytes, const std::string& extension) {
     using namespace std::string_view_literals;
     if (extension == "opl") {
@@ -113,16 +101,11 @@ FileKind recogniseFile(std::string_view bytes, const std::string& extension) {
     return isBlockName ? FileKind::BlockFile : FileKind::Unknown;
 }
 
-bool runShowCommand(const std::vector<std::string>& arguments, const FileAccess& access) {
-    const Arguments parsed(arguments, {"--as", "--wks-dialect"});
-    parsed.requireWords({"FILE"});
-    const WksDialect dialect = dialectOf(lowerCase(parsed.value("--wks-dialect")));
-    const std::string& name = parsed.words()[0];
-    const bool given = parsed.has("--as");
-    const FileKind asked = given ? kindNamed(lowerCase(parsed.value("--as"))) : FileKind::Unknown;
-    const std::string bytes = access.readInput(name);
-    return show(given ? asked : recogniseFile(bytes, lowerExtension(access.rules(), name)), bytes, dialect,
-                access.out());
+bool runShowCommand(const ShowRequest& request, const FileAccess& access) {
+    const std::string bytes = access.readInput(request.file);
+    const FileKind kind =
+        request.as.value_or(recogniseFile(bytes, lowerExtension(access.rules(), request.file)));
+    return show(kind, bytes, request.dialect, access.out());
 }
 
 }  // namespace velmora

@@ -3,7 +3,6 @@
 
 #include <cstdint>
 #include <optional>
-#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -13,14 +12,7 @@
 
 namespace velmora {
 
-/// The command line cannot be understood. The text is one sentence.
-class UsageError : public std::runtime_error {
-  public:
-    using std::runtime_error::runtime_error;
-};
-
 enum class CommandKind : std::uint8_t {
-    Help,
     Save,
     Load,
     Dir,
@@ -41,7 +33,7 @@ enum class CommandKind : std::uint8_t {
 
 /// What is to be done. Names of the server's files are Windows-1252 bytes, paths are UTF-8.
 struct Command {
-    CommandKind kind = CommandKind::Help;
+    CommandKind kind{};
     std::string file;                      ///< FILE or CELLS: a path on this side
     std::string name;                      ///< NAME, PATTERN or --as: a name on the server
     int fileType = 0;                      ///< --type: 0 data, 1 procedure, 2 to 16 block file
@@ -65,11 +57,9 @@ struct CommandLine {
     Command command;
 };
 
-/// Understands the arguments behind the program's name. Throws UsageError.
-CommandLine parseCommandLine(const std::vector<std::string>& arguments);
-
-/// What --help prints.
-std::string helpText();
+/// Reads the arguments behind the program's name. Throws UsageError, and RequestedText for --help and
+/// --version.
+CommandLine readCommandLine(const std::vector<std::string>& arguments);
 
 /// The line speeds that serial devices know.
 const std::vector<int>& knownLineSpeeds();

@@ -259,9 +259,6 @@ ExitStatus runCommand(const CommandLine& line, OrganiserLink& link, const Consol
     ExitStatus status = kDone;
     const ExitStatus failed = guarded(console.error, [&] {
         switch (line.command.kind) {
-            case CommandKind::Help:
-                console.out << helpText();
-                break;
             case CommandKind::Save:
                 commands.save();
                 break;

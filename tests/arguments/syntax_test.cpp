@@ -116,9 +116,9 @@ TEST_F(SyntaxTest, CommandsHaveCommands) {
 TEST_F(SyntaxTest, ARepeatedOptionIsTakenOnceOrRefused) {
     read({"list", "--baud", "1", "--baud", "2"});
     EXPECT_EQ(taken, (Words{"baud=2", "list"}));
-    EXPECT_NE(complaint({"list", "--baud", "1", "--baud", "2"}, ProgramSyntax::Repeated::Refused)
-                  .find("--baud"),
-              std::string::npos);
+    EXPECT_NE(
+        complaint({"list", "--baud", "1", "--baud", "2"}, ProgramSyntax::Repeated::Refused).find("--baud"),
+        std::string::npos);
     EXPECT_TRUE(taken.empty());
 }
 

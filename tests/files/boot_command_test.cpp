@@ -64,13 +64,13 @@ TEST_F(BootCommandTest, SaysWhatIsWrongWithAFile) {
 }
 
 TEST_F(BootCommandTest, SaysWhatIsMissing) {
-    expectUsage({"boot"}, "make or check");
+    expectUsage({"boot"}, "a command is missing: make or check");
     expectUsage({"boot", "burn"}, "burn");
     expectUsage({"boot", "make"}, "CODE");
     expectUsage({"boot", "make", "/w/code", "--relocations", ""}, "-o");
     expectUsage({"boot", "make", "/w/code", "-o", "/w/a.bin"}, "--relocations");
-    expectUsage({"boot", "check"}, "NAME.bin");
-    expectUsage({"boot", "check", "/w/a.bin", "-o", "x"}, "no options");
+    expectUsage({"boot", "check"}, "NAME is required");
+    expectUsage({"boot", "check", "/w/a.bin", "-o", "x"}, "-o does not go with check");
 }
 
 TEST_F(BootCommandTest, CodeThatIsTooLongIsAFailure) {

@@ -30,7 +30,7 @@ TEST_F(DataCommandTest, AnEmptyFileStaysEmpty) {
 }
 
 TEST_F(DataCommandTest, SaysWhatIsWrong) {
-    expectUsage({"data", "/w/a.odb"}, "OUT is missing");
+    expectUsage({"data", "/w/a.odb"}, "OUT is required");
     expectUsage({"data", "/w/a.wks", "/w/a.csv"}, "a.wks");
     expectUsage({"data", "-", "/w/a.csv", "--from=xml"}, "xml");
     EXPECT_EQ(run({"data", "/w/a.odb", "/w/a.csv"}), 1);

@@ -74,8 +74,8 @@ TEST_F(SheetCommandTest, TheDialectSetsTheTokensOfFormulas) {
 }
 
 TEST_F(SheetCommandTest, SaysWhatIsWrong) {
-    expectUsage({"sheet"}, "IN is missing");
-    expectUsage({"sheet", "/w/in.wks"}, "OUT is missing");
+    expectUsage({"sheet"}, "IN is required");
+    expectUsage({"sheet", "/w/in.wks"}, "OUT is required");
     expectUsage({"sheet", "/w/in.wks", "/w/out.xls"}, "out.xls");
     expectUsage({"sheet", "/w/in.wks", "/w/out", "--to", "xls"}, "xls");
     expectUsage({"sheet", "/w/in.wks", "/w/out.csv", "--fast"}, "--fast");

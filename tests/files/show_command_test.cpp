@@ -80,7 +80,7 @@ TEST_F(ShowCommandTest, DamagedFilesAreAFailure) {
 }
 
 TEST_F(ShowCommandTest, SaysWhatIsWrong) {
-    expectUsage({"show"}, "FILE is missing");
+    expectUsage({"show"}, "FILE is required");
     expectUsage({"show", "-", "--as=tune"}, "tune");
     expectUsage({"show", "-"}, "--as");
     expectUsage({"show", "-", "--wks-dialect=x"}, "dialect");

@@ -30,7 +30,7 @@ class ToolTest : public ::testing::Test {
     }
     /// Expects wrong usage with a complaint that holds a text.
     void expectUsage(const std::vector<std::string>& arguments, const std::string& text) {
-        EXPECT_EQ(run(arguments), kExitUsage);
+        EXPECT_EQ(run(arguments), kStatusWrongUsage);
         EXPECT_NE(complaint.find(text), std::string::npos) << complaint;
         EXPECT_EQ(printed, "");
     }

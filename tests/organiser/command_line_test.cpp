@@ -5,6 +5,9 @@
 #include <string>
 #include <vector>
 
+#include "arguments/syntax.h"
+#include "arguments/usage_error.h"
+
 namespace velmora {
 namespace {
 
@@ -12,7 +15,7 @@ using namespace std::chrono_literals;
 
 CommandLine parse(std::vector<std::string> arguments) {
     arguments.insert(arguments.begin(), {"--device", "/dev/ttyS0"});
-    return parseCommandLine(arguments);
+    return readCommandLine(arguments);
 }
 Command command(const std::vector<std::string>& arguments) {
     return parse(arguments).command;
@@ -82,10 +85,18 @@ TEST(OrganiserCommandLine, NothingIsAnOptionBehindTwoDashes) {
 }
 
 TEST(OrganiserCommandLine, HelpNeedsNothingElse) {
-    EXPECT_EQ(parseCommandLine({"--help"}).command.kind, CommandKind::Help);
-    EXPECT_EQ(parseCommandLine({"save", "-h"}).command.kind, CommandKind::Help);
-    EXPECT_NE(helpText().find("  --baud <rate>           Line speed (default: 9600)\n"), std::string::npos);
-    EXPECT_NE(helpText().find("sheet-save"), std::string::npos);
+    const auto help = [](const std::vector<std::string>& arguments) -> std::string {
+        try {
+            readCommandLine(arguments);
+        } catch (const RequestedText& requested) {
+            return requested.text;
+        }
+        return "no help";
+    };
+    const std::string program = help({"--help"});
+    EXPECT_NE(program.find("  --baud <rate>           Line speed (default: 9600)\n"), std::string::npos);
+    EXPECT_NE(program.find("sheet-save"), std::string::npos);
+    EXPECT_NE(help({"save", "-h"}).find("--as <name>"), std::string::npos);
 }
 
 struct BadArguments {
@@ -107,9 +118,11 @@ TEST_P(BadCommandLine, IsToldClearly) {
 INSTANTIATE_TEST_SUITE_P(
     Rows, BadCommandLine,
     testing::Values(
-        BadArguments{"NoCommand", {}, "A command is missing."},
+        BadArguments{"NoCommand", {}, "a command is missing: save"},
         BadArguments{"UnknownCommand", {"sing"}, "no command \"sing\""},
-        BadArguments{"UnknownOption", {"time", "--loud"}, "no option --loud"},
+        BadArguments{"MistypedCommand", {"laod", "N"}, "did you mean load?"},
+        BadArguments{"MistypedOption", {"--buad", "1200", "time"}, "did you mean --baud?"},
+        BadArguments{"UnknownOption", {"time", "--loud"}, "there is no option --loud"},
         BadArguments{"NoValue", {"time", "--baud"}, "--baud needs a value"},
         BadArguments{"ValueForASwitch", {"time", "--trace=1"}, "--trace takes no value"},
         BadArguments{"StrangeSpeed", {"time", "--baud", "9601"}, "\"9601\" is not a line speed"},
@@ -127,19 +140,19 @@ INSTANTIATE_TEST_SUITE_P(
         BadArguments{"SeekWithoutOffset", {"read", "N", "--seek", "2:"}, "MODE:OFFSET"},
         BadArguments{"SeekInText", {"read", "N", "--seek", "0:1", "--text"}, "does not go with --text"},
         BadArguments{"AddressTooLarge", {"boot", "N", "--address", "10000"}, "address in hexadecimal"},
-        BadArguments{"BootWithoutAddress", {"boot", "N"}, "boot needs --address"},
-        BadArguments{"SheetWithoutFormat", {"sheet-load", "N"}, "sheet-load needs --format"},
-        BadArguments{"SheetWithoutName", {"sheet-save", "f", "--format", "wks"}, "sheet-save needs --as"},
+        BadArguments{"BootWithoutAddress", {"boot", "N"}, "--address is required"},
+        BadArguments{"SheetWithoutFormat", {"sheet-load", "N"}, "--format is required"},
+        BadArguments{"SheetWithoutName", {"sheet-save", "f", "--format", "wks"}, "--as is required"},
         BadArguments{"UnknownFormat", {"sheet-load", "N", "--format", "xls"}, "wks, dif, csv, txt or tab"},
         BadArguments{"OptionOfAnotherCommand", {"time", "--long"}, "--long does not go with time"},
-        BadArguments{"TooMuch", {"load", "A", "B"}, "It is: load NAME"},
-        BadArguments{"TooLittle", {"write", "A"}, "It is: write NAME FILE"},
+        BadArguments{"TooMuch", {"load", "A", "B"}, "\"B\" is one argument too many"},
+        BadArguments{"TooLittle", {"write", "A"}, "FILE is required"},
         BadArguments{"ForeignCharacter", {"load", "\xE2\x98\x83"}, "does not know"},
         BadArguments{"BrokenUtf8", {"load", "\xC3"}, "does not know"}),
     [](const auto& row) { return std::string(row.param.name); });
 
 TEST(OrganiserCommandLine, DeviceIsNeeded) {
-    EXPECT_THROW(parseCommandLine({"time"}), UsageError);
+    EXPECT_THROW(readCommandLine({"time"}), UsageError);
 }
 
 }  // namespace

@@ -30,7 +30,7 @@ class CommandsTest : public test::ConversationFixture {
         arguments.insert(arguments.begin(), {"--device", "line"});
         out.str("");
         error.str("");
-        return runCommand(parseCommandLine(arguments), link(), {out, error, progress});
+        return runCommand(readCommandLine(arguments), link(), {out, error, progress});
     }
 
     test::TempFolder directory;

@@ -1,0 +1,20 @@
+// The command line of velmora-files.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "files/file_access.h"
+
+namespace velmora {
+
+/// Does what a command line asks for; false when a file that was looked at is damaged. UsageError,
+/// RunTimeError.
+using FilesCommand = std::function<bool(const FileAccess& access)>;
+
+/// Reads the arguments behind the program's name. Throws UsageError, and RequestedText for --help and
+/// --version.
+FilesCommand readFilesCommandLine(const std::vector<std::string>& arguments);
+
+}  // namespace velmora
