@@ -53,6 +53,7 @@ enum class OpenMode {
 struct FolderEntry {
     std::string name;       ///< as stored, in the system's encoding
     std::string shortName;  ///< 8.3 form in ASCII capitals; empty unless it was asked for
+    bool hasTwin = false;   ///< another file or folder beside it differs only by the case of its letters
 };
 
 /// Whether a listing computes short names, which needs all names of the folder at once.

@@ -39,6 +39,13 @@ std::string squeezed(std::string_view text, std::size_t length) {
     return out;
 }
 
+/// Whether the Organiser's name in capitals becomes this one before it is looked for.
+bool isReCased(std::string_view name) {
+    return !name.empty() &&
+           std::none_of(name.begin() + 1, name.end(), [](char c) { return c >= 'A' && c <= 'Z'; }) &&
+           !(name[0] >= 'a' && name[0] <= 'z');
+}
+
 /// The parts of a generated name around its "~" and number.
 struct Parts {
     std::string base;
@@ -90,6 +97,28 @@ class Numbering {
     std::unordered_map<std::string, Counts> used_;
 };
 
+/// Gives those names of `result` that are still empty the names that are their own, and takes these.
+void giveOwnNames(const std::vector<std::string>& sortedNames, std::vector<std::string>& result,
+                  std::unordered_set<std::string>& taken) {
+    std::unordered_map<std::string, std::string*> owners;
+    for (std::size_t i = 0; i < sortedNames.size(); ++i) {
+        const std::optional<std::string> name = ownShortName(sortedNames[i]);
+        if (!name || !result[i].empty() || taken.count(*name) != 0) {
+            continue;
+        }
+        const auto [owner, isFirst] = owners.try_emplace(*name, &result[i]);
+        if (!isFirst && isReCased(sortedNames[i])) {
+            owner->second = nullptr;
+        }
+    }
+    for (const auto& [name, owner] : owners) {
+        taken.insert(name);
+        if (owner != nullptr) {
+            *owner = name;
+        }
+    }
+}
+
 }  // namespace
 
 std::optional<std::string> ownShortName(std::string_view name) {
@@ -116,13 +145,7 @@ std::vector<std::string> shortNames(const std::vector<std::string>& sortedNames,
     std::vector<std::string> result = kept;
     result.resize(sortedNames.size());
     std::unordered_set<std::string> taken(kept.begin(), kept.end());
-    for (std::size_t i = 0; i < sortedNames.size(); ++i) {
-        std::optional<std::string> name =
-            result[i].empty() ? ownShortName(sortedNames[i]) : std::optional<std::string>();
-        if (name && taken.insert(*name).second) {
-            result[i] = *std::move(name);
-        }
-    }
+    giveOwnNames(sortedNames, result, taken);
     Numbering numbering(taken);
     for (std::size_t i = 0; i < sortedNames.size(); ++i) {
         if (result[i].empty()) {

@@ -16,11 +16,13 @@ std::optional<std::string> ownShortName(std::string_view name);
 /// The short name of each name of a folder, at the same position. The names must be distinct and sorted by
 /// their bytes; then the result depends on nothing else.
 ///
-/// A valid 8.3 name keeps itself in capitals; of two that differ only by case the first does. Every other
-/// name gets up to six characters of its own, "~" and a number from 1 on, and up to three characters of its
-/// extension; blanks and all dots but the last are dropped and what 8.3 does not allow becomes "_". A longer
-/// number takes the room of characters ("ABCDE~10"). No two short names are equal. Beyond 9,999,999 equal
-/// beginnings the short name is empty. Takes time in proportion to the number of names.
+/// A valid 8.3 name keeps itself in capitals; of several that differ only by case the first does, or none
+/// where another is what a name in capitals from the Organiser becomes (a capital, then small letters): the
+/// capitals would mean the one to some and the other to the rest. Every other name gets up to six characters
+/// of its own, "~" and a number from 1 on, and up to three characters of its extension; blanks and all dots
+/// but the last are dropped and what 8.3 does not allow becomes "_". A longer number takes the room of
+/// characters ("ABCDE~10"). No two short names are equal. Beyond 9,999,999 equal beginnings the short name is
+/// empty. Takes time in proportion to the number of names.
 ///
 /// `kept`: the short names that the file system itself keeps, in capitals, at the same positions; empty where
 /// it keeps none. They are taken as they are. Nothing at all for a file system that keeps none.

@@ -6,6 +6,7 @@
 
 #include "base/byte_text.h"
 #include "base/like_pattern.h"
+#include "services/tools.h"
 
 namespace velmora {
 namespace {
@@ -37,43 +38,60 @@ bool matches(std::string_view name, const std::string& upperPattern) {
     return likeMatches(upperCase(name), upperPattern);
 }
 
-/// A long name that can stand on a line for the Organiser.
-std::optional<std::string> listableName(const PathRules& rules, const std::string& name) {
-    if (name.find_first_of("\r\n") != std::string::npos) {
-        return std::nullopt;
-    }
-    return rules.toOrganiser(name);
-}
+/// One file of the folder as the Organiser knows it.
+class Listed {
+  public:
+    Listed(const PathRules& rules, const FolderEntry& entry)
+        : rules_(rules), entry_(entry), name_(rules.toOrganiser(entry.name)) {}
 
-std::string listableShortName(std::string name) {
-    std::replace(name.begin(), name.end(), '~', '>');
-    return name;
-}
-
-std::optional<std::string> shortListing(const PathRules& rules, const FolderEntry& entry,
-                                        const std::string& pattern) {
-    if (matches(entry.shortName, pattern)) {
-        return listableShortName(entry.shortName);
+    /// Whether its long name can stand on a line, is no pattern, and leads back to this very file.
+    bool goesByItsName() const {
+        if (!name_ || name_->find_first_of("\r\n*?") != std::string::npos) {
+            return false;
+        }
+        const std::optional<std::string> named = fileNamed(rules_, *name_);
+        return named && (*named == entry_.name || (!entry_.hasTwin && hasTheLettersOf(*named)));
     }
-    std::optional<std::string> name = listableName(rules, entry.name);
-    return name && matches(*name, pattern) ? name : std::nullopt;
-}
-
-std::optional<std::string> longListing(const PathRules& rules, const FolderEntry& entry,
-                                       const std::string& pattern) {
-    std::optional<std::string> name = listableName(rules, entry.name);
-    if (name) {
-        return matches(*name, pattern) ? name : std::nullopt;
+    /// What a short listing calls it if it matches; nothing if it is not listed.
+    std::optional<std::string> shortLine(const std::string& pattern) const {
+        if (!matches(entry_.shortName, pattern) && goesByItsName()) {
+            return longLine(pattern);
+        }
+        return lineByShortName(pattern);
     }
-    return matches(entry.shortName, pattern) ? std::optional(listableShortName(entry.shortName))
-                                             : std::nullopt;
-}
+    /// What a long listing calls it if it matches; nothing if it is not listed.
+    std::optional<std::string> longLine(const std::string& pattern) const {
+        if (!goesByItsName()) {
+            return lineByShortName(pattern);
+        }
+        return matches(*name_, pattern) ? name_ : std::nullopt;
+    }
+
+  private:
+    bool hasTheLettersOf(const std::string& other) const {
+        return upperCase(rules_.toOrganiser(other).value_or(std::string())) == upperCase(*name_);
+    }
+    /// A file that is not listed by its long name is still looked for by it.
+    std::optional<std::string> lineByShortName(const std::string& pattern) const {
+        if (!matches(entry_.shortName, pattern) && !(name_ && matches(*name_, pattern))) {
+            return std::nullopt;
+        }
+        std::string line = entry_.shortName;
+        std::replace(line.begin(), line.end(), '~', '>');
+        return fileNamed(rules_, line) ? std::optional(line) : std::nullopt;
+    }
+
+    const PathRules& rules_;
+    const FolderEntry& entry_;
+    std::optional<std::string> name_;  ///< in Windows-1252
+};
 
 /// Whether a long listing of the folder needs short names, which are dear to compute.
 bool needsShortNames(const Files& files, const PathRules& rules, const std::string& folder) {
     bool needed = false;
-    files.listFiles(folder, ShortNames::Omit,
-                    [&](const FolderEntry& entry) { needed = needed || !listableName(rules, entry.name); });
+    files.listFiles(folder, ShortNames::Omit, [&](const FolderEntry& entry) {
+        needed = needed || !Listed(rules, entry).goesByItsName();
+    });
     return needed;
 }
 
@@ -89,10 +107,9 @@ void writeFolderListing(const Files& files, const PathRules& rules, const std::s
         asShort || needsShortNames(files, rules, folder) ? ShortNames::Include : ShortNames::Omit;
     LineWriter lines(listing);
     files.listFiles(folder, shortNames, [&](const FolderEntry& entry) {
-        const std::optional<std::string> name =
-            asShort ? shortListing(rules, entry, upperPattern) : longListing(rules, entry, upperPattern);
-        if (name && !name->empty()) {
-            lines.add(*name);
+        const Listed file(rules, entry);
+        if (const auto line = asShort ? file.shortLine(upperPattern) : file.longLine(upperPattern)) {
+            lines.add(*line);
         }
     });
     lines.flush();

@@ -17,7 +17,10 @@ enum class ListedNames {
 /// pattern as of likeMatches compared in capitals, into the empty file `listing`, each ended by CR LF.
 ///
 /// Short: a file whose short name does not match but whose long name does is listed by its long name.
-/// Long: a name that has no Windows-1252 form, or holds a line end, is matched and listed by its short name.
+/// In both, a long name that the Organiser could not open its file by is never written: the short name stands
+/// for it. Such is a name without a Windows-1252 form, one that the mapping of names changes (a "%" or ">",
+/// a blank at an end), one that reads as a pattern or a drive, holds a line end, or is taken for another that
+/// differs only by case. A file that cannot be opened by its short name either is left out.
 /// Writes in batches; no more than one batch is held, whatever the size of the folder.
 void writeFolderListing(const Files& files, const PathRules& rules, const std::string& pattern,
                         ListedNames names, File& listing);

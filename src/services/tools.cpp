@@ -1,7 +1,5 @@
 #include "services/tools.h"
 
-#include <optional>
-
 #include "base/ascii.h"
 #include "base/byte_text.h"
 
@@ -50,6 +48,20 @@ std::string recased(const PathRules& rules, const std::string& file) {
     return rules.fromOrganiser(bytes->substr(0, 1) + lowerCase(bytes->substr(1))).value_or(file);
 }
 
+/// A name as the Organiser sent it with the characters of this system; nothing when it is refused as a text.
+std::optional<std::string> converted(const PathRules& rules, std::string_view name, bool allowWildcards) {
+    std::string wanted = trimBlanks(name);
+    translate_Chars(wanted, "/%>", "\\_~");
+    if (!allowWildcards && wanted.find('*') != std::string::npos) {
+        return std::nullopt;
+    }
+    return rules.fromOrganiser(wanted);
+}
+
+bool isFileName(const std::string& component) {
+    return !component.empty() && component != "." && component != "..";
+}
+
 }  // namespace
 
 std::string& translate_Chars(std::string& text, std::string_view find, std::string_view replace) {
@@ -62,26 +74,29 @@ std::string& translate_Chars(std::string& text, std::string_view find, std::stri
     return text;
 }
 
+std::optional<std::string> fileNamed(const PathRules& rules, std::string_view name) {
+    const std::optional<std::string> file = converted(rules, name, false);
+    if (!file || !isFileName(*file) || file->substr(1, 1) == ":" || rules.lastComponent(*file) != *file) {
+        return std::nullopt;
+    }
+    return recased(rules, *file);
+}
+
 Tools::Tools(const Files& files, const PathRules& rules, const TransferSettings& settings)
     : files_(files), rules_(rules), settings_(settings) {}
 
 std::string Tools::map_FileName(std::string_view name, bool resolveExisting, bool allowWildcards) const {
-    std::string wanted = trimBlanks(name);
-    translate_Chars(wanted, "/%>", "\\_~");
-    if (!allowWildcards && wanted.find('*') != std::string::npos) {
+    const std::optional<std::string> wanted = converted(rules_, name, allowWildcards);
+    if (!wanted) {
         return {};
     }
-    const std::optional<std::string> converted = rules_.fromOrganiser(wanted);
-    if (!converted) {
-        return {};
-    }
-    const std::optional<std::string> located = locate(rules_, settings_.DownloadPath, *converted);
+    const std::optional<std::string> located = locate(rules_, settings_.DownloadPath, *wanted);
     if (!located) {
         return {};
     }
     const std::string folder = rules_.absolute(rules_.parentFolder(*located));
     const std::string file = rules_.lastComponent(*located);
-    if (file.empty() || file == "." || file == ".." || !files_.folderExists(folder)) {
+    if (!isFileName(file) || !files_.folderExists(folder)) {
         return {};
     }
     const std::string path = rules_.join(folder, recased(rules_, file));

@@ -1,6 +1,7 @@
 // The names of files: from the Organiser's to paths of this machine.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -14,6 +15,11 @@ namespace velmora {
 /// Replaces, in place, each byte of `text` that occurs in `find` by the byte of `replace` at the same
 /// position; both sets have one length. Returns the changed text.
 std::string& translate_Chars(std::string& text, std::string_view find, std::string_view replace);
+
+/// The file that a name as the Organiser sends it, without a folder, stands for in whatever folder it is
+/// looked for: its name in the system's encoding. Nothing when such a name is refused or leads to another
+/// folder.
+std::optional<std::string> fileNamed(const PathRules& rules, std::string_view name);
 
 /// Maps file names. Holds references only; the files, rules and settings must outlive it.
 class Tools : public FileNameMapper {

@@ -33,6 +33,14 @@ TEST(SameLetters, AreThoseOfAsciiInOtherNames) {
                     "A"));
 }
 
+TEST(WithoutCase, IsSharedByNamesOfTheSameLettersOnly) {
+    EXPECT_EQ(withoutCase("Memo.TXT"), withoutCase("mEMO.txt"));
+    EXPECT_EQ(withoutCase("\xC3\x84rger"), withoutCase("\xC3\xA4RGER"));
+    EXPECT_NE(withoutCase("Memo"), withoutCase("Mema"));
+    EXPECT_NE(withoutCase("\xC3\x84"), withoutCase("\xC4")) << "a letter and a byte that is none";
+    EXPECT_NE(withoutCase("\xCE\xB1"), withoutCase("\xCE\x91")) << "Greek alpha";
+}
+
 class PathLookupTest : public testing::Test {
   protected:
     test::TempFolder folder;

@@ -71,7 +71,14 @@ TEST(ShortNames, AGeneratedNameKeepsOffAFilesOwn) {
 }
 
 TEST(ShortNames, OfTwoThatDifferByCaseTheFirstIsItsOwn) {
-    EXPECT_THAT(shortNames({"MEMO.TXT", "Memo.txt"}), ElementsAre("MEMO.TXT", "MEMO~1.TXT"));
+    EXPECT_THAT(shortNames({"MEMO.TXT", "memo.txt"}), ElementsAre("MEMO.TXT", "MEMO~1.TXT"));
+}
+
+TEST(ShortNames, NoneIsItsOwnWhereAnotherIsWhatCapitalsBecome) {
+    EXPECT_THAT(shortNames({"MEMO.TXT", "Memo.txt", "memo.txt"}),
+                ElementsAre("MEMO~1.TXT", "MEMO~2.TXT", "MEMO~3.TXT"));
+    EXPECT_THAT(shortNames({"1A", "1a"}), ElementsAre("1A~1", "1A~2"));
+    EXPECT_THAT(shortNames({"Memo.txt", "memo.txt"}), ElementsAre("MEMO.TXT", "MEMO~1.TXT"));
 }
 
 TEST(ShortNames, WhatTheFileSystemKeepsIsTakenAndKeptOff) {

@@ -55,6 +55,12 @@ TEST_F(Win32Folder, ANameOutsideTheCodePageIsGivenByItsShortName) {
     EXPECT_EQ(narrowName(found(L"\u0394\u03B5\u03BB.txt", L"4B2C~1.TXT")), "4B2C~1.TXT");
 }
 
+TEST_F(Win32Folder, ANameThatWindowsWouldCutIsGivenByItsShortName) {
+    EXPECT_EQ(narrowName(found(L"memo.", L"MEMO~1")), "MEMO~1");
+    EXPECT_EQ(narrowName(found(L"memo.txt ", L"MEMO~1.TXT")), "MEMO~1.TXT");
+    EXPECT_EQ(narrowName(found(L"memo ", L"")), std::nullopt);
+}
+
 TEST_F(Win32Folder, ANameThatCannotBeToldIsLeftOutInsteadOfGuessed) {
     EXPECT_EQ(narrowName(found(L"\u0394.txt", L"")), std::nullopt);
     EXPECT_EQ(narrowName(found(L"\u0100b.txt", L"")), std::nullopt)

@@ -79,6 +79,30 @@ TEST_F(FolderListingTest, ANameWithALineEndNeverBecomesTwoLines) {
     EXPECT_EQ(shortNames("*"), "A_B>1\r\n");
 }
 
+TEST_F(FolderListingTest, ANameThatWouldOpenAnotherFileIsListedByItsShortName) {
+    addFile("per cent>", "PERCEN~1");
+    addFile("what?.txt", "WHAT_~1.TXT");
+    addFile("star*.txt", "STAR_~1.TXT");
+    addFile("memo ", "MEMO~1");
+    addFile("C:memo", "C_MEMO~1");
+    EXPECT_EQ(longNames("*"), "C_MEMO>1\r\nMEMO>1\r\nPERCEN>1\r\nSTAR_>1.TXT\r\nWHAT_>1.TXT\r\n");
+}
+
+TEST_F(FolderListingTest, AFileListedByItsShortNameMatchesByEitherName) {
+    addFile("Shopping list?.odb", "SHOPPI~1.ODB");
+    for (const ListedNames kind : {ListedNames::Short, ListedNames::Long}) {
+        EXPECT_EQ(list("*list*", kind), "SHOPPI>1.ODB\r\n");
+        EXPECT_EQ(list("SHOPPI~*", kind), "SHOPPI>1.ODB\r\n");
+        EXPECT_EQ(list("x*", kind), "");
+    }
+}
+
+TEST_F(FolderListingTest, AFileThatNoNameOpensIsLeftOut) {
+    addFile("what?", "C:");
+    EXPECT_EQ(longNames("*"), "");
+    EXPECT_EQ(shortNames("*"), "");
+}
+
 TEST_F(FolderListingTest, FoldersAreNotListed) {
     memory.addFolder("/psion/Sub");
     memory.addFile("/psion/Sub/inside.txt");

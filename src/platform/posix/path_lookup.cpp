@@ -57,6 +57,15 @@ std::optional<std::string> findByShortName(const std::string& folder, std::strin
 
 }  // namespace
 
+std::string withoutCase(std::string_view name) {
+    std::string capitals = asciiCapitals(name);
+    if (std::all_of(name.begin(), name.end(), isAscii)) {
+        return capitals;
+    }
+    const std::optional<std::string> windows = fromUtf8(name);
+    return windows ? toUtf8(upperCase(*windows)) : capitals;
+}
+
 bool sameLetters(std::string_view a, std::string_view b) {
     // Capital and small letter of a pair take the same number of bytes in UTF-8.
     if (a.size() != b.size()) {
@@ -69,10 +78,7 @@ bool sameLetters(std::string_view a, std::string_view b) {
             }
             continue;
         }
-        const std::optional<std::string> windowsA = fromUtf8(a);
-        const std::optional<std::string> windowsB = fromUtf8(b);
-        return windowsA && windowsB ? upperCase(*windowsA) == upperCase(*windowsB)
-                                    : asciiCapitals(a) == asciiCapitals(b);
+        return withoutCase(a) == withoutCase(b);
     }
     return true;
 }

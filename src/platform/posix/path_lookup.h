@@ -7,8 +7,11 @@
 
 namespace velmora {
 
-/// Whether two names are equal without regard to case: the letters of Windows-1252 when both names consist of
-/// its characters, otherwise those of ASCII.
+/// A text that all names which differ only by the case of their letters share, and no others: the letters of
+/// Windows-1252 where a name consists of its characters, otherwise those of ASCII.
+std::string withoutCase(std::string_view name);
+
+/// Whether two names are equal without regard to case, as of withoutCase but quicker.
 bool sameLetters(std::string_view a, std::string_view b);
 
 /// The entry of a folder that a name stands for, as stored: the exact name, else the first in byte order

@@ -5,7 +5,6 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
@@ -16,7 +15,7 @@
 #include "base/run_time_error.h"
 #include "platform/posix/descriptor.h"
 #include "platform/posix/disk_flush.h"
-#include "platform/posix/folder_reader.h"
+#include "platform/posix/folder_entries.h"
 #include "platform/posix/path_lookup.h"
 #include "platform/posix/posix_file.h"
 #include "platform/posix/system_errors.h"
@@ -77,31 +76,6 @@ void flushContents(const std::string& path) {
         throw systemError(errno, path);
     }
     flushFile(file.number(), path);
-}
-
-/// Whether an entry that a folder listed is a file; what has vanished is not.
-bool isFile(const std::string& folder, std::string_view name, EntryKind kind) {
-    if (kind != EntryKind::Unknown) {
-        return kind == EntryKind::File;
-    }
-    const std::optional<struct stat> status = statusOf(folder + "/" + std::string(name));
-    return status && S_ISREG(status->st_mode);
-}
-
-struct ListedEntry {
-    std::string name;
-    bool isFile;
-};
-
-std::vector<ListedEntry> sortedEntries(const std::string& folder) {
-    std::vector<ListedEntry> entries;
-    readFolder(folder, [&](std::string_view name, EntryKind kind) {
-        entries.push_back({std::string(name), isFile(folder, name, kind)});
-        return true;
-    });
-    std::sort(entries.begin(), entries.end(),
-              [](const ListedEntry& a, const ListedEntry& b) { return a.name < b.name; });
-    return entries;
 }
 
 /// What a path leads to, found without regard to case; nothing when it cannot be found for any reason.
@@ -241,19 +215,14 @@ std::string PosixFiles::createTemporaryFile(const std::string& folder) {
 
 void PosixFiles::listFiles(const std::string& folder, ShortNames shortNames,
                            const std::function<void(const FolderEntry&)>& visit) const {
-    std::vector<ListedEntry> entries = sortedEntries(lookUpPath(folder).path);
-    std::vector<std::string> shorts;
+    const std::vector<ListedEntry> entries = sortedEntries(lookUpPath(folder).path);
+    std::vector<std::string> shorts(entries.size());
     if (shortNames == ShortNames::Include) {
-        std::vector<std::string> names;
-        names.reserve(entries.size());
-        for (const ListedEntry& entry : entries) {
-            names.push_back(entry.name);
-        }
-        shorts = velmora::shortNames(names);
+        shorts = velmora::shortNames(namesOf(entries));
     }
     for (std::size_t i = 0; i < entries.size(); ++i) {
         if (entries[i].isFile) {
-            visit({entries[i].name, shorts.empty() ? std::string() : shorts[i]});
+            visit({entries[i].name, shorts[i], entries[i].hasTwin});
         }
     }
 }

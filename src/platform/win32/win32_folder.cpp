@@ -63,6 +63,9 @@ std::vector<Win32Entry> nothingFound(const std::string& folder, DWORD error) {
 
 std::optional<std::string> narrowName(const WIN32_FIND_DATAW& data) {
     std::optional<std::string> name = exactAnsi(data.cFileName);
+    if (name && (name->back() == '.' || name->back() == ' ')) {
+        name.reset();  // cut off by the functions that open files
+    }
     if (!name && data.cAlternateFileName[0] != L'\0') {
         name = exactAnsi(data.cAlternateFileName);
     }

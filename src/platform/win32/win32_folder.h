@@ -17,7 +17,8 @@ struct Win32Entry {
 };
 
 /// The name by which the narrow functions find an entry: its own, or its short one when a character of its
-/// own is not in the ANSI code page. Nothing when neither can be told.
+/// own is not in the ANSI code page, or its own ends in a dot or blank, which would be cut off. Nothing when
+/// neither can be told.
 std::optional<std::string> narrowName(const WIN32_FIND_DATAW& data);
 
 /// All entries of a folder but "." and "..", in the order of their names' bytes. Those that have no narrow
