@@ -9,7 +9,7 @@ install(TARGETS ${programs} RUNTIME DESTINATION .)
 
 # A double click opens a page in the browser; Windows has nothing that opens Markdown.
 find_program(VELMORA_CMARK cmark-gfm REQUIRED)
-set(pages user-guide windows configuration formats headless organiser-tool)
+set(pages user-guide windows configuration messages formats headless organiser-tool)
 list(JOIN pages " " page_names)
 set(made "")
 foreach(page ${pages})
