@@ -24,6 +24,18 @@ TEST_F(DataCommandTest, LinesBecomeRecords) {
     EXPECT_EQ(printed, "\"1,5\",2\r\n");
 }
 
+// Records that crossed the end of the reader's buffer were told as two.
+TEST_F(DataCommandTest, ManyRecordsStayAsManyAsTheyAre) {
+    std::string records;
+    for (int i = 1; i <= 2'500; ++i) {
+        records += "Person " + std::to_string(i) + "\t" + std::to_string(i) + " High Street\r\n";
+    }
+    EXPECT_EQ(run({"data", "-", "-", "--from=odb", "--to=txt"}, records), 0);
+    EXPECT_TRUE(printed == records);
+    EXPECT_EQ(run({"show", "-", "--as=data"}, records), 0);
+    EXPECT_EQ(printed.substr(0, printed.find('\n')), "Data file, 2500 records");
+}
+
 TEST_F(DataCommandTest, AnEmptyFileStaysEmpty) {
     EXPECT_EQ(run({"data", "-", "-", "--from=odb", "--to=csv"}, ""), 0);
     EXPECT_EQ(printed, "");

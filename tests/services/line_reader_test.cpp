@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
 #include <string>
 #include <vector>
 
@@ -73,6 +74,21 @@ TEST_F(LineReaderTest, TheLimitCountsTheLineWithoutItsEnd) {
         content(std::string(limit + 1, 'x') + "\n");
         EXPECT_FALSE(reader->readLine(line, limit)) << limit;
     }
+}
+
+// The reader took one more than the limit for the place to give up at, which is none when there is no limit:
+// whatever crossed the end of the buffer came as two lines.
+TEST_F(LineReaderTest, WithoutALimitALineIsWholeHoweverLongItIs) {
+    constexpr std::size_t kNoLimit = std::numeric_limits<std::size_t>::max();
+    const std::string longLine(4095, 'x');
+    content(longLine + "yz\r\nend");
+    std::string line;
+    EXPECT_TRUE(reader->readLine(line, kNoLimit));
+    EXPECT_TRUE(line == longLine + "yz") << line.size();
+    EXPECT_TRUE(reader->readLine(line, kNoLimit));
+    EXPECT_EQ(line, "end");
+    EXPECT_TRUE(reader->readLine(line, kNoLimit)) << "at the end of the file";
+    EXPECT_EQ(line, "");
 }
 
 TEST_F(LineReaderTest, ALineWithoutEndIsGivenUpSoonBehindTheLimit) {
