@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <optional>
 #include <ostream>
 #include <sstream>
 #include <stdexcept>
@@ -14,6 +15,7 @@
 #include "organiser/conversation.h"
 #include "organiser/frame_text.h"
 #include "organiser/sheet_client.h"
+#include "organiser/tour_names.h"
 #include "services/service_codes.h"
 
 namespace velmora {
@@ -76,7 +78,10 @@ class Tour {
     void say(const std::string& text) { out_ << "  " << text << '\n'; }
     template <typename Value>
     void compare(const std::string& what, const Value& sent, const Value& received);
+    std::vector<std::string> listLong();
+    void saveNew(const WriteState& written, const std::function<void(FileMode)>& save);
 
+    void chooseNames();
     void dataFile();
     void procedure();
     void blockFile();
@@ -86,6 +91,7 @@ class Tour {
     void clock();
     void boot();
     void unknownService();
+    void tellWhatStays();
 
     const CommandLine& line_;
     OrganiserLink& link_;
@@ -95,6 +101,8 @@ class Tour {
     FileClient file_;
     SheetClient sheet_;
     Attempts attempts_;
+    std::vector<std::string> listedBefore_;
+    std::optional<TourNames> names_;
     ExitStatus status_ = kDone;
 };
 
@@ -135,43 +143,69 @@ void Tour::step(const std::string& title, Need need, const std::function<void()>
     }
 }
 
+std::vector<std::string> Tour::listLong() {
+    std::vector<std::string> names;
+    attempts_.run([&] { names = file_.list("TOUR*", true); });
+    return names;
+}
+
+/// Saves a file that must not be there yet, unless an earlier try has made it.
+void Tour::saveNew(const WriteState& written, const std::function<void(FileMode)>& save) {
+    bool made = false;
+    attempts_.run([&] { save(made ? FileMode::Create : FileMode::CreateNew); },
+                  [&] {
+                      made = made || written.opened;
+                      return true;
+                  });
+}
+
+void Tour::chooseNames() {
+    listedBefore_ = listLong();
+    names_ = freeTourNames(listedBefore_);
+    say(names_->base + ", " + names_->text + " and " + names_->bytes + " are free.");
+}
+
 void Tour::dataFile() {
+    const std::string& name = names_->base;
     const auto records = sampleRecords();
     std::vector<std::string> received;
-    attempts_.run([&] { ftran_.saveRecords("TOUR", FileMode::Create, records); });
-    attempts_.run([&] { received = ftran_.loadRecords("TOUR"); });
-    compare("The data file TOUR, 200 records,", records, received);
+    saveNew(ftran_.written(), [&](FileMode mode) { ftran_.saveRecords(name, mode, records); });
+    attempts_.run([&] { received = ftran_.loadRecords(name); });
+    compare("The data file " + name + ", 200 records,", records, received);
 }
 
 void Tour::procedure() {
+    const std::string& name = names_->base;
     std::vector<std::string> received;
-    attempts_.run([&] { ftran_.saveProcedure("TOUR", FileMode::Create, kProcedureLines); });
-    attempts_.run([&] { received = ftran_.loadProcedure("TOUR"); });
-    compare("The procedure TOUR, " + std::to_string(kProcedureLines.size()) + " lines,", kProcedureLines,
-            received);
+    saveNew(ftran_.written(), [&](FileMode mode) { ftran_.saveProcedure(name, mode, kProcedureLines); });
+    attempts_.run([&] { received = ftran_.loadProcedure(name); });
+    compare("The procedure " + name + ", " + std::to_string(kProcedureLines.size()) + " lines,",
+            kProcedureLines, received);
 }
 
 void Tour::blockFile() {
+    const std::string& name = names_->base;
     const std::string bytes = sampleBytes(4'000);
     std::string received;
-    attempts_.run([&] { ftran_.saveBlock("TOUR", FileMode::Create, kBlockType, bytes); });
-    attempts_.run([&] { received = ftran_.loadBlock("TOUR", kBlockType); });
-    compare("The block file TOUR, type 3, 4000 bytes,", bytes, received);
+    saveNew(ftran_.written(), [&](FileMode mode) { ftran_.saveBlock(name, mode, kBlockType, bytes); });
+    attempts_.run([&] { received = ftran_.loadBlock(name, kBlockType); });
+    compare("The block file " + name + ", type 3, 4000 bytes,", bytes, received);
 }
 
 void Tour::anyFile() {
     const std::vector<std::string> lines{"A text file of the server,", "line by line.", "", "The end."};
     std::vector<std::string> receivedLines;
-    attempts_.run([&] { file_.writeLines("TOURTEXT.TXT", FileMode::Create, lines); });
-    attempts_.run([&] { receivedLines = file_.readLines("TOURTEXT.TXT"); });
-    compare("The text file TOURTEXT.TXT, 4 lines,", lines, receivedLines);
+    saveNew(file_.written(), [&](FileMode mode) { file_.writeLines(names_->text, mode, lines); });
+    attempts_.run([&] { receivedLines = file_.readLines(names_->text); });
+    compare("The text file " + names_->text + ", 4 lines,", lines, receivedLines);
 
     const std::string bytes = sampleBytes(1'000);
     const Seek tail{Seek::From::End, -100};
     std::string received;
-    attempts_.run([&] { file_.writeBytes("TOURFILE.DAT", FileMode::Create, std::nullopt, bytes); });
-    attempts_.run([&] { received = file_.readBytes("TOURFILE.DAT", tail); });
-    compare("The end of TOURFILE.DAT, from byte " + std::to_string(file_.position()) + " on,",
+    saveNew(file_.written(),
+            [&](FileMode mode) { file_.writeBytes(names_->bytes, mode, std::nullopt, bytes); });
+    attempts_.run([&] { received = file_.readBytes(names_->bytes, tail); });
+    compare("The end of " + names_->bytes + ", from byte " + std::to_string(file_.position()) + " on,",
             bytes.substr(900), received);
 }
 
@@ -195,13 +229,15 @@ void Tour::spreadsheet() {
         text += " " + toUtf8(format.name);
     }
     say("The server writes worksheets as" + text + ".");
+    const std::string& name = names_->base;
     std::vector<SheetCell> received;
-    attempts_.run([&] { sheet_.save("TOUR", kWorksheet, kCells); });
-    attempts_.run([&] { received = sheet_.load("TOUR", kWorksheet); });
+    // The service replaces what is there; the listing has shown that nothing is.
+    attempts_.run([&] { sheet_.save(name, kWorksheet, kCells); });
+    attempts_.run([&] { received = sheet_.load(name, kWorksheet); });
     for (const std::string& line : cellLines(received)) {
         say("  " + toUtf8(line));
     }
-    compare("The spreadsheet TOUR, 6 cells,", cellLines(kCells), cellLines(received));
+    compare("The spreadsheet " + name + ", 6 cells,", cellLines(kCells), cellLines(received));
 }
 
 void Tour::clock() {
@@ -245,17 +281,33 @@ void Tour::unknownService() {
     }
 }
 
+void Tour::tellWhatStays() {
+    std::string text;
+    for (const std::string& name : listLong()) {
+        if (std::find(listedBefore_.begin(), listedBefore_.end(), name) == listedBefore_.end()) {
+            text += " " + toUtf8(name);
+        }
+    }
+    say(text.empty() ? "No file." : "It leaves these files in the server's folder:" + text);
+}
+
 ExitStatus Tour::run() {
     out_ << "A tour of the server on " << line_.device << '\n';
-    step("Data file, there and back", Need::Expected, [this] { dataFile(); });
-    step("Procedure, there and back", Need::Expected, [this] { procedure(); });
-    step("Block file, there and back", Need::Expected, [this] { blockFile(); });
-    step("Any file: lines, bytes and a seek", Need::Expected, [this] { anyFile(); });
-    step("The server's folder", Need::Expected, [this] { folder(); });
-    step("Spreadsheet, there and back", Need::Optional, [this] { spreadsheet(); });
+    step("Names that are free", Need::Expected, [this] { chooseNames(); });
+    if (names_) {
+        step("Data file, there and back", Need::Expected, [this] { dataFile(); });
+        step("Procedure, there and back", Need::Expected, [this] { procedure(); });
+        step("Block file, there and back", Need::Expected, [this] { blockFile(); });
+        step("Any file: lines, bytes and a seek", Need::Expected, [this] { anyFile(); });
+        step("The server's folder", Need::Expected, [this] { folder(); });
+        step("Spreadsheet, there and back", Need::Optional, [this] { spreadsheet(); });
+    }
     step("The server's clock", Need::Optional, [this] { clock(); });
     step("Boot code", Need::Optional, [this] { boot(); });
     step("A service that does not exist", Need::Expected, [this] { unknownService(); });
+    if (names_) {
+        step("What stays", Need::Expected, [this] { tellWhatStays(); });
+    }
     out_ << '\n'
          << (status_ == kDone ? "All done. " : "Not all of it worked. ")
          << "The commands exit and shutdown stop the server and are left to you.\n";

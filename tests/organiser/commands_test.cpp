@@ -186,6 +186,48 @@ TEST_F(CommandsTest, TourTriesEverythingAndLeavesItsFiles) {
     EXPECT_EQ(folder.count("TOUR.ODB"), 1U);
 }
 
+// It overwrote them: whoever keeps a TOUR of his own lost it to a demonstration.
+TEST_F(CommandsTest, TourTouchesNoFileThatIsThere) {
+    const test::ModelFolder own{{"TOUR.ODB", "own\r\n"}, {"TOUR.OPL", "own"},     {"TOUR.OB3", "own"},
+                                {"TOURTEXT.TXT", "own"}, {"TOURFILE.DAT", "own"}, {"TOUR2.WKS", "own"}};
+    folder = own;
+    test::ScriptedService menu(test::reply("\3WKS\0\2\0"s));
+    server.serve("PLANM", menu);
+    EXPECT_EQ(run({"tour"}), kDone) << out.str();
+    for (const auto& [name, contents] : own) {
+        EXPECT_EQ(folder[name], contents) << name;
+    }
+    EXPECT_EQ(plan.sheets.count("TOUR3"), 1U);
+    EXPECT_NE(out.str().find("The data file TOUR3, 200 records, came back exactly as sent."),
+              std::string::npos);
+    EXPECT_NE(out.str().find("It leaves these files in the server's folder: TOUR3.OB3 TOUR3.ODB TOUR3.OPL "
+                             "TOUR3FILE.DAT TOUR3TEXT.TXT\n"),
+              std::string::npos)
+        << out.str();
+}
+
+TEST_F(CommandsTest, TourThatMadeAFileBeforeTheLinkBrokeMakesItAgain) {
+    BreakingFtran breaking(folder, 2);
+    server.serve("FTRAN", breaking);
+    EXPECT_EQ(run({"tour"}), kDone) << out.str();
+}
+
+// A server that lists nothing has files all the same.
+TEST_F(CommandsTest, TourRefusesToReplaceWhatTheServerDoesNotList) {
+    class Hiding : public test::ModelFile {
+      public:
+        using ModelFile::ModelFile;
+        test::Answer message(const std::string& payload) override {
+            const bool listing = payload.size() > 2 && payload[0] == kOpen && payload[2] > 1;
+            return ModelFile::message(listing ? payload + "nothing" : payload);
+        }
+    } hiding(folder);
+    server.serve("FILE", hiding);
+    folder["TOUR.ODB"] = "own\r\n";
+    EXPECT_EQ(run({"tour"}), kRefused) << out.str();
+    EXPECT_EQ(folder["TOUR.ODB"], "own\r\n");
+}
+
 TEST_F(CommandsTest, TourSkipsServicesThatTheServerDoesNotKnow) {
     EXPECT_EQ(run({"tour"}), kDone);
     EXPECT_NE(out.str().find("Skipped: the server answers 190"), std::string::npos);
