@@ -20,6 +20,11 @@ std::vector<std::string> systemArguments(int argc, char** argv);
 /// to do where its streams lead somewhere already.
 void useStartersConsole();
 
+/// Gives the program null devices for the standard streams that its caller has closed. First thing in main:
+/// the next file that is opened, such as a serial port, would otherwise take the stream's place and get what
+/// is printed.
+void openStandardStreams();
+
 /// Whether somebody watches the stream; false for files and pipes.
 bool isTerminal(std::FILE* stream);
 

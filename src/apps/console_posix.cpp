@@ -1,3 +1,4 @@
+#include <fcntl.h>
 #include <unistd.h>
 
 #include "apps/console.h"
@@ -13,6 +14,15 @@ std::vector<std::string> systemArguments(int argc, char** argv) {
 }
 
 void useStartersConsole() {}
+
+void openStandardStreams() {
+    for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+        if (::fcntl(stream, F_GETFD) == -1) {
+            // Takes the lowest free number, which is this one.
+            ::open("/dev/null", stream == STDIN_FILENO ? O_RDONLY : O_WRONLY);
+        }
+    }
+}
 
 bool isTerminal(std::FILE* stream) {
     return ::isatty(::fileno(stream)) != 0;

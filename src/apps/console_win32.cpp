@@ -59,6 +59,9 @@ void useStartersConsole() {
     }
 }
 
+// No file is ever taken for a standard stream.
+void openStandardStreams() {}
+
 bool isTerminal(std::FILE* stream) {
     // The C library also takes the null device for a terminal; only a console has a mode.
     DWORD mode = 0;

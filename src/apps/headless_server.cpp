@@ -5,6 +5,7 @@
 #include <cstring>
 #include <system_error>
 
+#include "apps/non_blocking_output.h"
 #include "base/system_text.h"
 
 namespace velmora {
@@ -21,20 +22,15 @@ RunOverrides overridesOf(const ServerArguments& arguments) {
     return overrides;
 }
 
-void printLine(std::FILE* file, const std::string& line) {
-    // One write a line, so that lines of several programs on one console do not mix.
-    const std::string text = line + '\n';
-    std::fwrite(text.data(), 1, text.size(), file);
-    std::fflush(file);
-}
-
 }  // namespace
 
 HeadlessServer::HeadlessServer(const ServerArguments& arguments)
-    : arguments_(arguments),
+    : output_(nonBlockingOutput(stdout), kStreamLineEnd),
+      errors_(nonBlockingOutput(stderr), kStreamLineEnd),
+      arguments_(arguments),
       platform_([this] { program_.controller().ComTimer_Tick(); }),
       traceSink_(platform_.clock, arguments.traceCategories, traceOutput()),
-      view_([](const std::string& line) { printLine(stdout, line); },
+      view_([this](const std::string& line) { output_.print(line); },
             [this](const std::string& line) { printError(line); },
             {[this] {
                  if (program_.controller().queryUnload(CloseReason::Program)) {
@@ -50,6 +46,7 @@ HeadlessServer::HeadlessServer(const ServerArguments& arguments)
 
 HeadlessServer::~HeadlessServer() {
     if (traceFile_ != nullptr) {
+        trace_.reset();
         std::fclose(traceFile_);
     }
 }
@@ -60,13 +57,14 @@ std::function<void(const std::string&)> HeadlessServer::traceOutput() {
         return {};
     }
     if (!arguments_.traceFile) {
-        return [](const std::string& line) { printLine(stderr, toSystemText(line)); };
+        return [this](const std::string& line) { errors_.print(toSystemText(line)); };
     }
     traceFile_ = std::fopen(arguments_.traceFile->c_str(), "w");
     if (traceFile_ == nullptr) {
         throw std::system_error(errno, std::generic_category(), *arguments_.traceFile);
     }
-    return [this](const std::string& line) { printLine(traceFile_, toSystemText(line)); };
+    trace_.emplace(nonBlockingOutput(traceFile_), kStreamLineEnd);
+    return [this](const std::string& line) { trace_->print(toSystemText(line)); };
 }
 
 /// Prints a warning. A server whose port failed ends, and says so in one line.
@@ -80,7 +78,7 @@ void HeadlessServer::printError(const std::string& line) {
         text += " " + program_.describePortFailure();
     }
     errorPrinted_ = true;
-    printLine(stderr, "velmorad: " + text);
+    errors_.print("velmorad: " + text);
 }
 
 void HeadlessServer::portFailed() {

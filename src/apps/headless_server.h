@@ -3,9 +3,11 @@
 
 #include <cstdio>
 #include <functional>
+#include <optional>
 #include <string>
 
 #include "apps/console_trace.h"
+#include "apps/line_output.h"
 #include "apps/platform_parts.h"
 #include "apps/server_arguments.h"
 #include "apps/server_program.h"
@@ -35,7 +37,10 @@ class HeadlessServer {
     void stateChanged(std::int32_t state);
     void quit(int status);
 
+    LineOutput output_;
+    LineOutput errors_;
     std::FILE* traceFile_ = nullptr;
+    std::optional<LineOutput> trace_;  // to the trace file
     bool quitting_ = false;
     bool failed_ = false;  // the port cannot be opened or failed
     bool errorPrinted_ = false;

@@ -10,6 +10,7 @@
 
 int main(int argc, char** argv) {
     using namespace velmora;
+    openStandardStreams();
     const auto console = showOnConsole(PrintedText::System);
     useBinaryStandardStreams();
     return runProgram("velmora-files", std::cout, std::cerr, [argc, argv] {

@@ -31,6 +31,7 @@ int serve(int argc, char** argv) {
 }  // namespace
 
 int main(int argc, char** argv) {
+    openStandardStreams();
     return runProgram("velmora", std::cout, std::cerr, [argc, argv] {
         try {
             return serve(argc, argv);

@@ -47,6 +47,7 @@ ExitStatus run(const CommandLine& line) {
 }  // namespace
 
 int main(int argc, char** argv) {
+    openStandardStreams();
     const auto console = showOnConsole(PrintedText::Utf8);
     // Contents of files go to standard output as they are.
     useBinaryStandardStreams();

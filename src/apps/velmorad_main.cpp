@@ -29,6 +29,7 @@ int serve(const ServerArguments& arguments, int argc, char** argv) {
 }  // namespace
 
 int main(int argc, char** argv) {
+    openStandardStreams();
     const auto console = showOnConsole(PrintedText::System);
     return runProgram("velmorad", std::cout, std::cerr, [argc, argv] {
         return serve(readServerArguments(systemArguments(argc, argv)), argc, argv);

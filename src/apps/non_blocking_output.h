@@ -1,0 +1,18 @@
+// Writing to a stream of the caller's without waiting for its reader.
+#pragma once
+
+#include <cstdio>
+
+#include "apps/line_output.h"
+
+namespace velmora {
+
+/// What ends a line in the streams of this system.
+extern const char* const kStreamLineEnd;
+
+/// Writes to a stream's own descriptor, which must stay open, past what the stream itself may hold back. A
+/// pipe or terminal whose reader has stopped takes nothing. One whose reader has gone takes everything, as
+/// does one that fails: there is nobody to tell. The stream behaves as before for others who have it.
+LineOutput::Write nonBlockingOutput(std::FILE* stream);
+
+}  // namespace velmora
