@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Measures the built programs over the cable: records a second, how much of a 9600 baud line is used, idle
+# Measures the built programs over the cable: records a second, how much of a line of each rate is used, idle
 # load and memory of the server, time from its start to serving. Prints one line a figure.
 #   bench/end_to_end.sh [BUILD_FOLDER]
 set -euo pipefail
@@ -35,8 +35,9 @@ stop_cable() {
   wait "$cable"
   carried=$(awk '/^carried/ { print $2 + $3 }' "$log")
 }
+# start_server DEVICE [OPTIONS …]
 start_server() {
-  "$build/bin/velmorad" --port "$1" --folder "$work/psion" > "$work/server.log" 2>&1 &
+  "$build/bin/velmorad" --port "$1" --folder "$work/psion" "${@:2}" > "$work/server.log" 2>&1 &
   server=$!
   until grep -q "Waiting for link" "$work/server.log"; do sleep 0.002; done
 }
@@ -74,23 +75,36 @@ stop_cable "$work/again-cable.log"
 
 # Ten bits a byte of every frame that is exchanged, against the clock. A long and a short run are compared,
 # so that what happens once (starting the programs, setting up the link) drops out.
+# slow_run BAUD RECORDS save|load: sets elapsed (nanoseconds) and carried (bytes).
 slow_run() {
-  head -n "$1" "$work/many" > "$work/some"
-  start_cable "slow$1" --baud 9600
-  start_server "$work/slow$1-pc"
-  local begin
+  local name=$3$1-$2 begin
+  head -n "$2" "$work/many" > "$work/some"
+  cp "$work/some" "$work/psion/Some.odb"
+  start_cable "$name" --baud "$1"
+  start_server "$work/$name-pc" --baud "$1"
   begin=$(now)
-  organiser "$work/slow$1-handheld" save "$work/some" --as SOME
+  if [[ $3 == save ]]; then
+    organiser "$work/$name-handheld" --baud "$1" save "$work/some" --as SOME
+  else
+    organiser "$work/$name-handheld" --baud "$1" load SOME -o "$work/back"
+    cmp "$work/some" "$work/back"
+  fi
   elapsed=$(($(now) - begin))
   kill $server
   wait $server
-  stop_cable "$work/slow$1-cable.log"
+  stop_cable "$work/$name-cable.log"
 }
-slow_run 50
-short_elapsed=$elapsed
-short_carried=$carried
-slow_run 350
-awk -v ns=$((elapsed - short_elapsed)) -v bytes=$((carried - short_carried)) 'BEGIN {
-  ideal = bytes * 10 / 9600
-  printf "9600 baud: %d bytes in %.3f s, ideal %.3f s: %.2f %%\n", bytes, ns / 1e9, ideal, 100 * ideal / (ns / 1e9)
-}'
+for baud in 1200 2400 9600; do
+  for direction in save load; do
+    slow_run $baud $((baud / 192)) $direction
+    short_elapsed=$elapsed
+    short_carried=$carried
+    slow_run $baud $((baud / 27)) $direction
+    awk -v baud=$baud -v direction=$direction -v ns=$((elapsed - short_elapsed)) \
+      -v bytes=$((carried - short_carried)) 'BEGIN {
+      ideal = bytes * 10 / baud
+      printf "%d baud, %s: %d bytes in %.3f s, ideal %.3f s: %.2f %%\n", baud, direction, bytes, ns / 1e9,
+        ideal, 100 * ideal / (ns / 1e9)
+    }'
+  done
+done

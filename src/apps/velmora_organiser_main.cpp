@@ -1,4 +1,5 @@
 // velmora-organiser: the virtual Organiser on the command line.
+#include <cstdint>
 #include <cstdio>
 #include <iostream>
 #include <memory>
@@ -16,6 +17,7 @@
 #include "organiser/progress.h"
 #include "platform/binary_streams.h"
 #include "platform/console_output.h"
+#include "serial/wire_time.h"
 
 namespace {
 
@@ -32,9 +34,9 @@ ExitStatus run(const CommandLine& line) {
         faults.emplace(*device, line.faults);
     }
     OrganiserLine& used = faults ? static_cast<OrganiserLine&>(*faults) : *device;
-    // A byte takes ten bits on the wire.
-    const OrganiserLine::Time byteTime(10 * 1'000'000 / line.baud);
-    OrganiserLink link(used, byteTime, line.trace ? printFrame : OrganiserLink::FrameTrace());
+    LineSettings settings;
+    settings.baud = static_cast<std::uint32_t>(line.baud);
+    OrganiserLink link(used, WireTime(settings), line.trace ? printFrame : OrganiserLink::FrameTrace());
 
     const bool tour = line.command.kind == CommandKind::Tour;
     const bool terminal = isTerminal(tour ? stdout : stderr);

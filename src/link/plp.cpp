@@ -23,6 +23,8 @@ int PLP::PLP_Start(SerialPort& port, Timer& timer) {
     timer_ = &timer;
     timer_->setEnabled(false);
     startTime_ = clock_.localTime();
+    const auto settings = parseModeString(port.Settings());
+    wire_ = settings ? WireTime(*settings) : WireTime();
     stopRequests_ = {};
     trace_.trace("PLP", "starting PLP", {});
     state_ = LinkState::Idle;
@@ -246,7 +248,6 @@ bool PLP::sendFrame(FrameType type, std::string_view data) {
         return false;
     }
     const Run run(*this);
-    timer_->setEnabled(false);
     std::uint8_t sequence = 0;
     switch (type) {
         case FrameType::Ack:
@@ -261,13 +262,11 @@ bool PLP::sendFrame(FrameType type, std::string_view data) {
             break;
         case FrameType::Connect:
             state_ = LinkState::WaitLink;
-            armTimer(kAnswerTime);
             break;
         case FrameType::Data:
             resendBudget_ = kMaxResends;
             sequence = sendSequence_;
             state_ = LinkState::WaitAck;
-            armTimer(kAnswerTime);
             break;
     }
     // Sending from inside the write replaces the last frame, so the write has its own.
@@ -282,24 +281,31 @@ bool PLP::sendFrame(FrameType type, std::string_view data) {
     return written;
 }
 
-/// Writes a whole frame and reports a failure, unless the link was stopped meanwhile.
+/// Writes a whole frame, then begins the wait for its answer if the state wants one. Reports a failure,
+/// unless the link was stopped meanwhile.
 bool PLP::write(const std::string& frame) {
     const Run run(*this);
+    // On some systems a write lasts until the bytes have left. The wait is not to run out inside it.
+    timer_->setEnabled(false);
+    wire_.handOver(frame.size(), clock_.monotonic());
+    bool written = false;
     try {
         if (!port_->Send(frame)) {
             throw CommError(kCommFailed, "The port did not take the data", "Send");
         }
-        return true;
+        written = true;
     } catch (const CommError& error) {
         if (!run.over()) {
             PLP_SendError(error);
         }
-        return false;
     }
+    if (!run.over() && awaitsAnswer()) {
+        armAnswerTimer();
+    }
+    return written;
 }
 
 void PLP::PLP_Resend() {
-    armTimer(kAnswerTime);
     const std::string frame = lastFrame_;
     trace_.trace("COM,DATA", "resend", frame);
     write(frame);
@@ -319,7 +325,6 @@ void PLP::PLP_SendError(const CommError& error) {
 void PLP::PLP_InitLink() {
     trace_.trace("PLP", "PLP INITLINK", {});
     state_ = LinkState::WaitLink;
-    armTimer(kAnswerTime);
     sendFrame(FrameType::Connect, {});
 }
 
@@ -386,6 +391,16 @@ void PLP::armTimer(std::chrono::milliseconds interval) {
     timer_->setEnabled(true);
 }
 
+/// Arms the timer for an answer to what was handed to the port and may still be on its way.
+void PLP::armAnswerTimer() {
+    const auto stillLeaving = std::chrono::ceil<std::chrono::milliseconds>(wire_.left(clock_.monotonic()));
+    armTimer(stillLeaving + kAnswerTime);
+}
+
+bool PLP::awaitsAnswer() const {
+    return state_ == LinkState::WaitLink || state_ == LinkState::WaitAck;
+}
+
 void PLP::armTimerByState() {
     switch (state_) {
         case LinkState::Idle:
@@ -394,7 +409,7 @@ void PLP::armTimerByState() {
             break;
         case LinkState::WaitLink:
         case LinkState::WaitAck:
-            armTimer(kAnswerTime);
+            armAnswerTimer();
             break;
         case LinkState::Ready:
             armTimer(kSilenceTime);
@@ -430,7 +445,7 @@ bool PLP::isConsistent() const {
     if (window_.state() == LinkFailed) {
         return true;  // a failed read leaves the protocol timer off; the poll's next tick stops the server
     }
-    const bool waitsForAnswer = timer_->enabled() && timer_->interval() == kAnswerTime;
+    const bool waitsForAnswer = timer_->enabled() && timer_->interval() >= kAnswerTime;
     switch (state_) {
         case LinkState::Idle:
         case LinkState::Linking:

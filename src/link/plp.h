@@ -20,10 +20,13 @@
 #include "link/service_events.h"
 #include "link/trace.h"
 #include "serial/serial_port.h"
+#include "serial/wire_time.h"
 
 namespace velmora {
 
-/// How often a link request is repeated and how long an acknowledgement is waited for.
+/// How long an answer is waited for until a link request or a DATA frame is sent again. The wait begins when
+/// the last byte has left: the wire time of all that was handed to the port and cannot have left comes on
+/// top.
 constexpr std::chrono::milliseconds kAnswerTime{500};
 /// Silence after which a link that is up repeats its last acknowledgement, in case that was lost.
 constexpr std::chrono::milliseconds kSilenceTime{30'000};
@@ -40,8 +43,9 @@ enum LinkStartResult : int {
     kStartPortOpenError = 6,
 };
 
-/// The link state machine. It has no thread and no clock: it is driven by the ticks of two timers (the
-/// receive poll and the protocol timer) and by the services that send from inside their events.
+/// The link state machine. It has no thread: it is driven by the ticks of two timers (the receive poll and
+/// the protocol timer) and by the services that send from inside their events. The clock only tells it what
+/// can still be on the wire.
 ///
 /// Any handler of the program may run inside the port's reads and writes, the yield between two reads and
 /// every change of the window's state, PLP_Stop and another PLP_Start included. Each such call is followed by
@@ -114,6 +118,8 @@ class PLP : public FrameSender {
     void readWhatWaits(const Run& run);
     bool takeBytes(std::string_view bytes);
     void armTimer(std::chrono::milliseconds interval);
+    void armAnswerTimer();
+    bool awaitsAnswer() const;
     void armTimerByState();
     void traceState();
     void giveEvent(ServiceEventCode code, std::string payload);
@@ -145,6 +151,7 @@ class PLP : public FrameSender {
     std::uint8_t receiveSequence_ = 0;  // of the last DATA frame accepted
     int resendBudget_ = 0;
     FrameCutter cutter_;
+    WireTime wire_;
     std::string lastFrame_;
     DateTime startTime_;
     StopRequests stopRequests_;

@@ -47,6 +47,9 @@ PLP::Verdict PLP::takeAck(std::uint8_t sequence) {
             }
             sendSequence_ = following(sendSequence_);
             state_ = LinkState::Ready;
+            if (resendBudget_ == kMaxResends) {  // otherwise a copy may still be on its way
+                wire_.allOut(clock_.monotonic());
+            }
             giveEvent(PLP_EV_ACKED, {});
             break;
     }

@@ -12,8 +12,8 @@ std::uint8_t nextSequence(std::uint8_t sequence) {
 
 }  // namespace
 
-OrganiserLink::OrganiserLink(OrganiserLine& line, Time byteTime, FrameTrace trace)
-    : line_(line), byteTime_(byteTime), trace_(std::move(trace)) {
+OrganiserLink::OrganiserLink(OrganiserLine& line, const WireTime& wire, FrameTrace trace)
+    : line_(line), wire_(wire), trace_(std::move(trace)) {
     crc_.load_CRCtable();
 }
 
@@ -21,7 +21,14 @@ void OrganiserLink::send(const std::string& frame) {
     if (trace_) {
         trace_(FrameDirection::Sent, frame);
     }
+    wire_.handOver(frame.size(), line_.now());
     line_.write(frame);
+}
+
+/// When the last byte sent can have left the line, now at the earliest. Waits for answers begin then.
+OrganiserLink::Time OrganiserLink::lastByteOut() const {
+    const Time now = line_.now();
+    return now + wire_.left(now);
 }
 
 void OrganiserLink::sendControl(FrameType type, std::uint8_t sequence, std::string_view data) {
@@ -50,6 +57,7 @@ std::optional<ParsedFrame> OrganiserLink::receive(Time deadline) {
 void OrganiserLink::bringUp() {
     up_ = true;
     proven_ = false;
+    crossed_ = false;
     sendSequence_ = 1;
     receiveSequence_ = 0;
 }
@@ -65,11 +73,12 @@ void OrganiserLink::connect() {
             sendControl(FrameType::Discon, 0, std::string_view(&kReasonNone, 1));
         }
         sendControl(FrameType::Connect, 0);
-        const Time deadline = line_.now() + kRepeatAfter;
+        const Time deadline = lastByteOut() + kRepeatAfter;
         while (const auto frame = receive(deadline)) {
             if (frame->type == static_cast<std::uint8_t>(FrameType::Connect)) {
                 sendControl(FrameType::Ack, 0);
                 bringUp();
+                crossed_ = true;
                 return;
             }
             // Only a link request is acknowledged with 0 here; what else comes belongs to an older link.
@@ -93,8 +102,8 @@ void OrganiserLink::transmit(Outstanding& outstanding) {
         sendControl(FrameType::Ack, receiveSequence_);
     }
     send(outstanding.frame);
-    outstanding.sentAt = line_.now();
-    outstanding.deadline = outstanding.sentAt + kRepeatAfter + timeOf(outstanding.frame.size());
+    outstanding.leftAt = lastByteOut();
+    outstanding.deadline = outstanding.leftAt + kRepeatAfter;
 }
 
 void OrganiserLink::repeatNow(Outstanding& outstanding) {
@@ -124,7 +133,8 @@ void OrganiserLink::acknowledged(Outstanding& outstanding) {
     if (!outstanding.acknowledged) {
         outstanding.acknowledged = true;
         if (outstanding.repeats + outstanding.prompted == 0) {
-            roundTrip_ = line_.now() - outstanding.sentAt;
+            wire_.allOut(line_.now());
+            roundTrip_ = std::max(line_.now() - outstanding.leftAt, Time::zero());
         }
         outstanding.deadline = line_.now() + kReplyLimit;
         proven_ = true;
@@ -135,14 +145,14 @@ void OrganiserLink::acknowledged(Outstanding& outstanding) {
 std::optional<std::string> OrganiserLink::takeData(const ParsedFrame& frame, Outstanding& outstanding) {
     if (frame.sequence == nextSequence(receiveSequence_)) {
         receiveSequence_ = frame.sequence;
-        sendControl(FrameType::Ack, receiveSequence_);
         acknowledged(outstanding);
+        sendControl(FrameType::Ack, receiveSequence_);
         return frame.data;
     }
     // Once the server has acknowledged the request on its way, it surely had the acknowledgement before.
     if (frame.sequence == receiveSequence_ && !outstanding.acknowledged) {
         outstanding.acknowledgeAgain = true;
-        outstanding.deadline = std::min(outstanding.deadline, line_.now() + grace());
+        outstanding.deadline = std::min(outstanding.deadline, lastByteOut() + grace());
     }
     return std::nullopt;
 }
@@ -156,6 +166,8 @@ std::optional<std::string> OrganiserLink::take(const ParsedFrame& frame, Outstan
             }
             if (frame.sequence == sendSequence_) {
                 acknowledged(outstanding);
+            } else if (frame.sequence == 0 && !proven_ && std::exchange(crossed_, false)) {
+                // It belongs to the link request and says nothing of this frame.
             } else {
                 // The server acknowledges an older frame again: this one reached it damaged or not at all.
                 repeatNow(outstanding);
@@ -203,8 +215,8 @@ OrganiserLink::Time OrganiserLink::grace() const {
 /// beginning, and the answer to that, taken for one to the next request, would be a refusal out of nowhere.
 void OrganiserLink::settle() {
     if (std::exchange(unsettled_, false)) {
-        const Time giveUp = line_.now() + kSettleLimit;
-        while (line_.now() < giveUp && receive(line_.now() + grace())) {
+        const Time giveUp = lastByteOut() + kSettleLimit;
+        while (line_.now() < giveUp && receive(lastByteOut() + grace())) {
         }
         cutter_.clear();
     }
@@ -215,7 +227,7 @@ void OrganiserLink::end() {
         settle();
         for (int sent = 0; up_ && sent < kGoodbyes; ++sent) {
             sendControl(FrameType::Discon, 0, std::string_view(&kReasonNone, 1));
-            const Time deadline = line_.now() + kRepeatAfter;
+            const Time deadline = lastByteOut() + kRepeatAfter;
             while (const auto frame = receive(deadline)) {
                 if (frame->type == static_cast<std::uint8_t>(FrameType::Connect)) {
                     up_ = false;

@@ -14,6 +14,7 @@
 #include "link/frames.h"
 #include "organiser/link_failure.h"
 #include "organiser/organiser_line.h"
+#include "serial/wire_time.h"
 
 namespace velmora {
 
@@ -28,7 +29,8 @@ class OrganiserLink {
     /// Takes each frame as on the wire.
     using FrameTrace = std::function<void(FrameDirection, std::string_view frame)>;
 
-    /// A link request, and a DATA frame without an acknowledgement, is repeated after this time.
+    /// A link request, and a DATA frame without an acknowledgement, is repeated after this time. It begins
+    /// when the last byte has left the line.
     static constexpr Time kRepeatAfter = std::chrono::milliseconds(500);
     /// Repeats of a DATA frame before the link counts as gone. More than the server's four, so that the
     /// server notices first and its fresh link request tells.
@@ -55,9 +57,8 @@ class OrganiserLink {
     /// Goodbyes sent before the server's silence is accepted.
     static constexpr int kGoodbyes = 3;
 
-    /// `line` must outlive the link. `byteTime` is what one byte takes on the wire; a frame's time-out begins
-    /// when its last byte is out. `trace` may be empty.
-    explicit OrganiserLink(OrganiserLine& line, Time byteTime = Time::zero(), FrameTrace trace = {});
+    /// `line` must outlive the link. `wire` is that of the idle line; `trace` may be empty.
+    explicit OrganiserLink(OrganiserLine& line, const WireTime& wire = {}, FrameTrace trace = {});
 
     /// Brings the link up; nothing when it is up already. Throws NoLink when nobody answers.
     void connect();
@@ -78,14 +79,14 @@ class OrganiserLink {
         bool acknowledgeAgain = false;  ///< the server has repeated its last DATA frame meanwhile
         int repeats = 0;
         int prompted = 0;
-        Time sentAt{0};
+        Time leftAt{0};  ///< when the last byte can have left
         Time deadline{0};
     };
 
     void send(const std::string& frame);
     void sendControl(FrameType type, std::uint8_t sequence, std::string_view data = {});
     std::optional<ParsedFrame> receive(Time deadline);
-    Time timeOf(std::size_t bytes) const { return byteTime_ * static_cast<Time::rep>(bytes); }
+    Time lastByteOut() const;
 
     void bringUp();
     void transmit(Outstanding& outstanding);
@@ -99,16 +100,17 @@ class OrganiserLink {
     [[noreturn]] void drop(const LinkFailure& failure);
 
     OrganiserLine& line_;
-    Time byteTime_;
+    WireTime wire_;
     FrameTrace trace_;
     Crc crc_;
     FrameCutter cutter_;
     bool up_ = false;
     bool unsettled_ = false;         ///< the server dropped the link and may still be answering a copy
     bool proven_ = false;            ///< a DATA frame of this link was acknowledged
+    bool crossed_ = false;           ///< the server may still acknowledge a link request that met its own
     std::uint8_t sendSequence_ = 1;  ///< of the next DATA frame, or of the one on its way
     std::uint8_t receiveSequence_ = 0;
-    Time roundTrip_{0};  ///< from the last unrepeated DATA frame to its acknowledgement
+    Time roundTrip_{0};  ///< from the end of the last unrepeated DATA frame to its acknowledgement
 };
 
 }  // namespace velmora

@@ -41,7 +41,7 @@ TEST_F(LinkTest, StartOpensThePortAndSeeksALink) {
     EXPECT_EQ(plpTimer.interval(), 500ms);
     EXPECT_EQ(plp.startTime(), time.local);
     EXPECT_TRUE(plp.isConsistent());
-    EXPECT_THAT(traced(), ElementsAre("PLP|starting PLP|", "STATE||", "COM|open port|COM1 9600,N,8,1",
+    EXPECT_THAT(traced(), ElementsAre("PLP|starting PLP|", "STATE||", "COM|open port|COM1 no rate",
                                       "PLP|PLP INITLINK|", "COM,DATA|send|CONNECT", "STATE||"));
 }
 

@@ -93,6 +93,8 @@ class LinkRig {
   public:
     LinkRig() {
         crc.load_CRCtable();
+        // No rate, so bytes take no time; what that changes is tested on its own.
+        port.settings = "no rate";
         plp.setServices(services);
         comTimer.setInterval(milliseconds(20));
         comTimer.onTick([this] { poll(); });
