@@ -44,13 +44,6 @@ HeadlessServer::HeadlessServer(const ServerArguments& arguments)
     program_.controller().onPortFailure([this] { portFailed(); });
 }
 
-HeadlessServer::~HeadlessServer() {
-    if (traceFile_ != nullptr) {
-        trace_.reset();
-        std::fclose(traceFile_);
-    }
-}
-
 /// Where trace lines go; throws std::system_error when the trace file cannot be made.
 std::function<void(const std::string&)> HeadlessServer::traceOutput() {
     if (!arguments_.trace) {
@@ -59,11 +52,11 @@ std::function<void(const std::string&)> HeadlessServer::traceOutput() {
     if (!arguments_.traceFile) {
         return [this](const std::string& line) { errors_.print(toSystemText(line)); };
     }
-    traceFile_ = std::fopen(arguments_.traceFile->c_str(), "w");
+    traceFile_.reset(std::fopen(arguments_.traceFile->c_str(), "w"));
     if (traceFile_ == nullptr) {
         throw std::system_error(errno, std::generic_category(), *arguments_.traceFile);
     }
-    trace_.emplace(nonBlockingOutput(traceFile_), kStreamLineEnd);
+    trace_.emplace(nonBlockingOutput(traceFile_.get()), kStreamLineEnd);
     return [this](const std::string& line) { trace_->print(toSystemText(line)); };
 }
 

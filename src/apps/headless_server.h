@@ -21,7 +21,6 @@ namespace velmora {
 class HeadlessServer {
   public:
     explicit HeadlessServer(const ServerArguments& arguments);
-    ~HeadlessServer();
     HeadlessServer(const HeadlessServer&) = delete;
     HeadlessServer& operator=(const HeadlessServer&) = delete;
 
@@ -37,10 +36,14 @@ class HeadlessServer {
     void stateChanged(std::int32_t state);
     void quit(int status);
 
+    struct FileCloser {
+        void operator()(std::FILE* file) const { std::fclose(file); }
+    };
+
     LineOutput output_;
     LineOutput errors_;
-    std::FILE* traceFile_ = nullptr;
-    std::optional<LineOutput> trace_;  // to the trace file
+    std::unique_ptr<std::FILE, FileCloser> traceFile_;
+    std::optional<LineOutput> trace_;  // to the trace file; what stands below traces until its end
     bool quitting_ = false;
     bool failed_ = false;  // the port cannot be opened or failed
     bool errorPrinted_ = false;
