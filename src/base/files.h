@@ -68,6 +68,10 @@ class Files {
     virtual std::uint64_t fileSize(const std::string& path) const = 0;
     /// The path of an existing file with the letters as stored on disk; the path itself if there is none.
     virtual std::string storedPath(const std::string& path) const = 0;
+    /// The path of the file that the last component of a path is the short name of: a short name with a "~"
+    /// that was ever told or found means that file and no other for as long as this object lives, even if the
+    /// file is gone or another one came that is called so. The path itself when it is no such name.
+    virtual std::string pathOfShortName(const std::string& path) const = 0;
 
     virtual std::unique_ptr<File> open(const std::string& path, OpenMode mode) = 0;
     virtual void deleteFile(const std::string& path) = 0;

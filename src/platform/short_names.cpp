@@ -141,10 +141,12 @@ std::optional<std::string> ownShortName(std::string_view name) {
 }
 
 std::vector<std::string> shortNames(const std::vector<std::string>& sortedNames,
-                                    const std::vector<std::string>& kept) {
+                                    const std::vector<std::string>& kept,
+                                    const std::vector<std::string>& reserved) {
     std::vector<std::string> result = kept;
     result.resize(sortedNames.size());
     std::unordered_set<std::string> taken(kept.begin(), kept.end());
+    taken.insert(reserved.begin(), reserved.end());
     giveOwnNames(sortedNames, result, taken);
     Numbering numbering(taken);
     for (std::size_t i = 0; i < sortedNames.size(); ++i) {
@@ -157,19 +159,6 @@ std::vector<std::string> shortNames(const std::vector<std::string>& sortedNames,
 
 bool mayBeMadeUp(std::string_view name) {
     return name.find('~') != std::string_view::npos && ownShortName(name);
-}
-
-std::optional<std::string> nameWithShortName(const std::vector<std::string>& sortedNames,
-                                             std::string_view shortName,
-                                             const std::vector<std::string>& kept) {
-    std::string wanted(shortName);
-    std::transform(wanted.begin(), wanted.end(), wanted.begin(), capital);
-    const std::vector<std::string> shorts = shortNames(sortedNames, kept);
-    const auto found = std::find(shorts.begin(), shorts.end(), wanted);
-    if (wanted.empty() || found == shorts.end()) {
-        return std::nullopt;
-    }
-    return sortedNames[static_cast<std::size_t>(found - shorts.begin())];
 }
 
 }  // namespace velmora

@@ -24,18 +24,15 @@ std::optional<std::string> ownShortName(std::string_view name);
 /// characters ("ABCDE~10"). No two short names are equal. Beyond 9,999,999 equal beginnings the short name is
 /// empty. Takes time in proportion to the number of names.
 ///
-/// `kept`: the short names that the file system itself keeps, in capitals, at the same positions; empty where
-/// it keeps none. They are taken as they are. Nothing at all for a file system that keeps none.
+/// `kept`: the short names that are settled already, in capitals, at the same positions, as a file system may
+/// keep some itself; empty where there is none. They are taken as they are. Nothing at all when none is.
+/// `reserved`: short names that no other name may get.
 std::vector<std::string> shortNames(const std::vector<std::string>& sortedNames,
-                                    const std::vector<std::string>& kept = {});
+                                    const std::vector<std::string>& kept = {},
+                                    const std::vector<std::string>& reserved = {});
 
-/// Whether a name can be one that shortNames made up. Spares the work of looking for any other.
+/// Whether a name can be one that shortNames made up: a short name with a "~". Spares the work of looking for
+/// any other.
 bool mayBeMadeUp(std::string_view name);
-
-/// The one of the names that has this short name, whatever the case of its letters; nothing when none has.
-/// Names and `kept` as for shortNames.
-std::optional<std::string> nameWithShortName(const std::vector<std::string>& sortedNames,
-                                             std::string_view shortName,
-                                             const std::vector<std::string>& kept = {});
 
 }  // namespace velmora

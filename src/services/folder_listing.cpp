@@ -41,8 +41,12 @@ bool matches(std::string_view name, const std::string& upperPattern) {
 /// One file of the folder as the Organiser knows it.
 class Listed {
   public:
-    Listed(const PathRules& rules, const FolderEntry& entry)
-        : rules_(rules), entry_(entry), name_(rules.toOrganiser(entry.name)) {}
+    Listed(const Files& files, const PathRules& rules, const std::string& folder, const FolderEntry& entry)
+        : files_(files),
+          rules_(rules),
+          folder_(folder),
+          entry_(entry),
+          name_(rules.toOrganiser(entry.name)) {}
 
     /// Whether its long name can stand on a line, is no pattern, and leads back to this very file.
     bool goesByItsName() const {
@@ -50,7 +54,8 @@ class Listed {
             return false;
         }
         const std::optional<std::string> named = fileNamed(rules_, *name_);
-        return named && (*named == entry_.name || (!entry_.hasTwin && hasTheLettersOf(*named)));
+        return named && (*named == entry_.name || (!entry_.hasTwin && hasTheLettersOf(*named))) &&
+               !isShortNameOfAnother(*named);
     }
     /// What a short listing calls it if it matches; nothing if it is not listed.
     std::optional<std::string> shortLine(const std::string& pattern) const {
@@ -71,6 +76,11 @@ class Listed {
     bool hasTheLettersOf(const std::string& other) const {
         return upperCase(rules_.toOrganiser(other).value_or(std::string())) == upperCase(*name_);
     }
+    bool isShortNameOfAnother(const std::string& name) const {
+        const std::string path = rules_.join(folder_, name);
+        const std::string meant = files_.pathOfShortName(path);
+        return meant != path && rules_.lastComponent(meant) != entry_.name;
+    }
     /// A file that is not listed by its long name is still looked for by it.
     std::optional<std::string> lineByShortName(const std::string& pattern) const {
         if (!matches(entry_.shortName, pattern) && !(name_ && matches(*name_, pattern))) {
@@ -81,7 +91,9 @@ class Listed {
         return fileNamed(rules_, line) ? std::optional(line) : std::nullopt;
     }
 
+    const Files& files_;
     const PathRules& rules_;
+    const std::string& folder_;
     const FolderEntry& entry_;
     std::optional<std::string> name_;  ///< in Windows-1252
 };
@@ -90,7 +102,7 @@ class Listed {
 bool needsShortNames(const Files& files, const PathRules& rules, const std::string& folder) {
     bool needed = false;
     files.listFiles(folder, ShortNames::Omit, [&](const FolderEntry& entry) {
-        needed = needed || !Listed(rules, entry).goesByItsName();
+        needed = needed || !Listed(files, rules, folder, entry).goesByItsName();
     });
     return needed;
 }
@@ -107,7 +119,7 @@ void writeFolderListing(const Files& files, const PathRules& rules, const std::s
         asShort || needsShortNames(files, rules, folder) ? ShortNames::Include : ShortNames::Omit;
     LineWriter lines(listing);
     files.listFiles(folder, shortNames, [&](const FolderEntry& entry) {
-        const Listed file(rules, entry);
+        const Listed file(files, rules, folder, entry);
         if (const auto line = asShort ? file.shortLine(upperPattern) : file.longLine(upperPattern)) {
             lines.add(*line);
         }

@@ -100,7 +100,11 @@ std::string Tools::map_FileName(std::string_view name, bool resolveExisting, boo
         return {};
     }
     const std::string path = rules_.join(folder, recased(rules_, file));
-    return resolveExisting && !allowWildcards && files_.fileExists(path) ? files_.storedPath(path) : path;
+    if (allowWildcards) {
+        return path;
+    }
+    const std::string meant = files_.pathOfShortName(path);
+    return resolveExisting && files_.fileExists(meant) ? files_.storedPath(meant) : meant;
 }
 
 std::string Tools::displayName(const std::string& path) const {

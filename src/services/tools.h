@@ -30,7 +30,8 @@ class Tools : public FileNameMapper {
     /// relative to the download folder unless it is rooted, with "/" for "\\", "_" for "%", "~" for ">", an
     /// all-capitals name re-cased to one leading capital. Empty when the name is refused: a "*" that is not
     /// allowed, a folder that does not exist, a name that the system cannot hold.
-    /// `resolveExisting`: an existing file is given with the letters as stored.
+    /// `resolveExisting`: an existing file is given with the letters as stored. A short name that was listed
+    /// means the file that it was listed for, without either.
     std::string map_FileName(std::string_view name, bool resolveExisting, bool allowWildcards) const override;
 
     /// The last component of a path as Windows-1252 bytes for a display; "?" for what has no byte.

@@ -85,8 +85,8 @@ std::string replaced(std::string text, const std::string& what, const std::strin
     return text;
 }
 
-/// The documents speak of the first adapter as the server's and of the second as the Organiser's, and of files
-/// that their reader has.
+/// The documents speak of the first adapter as the server's and of the second as the Organiser's, and of
+/// files that their reader has.
 class DocumentExamples : public ServerFixture {
   protected:
     void SetUp() override {
@@ -168,7 +168,8 @@ TEST_F(DocumentExamples, EveryScriptThatIsNamedIsThere) {
         for (const std::string& line : block.lines) {
             for (std::size_t at = 0; (at = line.find("scripts/", at)) != std::string::npos; ++at) {
                 const std::string name = line.substr(at, line.find_first_of(" ;", at) - at);
-                EXPECT_TRUE(fs::exists(fs::path(VELMORA_SOURCE_DIR) / name)) << block.document << ": " << name;
+                EXPECT_TRUE(fs::exists(fs::path(VELMORA_SOURCE_DIR) / name))
+                    << block.document << ": " << name;
                 ++found;
             }
         }

@@ -97,12 +97,9 @@ TEST(ShortNames, OnlyShortNamesWithATildeCanBeMadeUp) {
     EXPECT_FALSE(mayBeMadeUp(""));
 }
 
-TEST(ShortNames, AnswerForANameInEitherCase) {
-    const std::vector<std::string> names = {"Longer 1.txt", "Longer 2.txt"};
-    EXPECT_EQ(nameWithShortName(names, "longer~2.txt"), "Longer 2.txt");
-    EXPECT_EQ(nameWithShortName(names, "LONGER~1.TXT", {"", "LONGER~1.TXT"}), "Longer 2.txt");
-    EXPECT_EQ(nameWithShortName(names, "LONGER~3.TXT"), std::nullopt);
-    EXPECT_EQ(nameWithShortName(names, ""), std::nullopt);
+TEST(ShortNames, KeepOffWhatIsReserved) {
+    EXPECT_THAT(shortNames({"Longer 1.txt", "MEMO"}, {}, {"LONGER~1.TXT", "MEMO"}),
+                ElementsAre("LONGER~2.TXT", "MEMO~1"));
 }
 
 TEST(ShortNames, LongerNumbersTakeTheRoomOfCharacters) {

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <map>
 #include <memory>
 #include <random>
 #include <set>
@@ -84,6 +85,13 @@ class ListedFolder {
         return lines;
     }
 
+    std::string contentUnder(const std::string& line) const {
+        const std::string path = tools_.map_FileName(line, true, false);
+        const std::string replaced = tools_.map_FileName(line, false, false);
+        EXPECT_EQ(files_.storedPath(replaced), path) << "replaced by the same name: " << line;
+        return files_.fileExists(path) ? contentOf(path) : "no file for " + line;
+    }
+
     /// Every file of these names must be opened by one of the listed names, and by one only.
     void expectEachOpened(ListedNames kind, Names names) const {
         Names met = opened(kind);
@@ -105,10 +113,7 @@ class ListedFolder {
     Names opened(ListedNames kind) const {
         Names contents;
         for (const std::string& line : listing(kind)) {
-            const std::string path = tools_.map_FileName(line, true, false);
-            const std::string replaced = tools_.map_FileName(line, false, false);
-            EXPECT_EQ(files_.storedPath(replaced), path) << "replaced by the same name: " << line;
-            contents.push_back(files_.fileExists(path) ? contentOf(path) : "no file for " + line);
+            contents.push_back(contentUnder(line));
         }
         return contents;
     }
@@ -151,16 +156,28 @@ TEST_P(ListedNamesTest, OpenTheirFilesByTheRulesOfWindows) {
 
 class StoredListedNames : public ListedNamesTest {
   protected:
-    void expectAllOpened(const Names& names) {
+    void add(const Names& names) {
         for (const std::string& name : names) {
             folder.write(name, name);
         }
-        ListedFolder(files, rules, folder.path()).expectEachOpened(GetParam(), names);
+    }
+    void expectAllOpened(const Names& names) {
+        add(names);
+        listed.expectEachOpened(GetParam(), names);
+    }
+    /// What each line of a listing opens now.
+    std::map<std::string, std::string> contents(const Names& lines) const {
+        std::map<std::string, std::string> all;
+        for (const std::string& line : lines) {
+            all[line] = listed.contentUnder(line);
+        }
+        return all;
     }
 
     test::TempFolder folder;
     NativeFiles files{folder.path()};
     NativePaths rules{folder.path()};
+    ListedFolder listed{files, rules, folder.path()};
 };
 INSTANTIATE_TEST_SUITE_P(, StoredListedNames, testing::Values(ListedNames::Short, ListedNames::Long),
                          [](const auto& kind) {
@@ -171,7 +188,69 @@ TEST_P(StoredListedNames, OpenTheirFilesOnThisDisk) {
     expectAllOpened(kOrdinaryNames);
 }
 
+TEST_P(StoredListedNames, OpenTheirFilesWhenOthersHaveComeAndGone) {
+    const Names first = {"Longname beta.txt", "Longname gamma.txt", "Longname omega.txt"};
+    add(first);
+    const Names before = listed.listing(GetParam());
+    const auto meant = contents(before);
+    const Names later = {"Longname alpha.txt", "Longname delta.txt", "LONGNA~9.TXT"};
+    add(later);
+    EXPECT_EQ(contents(before), meant);
+    listed.expectEachOpened(GetParam(), both(first, later));
+    EXPECT_EQ(contents(before), meant) << "after another listing";
+}
+
+TEST_P(StoredListedNames, OpenNoOtherFileWhenTheirOwnIsGone) {
+    add({"Longname beta.txt", "Longname gamma.txt"});
+    const Names before = listed.listing(GetParam());
+    files.deleteFile(folder.path("Longname beta.txt"));
+    add({"Longname alpha.txt"});
+    listed.expectEachOpened(GetParam(), {"Longname alpha.txt", "Longname gamma.txt"});
+    for (const auto& [line, content] : contents(before)) {
+        EXPECT_NE(content, "Longname alpha.txt") << line;
+    }
+    add({"Longname beta.txt"});
+    const auto again = contents(before);
+    EXPECT_TRUE(std::any_of(again.begin(), again.end(), [](const auto& line) {
+        return line.second == "Longname beta.txt";
+    })) << "when it comes back";
+}
+
 #ifndef _WIN32
+
+TEST_P(StoredListedNames, OpenTheirFilesWhenOthersComeThatAreCalledLikeThem) {
+    const Names first = {"Longname beta.txt", "Longname gamma.txt"};
+    add(first);
+    const Names before = listed.listing(GetParam());
+    const auto meant = contents(before);
+    const Names later = {"LONGNA~1.TXT", "Longna~1.txt", "longna~1.txt", "Longna~2.txt"};
+    add(later);
+    EXPECT_EQ(contents(before), meant);
+    listed.expectEachOpened(GetParam(), both(first, later));
+}
+
+TEST_P(StoredListedNames, OpenTheirFilesAmongRandomOnesThatComeLater) {
+    const Names names = distinct(randomNames({"a", "B", "~", "1", "2", ".", " ", "%", "\xC3\xA4"}, 400),
+                                 [](std::string_view name) { return std::string(name); });
+    Names present;
+    std::map<std::string, std::string> meant;
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        add({names[i]});
+        present.push_back(names[i]);
+        if (i % 50 != 49) {
+            continue;
+        }
+        listed.expectEachOpened(GetParam(), present);
+        for (const auto& [line, content] : meant) {
+            EXPECT_EQ(listed.contentUnder(line), content) << line;
+        }
+        for (const std::string& line : listed.listing(GetParam())) {
+            if (line.find_first_of("~>") != std::string::npos) {
+                meant[line] = listed.contentUnder(line);
+            }
+        }
+    }
+}
 
 TEST_P(StoredListedNames, OpenTheirFilesWhateverCharactersTheyHold) {
     const Names characters = {"a", "B", "%",  "_",  ">",  "~",    "*",    "?",           ".",

@@ -59,6 +59,9 @@ class FailingFiles : public Files {
         return inner_.fileSize(path);
     }
     std::string storedPath(const std::string& path) const override { return inner_.storedPath(path); }
+    std::string pathOfShortName(const std::string& path) const override {
+        return inner_.pathOfShortName(path);
+    }
     std::unique_ptr<File> open(const std::string& path, OpenMode mode) override {
         script_->count(FileCall::Open);
         return std::make_unique<ForwardingFile>(inner_.open(path, mode), script_);

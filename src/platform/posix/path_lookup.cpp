@@ -3,7 +3,8 @@
 #include <sys/stat.h>
 
 #include <algorithm>
-#include <vector>
+#include <cstdlib>
+#include <memory>
 
 #include "base/byte_text.h"
 #include "base/run_time_error.h"
@@ -45,14 +46,27 @@ void readIfAllowed(const std::string& folder, const Visit& visit) {
     }
 }
 
-std::optional<std::string> findByShortName(const std::string& folder, std::string_view name) {
-    std::vector<std::string> names;
+/// One text for a folder, whatever path leads to it.
+std::string canonical(const std::string& folder) {
+    const std::unique_ptr<char, decltype(&std::free)> path(
+        realpath(folder.empty() ? "." : folder.c_str(), nullptr), &std::free);
+    return path != nullptr ? std::string(path.get()) : folder;
+}
+
+/// The entry with this name, else the first in byte order that differs only by case.
+std::optional<std::string> findByLetters(const std::string& folder, std::string_view name) {
+    std::optional<std::string> found;
     readIfAllowed(folder, [&](std::string_view entry, EntryKind) {
-        names.emplace_back(entry);
+        if (entry == name) {
+            found = entry;
+            return false;
+        }
+        if (sameLetters(entry, name) && (!found || entry < *found)) {
+            found = entry;
+        }
         return true;
     });
-    std::sort(names.begin(), names.end());
-    return nameWithShortName(names, name);
+    return found;
 }
 
 }  // namespace
@@ -83,25 +97,45 @@ bool sameLetters(std::string_view a, std::string_view b) {
     return true;
 }
 
-std::optional<std::string> findEntry(const std::string& folder, std::string_view name) {
-    std::optional<std::string> found;
-    readIfAllowed(folder, [&](std::string_view entry, EntryKind) {
-        if (entry == name) {
-            found = entry;
-            return false;
-        }
-        if (sameLetters(entry, name) && (!found || entry < *found)) {
-            found = entry;
-        }
-        return true;
-    });
-    if (!found && mayBeMadeUp(name)) {
-        found = findByShortName(folder, name);
+std::optional<std::string> PathLookup::findEntry(const std::string& folder, std::string_view name) const {
+    std::optional<std::string> found = findByLetters(folder, name);
+    if (!mayBeMadeUp(name) || found == name) {
+        return found;
     }
-    return found;
+    if (const std::optional<std::string> given = given_.nameOf(canonical(folder), name)) {
+        return findByLetters(folder, *given).value_or(*given);
+    }
+    return found ? found : findByShortName(folder, name);
 }
 
-FoundPath lookUpPath(const std::string& path) {
+std::optional<std::string> PathLookup::findByShortName(const std::string& folder,
+                                                       std::string_view name) const {
+    std::vector<std::string> names;
+    readIfAllowed(folder, [&](std::string_view entry, EntryKind) {
+        names.emplace_back(entry);
+        return true;
+    });
+    std::sort(names.begin(), names.end());
+    shortNames(folder, names);
+    return given_.nameOf(canonical(folder), name);
+}
+
+std::vector<std::string> PathLookup::shortNames(const std::string& folder,
+                                                const std::vector<std::string>& sortedNames) const {
+    return given_.give(canonical(folder), sortedNames);
+}
+
+std::string PathLookup::pathOfShortName(const std::string& path) const {
+    const std::size_t nameStart = path.rfind('/') + 1;
+    if (!mayBeMadeUp(std::string_view(path).substr(nameStart))) {
+        return path;
+    }
+    const std::string folder = lookUp(path.substr(0, nameStart) + ".").path;
+    const std::optional<std::string> given = given_.nameOf(canonical(folder), path.substr(nameStart));
+    return given ? path.substr(0, nameStart) + *given : path;
+}
+
+FoundPath PathLookup::lookUp(const std::string& path) const {
     if (path.empty() || path.find('\0') != std::string::npos) {
         throw RunTimeError(ErrorNumber::BadFileName, path);
     }

@@ -16,10 +16,8 @@
 #include "platform/posix/descriptor.h"
 #include "platform/posix/disk_flush.h"
 #include "platform/posix/folder_entries.h"
-#include "platform/posix/path_lookup.h"
 #include "platform/posix/posix_file.h"
 #include "platform/posix/system_errors.h"
-#include "platform/short_names.h"
 
 namespace velmora {
 namespace {
@@ -79,9 +77,9 @@ void flushContents(const std::string& path) {
 }
 
 /// What a path leads to, found without regard to case; nothing when it cannot be found for any reason.
-std::optional<struct stat> foundStatus(const std::string& path) {
+std::optional<struct stat> foundStatus(const PathLookup& lookup, const std::string& path) {
     try {
-        return statusOf(lookUpPath(path).path);
+        return statusOf(lookup.lookUp(path).path);
     } catch (const RunTimeError&) {
         return std::nullopt;
     }
@@ -92,22 +90,22 @@ std::optional<struct stat> foundStatus(const std::string& path) {
 PosixFiles::PosixFiles(std::string temporaryFolder) : temporaryFolder_(std::move(temporaryFolder)) {}
 
 bool PosixFiles::fileExists(const std::string& path) const {
-    const std::optional<struct stat> status = foundStatus(path);
+    const std::optional<struct stat> status = foundStatus(lookup_, path);
     return status && S_ISREG(status->st_mode);
 }
 
 bool PosixFiles::folderExists(const std::string& path) const {
-    const std::optional<struct stat> status = foundStatus(path);
+    const std::optional<struct stat> status = foundStatus(lookup_, path);
     return status && S_ISDIR(status->st_mode);
 }
 
 std::uint64_t PosixFiles::fileSize(const std::string& path) const {
-    return static_cast<std::uint64_t>(requireFile(lookUpPath(path).path).st_size);
+    return static_cast<std::uint64_t>(requireFile(lookup_.lookUp(path).path).st_size);
 }
 
 std::string PosixFiles::storedPath(const std::string& path) const {
     try {
-        const std::string found = lookUpPath(path).path;
+        const std::string found = lookup_.lookUp(path).path;
         const std::optional<struct stat> status = statusOf(found);
         if (!status || !S_ISREG(status->st_mode)) {
             return path;
@@ -115,14 +113,22 @@ std::string PosixFiles::storedPath(const std::string& path) const {
         // On a file system that ignores case itself the path was found as it was written; ask the folder.
         const std::size_t nameStart = found.rfind('/') + 1;
         const std::string folder = found.substr(0, nameStart);
-        return folder + findEntry(folder, found.substr(nameStart)).value_or(found.substr(nameStart));
+        return folder + lookup_.findEntry(folder, found.substr(nameStart)).value_or(found.substr(nameStart));
+    } catch (const RunTimeError&) {
+        return path;
+    }
+}
+
+std::string PosixFiles::pathOfShortName(const std::string& path) const {
+    try {
+        return lookup_.pathOfShortName(path);
     } catch (const RunTimeError&) {
         return path;
     }
 }
 
 std::unique_ptr<File> PosixFiles::open(const std::string& path, OpenMode mode) {
-    const FoundPath found = lookUpPath(path);
+    const FoundPath found = lookup_.lookUp(path);
     if (found.exists && mode == OpenMode::CreateNew) {
         throw RunTimeError(ErrorNumber::FileAlreadyExists, found.path);
     }
@@ -149,7 +155,7 @@ std::unique_ptr<File> PosixFiles::open(const std::string& path, OpenMode mode) {
 }
 
 void PosixFiles::deleteFile(const std::string& path) {
-    const std::string found = lookUpPath(path).path;
+    const std::string found = lookup_.lookUp(path).path;
     requireFile(found);
     if (unlink(found.c_str()) != 0) {
         throw systemError(errno, found);
@@ -157,7 +163,7 @@ void PosixFiles::deleteFile(const std::string& path) {
 }
 
 void PosixFiles::createFolder(const std::string& path) {
-    const std::string found = lookUpPath(path).path;
+    const std::string found = lookup_.lookUp(path).path;
     for (std::size_t end = found.find('/', 1);; end = found.find('/', end + 1)) {
         const std::string folder = found.substr(0, end);
         if (mkdir(folder.c_str(), 0777) != 0) {
@@ -177,8 +183,8 @@ void PosixFiles::createFolder(const std::string& path) {
 }
 
 void PosixFiles::replaceFile(const std::string& from, const std::string& to) {
-    const std::string source = lookUpPath(from).path;
-    const std::string target = lookUpPath(to).path;
+    const std::string source = lookup_.lookUp(from).path;
+    const std::string target = lookup_.lookUp(to).path;
     requireFile(source);
     if (const std::optional<struct stat> old = statusOf(target)) {
         if (!S_ISREG(old->st_mode)) {
@@ -196,7 +202,7 @@ void PosixFiles::replaceFile(const std::string& from, const std::string& to) {
 }
 
 std::string PosixFiles::createTemporaryFile(const std::string& folder) {
-    const std::string place = lookUpPath(folder.empty() ? temporaryFolder_ : folder).path;
+    const std::string place = lookup_.lookUp(folder.empty() ? temporaryFolder_ : folder).path;
     std::string path = (place.back() == '/' ? place : place + "/") + "velmora-XXXXXX";
     const Descriptor file(withoutInterruption([&] { return mkostemp(path.data(), O_CLOEXEC); }));
     if (file.number() == -1) {
@@ -215,10 +221,11 @@ std::string PosixFiles::createTemporaryFile(const std::string& folder) {
 
 void PosixFiles::listFiles(const std::string& folder, ShortNames shortNames,
                            const std::function<void(const FolderEntry&)>& visit) const {
-    const std::vector<ListedEntry> entries = sortedEntries(lookUpPath(folder).path);
+    const std::string found = lookup_.lookUp(folder).path;
+    const std::vector<ListedEntry> entries = sortedEntries(found);
     std::vector<std::string> shorts(entries.size());
     if (shortNames == ShortNames::Include) {
-        shorts = velmora::shortNames(namesOf(entries));
+        shorts = lookup_.shortNames(found, namesOf(entries));
     }
     for (std::size_t i = 0; i < entries.size(); ++i) {
         if (entries[i].isFile) {

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "base/files.h"
+#include "platform/posix/path_lookup.h"
 
 namespace velmora {
 
@@ -20,6 +21,7 @@ class PosixFiles : public Files {
     bool folderExists(const std::string& path) const override;
     std::uint64_t fileSize(const std::string& path) const override;
     std::string storedPath(const std::string& path) const override;
+    std::string pathOfShortName(const std::string& path) const override;
     std::unique_ptr<File> open(const std::string& path, OpenMode mode) override;
     void deleteFile(const std::string& path) override;
     void createFolder(const std::string& path) override;
@@ -32,6 +34,7 @@ class PosixFiles : public Files {
 
   private:
     std::string temporaryFolder_;
+    PathLookup lookup_;
 };
 
 }  // namespace velmora

@@ -8,12 +8,10 @@
 #include <vector>
 
 #include "base/run_time_error.h"
-#include "platform/short_names.h"
 #include "platform/win32/win32_errors.h"
 #include "platform/win32/win32_file.h"
 #include "platform/win32/win32_folder.h"
 #include "platform/win32/win32_handle.h"
-#include "platform/win32/win32_lookup.h"
 #include "platform/windows_paths.h"
 
 namespace velmora {
@@ -37,9 +35,9 @@ std::optional<Win32Status> statusOf(const std::string& path) {
     return readWin32Status(path, status) == ERROR_SUCCESS ? std::optional(status) : std::nullopt;
 }
 
-std::optional<Win32Status> foundStatus(const std::string& path) {
+std::optional<Win32Status> foundStatus(const Win32Lookup& lookup, const std::string& path) {
     try {
-        return statusOf(lookUpWin32Path(path));
+        return statusOf(lookup.lookUp(path));
     } catch (const RunTimeError&) {
         return std::nullopt;
     }
@@ -124,22 +122,22 @@ Win32Files::Win32Files(std::string temporaryFolder, Wait wait)
 }
 
 bool Win32Files::fileExists(const std::string& path) const {
-    const std::optional<Win32Status> status = foundStatus(path);
+    const std::optional<Win32Status> status = foundStatus(lookup_, path);
     return status && !status->isFolder;
 }
 
 bool Win32Files::folderExists(const std::string& path) const {
-    const std::optional<Win32Status> status = foundStatus(path);
+    const std::optional<Win32Status> status = foundStatus(lookup_, path);
     return status && status->isFolder;
 }
 
 std::uint64_t Win32Files::fileSize(const std::string& path) const {
-    return requireFile(lookUpWin32Path(path)).size;
+    return requireFile(lookup_.lookUp(path)).size;
 }
 
 std::string Win32Files::storedPath(const std::string& path) const {
     try {
-        const std::string found = lookUpWin32Path(path);
+        const std::string found = lookup_.lookUp(path);
         const std::optional<Win32Status> status = statusOf(found);
         return status && !status->isFolder ? withStoredLetters(found) : path;
     } catch (const RunTimeError&) {
@@ -147,8 +145,16 @@ std::string Win32Files::storedPath(const std::string& path) const {
     }
 }
 
+std::string Win32Files::pathOfShortName(const std::string& path) const {
+    try {
+        return lookup_.pathOfShortName(path);
+    } catch (const RunTimeError&) {
+        return path;
+    }
+}
+
 std::unique_ptr<File> Win32Files::open(const std::string& path, OpenMode mode) {
-    const std::string found = lookUpWin32Path(path);
+    const std::string found = lookup_.lookUp(path);
     const std::optional<Win32Status> status = statusOf(found);
     if (status && mode == OpenMode::CreateNew) {
         throw RunTimeError(ErrorNumber::FileAlreadyExists, found);
@@ -173,7 +179,7 @@ std::unique_ptr<File> Win32Files::open(const std::string& path, OpenMode mode) {
 }
 
 void Win32Files::deleteFile(const std::string& path) {
-    const std::string found = lookUpWin32Path(path);
+    const std::string found = lookup_.lookUp(path);
     requireFile(found);
     if (DeleteFileA(found.c_str()) == 0) {
         throw win32Error(GetLastError(), found);
@@ -181,7 +187,7 @@ void Win32Files::deleteFile(const std::string& path) {
 }
 
 void Win32Files::createFolder(const std::string& path) {
-    const std::string found = lookUpWin32Path(path);
+    const std::string found = lookup_.lookUp(path);
     const std::size_t root = WindowsPaths({}).drive(found).size();
     for (std::size_t end = found.find_first_of("\\/", root + 1);; end = found.find_first_of("\\/", end + 1)) {
         const std::string folder = found.substr(0, end);
@@ -202,8 +208,8 @@ void Win32Files::createFolder(const std::string& path) {
 }
 
 void Win32Files::replaceFile(const std::string& from, const std::string& to) {
-    const std::string source = lookUpWin32Path(from);
-    std::string target = lookUpWin32Path(to);
+    const std::string source = lookup_.lookUp(from);
+    std::string target = lookup_.lookUp(to);
     requireFile(source);
     if (const std::optional<Win32Status> old = statusOf(target)) {
         if (old->isFolder) {
@@ -225,7 +231,7 @@ void Win32Files::replaceFile(const std::string& from, const std::string& to) {
 }
 
 std::string Win32Files::createTemporaryFile(const std::string& folder) {
-    const std::string place = lookUpWin32Path(folder.empty() ? temporaryFolder_ : folder);
+    const std::string place = lookup_.lookUp(folder.empty() ? temporaryFolder_ : folder);
     std::array<char, MAX_PATH> path{};
     if (GetTempFileNameA(place.c_str(), "vel", 0, path.data()) == 0) {
         throw win32Error(GetLastError(), place);
@@ -235,11 +241,11 @@ std::string Win32Files::createTemporaryFile(const std::string& folder) {
 
 void Win32Files::listFiles(const std::string& folder, ShortNames shortNames,
                            const std::function<void(const FolderEntry&)>& visit) const {
-    const std::vector<Win32Entry> entries = readWin32Folder(withSeparator(lookUpWin32Path(folder)));
+    const std::string found = withSeparator(lookup_.lookUp(folder));
+    const std::vector<Win32Entry> entries = readWin32Folder(found);
     std::vector<std::string> shorts(entries.size());
     if (shortNames == ShortNames::Include) {
-        const FolderNames names = folderNames(entries);
-        shorts = velmora::shortNames(names.names, names.kept);
+        shorts = lookup_.shortNames(found, entries);
     }
     for (std::size_t i = 0; i < entries.size(); ++i) {
         if (entries[i].isFile) {

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "base/files.h"
+#include "platform/win32/win32_lookup.h"
 
 namespace velmora {
 
@@ -29,6 +30,7 @@ class Win32Files : public Files {
     bool folderExists(const std::string& path) const override;
     std::uint64_t fileSize(const std::string& path) const override;
     std::string storedPath(const std::string& path) const override;
+    std::string pathOfShortName(const std::string& path) const override;
     std::unique_ptr<File> open(const std::string& path, OpenMode mode) override;
     void deleteFile(const std::string& path) override;
     void createFolder(const std::string& path) override;
@@ -45,6 +47,7 @@ class Win32Files : public Files {
 
   private:
     std::string temporaryFolder_;
+    Win32Lookup lookup_;
     Wait wait_;
 };
 

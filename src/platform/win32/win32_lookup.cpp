@@ -107,16 +107,12 @@ std::string storedName(const std::string& folder, const std::string& component) 
     return narrowName(data).value_or(component);
 }
 
-std::string longName(const std::string& folder, const std::string& component) {
-    if (!mayBeMadeUp(component) || !isMissing(folder + component)) {
-        return component;
-    }
-    try {
-        const FolderNames names = folderNames(readWin32Folder(folder));
-        return nameWithShortName(names.names, component, names.kept).value_or(component);
-    } catch (const RunTimeError&) {
-        return component;  // the operation on the path will tell what is wrong with it
-    }
+/// One text for a folder, whatever path leads to it but for links.
+std::string absoluteFolder(const std::string& folder) {
+    std::array<char, MAX_PATH> path{};
+    const DWORD length =
+        GetFullPathNameA((folder + ".").c_str(), static_cast<DWORD>(path.size()), path.data(), nullptr);
+    return upperCase(length > 0 && length < path.size() ? path.data() : folder);
 }
 
 }  // namespace
@@ -136,9 +132,47 @@ std::uint32_t readWin32Status(const std::string& path, Win32Status& status) {
     return isWindowsSeparator(path.back()) && !status.isFolder ? ERROR_DIRECTORY : ERROR_SUCCESS;
 }
 
-std::string lookUpWin32Path(const std::string& path) {
+std::string Win32Lookup::lookUp(const std::string& path) const {
     requireFilePath(path);
-    return path.find('~') != std::string::npos && isMissing(path) ? withComponents(path, longName) : path;
+    if (path.find('~') == std::string::npos || !isMissing(path)) {
+        return path;
+    }
+    return withComponents(path, [this](const std::string& folder, const std::string& component) {
+        return longName(folder, component);
+    });
+}
+
+std::string Win32Lookup::longName(const std::string& folder, const std::string& component) const {
+    if (!mayBeMadeUp(component) || !isMissing(folder + component)) {
+        return component;
+    }
+    if (const std::optional<std::string> given = given_.nameOf(absoluteFolder(folder), component)) {
+        return *given;
+    }
+    try {
+        shortNames(folder, readWin32Folder(folder));
+        return given_.nameOf(absoluteFolder(folder), component).value_or(component);
+    } catch (const RunTimeError&) {
+        return component;  // the operation on the path will tell what is wrong with it
+    }
+}
+
+std::string Win32Lookup::pathOfShortName(const std::string& path) const {
+    const std::size_t separator = path.find_last_of(kWindowsSeparators);
+    const std::size_t nameStart = separator == std::string::npos ? 0 : separator + 1;
+    if (!mayBeMadeUp(std::string_view(path).substr(nameStart))) {
+        return path;
+    }
+    const std::string folder = lookUp(path.substr(0, nameStart) + ".");
+    const std::optional<std::string> given =
+        given_.nameOf(absoluteFolder(folder.substr(0, folder.size() - 1)), path.substr(nameStart));
+    return given ? path.substr(0, nameStart) + *given : path;
+}
+
+std::vector<std::string> Win32Lookup::shortNames(const std::string& folder,
+                                                 const std::vector<Win32Entry>& entries) const {
+    const FolderNames names = folderNames(entries);
+    return given_.give(absoluteFolder(folder), names.names, names.kept);
 }
 
 std::string withStoredLetters(const std::string& path) {
