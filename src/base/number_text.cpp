@@ -56,59 +56,71 @@ Integer toInteger(double value) {
     return static_cast<Integer>(rounded);
 }
 
+/// Reads the longest prefix of a text that is a number; blanks count for nothing, wherever they stand.
+class NumericPrefix {
+  public:
+    explicit NumericPrefix(std::string_view text) : text_(text) {}
+
+    /// The number with "e" before its exponent and no "+"; empty when the text does not begin with one.
+    std::string read() {
+        std::string number = readSign();
+        const std::size_t sign = number.size();
+        number += readDigits();
+        bool digits = number.size() > sign;
+        if (peek() == '.') {
+            number += take();
+            const std::string decimals = readDigits();
+            digits = digits || !decimals.empty();
+            number += decimals;
+        }
+        return digits ? number + readExponent() : "";
+    }
+
+  private:
+    /// The next character that is no blank, or a zero byte at the end.
+    char peek() {
+        at_ = std::min(text_.find_first_not_of(" \t\n\r", at_), text_.size());
+        return at_ < text_.size() ? text_[at_] : '\0';
+    }
+    char take() { return text_[at_++]; }
+
+    std::string readSign() {
+        const char sign = peek();
+        if (sign != '+' && sign != '-') {
+            return "";
+        }
+        take();
+        return sign == '-' ? "-" : "";
+    }
+    std::string readDigits() {
+        std::string digits;
+        while (isDigit(peek())) {
+            digits += take();
+        }
+        return digits;
+    }
+    std::string readExponent() {
+        constexpr std::string_view kMarks = "EeDd";
+        const char mark = peek();
+        if (mark == '\0' || kMarks.find(mark) == std::string_view::npos) {
+            return "";
+        }
+        take();
+        const std::string sign = readSign();
+        const std::string digits = readDigits();
+        return digits.empty() ? "" : "e" + sign + digits;
+    }
+
+    std::string_view text_;
+    std::size_t at_ = 0;
+};
+
 }  // namespace
 
 double numericValue(std::string_view text) {
-    std::string number;
-    std::size_t i = 0;
-    const auto skipBlanks = [&] {
-        while (i < text.size() && (text[i] == ' ' || text[i] == '\t' || text[i] == '\n' || text[i] == '\r')) {
-            ++i;
-        }
-    };
-    const auto peek = [&]() -> char {
-        skipBlanks();
-        return i < text.size() ? text[i] : '\0';
-    };
-    if (peek() == '+' || peek() == '-') {
-        if (text[i] == '-') {
-            number += '-';
-        }
-        ++i;
-    }
-    bool digits = false;
-    while (isDigit(peek())) {
-        number += text[i++];
-        digits = true;
-    }
-    if (peek() == '.') {
-        number += text[i++];
-        while (isDigit(peek())) {
-            number += text[i++];
-            digits = true;
-        }
-    }
-    if (!digits) {
+    const std::string number = NumericPrefix(text).read();
+    if (number.empty()) {
         return 0;
-    }
-    const char mark = peek();
-    if (mark == 'E' || mark == 'e' || mark == 'D' || mark == 'd') {
-        ++i;
-        std::string exponent = "e";
-        if (peek() == '+' || peek() == '-') {
-            exponent += text[i++];
-        }
-        if (exponent.back() == '+') {
-            exponent.pop_back();
-        }
-        bool exponentDigits = false;
-        while (isDigit(peek())) {
-            exponent += text[i++];
-            exponentDigits = true;
-        }
-        if (exponentDigits) {
-            number += exponent;
-        }
     }
     double value = 0;
     const auto [end, error] = std::from_chars(number.data(), number.data() + number.size(), value);
