@@ -2,6 +2,7 @@
 #pragma once
 
 #include <algorithm>
+#include <array>
 #include <cstdio>
 #include <functional>
 #include <string>
@@ -32,10 +33,10 @@ class ConsoleTrace : public TraceSink {
                std::find(categories_.begin(), categories_.end(), category) != categories_.end();
     }
     void addline(const std::string& text) override {
-        char stamp[32];
+        std::array<char, 32> stamp{};
         const double seconds = std::chrono::duration<double>(clock_.monotonic() - start_).count();
-        std::snprintf(stamp, sizeof stamp, "%.3f\t", seconds);
-        output_(stamp + text);
+        std::snprintf(stamp.data(), stamp.size(), "%.3f\t", seconds);
+        output_(stamp.data() + text);
     }
 
   private:

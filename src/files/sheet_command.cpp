@@ -1,5 +1,7 @@
 #include "files/sheet_command.h"
 
+#include <array>
+
 #include "arguments/usage_error.h"
 #include "spreadsheet/spreadsheet.h"
 #include "spreadsheet/text_reader.h"
@@ -21,12 +23,18 @@ int chosenFormat(const std::optional<int>& given, const char* option, const std:
 }  // namespace
 
 int sheetFormatOf(const std::string& extension) {
-    const struct {
+    struct Row {
         const char* extension;
         int format;
-    } known[] = {{"wks", kFormatWks}, {"wk1", kFormatWks}, {"dif", kFormatDif}, {"csv", kFormatCsv},
-                 {"txt", kFormatTxt}, {"tab", kFormatTab}, {"tsv", kFormatTab}};
-    for (const auto& row : known) {
+    };
+    static constexpr auto kKnown = std::to_array<Row>({{"wks", kFormatWks},
+                                                       {"wk1", kFormatWks},
+                                                       {"dif", kFormatDif},
+                                                       {"csv", kFormatCsv},
+                                                       {"txt", kFormatTxt},
+                                                       {"tab", kFormatTab},
+                                                       {"tsv", kFormatTab}});
+    for (const Row& row : kKnown) {
         if (extension == row.extension) {
             return row.format;
         }

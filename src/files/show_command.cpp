@@ -1,5 +1,7 @@
 #include "files/show_command.h"
 
+#include <array>
+
 #include "arguments/usage_error.h"
 #include "files/boot_command.h"
 #include "files/data_command.h"
@@ -17,10 +19,13 @@ struct KindName {
     FileKind kind;
 };
 
-constexpr KindName kKinds[] = {{"wks", FileKind::Worksheet},   {"dif", FileKind::Dif},
-                               {"data", FileKind::DataFile},   {"csv", FileKind::CsvFile},
-                               {"block", FileKind::BlockFile}, {"opl", FileKind::Procedure},
-                               {"boot", FileKind::BootFile}};
+constexpr auto kKinds = std::to_array<KindName>({{"wks", FileKind::Worksheet},
+                                                 {"dif", FileKind::Dif},
+                                                 {"data", FileKind::DataFile},
+                                                 {"csv", FileKind::CsvFile},
+                                                 {"block", FileKind::BlockFile},
+                                                 {"opl", FileKind::Procedure},
+                                                 {"boot", FileKind::BootFile}});
 
 bool beginsWith(std::string_view bytes, std::string_view start) {
     return bytes.substr(0, start.size()) == start;
@@ -90,9 +95,12 @@ FileKind recogniseFile(std::string_view bytes, const std::string& extension) {
     if (beginsWith(bytes, "TABLE\r") || beginsWith(bytes, "TABLE\n")) {
         return FileKind::Dif;
     }
-    constexpr KindName kExtensions[] = {{"wks", FileKind::Worksheet}, {"wk1", FileKind::Worksheet},
-                                        {"dif", FileKind::Dif},       {"odb", FileKind::DataFile},
-                                        {"txt", FileKind::DataFile},  {"csv", FileKind::CsvFile}};
+    constexpr auto kExtensions = std::to_array<KindName>({{"wks", FileKind::Worksheet},
+                                                          {"wk1", FileKind::Worksheet},
+                                                          {"dif", FileKind::Dif},
+                                                          {"odb", FileKind::DataFile},
+                                                          {"txt", FileKind::DataFile},
+                                                          {"csv", FileKind::CsvFile}});
     for (const KindName& entry : kExtensions) {
         if (extension == entry.name) {
             return entry.kind;

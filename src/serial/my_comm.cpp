@@ -10,7 +10,7 @@ namespace {
 constexpr int kDtrLine = 2;
 constexpr int kRtsLine = 3;
 
-constexpr char kPortAlreadyOpenText[] = "Port already open";
+constexpr const char* kPortAlreadyOpenText = "Port already open";
 
 }  // namespace
 

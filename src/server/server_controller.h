@@ -1,6 +1,8 @@
 // The server controller: the server's state, what drives it and what stops it.
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <optional>
@@ -147,7 +149,7 @@ class ServerController : public ServerWindow {
   private:
     /// The questions that must not be on the screen twice.
     enum class Question { UserInterrupt, OnExit, OnShutdown };
-    static constexpr int kQuestions = 3;
+    static constexpr std::size_t kQuestions = 3;
 
     /// Sets a flag or counts a call for as long as a scope lasts.
     class Scope;
@@ -197,7 +199,7 @@ class ServerController : public ServerWindow {
     bool pollFailed_ = false;  // the port's input count failed, and the server still runs
     bool closed_ = false;
 
-    bool asking_[kQuestions] = {};
+    std::array<bool, kQuestions> asking_{};
     int stopping_ = 0;                     // PLP_Stop is on the stack
     int starting_ = 0;                     // PLP_Start is on the stack
     int linkCalls_ = 0;                    // PLP_ReceiveEvent or PLP_Timeout is on the stack

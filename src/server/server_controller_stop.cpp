@@ -14,7 +14,7 @@ bool ServerController::stopRequestPasses(std::int32_t next) {
     const ServerOptions& options = parts_.options;
     const bool exit = next == OnExit;
     const Question question = exit ? Question::OnExit : Question::OnShutdown;
-    if (options.AskUser && asking_[static_cast<int>(question)]) {
+    if (options.AskUser && asking_[static_cast<std::size_t>(question)]) {
         return false;
     }
     if (options.RestoreWin && !options.HideWin) {
@@ -64,7 +64,7 @@ void ServerController::stopLink() {
 }
 
 bool ServerController::ask(Question question, BoxIcon icon, const std::string& text, bool foreground) {
-    bool& onScreen = asking_[static_cast<int>(question)];
+    bool& onScreen = asking_[static_cast<std::size_t>(question)];
     if (onScreen) {
         return false;
     }

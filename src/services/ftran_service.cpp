@@ -1,5 +1,8 @@
 #include "services/ftran_service.h"
 
+#include <array>
+#include <cstddef>
+
 #include "base/byte_text.h"
 #include "services/block_file.h"
 #include "services/name_extension.h"
@@ -18,12 +21,12 @@ struct DataFileForm {
 };
 
 /// By DataFileType; a value outside the table stands for the first.
-constexpr DataFileForm kDataFileForms[] = {{".odb", '\0'}, {".txt", '\0'}, {".csv", ','}, {".csv", ';'}};
+constexpr std::array<DataFileForm, 4> kDataFileForms = {
+    {{".odb", '\0'}, {".txt", '\0'}, {".csv", ','}, {".csv", ';'}}};
 
 DataFileForm dataFileForm(std::int32_t dataFileType) {
-    const bool known =
-        dataFileType >= 0 && dataFileType < static_cast<std::int32_t>(std::size(kDataFileForms));
-    return kDataFileForms[known ? dataFileType : 0];
+    const auto index = static_cast<std::size_t>(dataFileType);
+    return kDataFileForms[index < kDataFileForms.size() ? index : 0];
 }
 
 std::string blockExtension(int type) {

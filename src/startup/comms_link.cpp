@@ -3,6 +3,7 @@
 #include <exception>
 #include <new>
 #include <optional>
+#include <utility>
 
 #include "base/byte_text.h"
 #include "base/run_time_error.h"
@@ -36,8 +37,8 @@ std::string withoutFinalSeparator(std::string path, char separator) {
 
 }  // namespace
 
-CommsLink::CommsLink(const StartupParts& parts, const RunOverrides& overrides)
-    : parts_(parts), overrides_(overrides) {}
+CommsLink::CommsLink(StartupParts parts, const RunOverrides& overrides)
+    : parts_(std::move(parts)), overrides_(overrides) {}
 
 StartupReport CommsLink::Main(const std::string& commandLine) {
     if (parts_.files == nullptr) {

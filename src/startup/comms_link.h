@@ -53,7 +53,7 @@ struct StartupReport {
 /// Starts the program.
 class CommsLink {
   public:
-    CommsLink(const StartupParts& parts, const RunOverrides& overrides);
+    CommsLink(StartupParts parts, const RunOverrides& overrides);
 
     /// Runs all steps and shows the window. `commandLine` is the whole command line behind the program's
     /// name; "-debug", in any case, turns debug mode on. An error in a step is shown in a box with the name

@@ -1,6 +1,7 @@
 #include "startup/ini_settings_store.h"
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 #include "base/byte_text.h"
@@ -12,11 +13,12 @@ IniSettingsStore::IniSettingsStore(clsIniFile& ini, const RunOverrides& override
     : ini_(ini), overrides_(overrides) {}
 
 bool IniSettingsStore::overridden(const std::string& section, const std::string& key) const {
-    const std::pair<const char*, bool> given[] = {{"DOWNLOADPATH", overrides_.folder.has_value()},
-                                                  {"PORT", overrides_.port.has_value()},
-                                                  {"BAUD", overrides_.baud.has_value()},
-                                                  {"DATAFILETYPE", overrides_.fileType.has_value()},
-                                                  {"AUTOSTART", overrides_.autoStart.has_value()}};
+    const std::array<std::pair<const char*, bool>, 5> given = {
+        {{"DOWNLOADPATH", overrides_.folder.has_value()},
+         {"PORT", overrides_.port.has_value()},
+         {"BAUD", overrides_.baud.has_value()},
+         {"DATAFILETYPE", overrides_.fileType.has_value()},
+         {"AUTOSTART", overrides_.autoStart.has_value()}}};
     const std::string wanted = upperCase(key);
     return upperCase(section) == "SETTINGS" &&
            std::any_of(std::begin(given), std::end(given),

@@ -49,7 +49,7 @@ std::optional<std::string> Registry::RegReadValue(const std::string& name) {
     if (const auto* number = std::get_if<std::uint32_t>(&*value)) {
         return hexText(*number);
     }
-    const std::string& text = std::get<std::string>(*value);
+    const auto& text = std::get<std::string>(*value);
     return text.substr(0, text.find('\0'));
 }
 

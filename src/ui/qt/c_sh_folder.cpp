@@ -4,6 +4,7 @@
 #include <QScreen>
 #include <QStandardPaths>
 #include <QTimer>
+#include <array>
 
 #include "ui/qt/folder_dialog.h"
 #include "ui/qt/qt_text.h"
@@ -15,13 +16,17 @@ std::string specialFolder(int number) {
         int number;
         QStandardPaths::StandardLocation place;
     };
-    static constexpr Row kRows[] = {
-        {5, QStandardPaths::DocumentsLocation},    {13, QStandardPaths::MusicLocation},
-        {14, QStandardPaths::MoviesLocation},      {16, QStandardPaths::DesktopLocation},
-        {20, QStandardPaths::FontsLocation},       {26, QStandardPaths::GenericConfigLocation},
-        {28, QStandardPaths::GenericDataLocation}, {39, QStandardPaths::PicturesLocation},
+    static constexpr auto kRows = std::to_array<Row>({
+        {5, QStandardPaths::DocumentsLocation},
+        {13, QStandardPaths::MusicLocation},
+        {14, QStandardPaths::MoviesLocation},
+        {16, QStandardPaths::DesktopLocation},
+        {20, QStandardPaths::FontsLocation},
+        {26, QStandardPaths::GenericConfigLocation},
+        {28, QStandardPaths::GenericDataLocation},
+        {39, QStandardPaths::PicturesLocation},
         {40, QStandardPaths::HomeLocation},
-    };
+    });
     constexpr int kDrives = 17;
     if (number == kDrives) {
         return systemPath(QDir::rootPath());

@@ -7,10 +7,12 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <utility>
 
 namespace velmora {
 
-FolderDialog::FolderDialog(const Options& options, QWidget* owner) : QFileDialog(owner), options_(options) {
+FolderDialog::FolderDialog(Options options, QWidget* owner)
+    : QFileDialog(owner), options_(std::move(options)) {
     setOption(DontUseNativeDialog);
     setFileMode(Directory);
     setOption(ShowDirsOnly, !options_.files);

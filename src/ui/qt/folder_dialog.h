@@ -22,7 +22,7 @@ class FolderDialog : public QFileDialog {
         bool resizable = false;
     };
 
-    FolderDialog(const Options& options, QWidget* owner);
+    FolderDialog(Options options, QWidget* owner);
 
     void setStatusText(const QString& text);
     void setOkEnabled(bool on);
