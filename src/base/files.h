@@ -59,6 +59,9 @@ struct FolderEntry {
 /// Whether a listing computes short names, which needs all names of the folder at once.
 enum class ShortNames { Omit, Include };
 
+/// Who may look into a new folder: whoever the system lets look by default, or its owner alone.
+enum class FolderRights { Usual, OwnerOnly };
+
 class Files {
   public:
     virtual ~Files() = default;
@@ -75,8 +78,9 @@ class Files {
 
     virtual std::unique_ptr<File> open(const std::string& path, OpenMode mode) = 0;
     virtual void deleteFile(const std::string& path) = 0;
-    /// Makes a folder and the missing folders on the way to it; an existing one is fine.
-    virtual void createFolder(const std::string& path) = 0;
+    /// Makes a folder and the missing folders on the way to it, all with these rights; an existing one is
+    /// fine and keeps its own. On Windows new folders have the rights of their parent in any case.
+    virtual void createFolder(const std::string& path, FolderRights rights = FolderRights::Usual) = 0;
     /// Renames `from` over `to` in one step, so that `to` is always either the old or the new file, and hands
     /// both to the disk.
     /// Both must lie on one volume.

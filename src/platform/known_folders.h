@@ -13,6 +13,8 @@ class KnownFolders {
 
     /// Where configuration files of the user go.
     virtual std::string applicationData() const = 0;
+    /// What this program keeps for itself and the user need not see, a folder of its own.
+    virtual std::string programData() const = 0;
     /// The user's documents.
     virtual std::string documents() const = 0;
     /// Where files go that nobody keeps.

@@ -190,6 +190,17 @@ TEST_F(PosixFilesTest, WithoutAccessIsAPathAccessError) {
     EXPECT_EQ(errorOf([&] { files.createFolder(folder.path("closed/new")); }), 75);
 }
 
+TEST_F(PosixFilesTest, AFolderForItsOwnerAloneHidesTheWayToIt) {
+    files.createFolder(folder.path("data/own"), FolderRights::OwnerOnly);
+    for (const char* made : {"data", "data/own"}) {
+        EXPECT_EQ(std::filesystem::status(folder.path(made)).permissions(), std::filesystem::perms(0700))
+            << made;
+    }
+    std::filesystem::permissions(folder.path("data"), std::filesystem::perms(0755));
+    files.createFolder(folder.path("data/own"), FolderRights::OwnerOnly);
+    EXPECT_EQ(std::filesystem::status(folder.path("data")).permissions(), std::filesystem::perms(0755));
+}
+
 TEST_F(PosixFilesTest, AFolderThatMayBeSearchedButNotReadStillOpensExactNames) {
     std::filesystem::permissions(folder.path(), std::filesystem::perms(0755));
     const std::string dark = folder.makeFolder("dark");

@@ -49,6 +49,13 @@ TEST(ShellFolders, ApplicationDataIsTheUsersOwn) {
     EXPECT_EQ(lstrcmpiA(ShellFolders().applicationData().c_str(), fromEnvironment), 0);
 }
 
+TEST(ShellFolders, WhatIsOursStaysOnThisMachine) {
+    char fromEnvironment[MAX_PATH] = {};
+    ASSERT_GT(GetEnvironmentVariableA("LOCALAPPDATA", fromEnvironment, MAX_PATH), 0U);
+    const std::string expected = fromEnvironment + std::string("\\Velmora");
+    EXPECT_EQ(lstrcmpiA(ShellFolders().programData().c_str(), expected.c_str()), 0);
+}
+
 TEST(ShellFolders, DocumentsAreWhereTheShellHasThem) {
     char documents[MAX_PATH] = {};
     ASSERT_EQ(SHGetFolderPathA(nullptr, CSIDL_PERSONAL, nullptr, SHGFP_TYPE_CURRENT, documents), S_OK);

@@ -19,21 +19,37 @@ XdgFolders foldersWith(std::map<std::string, std::string> variables) {
 TEST(XdgFolders, HaveTheirUsualPlacesBelowHome) {
     const XdgFolders folders = foldersWith({{"HOME", "/nonexistent/anna/"}});
     EXPECT_EQ(folders.applicationData(), "/nonexistent/anna/.config");
+    EXPECT_EQ(folders.programData(), "/nonexistent/anna/.local/share/Velmora");
     EXPECT_EQ(folders.documents(), "/nonexistent/anna/Documents");
     EXPECT_EQ(folders.temporary(), "/tmp");
 }
 
 TEST(XdgFolders, FollowTheEnvironment) {
-    const XdgFolders folders = foldersWith(
-        {{"HOME", "/nonexistent/anna"}, {"XDG_CONFIG_HOME", "/nonexistent/etc/"}, {"TMPDIR", "/scratch/"}});
+    const XdgFolders folders = foldersWith({{"HOME", "/nonexistent/anna"},
+                                            {"XDG_CONFIG_HOME", "/nonexistent/etc/"},
+                                            {"XDG_DATA_HOME", "/nonexistent/data/"},
+                                            {"TMPDIR", "/scratch/"}});
     EXPECT_EQ(folders.applicationData(), "/nonexistent/etc");
+    EXPECT_EQ(folders.programData(), "/nonexistent/data/Velmora");
     EXPECT_EQ(folders.temporary(), "/scratch");
 }
 
+TEST(XdgFolders, KeepWhatIsOursWhereTheServiceManagerSays) {
+    for (const std::string state :
+         {"/var/lib/velmora", "/var/lib/velmora/", "/var/lib/velmora:/var/lib/more"}) {
+        const XdgFolders folders = foldersWith({{"STATE_DIRECTORY", state}, {"XDG_DATA_HOME", "/data"}});
+        EXPECT_EQ(folders.programData(), "/var/lib/velmora") << state;
+    }
+}
+
 TEST(XdgFolders, IgnoreValuesThatAreNoAbsolutePaths) {
-    const XdgFolders folders =
-        foldersWith({{"HOME", "/nonexistent"}, {"XDG_CONFIG_HOME", "etc"}, {"TMPDIR", ""}});
+    const XdgFolders folders = foldersWith({{"HOME", "/nonexistent"},
+                                            {"XDG_CONFIG_HOME", "etc"},
+                                            {"TMPDIR", ""},
+                                            {"XDG_DATA_HOME", "data"},
+                                            {"STATE_DIRECTORY", "velmora"}});
     EXPECT_EQ(folders.applicationData(), "/nonexistent/.config");
+    EXPECT_EQ(folders.programData(), "/nonexistent/.local/share/Velmora");
     EXPECT_EQ(folders.temporary(), "/tmp");
 }
 

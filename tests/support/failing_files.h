@@ -70,9 +70,9 @@ class FailingFiles : public Files {
         script_->count(FileCall::Delete);
         inner_.deleteFile(path);
     }
-    void createFolder(const std::string& path) override {
+    void createFolder(const std::string& path, FolderRights rights = FolderRights::Usual) override {
         script_->count(FileCall::CreateFolder);
-        inner_.createFolder(path);
+        inner_.createFolder(path, rights);
     }
     void replaceFile(const std::string& from, const std::string& to) override {
         script_->count(FileCall::Replace);

@@ -47,6 +47,8 @@ class MemoryFiles : public Files {
         }
         return all;
     }
+    /// The rights of an existing folder.
+    FolderRights folderRights(const std::string& path) const { return folders_.at(key(path)); }
     /// Files that were opened and are neither closed nor destroyed.
     int openFiles() const { return *openFiles_; }
     const std::string& temporaryFolder() const { return temporaryFolder_; }
@@ -81,12 +83,12 @@ class MemoryFiles : public Files {
         entry(path);
         files_.erase(find(path));
     }
-    void createFolder(const std::string& path) override {
+    void createFolder(const std::string& path, FolderRights rights = FolderRights::Usual) override {
         for (std::string folder = path; !folderExists(folder); folder = folderOf(folder)) {
             if (fileExists(folder)) {
                 throw RunTimeError(ErrorNumber::PathFileAccess, folder);
             }
-            folders_[key(folder)] = folder;
+            folders_[key(folder)] = rights;
         }
     }
     void replaceFile(const std::string& from, const std::string& to) override {
@@ -245,7 +247,7 @@ class MemoryFiles : public Files {
     char separator_;
     std::string temporaryFolder_;
     Entries files_;
-    std::map<std::string, std::string> folders_{{std::string(), std::string()}};
+    std::map<std::string, FolderRights> folders_{{std::string(), FolderRights::Usual}};
     std::shared_ptr<int> openFiles_ = std::make_shared<int>(0);
     int temporaryFiles_ = 0;
 };

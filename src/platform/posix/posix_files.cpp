@@ -162,11 +162,12 @@ void PosixFiles::deleteFile(const std::string& path) {
     }
 }
 
-void PosixFiles::createFolder(const std::string& path) {
+void PosixFiles::createFolder(const std::string& path, FolderRights rights) {
+    const mode_t mode = rights == FolderRights::OwnerOnly ? 0700 : 0777;
     const std::string found = lookup_.lookUp(path).path;
     for (std::size_t end = found.find('/', 1);; end = found.find('/', end + 1)) {
         const std::string folder = found.substr(0, end);
-        if (mkdir(folder.c_str(), 0777) != 0) {
+        if (mkdir(folder.c_str(), mode) != 0) {
             const int error = errno;
             const std::optional<struct stat> status = statusOf(folder);
             if (!status) {

@@ -24,7 +24,7 @@ class PosixFiles : public Files {
     std::string pathOfShortName(const std::string& path) const override;
     std::unique_ptr<File> open(const std::string& path, OpenMode mode) override;
     void deleteFile(const std::string& path) override;
-    void createFolder(const std::string& path) override;
+    void createFolder(const std::string& path, FolderRights rights = FolderRights::Usual) override;
     /// A replaced file hands its access rights on to the new one.
     void replaceFile(const std::string& from, const std::string& to) override;
     std::string createTemporaryFile(const std::string& folder = {}) override;

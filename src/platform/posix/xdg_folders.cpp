@@ -77,6 +77,15 @@ std::string XdgFolders::applicationData() const {
     return configured ? *configured : below(home(), ".config");
 }
 
+std::string XdgFolders::programData() const {
+    const std::string state = environment_("STATE_DIRECTORY").value_or("");
+    if (state.substr(0, 1) == "/") {
+        return withoutFinalSlash(state.substr(0, state.find(':')));
+    }
+    const std::optional<std::string> configured = folderFrom(environment_, "XDG_DATA_HOME");
+    return below(configured ? *configured : below(home(), ".local/share"), "Velmora");
+}
+
 std::string XdgFolders::documents() const {
     std::ifstream file(below(applicationData(), "user-dirs.dirs"), std::ios::binary);
     const std::optional<std::string> configured = userDir(file, "XDG_DOCUMENTS_DIR", home());

@@ -22,6 +22,9 @@ class XdgFolders : public KnownFolders {
 
     /// $XDG_CONFIG_HOME if it is an absolute path, else ~/.config.
     std::string applicationData() const override;
+    /// The first folder of $STATE_DIRECTORY, which a service manager sets, if it is an absolute path; else
+    /// "Velmora" in $XDG_DATA_HOME if that is one, else in ~/.local/share.
+    std::string programData() const override;
     /// XDG_DOCUMENTS_DIR of user-dirs.dirs, else ~/Documents.
     std::string documents() const override;
     /// $TMPDIR if it is an absolute path, else /tmp.

@@ -8,6 +8,7 @@
 #include <array>
 
 #include "platform/win32/ansi_text.h"
+#include "platform/windows_paths.h"
 
 namespace velmora {
 namespace {
@@ -51,6 +52,10 @@ std::string currentFolder() {
 
 std::string ShellFolders::applicationData() const {
     return specialFolder(CSIDL_APPDATA);
+}
+
+std::string ShellFolders::programData() const {
+    return WindowsPaths({}).join(specialFolder(CSIDL_LOCAL_APPDATA), "Velmora");
 }
 
 std::string ShellFolders::documents() const {

@@ -12,6 +12,8 @@ class ShellFolders : public KnownFolders {
   public:
     /// CSIDL_APPDATA (26) of SHGetSpecialFolderLocation.
     std::string applicationData() const override;
+    /// "Velmora" in CSIDL_LOCAL_APPDATA (28), which no other machine of the user shares.
+    std::string programData() const override;
     /// CSIDL_PERSONAL (5) of SHGetSpecialFolderLocation.
     std::string documents() const override;
     /// GetTempPathW.

@@ -186,7 +186,7 @@ void Win32Files::deleteFile(const std::string& path) {
     }
 }
 
-void Win32Files::createFolder(const std::string& path) {
+void Win32Files::createFolder(const std::string& path, FolderRights /*rights*/) {
     const std::string found = lookup_.lookUp(path);
     const std::size_t root = WindowsPaths({}).drive(found).size();
     for (std::size_t end = found.find_first_of("\\/", root + 1);; end = found.find_first_of("\\/", end + 1)) {

@@ -33,7 +33,7 @@ class Win32Files : public Files {
     std::string pathOfShortName(const std::string& path) const override;
     std::unique_ptr<File> open(const std::string& path, OpenMode mode) override;
     void deleteFile(const std::string& path) override;
-    void createFolder(const std::string& path) override;
+    void createFolder(const std::string& path, FolderRights rights = FolderRights::Usual) override;
     /// By MoveFileExA. The new file keeps the rights that it was made with. Virus scanners and indexers hold
     /// a file that was just closed for some milliseconds, so a refusal is final only after half a second.
     void replaceFile(const std::string& from, const std::string& to) override;
