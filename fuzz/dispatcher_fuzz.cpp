@@ -149,7 +149,10 @@ class Server {
     test::FakeTime clock_;
     FixedZone zone_;
     StopRequests requests_;
-    OpenFile open_{files_, rules_, window_};
+    TransferLog log_{window_, trace_, rules_};
+    EarlierCopiesSettings copiesSettings_{"/data/copies"};
+    EarlierCopies copies_{files_, rules_, clock_, log_, copiesSettings_};
+    OpenFile open_{files_, rules_, window_, copies_, log_};
     TimeServices timeServices_{clock_, zone_};
     FtranService ftran_{sender_, window_, open_, names_, settings_};
     FileService file_{sender_, window_, open_, names_};

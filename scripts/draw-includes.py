@@ -27,7 +27,7 @@ BELOW = {
     "capture": ["link"],
     "doctor": ["link"],
     "eventloop": ["serial"],
-    "transfers": ["platform"],
+    "transfers": ["link"],
     "link": ["serial"],
     "serial": ["platform"],
     "spreadsheet": ["base"],

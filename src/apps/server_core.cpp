@@ -4,14 +4,17 @@
 
 namespace velmora {
 ServerCore::ServerCore(const ServerCoreParts& parts)
-    : tools_(parts.files, parts.rules, transfer),
+    : copies{parts.rules.join(parts.programData, "Earlier copies")},
+      tools_(parts.files, parts.rules, transfer),
       controller_({parts.view, parts.box, strings, options, transfer, parts.port, parts.ComTimer,
                    parts.PLPtimer, parts.DisplayTimer, parts.clock, parts.yield,
                    [this](const std::string& path) { return tools_.displayName(path); }}),
       link_(crc, controller_, parts.ComTimer, parts.trace, parts.yield, parts.clock),
       linkControl_(link_),
       dispatcher_(link_, controller_, parts.trace),
-      openFile_(parts.files, parts.rules, controller_),
+      transferLog_(controller_, parts.trace, parts.rules),
+      earlierCopies_(parts.files, parts.rules, parts.clock, transferLog_, copies),
+      openFile_(parts.files, parts.rules, controller_, earlierCopies_, transferLog_),
       spreadsheet_(parts.files, parts.rules, sheets),
       timeServices_(parts.clock, parts.zone),
       ftran_(link_, controller_, openFile_, tools_, transfer),
@@ -41,6 +44,8 @@ ServerCore::ServerCore(const ServerCoreParts& parts)
 void ServerCore::applySettings(const Settings& settings) {
     sheets.locale = namedNumberLocale("").value_or(NumberLocale{});
     sheets.wksDialect = settings.WksDialect == 1 ? WksDialect::Common : WksDialect::Own;
+    copies.days = settings.EarlierCopies;
+    earlierCopies_.removeExpired();
 }
 
 ServerCore::~ServerCore() {

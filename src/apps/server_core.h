@@ -33,6 +33,8 @@
 #include "services/transfer_settings.h"
 #include "spreadsheet/spreadsheet.h"
 #include "startup/settings.h"
+#include "transfers/earlier_copies.h"
+#include "transfers/transfer_log.h"
 
 namespace velmora {
 
@@ -50,6 +52,7 @@ struct ServerCoreParts {
     const Clock& clock;
     const ZoneSource& zone;
     EventYield& yield;
+    std::string programData;  ///< KnownFolders::programData()
 };
 
 /// One object of each kind, from the settings to the services, connected.
@@ -65,9 +68,11 @@ class ServerCore {
     ServerOptions options;
     TransferSettings transfer;
     SpreadsheetSettings sheets;
+    EarlierCopiesSettings copies;
     Crc crc;
 
-    /// Takes over the settings that only the services need; call it when start-up has read them.
+    /// Takes over the settings that only the services need, and removes the earlier copies whose time is
+    /// over; call it when start-up has read them.
     void applySettings(const Settings& settings);
 
     ServerController& controller() { return controller_; }
@@ -94,6 +99,8 @@ class ServerCore {
     PLP link_;
     LinkOfController linkControl_;
     ServiceDispatcher dispatcher_;
+    TransferLog transferLog_;
+    EarlierCopies earlierCopies_;
     OpenFile openFile_;
     Spreadsheet spreadsheet_;
     TimeServices timeServices_;

@@ -12,5 +12,8 @@ namespace velmora {
 std::string toSystemText(std::string_view windows1252);
 /// A text of the system as Windows-1252; nothing when it is not valid or a character has no byte.
 std::optional<std::string> fromSystemText(std::string_view text);
+/// A text of the system as Windows-1252, to be looked at: where it has no such form, "?" stands for every
+/// byte that is not ASCII.
+std::string shownText(std::string_view text);
 
 }  // namespace velmora

@@ -37,6 +37,9 @@ class ServerWindow {
     virtual void Display(const std::string& line1, const std::string& line2) = 0;
     /// Shows the warning marker and two message lines.
     virtual void ShowWarning(const std::string& text2, const std::string& text3) = 0;
+    /// Tells that the Organiser left amid a save, in the message lines, until something else happens. A
+    /// warning that stands there stays.
+    virtual void ShowLineDown() = 0;
     /// Tells whoever keeps the server's log, in one line, what became of a file. Shows nothing on the mirror.
     virtual void Report(const std::string& line) = 0;
     /// Adds to a counter of the statistics (StatsKind), or resets all of them.

@@ -68,18 +68,28 @@ void ServerController::showOnMirror(const std::string& line1, const std::string&
 
 void ServerController::ShowText(const std::string& text1, const std::string& text2,
                                 const std::string& text3) {
+    lineDownShown_ = false;
     messages_.ShowText(text1, text2, text3);
     parts_.view.showMessages(messages_);
 }
 
 void ServerController::ShowWarning(const std::string& text2, const std::string& text3) {
+    lineDownShown_ = false;
     messages_.ShowWarning(text2, text3);
     parts_.view.showMessages(messages_);
 }
 
 void ServerController::ShowClear() {
+    lineDownShown_ = false;
     messages_.ShowClear();
     parts_.view.showMessages(messages_);
+}
+
+void ServerController::ShowLineDown() {
+    if (!messages_.warning) {
+        ShowText("", parts_.strings.LineDown, "");
+        lineDownShown_ = true;
+    }
 }
 
 void ServerController::ShowStats() {

@@ -100,6 +100,7 @@ class ServerController : public ServerWindow {
     const std::string& ErrorMsg() const { return errorMsg_; }
     void Display(const std::string& line1, const std::string& line2) override;
     void ShowWarning(const std::string& text2, const std::string& text3) override;
+    void ShowLineDown() override;
     void Report(const std::string& line) override { parts_.view.showReport(line); }
     void SetStats(std::int32_t which, std::int16_t amount) override;
 
@@ -191,6 +192,7 @@ class ServerController : public ServerWindow {
     std::function<void()> onPortFailure_;
     DisplayMirror mirror_;
     MessageLines messages_;
+    bool lineDownShown_ = false;
     std::int32_t state_ = Welcome;
     std::string currentFile_;
     std::string errorMsg_;

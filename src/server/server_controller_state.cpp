@@ -89,6 +89,9 @@ void ServerController::enterNoPort() {
 }
 
 void ServerController::continueServing(std::int32_t next) {
+    if (next != WaitLink && lineDownShown_) {
+        ShowClear();
+    }
     if (next == WaitLink || next == Connect) {
         minimiseIfAutoHide();
     } else if (parts_.options.AutoPopup) {

@@ -1,6 +1,7 @@
 #include "services/open_file.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "base/run_time_error.h"
 #include "services/block_file.h"
@@ -40,9 +41,6 @@ OpenMode writingMode(int mode) {
 }
 
 }  // namespace
-
-OpenFile::OpenFile(Files& files, const PathRules& rules, ServerWindow& window)
-    : files_(files), rules_(rules), window_(window) {}
 
 OpenFile::~OpenFile() {
     close();
@@ -122,7 +120,10 @@ void OpenFile::openForReading(const std::string& path, int kind) {
 
 void OpenFile::openForWriting(const std::string& path, int mode, int kind) {
     const std::string target = mode == kModeCreateNew ? path : files_.storedPath(path);
+    const bool replaces = mode == kModeCreate || mode == kModeReplace;
+    save_ = {target, 0, replaces ? copies_.keep(target) : std::string()};
     file_ = files_.open(target, writingMode(mode));
+    unfinished_ = mode != kModeAppend;
     if (kind == kKindText) {
         writesText_ = true;
         goToEnd();
@@ -196,6 +197,8 @@ ServiceCode OpenFile::writeRecord(std::string_view record) {
         }
         return map_Error(error);
     }
+    save_.bytes += record.size() + (writesText_ ? 2 : 0);
+    unfinished_ = true;
     return kCodeNone;
 }
 
@@ -260,7 +263,11 @@ ServiceCode OpenFile::save() {
     } catch (const RunTimeError& error) {
         return map_Error(error);
     }
-    return file_->isInPlace() ? kCodeNone : kCodeNotPossible;
+    if (!file_->isInPlace()) {
+        return kCodeNotPossible;
+    }
+    unfinished_ = false;
+    return kCodeNone;
 }
 
 void OpenFile::close() {
@@ -286,6 +293,9 @@ void OpenFile::close() {
     lineEndMissing_ = false;
     header_ = Header::Settled;
     procedureImage_ = false;
+    if (std::exchange(unfinished_, false)) {
+        log_.saveBrokeOff(save_);
+    }
 }
 
 }  // namespace velmora

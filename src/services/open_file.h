@@ -14,6 +14,9 @@
 #include "services/line_reader.h"
 #include "services/service_codes.h"
 #include "services/temporary_file.h"
+#include "transfers/earlier_copies.h"
+#include "transfers/incomplete_save.h"
+#include "transfers/transfer_log.h"
 
 namespace velmora {
 
@@ -44,18 +47,21 @@ enum FileStatus : int {
 
 /// Opens, reads, writes and closes the file in the terms of the services, and counts its bytes in the
 /// window's statistics. Shared by both services. Unless told otherwise, failures of the file layer leave as
-/// RunTimeError. Holds references only; files, rules and window must outlive it.
+/// RunTimeError. Holds references only; all of them must outlive it.
 class OpenFile {
   public:
-    OpenFile(Files& files, const PathRules& rules, ServerWindow& window);
+    OpenFile(Files& files, const PathRules& rules, ServerWindow& window, EarlierCopies& copies,
+             TransferLog& log)
+        : files_(files), rules_(rules), window_(window), copies_(copies), log_(log) {}
     ~OpenFile();
     OpenFile(const OpenFile&) = delete;
     OpenFile& operator=(const OpenFile&) = delete;
 
     /// Opens `path` (for a listing: folder and pattern) and returns the new status: kOpenForReading,
     /// kOpenForWriting, or the ServiceCode of the failure, after which no file is open. An empty path is a
-    /// refused name (189). Requires: no file open, mode 0 to 4.
-    /// A procedure that is too large for its image is a RunTimeError 6, and no file is open then either.
+    /// refused name (189). Of a file that modes 1 and 2 replace an earlier copy is kept first; without room
+    /// for it the disk is full (186), and the file stays as it was. Requires: no file open, mode 0 to 4. A
+    /// procedure that is too large for its image is a RunTimeError 6, and no file is open then either.
     int open_File(const std::string& path, int mode, int kind);
 
     FileStatus status() const { return status_; }
@@ -130,6 +136,8 @@ class OpenFile {
     Files& files_;
     const PathRules& rules_;
     ServerWindow& window_;
+    EarlierCopies& copies_;
+    TransferLog& log_;
     char fieldSeparator_ = '\0';
 
     FileStatus status_ = kNoFile;
@@ -140,6 +148,8 @@ class OpenFile {
     bool lineEndMissing_ = false;
     Header header_ = Header::Settled;
     int blockType_ = 0;
+    IncompleteSave save_;
+    bool unfinished_ = false;  // something was changed that the Organiser has not called complete
     bool procedureImage_ = false;
 };
 

@@ -32,6 +32,10 @@ std::int16_t zeroOrOne(std::int16_t value) {
     return value == 1 ? std::int16_t{1} : std::int16_t{0};
 }
 
+std::int16_t daysOrDefault(std::int16_t days) {
+    return days < 0 ? std::int16_t{30} : days;
+}
+
 SettingRow flagRow(std::string_view section, std::string_view key, bool ServerOptions::*flag,
                    bool defaultValue) {
     SettingRow row{section, key, SettingType::Boolean, SettingStep::get_Settings,
@@ -65,6 +69,7 @@ std::vector<SettingRow> makeTable() {
             flagRow(kSettings, "AutoPopup", &Options::AutoPopup, false),
             flagRow(kSettings, "DontTestModem", &Options::DontTestModem, false),
             wksDialect,
+            numberRow("EarlierCopies", kSettingsStep, "30", &Settings::EarlierCopies, daysOrDefault),
             flagRow(kOnExit, "RestoreWin", &Options::RestoreWin, true),
             flagRow(kOnExit, "HideWin", &Options::HideWin, false),
             flagRow(kOnExit, "AskUser", &Options::AskUser, false),

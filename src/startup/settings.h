@@ -23,7 +23,8 @@ struct Settings {
     std::int16_t Baud = 9600;  ///< bits per second
     std::int16_t DataFileType = 0;
     std::optional<std::int16_t>
-        WksDialect;  ///< tokens of WKS worksheets: 0 the system's own, 1 the common ones
+        WksDialect;                   ///< tokens of WKS worksheets: 0 the system's own, 1 the common ones
+    std::int16_t EarlierCopies = 30;  ///< days for which what a save replaces is kept; 0 for none
     ServerOptions options;
     PortDevices ports;
 };

@@ -15,5 +15,13 @@ TEST(SystemText, WhatIsNoUtf8OrHasNoByteIsRefused) {
     EXPECT_EQ(fromSystemText("\xE4\xB8\xAD"), std::nullopt);
 }
 
+TEST(SystemText, IsShownAsFarAsItCanBe) {
+    EXPECT_EQ(shownText("Gr\xC3\xBC\xC3\x9F"), "Gr\xFC\xDF");
+    EXPECT_EQ(shownText("a\xE4\xB8\xAD"
+                        "b"),
+              "a???b");
+    EXPECT_EQ(shownText("Gr\xFC"), "Gr?");
+}
+
 }  // namespace
 }  // namespace velmora

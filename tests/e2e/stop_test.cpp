@@ -44,20 +44,7 @@ class Modem {
     int probes_ = 0;
 };
 
-class StopTest : public ServerFixture {
-  protected:
-    /// Starts a save that is slow enough to be interrupted and waits until the server is at it.
-    std::unique_ptr<Process> startLongSave() {
-        std::string records;
-        for (int i = 0; i < 2000; ++i) {
-            records += "record " + std::to_string(i) + "\r\n";
-        }
-        writeFile(home / "local", records);
-        auto save = startOrganiser({"--delay", "5", "save", organiserPath(home / "local"), "--as", "LONG"});
-        EXPECT_TRUE(server->waitForOutput("Downloading file"));
-        return save;
-    }
-};
+using StopTest = ServerFixture;
 
 TEST_F(StopTest, AnAcceptedExitEndsTheServerWithStatusZero) {
     startServer();

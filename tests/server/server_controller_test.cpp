@@ -109,6 +109,41 @@ TEST_F(Controller, MessagesReachTheView) {
     EXPECT_EQ(view.warning(), "");
 }
 
+TEST_F(Controller, LostContactIsShownUntilSomethingElseHappens) {
+    strings.LineDown = "Gone!";
+    reach(Downld);
+    controller.ShowLineDown();
+    controller.setState(WaitLink);
+    EXPECT_EQ(view.messages.lines[1].text, "Gone!");
+    EXPECT_TRUE(view.messages.lines[1].visible);
+    EXPECT_FALSE(view.messages.warning);
+    EXPECT_TRUE(box.asked.empty());
+    controller.setState(Connect);
+    EXPECT_FALSE(view.messages.lines[1].visible);
+}
+
+TEST_F(Controller, LostContactIsStillShownByAServerThatStopped) {
+    reach(WaitLink);
+    controller.ShowLineDown();
+    controller.setState(Offline);
+    EXPECT_TRUE(view.messages.lines[1].visible);
+    controller.pbStartStop_Click();
+    EXPECT_FALSE(view.messages.lines[1].visible);
+}
+
+TEST_F(Controller, OtherMessagesOutliveLostContact) {
+    reach(Downld);
+    controller.ShowWarning("careful", "");
+    controller.ShowLineDown();
+    EXPECT_EQ(view.warning(), "careful");
+    controller.ShowClear();
+    controller.ShowLineDown();
+    controller.ShowWarning("careful", "");
+    controller.setState(WaitLink);
+    controller.setState(Connect);
+    EXPECT_EQ(view.warning(), "careful");
+}
+
 TEST_F(Controller, AReportReachesTheViewAndChangesNothingElse) {
     const auto displayed = view.statuses.size();
     controller.Report("Plan.wks: saved");

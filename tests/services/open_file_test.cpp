@@ -4,7 +4,9 @@
 
 #include "base/run_time_error.h"
 #include "support/failing_files.h"
+#include "support/fake_timers.h"
 #include "support/memory_files.h"
+#include "support/recording_trace.h"
 #include "support/recording_window.h"
 #include "support/simple_names.h"
 
@@ -39,7 +41,12 @@ class OpenFileTest : public testing::Test {
     test::FailingFiles files{memory};
     test::SimplePathRules rules;
     test::RecordingWindow window;
-    OpenFile file{files, rules, window};
+    test::RecordingTrace trace;
+    test::FakeTime time;
+    TransferLog log{window, trace, rules};
+    EarlierCopiesSettings copiesSettings{"/copies"};
+    EarlierCopies copies{files, rules, time, log, copiesSettings};
+    OpenFile file{files, rules, window, copies, log};
 };
 
 // Each mode with each kind, on a file that exists and on one that does not.
@@ -96,6 +103,7 @@ TEST_P(ReplacingModeTest, EmptiesTheOldFile) {
 }
 
 TEST_P(ReplacingModeTest, ReplacesAFileThatDiffersOnlyByCase) {
+    copiesSettings.days = 0;
     add("old", "MEMO.odb");
     EXPECT_EQ(open(GetParam(), kKindText, "Memo.odb"), kOpenForWriting);
     EXPECT_EQ(file.writeRecord("new"), kCodeNone);
@@ -394,6 +402,125 @@ TEST_F(OpenFileTest, AProcedureIsWrittenWithoutAHeader) {
     EXPECT_EQ(content(), "A\r\n");
 }
 
+// What is replaced.
+
+constexpr const char* kCopy = "/copies/f (2026-03-28 14.05.09)";
+
+class KindTest : public OpenFileTest, public testing::WithParamInterface<int> {};
+
+TEST_P(KindTest, WhatIsReplacedIsKept) {
+    for (const int mode : {1, 2}) {
+        add("old and whole");
+        ASSERT_EQ(open(mode, GetParam()), kOpenForWriting);
+        ASSERT_TRUE(memory.fileExists(kCopy)) << mode;
+        EXPECT_EQ(memory.content(kCopy), "old and whole");
+        file.close();
+        memory.deleteFile(kCopy);
+    }
+}
+
+TEST_P(KindTest, NothingIsKeptOfWhatIsNotReplaced) {
+    add("old");
+    for (const int mode : {0, 3, 4}) {
+        open(mode, GetParam());
+        file.close();
+        EXPECT_FALSE(memory.folderExists("/copies")) << mode;
+    }
+}
+
+TEST_P(KindTest, WithoutRoomForTheCopyTheDiskIsFullAndTheOldFileStands) {
+    add("old");
+    files.failAfterBytes(2, ErrorNumber::DiskFull);
+    EXPECT_EQ(open(1, GetParam()), kCodeDiskFull);
+    EXPECT_EQ(content(), "old");
+    EXPECT_EQ(memory.paths(), std::vector<std::string>{"/psion/f"});
+    EXPECT_TRUE(window.reports.empty());
+}
+
+TEST_P(KindTest, ACopyThatFailsDoesNotHinderTheSave) {
+    add("old");
+    files.failAtCall(FileCall::CreateFolder, 1, ErrorNumber::PathFileAccess);
+    EXPECT_EQ(open(1, GetParam()), kOpenForWriting);
+    EXPECT_EQ(window.warnings.size(), 1U);
+}
+
+INSTANTIATE_TEST_SUITE_P(Kinds, KindTest, testing::Values(kKindText, kKindBinary, kKindProcedure, -3));
+
+// Saves that break off.
+
+TEST_F(OpenFileTest, ASaveThatBreaksOffIsToldWithItsBytesAndTheEarlierCopy) {
+    add("old");
+    open(1, kKindText);
+    file.writeRecord("one");
+    file.writeRecord("three");
+    file.close();
+    const std::string line = "f is incomplete: 12 bytes arrived. Earlier copy: " + std::string(kCopy);
+    EXPECT_EQ(window.reports, std::vector<std::string>{line});
+    EXPECT_EQ(window.lineDowns, 1);
+    EXPECT_EQ(memory.content(kCopy), "old");
+}
+
+TEST_F(OpenFileTest, ASaveThatWasCalledCompleteIsNot) {
+    open(1, kKindText);
+    file.writeRecord("one");
+    EXPECT_EQ(file.save(), kCodeNone);
+    file.close();
+    EXPECT_TRUE(window.reports.empty());
+    EXPECT_EQ(window.lineDowns, 0);
+}
+
+TEST_F(OpenFileTest, WhatIsWrittenAfterThatMakesItIncompleteAgain) {
+    open(1, kKindBinary);
+    file.writeRecord("one");
+    file.save();
+    file.writeRecord("more");
+    file.close();
+    EXPECT_EQ(window.reports, std::vector<std::string>{"f is incomplete: 7 bytes arrived."});
+}
+
+TEST_F(OpenFileTest, ANewFileInWhichNothingArrivedIsIncomplete) {
+    open(3, kKindBinary);
+    file.close();
+    EXPECT_EQ(window.reports, std::vector<std::string>{"f is incomplete: 0 bytes arrived."});
+}
+
+TEST_F(OpenFileTest, AppendingNothingAndReadingLeaveNothingIncomplete) {
+    add("old");
+    for (const int mode : {0, 4}) {
+        open(mode, kKindText);
+        file.close();
+    }
+    EXPECT_TRUE(window.reports.empty());
+    open(4, kKindText);
+    file.writeRecord("one");
+    file.close();
+    EXPECT_EQ(window.reports, std::vector<std::string>{"f is incomplete: 5 bytes arrived."});
+}
+
+TEST_F(OpenFileTest, ARefusedWriteIsNoByteThatArrived) {
+    open(1, kKindText);
+    files.failAfterBytes(0, ErrorNumber::DiskFull);
+    file.writeRecord("one");
+    file.close();
+    EXPECT_EQ(window.reports, std::vector<std::string>{"f is incomplete: 0 bytes arrived."});
+}
+
+TEST_F(OpenFileTest, AFileThatWasEmptiedBeforeTheOpenFailedIsTold) {
+    add("old");
+    files.failAtCall(FileCall::Write, 2, ErrorNumber::DiskFull);
+    EXPECT_EQ(open(1, -3), kCodeDiskFull);
+    EXPECT_EQ(window.reports, std::vector<std::string>{"f is incomplete: 0 bytes arrived. Earlier copy: " +
+                                                       std::string(kCopy)});
+}
+
+TEST_F(OpenFileTest, ATouchedFileIsNotComplete) {
+    open(1, kKindText);
+    memory.deleteFile("/psion/f");
+    EXPECT_EQ(file.save(), kCodeNotPossible);
+    file.close();
+    EXPECT_EQ(window.reports.size(), 1U);
+}
+
 // Listings.
 
 TEST_F(OpenFileTest, AListingIsReadAsText) {
@@ -487,7 +614,7 @@ TEST_F(OpenFileTest, ClosingTwiceIsFine) {
 
 TEST_F(OpenFileTest, TheDestructorClosesAndDeletes) {
     {
-        OpenFile other(files, rules, window);
+        OpenFile other(files, rules, window, copies, log);
         other.open_File("/psion/*", 0, kKindLongListing);
     }
     EXPECT_EQ(memory.openFiles(), 0);

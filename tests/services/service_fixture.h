@@ -11,6 +11,7 @@
 #include "services/ftran_service.h"
 #include "services/open_file.h"
 #include "support/failing_files.h"
+#include "support/fake_timers.h"
 #include "support/memory_files.h"
 #include "support/recording_sender.h"
 #include "support/recording_trace.h"
@@ -97,7 +98,11 @@ class ServiceFixture : public testing::Test {
     RecordingWindow window;
     RecordingSender sender;
     RecordingTrace trace;
-    OpenFile file{files, rules, window};
+    FakeTime time;
+    TransferLog log{window, trace, rules};
+    EarlierCopiesSettings copiesSettings{settings.DownloadPath + "/copies"};
+    EarlierCopies copies{files, rules, time, log, copiesSettings};
+    OpenFile file{files, rules, window, copies, log};
     FtranService ftran{sender, window, file, names, settings};
     FileService fileService{sender, window, file, names};
     BootService boot{sender, window, files, names};

@@ -85,6 +85,13 @@ TEST_F(SettingsFile, TheWorksheetDialectIsReadWhenPresent) {
     EXPECT_EQ(readEntry("WksDialect=").WksDialect, std::nullopt);
 }
 
+TEST_F(SettingsFile, EarlierCopiesAreKeptForThirtyDaysUnlessTheFileSaysOtherwise) {
+    for (const auto& [text, days] :
+         {std::pair{"", 30}, {"EarlierCopies=0", 0}, {"EarlierCopies=365", 365}, {"EarlierCopies=-1", 30}}) {
+        EXPECT_EQ(readEntry(text).EarlierCopies, days) << text;
+    }
+}
+
 TEST_F(SettingsFile, NumbersBeyondSixteenBitsAreOverflows) {
     for (const std::string line : {"Port=40000", "Baud=115200", "DataFileType=99999", "WksDialect=70000"}) {
         EXPECT_EQ(errorOf(line), 6) << line;

@@ -30,6 +30,7 @@ class RecordingWindow : public ServerWindow {
     void ShowWarning(const std::string& text2, const std::string& text3) override {
         warnings.emplace_back(text2, text3);
     }
+    void ShowLineDown() override { ++lineDowns; }
     void Report(const std::string& line) override { reports.push_back(line); }
     void SetStats(std::int32_t which, std::int16_t amount) override {
         if (which >= 1 && which <= 4) {
@@ -45,6 +46,7 @@ class RecordingWindow : public ServerWindow {
     std::vector<std::pair<std::string, std::string>> displays;
     std::vector<std::pair<std::string, std::string>> warnings;
     std::vector<std::string> reports;
+    int lineDowns = 0;
     long stats[5] = {};
 };
 

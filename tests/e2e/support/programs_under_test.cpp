@@ -35,6 +35,7 @@ class NativePrograms : public ProgramsUnderTest {
                                                    const std::string& zone) const override {
         return {{"HOME", home.string()},
                 {"XDG_CONFIG_HOME", (home / "config").string()},
+                {"XDG_DATA_HOME", (home / "data").string()},
                 {"TMPDIR", (home / "tmp").string()},
                 {"TZ", zone},
                 {"LC_ALL", "C.UTF-8"}};
@@ -43,6 +44,9 @@ class NativePrograms : public ProgramsUnderTest {
         fs::create_directories(home / "config");
         return home / "config" / "Velmora.ini";
     }
+    fs::path earlierCopies(const fs::path& home) const override {
+        return home / "data" / "Velmora" / "Earlier copies";
+    }
     void stop(const Process& process) const override { process.signal(SIGTERM); }
     bool lost(const Finished& /*done*/) const override { return false; }
 };
@@ -50,8 +54,9 @@ class NativePrograms : public ProgramsUnderTest {
 class WinePrograms : public ProgramsUnderTest {
   public:
     WinePrograms(fs::path folder, fs::path prefix) : folder_(std::move(folder)), prefix_(std::move(prefix)) {
-        // The prefix outlives a test; its configuration must not.
+        // The prefix outlives a test; what a test leaves there must not.
         fs::remove(applicationData() / "Velmora.ini");
+        fs::remove_all(localData() / "Velmora");
     }
     ~WinePrograms() override {
         std::error_code ignored;
@@ -92,6 +97,9 @@ class WinePrograms : public ProgramsUnderTest {
     fs::path configuration(const fs::path& /*home*/) const override {
         return applicationData() / "Velmora.ini";
     }
+    fs::path earlierCopies(const fs::path& /*home*/) const override {
+        return localData() / "Velmora" / "Earlier copies";
+    }
     /// Wine makes an interrupt into Ctrl+C; other signals end the process without its knowledge.
     void stop(const Process& process) const override { process.signal(SIGINT); }
     bool lost(const Finished& done) const override {
@@ -103,11 +111,13 @@ class WinePrograms : public ProgramsUnderTest {
     }
 
   private:
-    /// The application-data folder of the prefix's one user.
-    fs::path applicationData() const {
+    fs::path applicationData() const { return appData() / "Roaming"; }
+    fs::path localData() const { return appData() / "Local"; }
+    /// The application data of the prefix's one user.
+    fs::path appData() const {
         for (const fs::directory_entry& user : fs::directory_iterator(prefix_ / "drive_c" / "users")) {
             if (user.path().filename() != "Public") {
-                return user.path() / "AppData" / "Roaming";
+                return user.path() / "AppData";
             }
         }
         throw std::runtime_error("the Wine prefix " + prefix_.string() + " has no user");

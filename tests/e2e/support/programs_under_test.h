@@ -41,6 +41,8 @@ class ProgramsUnderTest {
                                                            const std::string& zone) const = 0;
     /// The user's configuration file, in an existing folder.
     virtual std::filesystem::path configuration(const std::filesystem::path& home) const = 0;
+    /// Where the server keeps the files that saves replace.
+    virtual std::filesystem::path earlierCopies(const std::filesystem::path& home) const = 0;
     /// Asks a running program to end, as its user would.
     virtual void stop(const Process& process) const = 0;
     /// Whether a program was ended by Wine instead of by itself. That happens to about one of a thousand,

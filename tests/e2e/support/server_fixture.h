@@ -105,6 +105,18 @@ class ServerFixture : public testing::Test {
         return organiserSide->lost(done) ? finished(*startOrganiser(arguments)) : done;
     }
 
+    /// Starts a save that is slow enough to be interrupted and waits until the server is at it.
+    std::unique_ptr<Process> startLongSave() {
+        std::string records;
+        for (int i = 0; i < 2000; ++i) {
+            records += "record " + std::to_string(i) + "\r\n";
+        }
+        writeFile(home / "local", records);
+        auto save = startOrganiser({"--delay", "5", "save", organiserPath(home / "local"), "--as", "LONG"});
+        EXPECT_TRUE(server->waitForOutput("Downloading file"));
+        return save;
+    }
+
     /// Runs velmora-files of the Organiser's side on an input; without one its standard input stays open.
     Finished filesTool(const std::vector<std::string>& arguments, const std::string& input = {}) const {
         Process process(organiserSide->command("velmora-files", arguments),
