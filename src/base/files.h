@@ -81,15 +81,22 @@ class Files {
     /// Makes a folder and the missing folders on the way to it, all with these rights; an existing one is
     /// fine and keeps its own. On Windows new folders have the rights of their parent in any case.
     virtual void createFolder(const std::string& path, FolderRights rights = FolderRights::Usual) = 0;
+    /// The path of the file itself where the last component of a path is a link, of any number in a row; any
+    /// other path as it was found. It need not exist. A loop of links is 64.
+    virtual std::string followLinks(const std::string& path) const = 0;
     /// Renames `from` over `to` in one step, so that `to` is always either the old or the new file, and hands
-    /// both to the disk.
-    /// Both must lie on one volume.
+    /// both to the disk. Where `to` is a link the file behind it is replaced. The new file gets the rights of
+    /// the old one and, as far as the system lets it, its owner. Both must lie on one volume.
     virtual void replaceFile(const std::string& from, const std::string& to) = 0;
-    /// Makes a new empty file with a generated name in the folder, with the rights of any new file there, and
-    /// returns its path. Without a folder it is made in the system's temporary folder, for this user alone.
-    /// The caller deletes it.
+    /// Makes a new empty file with a generated name (base/temporary_name.h) in the folder, with the rights of
+    /// any new file there, and returns its path. Without a folder it is made in the system's temporary
+    /// folder, for this user alone. The caller deletes it.
     virtual std::string createTemporaryFile(const std::string& folder = {}) = 0;
-    /// Calls `visit` for every file of the folder, not for folders, in the order of their names.
+    /// Deletes the temporary files in a folder that a program did not live to delete. Those that a program
+    /// has open stay, and so does what cannot be deleted. Never fails.
+    virtual void removeLeftovers(const std::string& folder) = 0;
+    /// Calls `visit` for every file of the folder, not for folders and temporary files, in the order of their
+    /// names.
     /// A file that vanishes meanwhile is left out; an exception of `visit` ends the listing.
     virtual void listFiles(const std::string& folder, ShortNames shortNames,
                            const std::function<void(const FolderEntry&)>& visit) const = 0;

@@ -31,8 +31,9 @@ class TemporaryFile {
     std::string path_;
 };
 
+/// A new file in the folder of the one that a path leads to.
 std::string temporaryBeside(Files& files, const PathRules& rules, const std::string& path) {
-    return files.createTemporaryFile(rules.parentFolder(rules.absolute(path)));
+    return files.createTemporaryFile(rules.parentFolder(rules.absolute(files.followLinks(path))));
 }
 
 }  // namespace

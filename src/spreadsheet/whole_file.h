@@ -9,7 +9,8 @@
 
 namespace velmora {
 
-/// Puts the bytes in the place of the file: into a new file beside it, which then takes its name. Until that
+/// Puts the bytes in the place of the file: into a new file beside it (where a link
+/// leads to), which then takes its name. Until that
 /// last step, and after any failure, the old file (or none) is there. Throws what the file layer throws.
 void writeWholeFile(Files& files, const PathRules& rules, const std::string& path, std::string_view bytes);
 

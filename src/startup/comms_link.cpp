@@ -99,6 +99,7 @@ void CommsLink::load_INIfile() {
         files.createFolder(parts_.rules.parentFolder(iniPath_));
         replaceContents(files, parts_.rules, iniPath_, defaultIni());
     }
+    files.removeLeftovers(parts_.rules.parentFolder(iniPath_));
     parts_.ini.setIniFile(iniPath_);
 }
 
@@ -138,6 +139,7 @@ void CommsLink::chooseDownloadFolder() {
         folder = rules.join(parts_.folders.documents, "Psion Files");
         files.createFolder(folder);
     }
+    files.removeLeftovers(folder);
     parts_.transfer.DownloadPath = folder;
 }
 

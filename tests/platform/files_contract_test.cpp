@@ -213,10 +213,25 @@ TEST_P(FilesContract, TemporaryFilesAreNewAndEmpty) {
     const std::string two = files.createTemporaryFile(path("Sub"));
     EXPECT_NE(one, two);
     EXPECT_EQ(files.fileSize(one), 0U);
-    EXPECT_EQ(list(path("Sub")).size(), 2U);
+    EXPECT_THAT(list(path("Sub")), IsEmpty()) << "they are not the user's";
+    files.deleteFile(one);
+    files.deleteFile(two);
     const std::string elsewhere = files.createTemporaryFile();
     EXPECT_TRUE(files.fileExists(elsewhere));
     files.deleteFile(elsewhere);
+}
+
+TEST_P(FilesContract, LeftoversAreRemovedAndNothingElse) {
+    const std::string left = files.createTemporaryFile(path(""));
+    write(".velmora-notes.tmp", "mine");
+    write("velmora-aaaaaa.tmp", "mine");
+    files.createFolder(path("Sub"));
+    const std::string elsewhere = files.createTemporaryFile(path("Sub"));
+    files.removeLeftovers(path(""));
+    EXPECT_FALSE(files.fileExists(left));
+    EXPECT_TRUE(files.fileExists(elsewhere));
+    EXPECT_THAT(list(path("")), ElementsAre(".velmora-notes.tmp", "velmora-aaaaaa.tmp"));
+    EXPECT_EQ(errorOf([&] { files.removeLeftovers(path("none")); }), 0);
 }
 
 TEST_P(FilesContract, ListingsAreInTheOrderOfNamesAndWithoutFolders) {

@@ -5,8 +5,10 @@
 #include <sys/file.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
+#include <csignal>
 #include <cstdlib>
 #include <ctime>
 #include <filesystem>
@@ -275,21 +277,52 @@ TEST_F(PosixFilesTest, TooManyOpenFilesIsSaidSo) {
     EXPECT_FALSE(found);
 }
 
-// Replacing and temporary files.
-
-TEST_F(PosixFilesTest, AReplacedFileHandsItsAccessRightsOn) {
-    const std::string old = folder.write("Velmora.ini", "old");
-    std::filesystem::permissions(old, std::filesystem::perms(0640));
-    const std::string fresh = files.createTemporaryFile(folder.path());
-    files.replaceFile(fresh, old);
-    EXPECT_EQ(std::filesystem::status(old).permissions(), std::filesystem::perms(0640));
-}
+// Temporary files.
 
 TEST_F(PosixFilesTest, TemporaryFilesAreNobodyElses) {
     const std::string path = files.createTemporaryFile();
     EXPECT_EQ(std::filesystem::path(path).parent_path(), folder.path());
     EXPECT_EQ(std::filesystem::status(path).permissions(), std::filesystem::perms(0600));
     EXPECT_EQ(errorOf([&] { files.createTemporaryFile(folder.path("none")); }), 76);
+}
+
+TEST_F(PosixFilesTest, ATemporaryFileInUseIsNoLeftover) {
+    const std::string path = files.createTemporaryFile(folder.path());
+    {
+        const auto writing = files.open(path, OpenMode::ReadWrite);
+        files.removeLeftovers(folder.path());
+        EXPECT_TRUE(writing->isInPlace());
+    }
+    files.removeLeftovers(folder.path());
+    EXPECT_FALSE(files.fileExists(path));
+}
+
+TEST_F(PosixFilesTest, WhatAKilledProgramWasWritingIsALeftover) {
+    const pid_t program = fork();
+    ASSERT_NE(program, -1);
+    if (program == 0) {
+        const auto writing = files.open(files.createTemporaryFile(folder.path()), OpenMode::ReadWrite);
+        writing->write("half of it");
+        raise(SIGKILL);
+    }
+    int status = 0;
+    ASSERT_EQ(waitpid(program, &status, 0), program);
+    ASSERT_TRUE(WIFSIGNALED(status));
+    ASSERT_EQ(folder.names().size(), 1U) << "nobody was left to delete it";
+    EXPECT_TRUE(listShort().empty());
+    files.removeLeftovers(folder.path());
+    EXPECT_TRUE(folder.names().empty());
+}
+
+TEST_F(PosixFilesTest, OnlyFilesAreLeftovers) {
+    folder.write("real", "x");
+    std::filesystem::create_symlink("real", folder.path(".velmora-aaaaaa.tmp"));
+    folder.makeFolder(".velmora-bbbbbb.tmp");
+    ASSERT_EQ(mkfifo(folder.path(".velmora-cccccc.tmp").c_str(), 0600), 0);
+    files.removeLeftovers(folder.path());
+    EXPECT_THAT(folder.names(),
+                ElementsAre(".velmora-aaaaaa.tmp", ".velmora-bbbbbb.tmp", ".velmora-cccccc.tmp", "real"));
+    EXPECT_EQ(folder.read("real"), "x");
 }
 
 TEST_F(PosixFilesTest, AFileDeletedWhileItIsListedDoesNoHarm) {

@@ -4,7 +4,9 @@ set(profile_tests
   profile/text_profile_files_test.cpp)
 if(WIN32)
   list(APPEND profile_tests profile/win32_profile_files_test.cpp)
+else()
+  list(APPEND profile_tests profile/linked_profile_test.cpp)
 endif()
 velmora_test(profile_tests
   SOURCES ${profile_tests}
-  LIBS velmora_profile)
+  LIBS velmora_profile velmora_platform)

@@ -283,6 +283,28 @@ TEST_F(Win32FilesTest, ReplacingByAShortNameKeepsTheLongOne) {
     EXPECT_THAT(folder.names(), ElementsAre("Settings of Velmora.ini"));
 }
 
+TEST_F(Win32FilesTest, TheFileBehindALinkIsReplacedAndTheLinkStays) {
+    folder.write("real", "old");
+    folder.write("new", "new");
+    if (CreateSymbolicLinkA(path("link").c_str(), path("real").c_str(), 0) == 0) {
+        GTEST_SKIP() << "this system lets this user make no links";
+    }
+    files.replaceFile(path("new"), path("link"));
+    EXPECT_EQ(folder.read("real"), "new");
+    EXPECT_NE(GetFileAttributesA(path("link").c_str()) & FILE_ATTRIBUTE_REPARSE_POINT, 0U);
+}
+
+TEST_F(Win32FilesTest, ATemporaryFileInUseIsNoLeftover) {
+    const std::string temporary = files.createTemporaryFile(folder.path());
+    {
+        const auto writing = files.open(temporary, OpenMode::ReadWrite);
+        files.removeLeftovers(folder.path());
+        EXPECT_TRUE(files.fileExists(temporary));
+    }
+    files.removeLeftovers(folder.path());
+    EXPECT_FALSE(files.fileExists(temporary));
+}
+
 TEST_F(Win32FilesTest, TemporaryFilesLieInTheirFolder) {
     const std::string file = files.createTemporaryFile();
     EXPECT_EQ(file.substr(0, file.rfind('\\')), folder.path());

@@ -171,6 +171,17 @@ TEST_F(Startup, AnExistingDownloadFolderIsUsed) {
     EXPECT_FALSE(memory.folderExists("/home/docs/Psion Files"));
 }
 
+TEST_F(Startup, WhatAKilledRunLeftIsRemoved) {
+    givenSetting("DownloadPath=/files");
+    memory.addFile("/files/.velmora-a1b2c3.tmp", "half a sheet");
+    memory.addFile("/files/Memo.odb", "x");
+    memory.addFile("/home/.config/.velmora-d4e5f6.tmp", "half a file");
+    start();
+    EXPECT_FALSE(memory.fileExists("/files/.velmora-a1b2c3.tmp"));
+    EXPECT_FALSE(memory.fileExists("/home/.config/.velmora-d4e5f6.tmp"));
+    EXPECT_TRUE(memory.fileExists("/files/Memo.odb"));
+}
+
 TEST_F(Startup, AFinalSeparatorGoes) {
     memory.addFolder("/data");
     for (const std::string path : {"/data\\", "/data/"}) {

@@ -74,6 +74,7 @@ class FailingFiles : public Files {
         script_->count(FileCall::CreateFolder);
         inner_.createFolder(path, rights);
     }
+    std::string followLinks(const std::string& path) const override { return inner_.followLinks(path); }
     void replaceFile(const std::string& from, const std::string& to) override {
         script_->count(FileCall::Replace);
         inner_.replaceFile(from, to);
@@ -82,6 +83,7 @@ class FailingFiles : public Files {
         script_->count(FileCall::CreateTemporary);
         return inner_.createTemporaryFile(folder);
     }
+    void removeLeftovers(const std::string& folder) override { inner_.removeLeftovers(folder); }
     void listFiles(const std::string& folder, ShortNames shortNames,
                    const std::function<void(const FolderEntry&)>& visit) const override {
         script_->count(FileCall::List);

@@ -11,6 +11,7 @@
 #include "base/byte_text.h"
 #include "base/files.h"
 #include "base/run_time_error.h"
+#include "base/temporary_name.h"
 
 namespace velmora::test {
 
@@ -91,6 +92,8 @@ class MemoryFiles : public Files {
             folders_[key(folder)] = rights;
         }
     }
+    /// There are no links.
+    std::string followLinks(const std::string& path) const override { return storedPath(path); }
     void replaceFile(const std::string& from, const std::string& to) override {
         const std::shared_ptr<std::string> bytes = entry(from).content;
         if (key(from) != key(to)) {
@@ -101,9 +104,16 @@ class MemoryFiles : public Files {
     }
     std::string createTemporaryFile(const std::string& folder = {}) override {
         const std::string path =
-            joined(folder.empty() ? temporaryFolder_ : folder, "tmp" + std::to_string(++temporaryFiles_));
+            joined(folder.empty() ? temporaryFolder_ : folder, temporaryName(++temporaryFiles_));
         make(path);
         return path;
+    }
+    void removeLeftovers(const std::string& folder) override {
+        for (const std::string& path : paths()) {
+            if (key(folderOf(path)) == key(folder) && isTemporaryName(nameOf(path))) {
+                deleteFile(path);
+            }
+        }
     }
     void listFiles(const std::string& folder, ShortNames shortNames,
                    const std::function<void(const FolderEntry&)>& visit) const override {
@@ -112,7 +122,7 @@ class MemoryFiles : public Files {
         }
         std::vector<FolderEntry> entries;
         for (const auto& [fileKey, file] : files_) {
-            if (key(folderOf(file.path)) != key(folder)) {
+            if (key(folderOf(file.path)) != key(folder) || isTemporaryName(nameOf(file.path))) {
                 continue;
             }
             FolderEntry& listed = entries.emplace_back();
@@ -249,7 +259,7 @@ class MemoryFiles : public Files {
     Entries files_;
     std::map<std::string, FolderRights> folders_{{std::string(), FolderRights::Usual}};
     std::shared_ptr<int> openFiles_ = std::make_shared<int>(0);
-    int temporaryFiles_ = 0;
+    std::uint32_t temporaryFiles_ = 0;
 };
 
 }  // namespace velmora::test

@@ -1,8 +1,11 @@
 #include "platform/posix/path_lookup.h"
 
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <algorithm>
+#include <array>
+#include <climits>
 #include <cstdlib>
 #include <memory>
 
@@ -161,6 +164,21 @@ FoundPath PathLookup::lookUp(const std::string& path) const {
         start = end + 1;
     }
     return {found, isThere(found)};
+}
+
+std::string pathBehindLinks(std::string path) {
+    constexpr int kMostLinks = 40;  // as the kernel
+    for (int links = 0; links <= kMostLinks; ++links) {
+        std::array<char, PATH_MAX> target{};
+        const ssize_t length = readlink(path.c_str(), target.data(), target.size());
+        if (length <= 0) {
+            return path;
+        }
+        const std::string next(target.data(), static_cast<std::size_t>(length));
+        const std::string folder = path.substr(0, path.rfind('/') + 1);
+        path = next.front() == '/' ? next : folder + next;
+    }
+    throw RunTimeError(ErrorNumber::BadFileName, path);
 }
 
 }  // namespace velmora

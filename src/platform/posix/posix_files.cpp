@@ -9,10 +9,12 @@
 #include <cstdio>
 #include <cstdlib>
 #include <optional>
+#include <tuple>
 #include <utility>
 #include <vector>
 
 #include "base/run_time_error.h"
+#include "base/temporary_name.h"
 #include "platform/posix/descriptor.h"
 #include "platform/posix/disk_flush.h"
 #include "platform/posix/folder_entries.h"
@@ -74,6 +76,24 @@ void flushContents(const std::string& path) {
         throw systemError(errno, path);
     }
     flushFile(file.number(), path);
+}
+
+/// Gives a new file the rights of the one that it replaces and, where the system lets it, owner and group.
+void takeOver(const std::string& path, const struct stat& old) {
+    constexpr auto kSameOwner = static_cast<uid_t>(-1);
+    if (chmod(path.c_str(), old.st_mode & 07777) != 0) {
+        throw systemError(errno, path);
+    }
+    if (chown(path.c_str(), old.st_uid, old.st_gid) != 0) {
+        std::ignore = chown(path.c_str(), kSameOwner, old.st_gid);
+    }
+}
+
+/// Whether no program has a file open for writing, as far as programs lock what they write.
+bool isFree(const std::string& path) {
+    const Descriptor file(withoutInterruption(
+        [&] { return ::open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC); }));
+    return file.number() != -1 && flock(file.number(), LOCK_EX | LOCK_NB) == 0;
 }
 
 /// What a path leads to, found without regard to case; nothing when it cannot be found for any reason.
@@ -183,17 +203,19 @@ void PosixFiles::createFolder(const std::string& path, FolderRights rights) {
     }
 }
 
+std::string PosixFiles::followLinks(const std::string& path) const {
+    return pathBehindLinks(lookup_.lookUp(path).path);
+}
+
 void PosixFiles::replaceFile(const std::string& from, const std::string& to) {
     const std::string source = lookup_.lookUp(from).path;
-    const std::string target = lookup_.lookUp(to).path;
+    const std::string target = followLinks(to);
     requireFile(source);
     if (const std::optional<struct stat> old = statusOf(target)) {
         if (!S_ISREG(old->st_mode)) {
             throw RunTimeError(ErrorNumber::PathFileAccess, target);
         }
-        if (chmod(source.c_str(), old->st_mode & 07777) != 0) {
-            throw systemError(errno, source);
-        }
+        takeOver(source, *old);
     }
     flushContents(source);
     if (rename(source.c_str(), target.c_str()) != 0) {
@@ -204,8 +226,11 @@ void PosixFiles::replaceFile(const std::string& from, const std::string& to) {
 
 std::string PosixFiles::createTemporaryFile(const std::string& folder) {
     const std::string place = lookup_.lookUp(folder.empty() ? temporaryFolder_ : folder).path;
-    std::string path = (place.back() == '/' ? place : place + "/") + "velmora-XXXXXX";
-    const Descriptor file(withoutInterruption([&] { return mkostemp(path.data(), O_CLOEXEC); }));
+    std::string path = (place.back() == '/' ? place : place + "/") + std::string(kTemporaryPrefix) +
+                       std::string(kTemporaryLetters, 'X') + std::string(kTemporarySuffix);
+    constexpr int kSuffixLength = kTemporarySuffix.size();
+    const Descriptor file(
+        withoutInterruption([&] { return mkostemps(path.data(), kSuffixLength, O_CLOEXEC); }));
     if (file.number() == -1) {
         throw systemError(errno, path);
     }
@@ -220,6 +245,20 @@ std::string PosixFiles::createTemporaryFile(const std::string& folder) {
     return path;
 }
 
+void PosixFiles::removeLeftovers(const std::string& folder) {
+    try {
+        const std::string place = lookup_.lookUp(folder).path;
+        for (const ListedEntry& entry : sortedEntries(place)) {
+            const std::string path = place + "/" + entry.name;
+            if (entry.isFile && isTemporaryName(entry.name) && isFree(path)) {
+                unlink(path.c_str());
+            }
+        }
+    } catch (const RunTimeError&) {
+        // A folder that cannot be read is told by whoever needs it.
+    }
+}
+
 void PosixFiles::listFiles(const std::string& folder, ShortNames shortNames,
                            const std::function<void(const FolderEntry&)>& visit) const {
     const std::string found = lookup_.lookUp(folder).path;
@@ -229,7 +268,7 @@ void PosixFiles::listFiles(const std::string& folder, ShortNames shortNames,
         shorts = lookup_.shortNames(found, namesOf(entries));
     }
     for (std::size_t i = 0; i < entries.size(); ++i) {
-        if (entries[i].isFile) {
+        if (entries[i].isFile && !isTemporaryName(entries[i].name)) {
             visit({entries[i].name, shorts[i], entries[i].hasTwin});
         }
     }

@@ -25,9 +25,11 @@ class PosixFiles : public Files {
     std::unique_ptr<File> open(const std::string& path, OpenMode mode) override;
     void deleteFile(const std::string& path) override;
     void createFolder(const std::string& path, FolderRights rights = FolderRights::Usual) override;
-    /// A replaced file hands its access rights on to the new one.
+    std::string followLinks(const std::string& path) const override;
+    /// Only the administrator may give a file away; its owner may give it to the groups that he is in.
     void replaceFile(const std::string& from, const std::string& to) override;
     std::string createTemporaryFile(const std::string& folder = {}) override;
+    void removeLeftovers(const std::string& folder) override;
     /// Names are in the order of their bytes. Short names are those among all entries of the folder.
     void listFiles(const std::string& folder, ShortNames shortNames,
                    const std::function<void(const FolderEntry&)>& visit) const override;

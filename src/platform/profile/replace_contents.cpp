@@ -20,13 +20,14 @@ void replaceContents(Files& files, const PathRules& rules, const std::string& pa
     if (files.folderExists(path)) {
         throw RunTimeError(ErrorNumber::PathFileAccess, path);
     }
-    const std::string temporary = files.createTemporaryFile(rules.parentFolder(rules.absolute(path)));
+    const std::string target = rules.absolute(files.followLinks(path));
+    const std::string temporary = files.createTemporaryFile(rules.parentFolder(target));
     try {
         const auto file = files.open(temporary, OpenMode::Create);
         file->write(contents);
         file->close();
         if (!edit || edit(temporary)) {
-            files.replaceFile(temporary, path);
+            files.replaceFile(temporary, target);
         } else {
             deleteQuietly(files, temporary);
         }

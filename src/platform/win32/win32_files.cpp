@@ -2,12 +2,13 @@
 
 #include <windows.h>
 
-#include <array>
 #include <optional>
+#include <random>
 #include <utility>
 #include <vector>
 
 #include "base/run_time_error.h"
+#include "base/temporary_name.h"
 #include "platform/win32/win32_errors.h"
 #include "platform/win32/win32_file.h"
 #include "platform/win32/win32_folder.h"
@@ -207,9 +208,13 @@ void Win32Files::createFolder(const std::string& path, FolderRights /*rights*/) 
     }
 }
 
+std::string Win32Files::followLinks(const std::string& path) const {
+    return pathBehindWin32Links(lookup_.lookUp(path));
+}
+
 void Win32Files::replaceFile(const std::string& from, const std::string& to) {
     const std::string source = lookup_.lookUp(from);
-    std::string target = lookup_.lookUp(to);
+    std::string target = followLinks(to);
     requireFile(source);
     if (const std::optional<Win32Status> old = statusOf(target)) {
         if (old->isFolder) {
@@ -232,11 +237,31 @@ void Win32Files::replaceFile(const std::string& from, const std::string& to) {
 
 std::string Win32Files::createTemporaryFile(const std::string& folder) {
     const std::string place = lookup_.lookUp(folder.empty() ? temporaryFolder_ : folder);
-    std::array<char, MAX_PATH> path{};
-    if (GetTempFileNameA(place.c_str(), "vel", 0, path.data()) == 0) {
-        throw win32Error(GetLastError(), place);
+    std::random_device random;
+    while (true) {
+        const std::string path = withSeparator(place) + temporaryName(random());
+        const Win32Handle file(
+            CreateFileA(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr));
+        if (file.isValid()) {
+            return path;
+        }
+        if (GetLastError() != ERROR_FILE_EXISTS) {
+            throw win32Error(GetLastError(), path);
+        }
     }
-    return path.data();
+}
+
+void Win32Files::removeLeftovers(const std::string& folder) {
+    try {
+        const std::string place = withSeparator(lookup_.lookUp(folder));
+        for (const Win32Entry& entry : readWin32Folder(place)) {
+            if (entry.isFile && isTemporaryName(entry.name)) {
+                DeleteFileA((place + entry.name).c_str());  // refused while a program has it open
+            }
+        }
+    } catch (const RunTimeError&) {
+        // A folder that cannot be read is told by whoever needs it.
+    }
 }
 
 void Win32Files::listFiles(const std::string& folder, ShortNames shortNames,
@@ -248,7 +273,7 @@ void Win32Files::listFiles(const std::string& folder, ShortNames shortNames,
         shorts = lookup_.shortNames(found, entries);
     }
     for (std::size_t i = 0; i < entries.size(); ++i) {
-        if (entries[i].isFile) {
+        if (entries[i].isFile && !isTemporaryName(entries[i].name)) {
             visit({entries[i].name, shorts[i]});
         }
     }

@@ -34,11 +34,13 @@ class Win32Files : public Files {
     std::unique_ptr<File> open(const std::string& path, OpenMode mode) override;
     void deleteFile(const std::string& path) override;
     void createFolder(const std::string& path, FolderRights rights = FolderRights::Usual) override;
-    /// By MoveFileExA. The new file keeps the rights that it was made with. Virus scanners and indexers hold
-    /// a file that was just closed for some milliseconds, so a refusal is final only after half a second.
+    std::string followLinks(const std::string& path) const override;
+    /// By MoveFileExA. The new file keeps the rights that it was made with, those of its folder. Virus
+    /// scanners and indexers hold a file that was just closed for some milliseconds, so a refusal is final
+    /// only after half a second.
     void replaceFile(const std::string& from, const std::string& to) override;
-    /// By GetTempFileNameA.
     std::string createTemporaryFile(const std::string& folder = {}) override;
+    void removeLeftovers(const std::string& folder) override;
     /// Names are in the order of their bytes. A file whose name is not in the ANSI code page is listed by its
     /// short name, or left out where the volume keeps none. Short names are those that the volume keeps;
     /// where it keeps none that the Organiser can write, they are made up among all entries of the folder.
