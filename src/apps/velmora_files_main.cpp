@@ -6,11 +6,13 @@
 #include "files/files_tool.h"
 #include "platform/binary_streams.h"
 #include "platform/console_output.h"
+#include "platform/file_size_limit.h"
 #include "platform/native.h"
 
 int main(int argc, char** argv) {
     using namespace velmora;
     openStandardStreams();
+    outliveFileSizeLimit();
     const auto console = showOnConsole(PrintedText::System);
     useBinaryStandardStreams();
     return runProgram("velmora-files", std::cout, std::cerr, [argc, argv] {

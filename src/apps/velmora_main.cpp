@@ -9,6 +9,7 @@
 #include "apps/desktop_server.h"
 #include "arguments/program.h"
 #include "eventloop/stop_signals.h"
+#include "platform/file_size_limit.h"
 
 namespace {
 
@@ -32,6 +33,7 @@ int serve(int argc, char** argv) {
 
 int main(int argc, char** argv) {
     openStandardStreams();
+    outliveFileSizeLimit();
     return runProgram("velmora", std::cout, std::cerr, [argc, argv] {
         try {
             return serve(argc, argv);

@@ -17,6 +17,7 @@
 #include "organiser/progress.h"
 #include "platform/binary_streams.h"
 #include "platform/console_output.h"
+#include "platform/file_size_limit.h"
 #include "serial/wire_time.h"
 
 namespace {
@@ -50,6 +51,7 @@ ExitStatus run(const CommandLine& line) {
 
 int main(int argc, char** argv) {
     openStandardStreams();
+    outliveFileSizeLimit();
     const auto console = showOnConsole(PrintedText::Utf8);
     // Contents of files go to standard output as they are.
     useBinaryStandardStreams();

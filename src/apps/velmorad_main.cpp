@@ -9,6 +9,7 @@
 #include "arguments/program.h"
 #include "eventloop/stop_signals.h"
 #include "platform/console_output.h"
+#include "platform/file_size_limit.h"
 
 namespace {
 
@@ -30,6 +31,7 @@ int serve(const ServerArguments& arguments, int argc, char** argv) {
 
 int main(int argc, char** argv) {
     openStandardStreams();
+    outliveFileSizeLimit();
     const auto console = showOnConsole(PrintedText::System);
     return runProgram("velmorad", std::cout, std::cerr, [argc, argv] {
         return serve(readServerArguments(systemArguments(argc, argv)), argc, argv);
