@@ -12,7 +12,10 @@ namespace {
 struct Encoder {
     CellMessage operator()(std::monostate) const { return {}; }
     CellMessage operator()(std::int16_t value) const { return {kCellValue, std::to_string(value)}; }
-    CellMessage operator()(double value) const { return {kCellValue, exponentText(value)}; }
+    CellMessage operator()(double value) const {
+        const std::string text = exponentText(value);
+        return {kCellValue, std::isfinite(value) ? text : "=" + text};
+    }
     CellMessage operator()(const Label& label) const { return {kCellLabel, label.text}; }
     CellMessage operator()(const Formula& formula) const { return {kCellValue, "=" + formula.text}; }
 };

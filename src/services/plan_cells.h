@@ -11,8 +11,8 @@ namespace velmora {
 constexpr int kCellLabel = 34;
 constexpr int kCellValue = 135;  ///< a number, or a formula beginning with "="
 
-/// A cell's type and text. Doubles are in exponent form (spreadsheet/sheet_number_text.h). Requires: a cell
-/// that is not empty.
+/// A cell's type and text. Doubles are in exponent form (spreadsheet/sheet_number_text.h), infinities and NaN
+/// the formula ERR. Requires: a cell that is not empty.
 struct CellMessage {
     int type = kCellValue;
     std::string text;

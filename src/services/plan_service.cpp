@@ -161,10 +161,6 @@ void PlanService::handleSize(std::string_view message) {
     }
     const int columns = byteAt(message, 0);
     const int rows = byteAt(message, 1);
-    if (columns > kSheetColumns || rows > kSheetRows) {
-        throw RunTimeError(ErrorNumber::SubscriptOutOfRange,
-                           std::to_string(rows) + " rows, " + std::to_string(columns) + " columns");
-    }
     sheet_ = SheetGrid(rows, columns);
     phase_ = Phase::Receiving;
     window_.SetStats(StatsBytesReceived, static_cast<std::int16_t>(kSizeLength));

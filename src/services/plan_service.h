@@ -7,6 +7,8 @@
 //                 254                                                    -> 254 0
 //   cell          column, row (both from 0), type, text
 //
+// The Organiser may announce up to 255 columns and rows and has them saved; what goes back ends at Z99.
+//
 // Types: 34 a label, 135 a number or a formula with its "=".
 #pragma once
 

@@ -39,8 +39,8 @@ class Spreadsheet {
     /// the sheet as it was then, as it does for a format other than 2 to 6 (0).
     int ImportSheet(SheetGrid& sheet, const std::string& fileName, int format);
 
-    /// Throws the RunTimeError that writing there would meet. Changes nothing: an existing file keeps its
-    /// content, a missing one stays missing.
+    /// Throws the RunTimeError that writing there would meet, 75 where no file can be. Changes nothing: an
+    /// existing file keeps its content, a missing one stays missing.
     void checkWritable(const std::string& fileName);
 
   private:

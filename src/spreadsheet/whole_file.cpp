@@ -57,10 +57,17 @@ void checkWritable(Files& files, const PathRules& rules, const std::string& path
     if (files.fileExists(path)) {
         files.open(path, OpenMode::ReadWrite)->close();
         files.deleteFile(temporaryBeside(files, rules, path));
-    } else {
-        files.open(path, OpenMode::CreateNew)->close();
-        files.deleteFile(path);
+        return;
     }
+    try {
+        files.open(path, OpenMode::CreateNew)->close();
+    } catch (const RunTimeError& error) {
+        // What has the name is no file: a folder, a device, a pipe, a link that leads nowhere.
+        throw error.errorNumber() == ErrorNumber::FileAlreadyExists
+            ? RunTimeError(ErrorNumber::PathFileAccess, path)
+            : error;
+    }
+    files.deleteFile(path);
 }
 
 }  // namespace velmora

@@ -14,8 +14,8 @@ namespace velmora {
 /// last step, and after any failure, the old file (or none) is there. Throws what the file layer throws.
 void writeWholeFile(Files& files, const PathRules& rules, const std::string& path, std::string_view bytes);
 
-/// Whether writeWholeFile could write there: throws the RunTimeError that it would meet. Neither the file nor
-/// the folder is changed.
+/// Whether writeWholeFile could write there: throws the RunTimeError that it would meet, and 75 where
+/// something else than a file has the name. Neither the file nor the folder is changed.
 void checkWritable(Files& files, const PathRules& rules, const std::string& path);
 
 }  // namespace velmora

@@ -1,6 +1,8 @@
 // Clock, boot code and spreadsheets over the line, also when it loses and repeats frames.
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
+#include <filesystem>
 #include <regex>
 #include <string>
 
@@ -111,6 +113,22 @@ TEST_F(ServicesTest, TheCommonDialectMarksParenthesesInWorksheets) {
         EXPECT_NE(loaded.output.find("D1 =(A1+B1)*C1"), std::string::npos) << loaded.output;
         stopServer();
         server->wait();
+    }
+}
+
+TEST_F(ServicesTest, AWorksheetUnderTheNameOfSomethingElseIsRefusedWith189) {
+    std::filesystem::create_directory(psion / "Folder.wks");
+    std::filesystem::create_symlink("nowhere", psion / "Link.wks");
+    std::filesystem::create_symlink("/dev/null", psion / "Device.wks");
+    ASSERT_EQ(::mkfifo((psion / "Pipe.wks").c_str(), 0600), 0);
+    startServer();
+    writeFile(home / "cells", "A1 1\r\n");
+    for (const std::string name : {"FOLDER", "LINK", "DEVICE", "PIPE"}) {
+        const Finished refused =
+            organiser({"sheet-save", organiserPath(home / "cells"), "--as", name, "--format", "wks"});
+        EXPECT_EQ(refused.status, 3) << name;
+        EXPECT_NE((refused.output + refused.error).find("189"), std::string::npos)
+            << name << refused.output << refused.error;
     }
 }
 

@@ -16,8 +16,8 @@ TEST(CellMessage, EachKindHasItsTypeAndText) {
     EXPECT_EQ(cellMessage(Cell(Formula{"A1+B1"})), (CellMessage{135, "=A1+B1"}));
 }
 
-TEST(CellMessage, WhatIsNoNumberIsErr) {
-    EXPECT_EQ(cellMessage(Cell(std::numeric_limits<double>::infinity())), (CellMessage{135, "ERR"}));
+TEST(CellMessage, WhatIsNoNumberIsTheFormulaErr) {
+    EXPECT_EQ(cellMessage(Cell(std::numeric_limits<double>::infinity())), (CellMessage{135, "=ERR"}));
 }
 
 TEST(NumberCell, WholeNumbersBelow32768AreIntegers) {

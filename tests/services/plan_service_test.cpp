@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 #include "base/run_time_error.h"
 #include "link/server_state.h"
 #include "spreadsheet/wks_writer.h"
@@ -176,6 +178,7 @@ TEST_F(PlanServiceTest, APathThatCannotBeWrittenIsRefusedWithOneByte) {
         ErrorNumber error;
         const char* code;
     } rows[] = {{ErrorNumber::PathFileAccess, "\xBD"},
+                {ErrorNumber::FileAlreadyExists, "\xBD"},
                 {ErrorNumber::PermissionDenied, "\xC7"},
                 {ErrorNumber::DiskFull, "\xBA"},
                 {ErrorNumber::TooManyFiles, "\xBC"}};
@@ -393,15 +396,47 @@ TEST_F(PlanServiceTest, MessagesTooShortForACellAreARunTimeError) {
     put(value(0, 0, ""));
 }
 
-TEST_F(PlanServiceTest, TheSizeIsTwoBytesWithinTheOrganisersSheet) {
+TEST_F(PlanServiceTest, TheSizeIsTwoBytes) {
     save(2, "S");
     expectRunTimeError("");
     expectRunTimeError("\1");
     expectRunTimeError(value(0, 0, "a cell before any size"));
-    expectRunTimeError("\x1B\1");
-    expectRunTimeError("\1\x64");
     announce(26, 99);
     put(value(25, 98, "1"));
+}
+
+TEST_F(PlanServiceTest, ASheetLargerThanTheOrganisersIsSavedWholeAndItsCellsUpToZ99ComeBack) {
+    for (const int format : {2, 6}) {
+        const std::string name = "L" + std::to_string(format) + ".X";
+        save(format, name);
+        announce(255, 255);
+        put(value(0, 0, "1"));
+        put(value(26, 0, "222"));
+        put(value(0, 99, "333"));
+        put(value(254, 254, "444"));
+        EXPECT_EQ(ask("\xFE"), kEnd);
+        event(PLP_EV_RESET);
+        load(format, name);
+        EXPECT_EQ(ask(""), value(0, 0, "1"));
+        for (std::string cell = ask(""); cell != kEnd; cell = ask("")) {
+            ASSERT_EQ(cell.substr(2), "\"") << "nothing but the empty labels of a text file";
+        }
+        event(PLP_EV_RESET);
+    }
+    EXPECT_NE(memory.content("/folder/L6.X").find("444"), std::string::npos);
+}
+
+TEST_F(PlanServiceTest, NumbersThatAreNotFiniteAreSentAsAFormula) {
+    SheetGrid sheet(1, 3);
+    sheet.at({0, 0}) = std::numeric_limits<double>::infinity();
+    sheet.at({0, 1}) = -std::numeric_limits<double>::infinity();
+    sheet.at({0, 2}) = std::numeric_limits<double>::quiet_NaN();
+    memory.addFile("/folder/S.WKS", writeWks(sheet));
+    load(2, "S");
+    for (int column = 0; column < 3; ++column) {
+        EXPECT_EQ(ask(""), value(column, 0, "=ERR"));
+    }
+    EXPECT_EQ(ask(""), kEnd);
 }
 
 // The end of the service.

@@ -80,6 +80,17 @@ TEST_F(WholeFileTest, CheckingChangesNothing) {
     expectOnlyTheOldFile();
 }
 
+TEST_F(WholeFileTest, WhatIsNoFileCannotBeWrittenRatherThanExisting) {
+    files.failAtCall(FileCall::Open, 1, ErrorNumber::FileAlreadyExists);
+    try {
+        checkWritable(files, rules, "/folder/a pipe");
+        FAIL();
+    } catch (const RunTimeError& error) {
+        EXPECT_EQ(error.number(), 75);
+    }
+    expectOnlyTheOldFile();
+}
+
 TEST_F(WholeFileTest, CheckingFindsWhatWritingWouldMeet) {
     EXPECT_THROW(checkWritable(files, rules, "/missing/New.wks"), RunTimeError);
     EXPECT_THROW(checkWritable(files, rules, "/folder"), RunTimeError);
