@@ -11,6 +11,7 @@
 #include "spreadsheet/byte_conversions.h"
 #include "spreadsheet/formula_decoder.h"
 #include "spreadsheet/formula_encoder.h"
+#include "spreadsheet/formula_tables.h"
 #include "spreadsheet/infix_to_rpn.h"
 #include "spreadsheet/wks_reader.h"
 #include "spreadsheet/wks_writer.h"
@@ -117,6 +118,32 @@ BENCHMARK(BM_ReadJunk)
     ->Unit(benchmark::kMillisecond)
     ->ArgsProduct({{5, 50}, {0, 20, 60'000}})
     ->ArgNames({"MB", "body"});
+
+/// 49 MB of formulas that fill their records and whose operands grow as far as they may: by signs, by calls
+/// of many arguments, in pieces of the longest operand each.
+void BM_ReadGrowingOperands(benchmark::State& state) {
+    constexpr std::size_t kTokens = 0xFFFF - 15;
+    constexpr int kFunction = 80;
+    const auto fill = [](std::string tokens, const std::string& pattern) {
+        while (tokens.size() + pattern.size() <= kTokens) {
+            tokens += pattern;
+        }
+        return tokens;
+    };
+    const std::string one = "\5\1" + std::string(1, '\0');
+    const std::string signs = fill(one, std::string(1, kFirstOperator));
+    const std::string calls = fill(one, {static_cast<char>(kFunction), static_cast<char>(255)});
+    const std::string pieces = fill({}, one + std::string(4090, kFirstOperator));
+    const std::string& tokens = state.range(0) == 0 ? signs : state.range(0) == 1 ? calls : pieces;
+    const std::string body = std::string(15, '\0') + tokens;
+    const std::string record = int16ToBytes(16) + int16ToBytes(static_cast<int>(body.size())) + body;
+    constexpr std::uint64_t kSize = 49'000'000;
+    for (auto _ : state) {
+        RepeatedFile file(record, kSize);
+        benchmark::DoNotOptimize(readWks(file));
+    }
+}
+BENCHMARK(BM_ReadGrowingOperands)->Unit(benchmark::kMillisecond)->DenseRange(0, 2)->ArgName("pattern");
 
 }  // namespace
 }  // namespace velmora

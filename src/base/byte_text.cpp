@@ -158,6 +158,16 @@ std::optional<std::string> fromUtf8(std::string_view utf8) {
     return out;
 }
 
+std::string showControls(std::string_view text) {
+    constexpr unsigned char kDelete = 127;
+    std::string out;
+    for (const char c : text) {
+        const auto byte = static_cast<unsigned char>(c);
+        out += byte < ' ' || byte == kDelete ? "<" + hexDump({&c, 1}) + ">" : std::string(1, c);
+    }
+    return out;
+}
+
 std::string hexDump(std::string_view bytes) {
     constexpr const char* kDigits = "0123456789ABCDEF";
     std::string out;

@@ -23,6 +23,10 @@ std::optional<std::string> toUtf8Exact(std::string_view windows1252);
 /// UTF-8 to Windows-1252; nothing when the text is not valid UTF-8 or a character has no byte.
 std::optional<std::string> fromUtf8(std::string_view utf8);
 
+/// The text with each control byte (0 to 31, 127) as "<", two hexadecimal digits and ">": one line, and
+/// nothing that a terminal would obey.
+std::string showControls(std::string_view text);
+
 /// The bytes as upper-case hexadecimal pairs with a blank between them, for messages.
 std::string hexDump(std::string_view bytes);
 

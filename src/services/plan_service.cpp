@@ -29,9 +29,9 @@ const std::string kEndReply = {kEndOfSheet, '\0'};
 
 }  // namespace
 
-PlanService::PlanService(FrameSender& sender, ServerWindow& window, const FileNameMapper& mapper,
-                         Spreadsheet& spreadsheet)
-    : sender_(sender), window_(window), mapper_(mapper), spreadsheet_(spreadsheet) {}
+PlanService::PlanService(FrameSender& sender, ServerWindow& window, Trace& trace,
+                         const FileNameMapper& mapper, Spreadsheet& spreadsheet)
+    : sender_(sender), window_(window), trace_(trace), mapper_(mapper), spreadsheet_(spreadsheet) {}
 
 void PlanService::handle(std::int32_t& code, std::string& payload) {
     switch (code) {
@@ -78,6 +78,20 @@ void PlanService::refuse(std::int32_t& code, std::string_view reason) {
     sender_.PLP_Send(FrameType::Discon, reason);
 }
 
+void PlanService::report(const std::string& line) {
+    const std::string text = mapper_.displayName(path_) + line;
+    trace_.trace("COM,ERROR", "PLAN", text);
+    window_.Report(text);
+}
+
+CellRemark PlanService::remarks() {
+    return [this](const std::string& line) { report(", " + line); };
+}
+
+void PlanService::reportFailure(const char* what, int error) {
+    report(std::string(" ") + what + ": " + errorText(static_cast<ErrorNumber>(error)));
+}
+
 void PlanService::handleHeader(std::int32_t& code, std::string_view message) {
     if (message.empty()) {
         failMessage("the header of a spreadsheet is empty");
@@ -94,8 +108,9 @@ void PlanService::handleHeader(std::int32_t& code, std::string_view message) {
 }
 
 void PlanService::beginSending(std::int32_t& code) {
-    const int error = spreadsheet_.ImportSheet(sheet_, path_, format_);
+    const int error = spreadsheet_.ImportSheet(sheet_, path_, format_, remarks());
     if (error != 0) {
+        reportFailure("was not read", error);
         refuse(code, std::to_string(error));
         return;
     }
@@ -110,6 +125,7 @@ void PlanService::beginReceiving(std::int32_t& code) {
     try {
         spreadsheet_.checkWritable(path_);
     } catch (const RunTimeError& error) {
+        reportFailure("cannot be written", error.number());
         refuse(code, codePayload(map_Error(error)));
         return;
     }
@@ -197,8 +213,9 @@ void PlanService::storeCell(const CellPosition& at, int type, std::string_view t
 
 void PlanService::finishReceiving(std::int32_t& code) {
     window_.SetStats(StatsFilesReceived, 1);
-    const int error = spreadsheet_.ExportSheet(sheet_, path_, format_);
+    const int error = spreadsheet_.ExportSheet(sheet_, path_, format_, remarks());
     if (error != 0) {
+        reportFailure("was not saved", error);
         refuse(code, codePayload(error));
     } else {
         reply(kEndReply);

@@ -18,13 +18,17 @@
 
 #include "link/frame_sender.h"
 #include "link/server_window.h"
+#include "link/trace.h"
 #include "services/file_name_mapper.h"
 #include "services/service_handler.h"
 #include "spreadsheet/spreadsheet.h"
 
 namespace velmora {
 
-/// The handler. Holds references only; sender, window, mapper and spreadsheet must outlive it.
+/// The handler. Holds references only; sender, window, trace, mapper and spreadsheet must outlive it.
+///
+/// What a format does not keep of a sheet, and why one could not be read or written, is said to the trace and
+/// the log, cell by cell.
 ///
 /// A file that cannot be read ends the service with a DISCON whose data is the run-time error number in
 /// decimal digits, one that cannot be written with one byte: the code of map_Error when the path is checked
@@ -32,7 +36,7 @@ namespace velmora {
 /// cell outside the announced size, is a RunTimeError for the dispatcher.
 class PlanService : public ServiceHandler {
   public:
-    PlanService(FrameSender& sender, ServerWindow& window, const FileNameMapper& mapper,
+    PlanService(FrameSender& sender, ServerWindow& window, Trace& trace, const FileNameMapper& mapper,
                 Spreadsheet& spreadsheet);
 
     void handle(std::int32_t& code, std::string& payload) override;
@@ -57,11 +61,18 @@ class PlanService : public ServiceHandler {
     void storeCell(const CellPosition& at, int type, std::string_view text);
     void finishReceiving(std::int32_t& code);
 
+    /// Tells trace and log a line about the file, behind its name.
+    void report(const std::string& line);
+    /// Passes the remarks of a conversion on.
+    CellRemark remarks();
+    void reportFailure(const char* what, int error);
+
     void reply(std::string_view data) { sender_.PLP_Send(FrameType::Data, data); }
     void refuse(std::int32_t& code, std::string_view reason);
 
     FrameSender& sender_;
     ServerWindow& window_;
+    Trace& trace_;
     const FileNameMapper& mapper_;
     Spreadsheet& spreadsheet_;
 

@@ -106,6 +106,15 @@ std::string EncodeRange(std::string_view text, const CellPosition& formulaCell) 
            EncodeCellRef(text.substr(colon + 1), formulaCell);
 }
 
+std::string cellName(const CellPosition& at) {
+    constexpr int kLetters = 26;
+    std::string letters;
+    for (int rest = at.column; rest >= 0; rest = rest / kLetters - 1) {
+        letters.insert(letters.begin(), static_cast<char>('A' + rest % kLetters));
+    }
+    return letters + std::to_string(at.row + 1);
+}
+
 bool IsCellRef(std::string_view text) {
     const std::size_t colon = text.find(':');
     if (colon == std::string_view::npos) {

@@ -22,6 +22,9 @@ std::string EncodeCellRef(std::string_view text, const CellPosition& formulaCell
 /// The eight bytes of a range. Requires: IsCellRef with a ":".
 std::string EncodeRange(std::string_view text, const CellPosition& formulaCell);
 
+/// A cell as people call it: "B3", beyond the sheet "AA100".
+std::string cellName(const CellPosition& at);
+
 /// Whether a text is a reference or a range: an optional "$", one letter in either case, an optional "$" and
 /// the digits of a row up to 32,768; two of these with ":" between them.
 bool IsCellRef(std::string_view text);

@@ -1,6 +1,5 @@
 #include "spreadsheet/formula_encoder.h"
 
-#include <algorithm>
 #include <cmath>
 #include <optional>
 
@@ -9,34 +8,10 @@
 #include "spreadsheet/cell_reference.h"
 #include "spreadsheet/formula_tables.h"
 #include "spreadsheet/infix_to_rpn.h"
+#include "spreadsheet/postfix_tokens.h"
 
 namespace velmora {
 namespace {
-
-/// Whether a token is a number as a whole: digits, "." and digits, "E" and an exponent.
-bool isNumber(std::string_view token) {
-    const auto takeDigits = [&] {
-        std::size_t count = 0;
-        while (count < token.size() && token[count] >= '0' && token[count] <= '9') {
-            ++count;
-        }
-        token.remove_prefix(count);
-        return count;
-    };
-    std::size_t digits = takeDigits();
-    if (!token.empty() && token.front() == '.') {
-        token.remove_prefix(1);
-        digits += takeDigits();
-    }
-    if (digits > 0 && !token.empty() && (token.front() == 'E' || token.front() == 'e')) {
-        token.remove_prefix(1);
-        if (!token.empty() && (token.front() == '-' || token.front() == '+')) {
-            token.remove_prefix(1);
-        }
-        digits = takeDigits();
-    }
-    return digits > 0 && token.empty();
-}
 
 /// A number's token; nothing for one that no double holds.
 std::optional<std::string> encodeNumber(std::string_view token) {
@@ -70,7 +45,7 @@ std::optional<std::string> encodeToken(std::string_view token, const CellPositio
         std::string bytes(1, static_cast<char>(kTokenString));
         return bytes.append(token.substr(1, token.size() - 2)) + '\0';
     }
-    if (isNumber(token)) {
+    if (isNumberToken(token)) {
         return encodeNumber(token);
     }
     if (IsCellRef(token)) {
@@ -85,15 +60,6 @@ std::optional<std::string> encodeToken(std::string_view token, const CellPositio
     return std::nullopt;
 }
 
-/// Where the token at the front of a postfix text ends.
-std::size_t tokenLength(std::string_view postfix, WksDialect dialect) {
-    std::size_t from = 0;
-    if (dialect == WksDialect::Common && postfix.front() == '"') {
-        from = std::min(postfix.find('"', 1), postfix.size());
-    }
-    return std::min(postfix.find(' ', from), postfix.size());
-}
-
 }  // namespace
 
 std::string EncodeFormula(std::string_view text, const CellPosition& formulaCell, WksDialect dialect) {
@@ -101,16 +67,16 @@ std::string EncodeFormula(std::string_view text, const CellPosition& formulaCell
     std::string tokens;
     tokens.reserve(postfix.size() * 2);
     for (std::string_view rest = postfix; !rest.empty();) {
-        const std::size_t length = tokenLength(rest, dialect);
-        if (length > 0) {
-            const auto bytes = encodeToken(rest.substr(0, length), formulaCell, dialect);
-            if (!bytes) {
-                tokens = static_cast<char>(kTokenErr);
-                break;
-            }
-            tokens += *bytes;
+        const std::string_view token = takePostfixToken(rest, dialect);
+        if (token.empty()) {
+            continue;
         }
-        rest.remove_prefix(std::min(length + 1, rest.size()));
+        const auto bytes = encodeToken(token, formulaCell, dialect);
+        if (!bytes) {
+            tokens = static_cast<char>(kTokenErr);
+            break;
+        }
+        tokens += *bytes;
     }
     return tokens + static_cast<char>(kTokenEnd);
 }

@@ -59,17 +59,24 @@ class PostfixConversion {
         }
         if (dialect_ == WksDialect::Common && text_.substr(position_, 2) == kParenthesesSymbol) {
             position_ += kParenthesesSymbol.size();
-            return push("(" + stack_.PopOperand().text + ")", kOperandPrecedence);
+            return push("(" + pop().text + ")", kOperandPrecedence);
         }
         return Outcome::Empty;
     }
 
     Outcome push(std::string text, std::int16_t precedence) {
-        if (text.size() > kLongestOperand) {
+        waiting_ += text.size();
+        if (waiting_ > kLongestOperand) {
             return Outcome::Error;
         }
         stack_.PushOperand(std::move(text), precedence);
         return Outcome::Continue;
+    }
+
+    StackEntry pop() {
+        StackEntry operand = stack_.PopOperand();
+        waiting_ -= operand.text.size();
+        return operand;
     }
 
     Outcome takeQuoted() {
@@ -110,7 +117,7 @@ class PostfixConversion {
         const std::size_t present = std::min(count, stack_.size());
         std::vector<std::string> arguments(present);
         for (std::size_t i = present; i-- > 0;) {
-            arguments[i] = stack_.PopOperand().text;
+            arguments[i] = pop().text;
         }
         // Arguments that were not on the stack are empty and come first.
         std::string call(name);
@@ -153,10 +160,10 @@ class PostfixConversion {
     Outcome takeOperator() {
         const std::string_view symbol = takeSymbol();
         const std::int16_t precedence = OperatorPrecedence(symbol);
-        const StackEntry right = stack_.PopOperand();
+        const StackEntry right = pop();
         std::string result;
         if (!isUnary(symbol)) {
-            StackEntry left = stack_.PopOperand();
+            StackEntry left = pop();
             if (precedence <= left.precedence) {
                 result = std::move(left.text);
             } else {
@@ -172,6 +179,7 @@ class PostfixConversion {
     WksDialect dialect_;
     std::size_t position_ = 0;
     OperandStack stack_;
+    std::size_t waiting_ = 0;  // bytes of all operands on the stack
 };
 
 }  // namespace

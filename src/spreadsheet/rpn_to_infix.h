@@ -9,8 +9,10 @@
 
 namespace velmora {
 
-/// Longest operand that a conversion builds on the way, in bytes; beyond it the formula is "ERR".
-constexpr std::size_t kLongestOperand = 64 * 1024;
+/// How long the operands that wait during a conversion may be together, in bytes; beyond it the formula is
+/// "ERR". Far above the 250 characters of a formula, and low enough that a file full of growing operands is
+/// soon read.
+constexpr std::size_t kLongestOperand = 4 * 1024;
 
 /// Rebuilds a formula from blank-separated postfix tokens: parentheses stand only where an operand ranks
 /// below its operator, so those of a right operand of equal rank are lost ("A1 B1 C1 - -" is "A1-B1-C1").

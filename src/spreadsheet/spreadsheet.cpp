@@ -5,6 +5,7 @@
 #include "base/run_time_error.h"
 #include "spreadsheet/dif_reader.h"
 #include "spreadsheet/dif_writer.h"
+#include "spreadsheet/sheet_error.h"
 #include "spreadsheet/text_reader.h"
 #include "spreadsheet/text_writer.h"
 #include "spreadsheet/whole_file.h"
@@ -18,12 +19,18 @@ bool hasFiles(int format) {
     return format >= kFormatWks && format <= kFormatTab;
 }
 
-/// Runs a file operation; 0 or the number of the run-time error that ended it.
+/// Runs a file operation; 0 or the number of the run-time error that ended it. `remark` hears of an error
+/// that comes of the sheet.
 template <typename Operation>
-int errorOf(Operation operation) {
+int errorOf(const CellRemark& remark, Operation operation) {
     try {
         operation();
         return 0;
+    } catch (const SheetError& error) {
+        if (remark) {
+            remark(error.line());
+        }
+        return error.number();
     } catch (const RunTimeError& error) {
         return error.number();
     }
@@ -31,9 +38,11 @@ int errorOf(Operation operation) {
 
 }  // namespace
 
-std::string sheetBytes(const SheetGrid& sheet, int format, const SpreadsheetSettings& settings) {
+std::string sheetBytes(const SheetGrid& sheet, int format, const SpreadsheetSettings& settings,
+                       const CellRemark& remark) {
     switch (format) {
         case kFormatWks:
+            checkFormulas(sheet, settings.wksDialect, remark);
             return writeWks(sheet, settings.wksDialect);
         case kFormatDif:
             return writeDif(sheet);
@@ -49,6 +58,9 @@ std::string sheetBytes(const SheetGrid& sheet, int format, const SpreadsheetSett
 }
 
 SheetGrid sheetFromFile(File& file, int format, const SpreadsheetSettings& settings) {
+    if (file.size() > kLargestSheetFile) {
+        throw SheetError(ErrorNumber::OutOfMemory, "the file is larger than 64 MB");
+    }
     switch (format) {
         case kFormatWks:
             return readWks(file, settings.wksDialect);
@@ -65,18 +77,22 @@ SheetGrid sheetFromFile(File& file, int format, const SpreadsheetSettings& setti
     }
 }
 
-int Spreadsheet::ExportSheet(const SheetGrid& sheet, const std::string& fileName, int format) {
+int Spreadsheet::ExportSheet(const SheetGrid& sheet, const std::string& fileName, int format,
+                             const CellRemark& remark) {
     if (!hasFiles(format)) {
         return 0;
     }
-    return errorOf([&] { writeWholeFile(files_, rules_, fileName, sheetBytes(sheet, format, settings_)); });
+    return errorOf(remark, [&] {
+        writeWholeFile(files_, rules_, fileName, sheetBytes(sheet, format, settings_, remark));
+    });
 }
 
-int Spreadsheet::ImportSheet(SheetGrid& sheet, const std::string& fileName, int format) {
+int Spreadsheet::ImportSheet(SheetGrid& sheet, const std::string& fileName, int format,
+                             const CellRemark& remark) {
     if (!hasFiles(format)) {
         return 0;
     }
-    return errorOf([&] {
+    return errorOf(remark, [&] {
         if (fileName.empty()) {
             throw RunTimeError(ErrorNumber::BadFileName);
         }

@@ -6,7 +6,9 @@
 
 #include "spreadsheet/byte_conversions.h"
 #include "spreadsheet/byte_reader.h"
+#include "spreadsheet/cell_reference.h"
 #include "spreadsheet/formula_decoder.h"
+#include "spreadsheet/sheet_error.h"
 #include "spreadsheet/wks_records.h"
 
 namespace velmora {
@@ -28,6 +30,15 @@ constexpr std::size_t shortestBody(int type) {
     }
 }
 
+/// The formula in a body; SheetError for one that is too deep.
+Formula readFormula(std::string_view body, const CellPosition& at, WksDialect dialect) {
+    try {
+        return {DecodeFormula(body.substr(kFormulaFrame), at, dialect)};
+    } catch (const RunTimeError& error) {
+        throw SheetError(error.errorNumber(), cellName(at) + ": its formula cannot be read: " + error.what());
+    }
+}
+
 /// What the body of a cell's record holds. The format byte, a label's prefix, and the cached value and token
 /// length of a formula count for nothing.
 Cell readCell(int type, std::string_view body, const CellPosition& at, WksDialect dialect) {
@@ -40,7 +51,7 @@ Cell readCell(int type, std::string_view body, const CellPosition& at, WksDialec
         case kRecordLabel:
             return Label{std::string(content.substr(1, body.size() - kLabelFrame))};
         default:
-            return Formula{DecodeFormula(body.substr(kFormulaFrame), at, dialect)};
+            return readFormula(body, at, dialect);
     }
 }
 

@@ -27,6 +27,10 @@ void ConsoleView::showStatus(const std::string& text) {
     output_(toSystemText(text));
 }
 
+void ConsoleView::showReport(const std::string& line) {
+    output_(toSystemText(showControls(line)));
+}
+
 void ConsoleView::showState(std::int32_t state) {
     if (program_.stateChanged) {
         program_.stateChanged(state);

@@ -27,7 +27,8 @@ class ConsoleView : public MainView {
 
     void setDisplayLine(int, const std::string&) override {}
     void showStatus(const std::string& text) override;
-    void showReport(const std::string& line) override { showStatus(line); }
+    /// A report may hold what came over the line: its control bytes are shown, not obeyed.
+    void showReport(const std::string& line) override;
     void showState(std::int32_t state) override;
     void showMessages(const MessageLines& messages) override;
     std::string statsText(StatsLabel label) const override;

@@ -49,6 +49,10 @@ TEST(ByteText, RefusesWhatIsNotUtf8OrHasNoByte) {
     EXPECT_FALSE(fromUtf8("\xC2\x81").has_value()) << "a control code that Windows-1252 does not hold";
 }
 
+TEST(ByteText, ShowsControlBytesInALine) {
+    EXPECT_EQ(showControls("caf\xE9\r\n\x1B[2J\x7F."), "caf\xE9<0D><0A><1B>[2J<7F>.");
+}
+
 TEST(ByteText, DumpsBytesInHexadecimal) {
     EXPECT_EQ(hexDump(std::string("\x00\x1F\xFE", 3)), "00 1F FE");
 }

@@ -116,6 +116,22 @@ TEST_F(ServicesTest, TheCommonDialectMarksParenthesesInWorksheets) {
     }
 }
 
+TEST_F(ServicesTest, FormulasThatWillNotComeBackAreNamedInTheLogAndTheTrace) {
+    startServer({"--trace"});
+    writeFile(home / "cells", "A1 1\r\nB2 =A1-(B1-C1)\r\n");
+    ASSERT_EQ(
+        organiser({"sheet-save", organiserPath(home / "cells"), "--as", "SUM", "--format", "wks"}).status, 0);
+    EXPECT_TRUE(server->waitForOutput("Sum.wks, B2: =A1-(B1-C1) comes back as =A1-B1-C1"));
+    EXPECT_TRUE(server->waitForError("Sum.wks, B2: =A1-(B1-C1) comes back as =A1-B1-C1"));
+    writeFile(home / "cells", "A1 1\r\nC9 =A1+(\r\n");
+    const Finished refused =
+        organiser({"sheet-save", organiserPath(home / "cells"), "--as", "SUM", "--format", "wks"});
+    EXPECT_EQ(refused.status, 3);
+    EXPECT_TRUE(server->waitForOutput("Sum.wks, C9: =A1+( cannot be saved"));
+    EXPECT_NE(organiser({"sheet-load", "SUM", "--format", "wks"}).output.find("B2"), std::string::npos)
+        << "the sheet saved before stands";
+}
+
 TEST_F(ServicesTest, AWorksheetUnderTheNameOfSomethingElseIsRefusedWith189) {
     std::filesystem::create_directory(psion / "Folder.wks");
     std::filesystem::create_symlink("nowhere", psion / "Link.wks");

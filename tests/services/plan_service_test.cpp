@@ -6,10 +6,12 @@
 
 #include "base/run_time_error.h"
 #include "link/server_state.h"
+#include "spreadsheet/tokens.h"
 #include "spreadsheet/wks_writer.h"
 #include "support/failing_files.h"
 #include "support/memory_files.h"
 #include "support/recording_sender.h"
+#include "support/recording_trace.h"
 #include "support/recording_window.h"
 #include "support/slash_path_rules.h"
 
@@ -98,6 +100,14 @@ class PlanServiceTest : public ::testing::Test {
         EXPECT_EQ(ask({static_cast<char>(columns), static_cast<char>(rows)}), kOk);
     }
     void put(const std::string& cell) { EXPECT_EQ(ask(cell), kOk); }
+    /// Trace and log were told these lines and no others.
+    void expectReports(const std::vector<std::string>& lines) {
+        EXPECT_EQ(window.reports, lines);
+        ASSERT_EQ(trace.entries.size(), lines.size());
+        for (std::size_t i = 0; i < lines.size(); ++i) {
+            EXPECT_EQ(trace.entries[i].data, lines[i]);
+        }
+    }
     SheetGrid sheetIn(const std::string& path, int format = 2) {
         SheetGrid sheet;
         EXPECT_EQ(spreadsheet.ImportSheet(sheet, path, format), 0);
@@ -111,8 +121,9 @@ class PlanServiceTest : public ::testing::Test {
     Spreadsheet spreadsheet{files, rules, settings};
     test::RecordingSender sender;
     test::RecordingWindow window;
+    test::RecordingTrace trace;
     FolderNames names{memory};
-    PlanService service{sender, window, names, spreadsheet};
+    PlanService service{sender, window, trace, names, spreadsheet};
 };
 
 // Opening and header.
@@ -277,18 +288,6 @@ TEST_F(PlanServiceTest, AcknowledgementsDoNothing) {
     EXPECT_EQ(ask(""), value(0, 0, "5"));
 }
 
-TEST_F(PlanServiceTest, AFormulaTooDeepIsReportedToTheTransfer) {
-    std::string tokens;
-    for (int i = 0; i < 102; ++i) {
-        tokens += "\5\1\0"s;
-    }
-    const std::string body = std::string(15, '\0') + tokens;
-    memory.addFile("/folder/D.WKS", "\x10\0"s + static_cast<char>(body.size() & 0xFF) +
-                                        static_cast<char>(body.size() >> 8) + body);
-    open();
-    EXPECT_EQ(refusal("\2D"), "9");
-}
-
 // The Organiser sends.
 
 TEST_F(PlanServiceTest, StoresTheCellsAndWritesTheFileAtTheEnd) {
@@ -437,6 +436,65 @@ TEST_F(PlanServiceTest, NumbersThatAreNotFiniteAreSentAsAFormula) {
         EXPECT_EQ(ask(""), value(column, 0, "=ERR"));
     }
     EXPECT_EQ(ask(""), kEnd);
+}
+
+// What is told of the cells.
+
+TEST_F(PlanServiceTest, FormulasThatWillNotComeBackAreNamedCellByCell) {
+    save(2, "S");
+    announce(3, 3);
+    put(value(0, 0, "=A2-(B2-C2)"));
+    put(value(1, 0, "=A2-B2-C2"));
+    put(value(2, 2, "=5.0E-1*A1"));
+    EXPECT_EQ(ask("\xFE"), kEnd) << "the sheet is saved";
+    expectReports(
+        {"S.WKS, A1: =A2-(B2-C2) comes back as =A2-B2-C2", "S.WKS, C3: =5.0E-1*A1 comes back as =ERR"});
+}
+
+TEST_F(PlanServiceTest, TheDialectDecidesWhichFormulasAreNamed) {
+    settings.wksDialect = WksDialect::Common;
+    save(2, "S");
+    announce(1, 1);
+    put(value(0, 0, "=A2-(B2-C2)"));
+    EXPECT_EQ(ask("\xFE"), kEnd);
+    expectReports({});
+}
+
+TEST_F(PlanServiceTest, AFormulaThatCannotBeConvertedFailsTheSaveAndIsNamed) {
+    memory.addFile("/folder/S.WKS", "old");
+    save(2, "S");
+    announce(2, 2);
+    put(value(1, 1, "=A1+("));
+    EXPECT_EQ(refusal("\xFE"), "\5");
+    EXPECT_EQ(memory.content("/folder/S.WKS"), "old");
+    expectReports({"S.WKS, B2: =A1+( cannot be saved: Invalid procedure call: it cannot be converted",
+                   "S.WKS was not saved: Invalid procedure call"});
+}
+
+TEST_F(PlanServiceTest, AFormulaThatCouldNeverBeFetchedAgainFailsTheSave) {
+    std::string nested = "A1";
+    for (int i = 0; i < 101; ++i) {
+        nested = "A1+(" + nested + ")";
+    }
+    save(2, "S");
+    announce(1, 1);
+    put(value(0, 0, "=" + nested));
+    EXPECT_EQ(refusal("\xFE"), "\t") << "9";
+    EXPECT_TRUE(memory.paths().empty());
+    ASSERT_EQ(window.reports.size(), 2U);
+    EXPECT_EQ(window.reports.front().substr(0, 14), "S.WKS, A1: =A1");
+}
+
+TEST_F(PlanServiceTest, WhyASheetWasNotReadIsTold) {
+    std::string tokens;
+    for (int i = 0; i < 102; ++i) {
+        tokens += test::integer(1);
+    }
+    memory.addFile("/folder/D.WKS", test::formulaRecord(1, 2, tokens));
+    open();
+    EXPECT_EQ(refusal("\2D"), "9");
+    expectReports({"D.WKS, B3: its formula cannot be read: Subscript out of range: the formula is too deep",
+                   "D.WKS was not read: Subscript out of range"});
 }
 
 // The end of the service.

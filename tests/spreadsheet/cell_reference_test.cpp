@@ -84,6 +84,13 @@ TEST(CellRefs, EveryOneOfTheSheetComesBack) {
     }
 }
 
+TEST(CellName, CountsOnBehindZ) {
+    EXPECT_EQ(cellName({0, 0}), "A1");
+    EXPECT_EQ(cellName({98, 25}), "Z99");
+    EXPECT_EQ(cellName({99, 26}), "AA100");
+    EXPECT_EQ(cellName({254, 254}), "IU255");
+}
+
 TEST(IsCellRef, KnowsReferencesAndRanges) {
     for (const char* text :
          {"A1", "a1", "Z99", "$A1", "A$1", "$A$1", "A100", "A1:B2", "$A$1:b$2", "A0", "A32768"}) {

@@ -112,6 +112,36 @@ TEST_F(SpreadsheetTest, AFormulaTooDeepIsError9) {
     EXPECT_FALSE(memory.fileExists("/folder/b.wks"));
 }
 
+TEST_F(SpreadsheetTest, RemarksNameTheCells) {
+    std::vector<std::string> remarks;
+    const CellRemark remark = [&](const std::string& line) { remarks.push_back(line); };
+    SheetGrid sheet(1, 2);
+    sheet.at({0, 0}) = Formula{"A1-(B1-C1)"};
+    EXPECT_EQ(spreadsheet.ExportSheet(sheet, "/folder/a.csv", 4, remark), 0);
+    EXPECT_TRUE(remarks.empty()) << "a text keeps the formula's text";
+    EXPECT_EQ(spreadsheet.ExportSheet(sheet, "/folder/a.wks", 2, remark), 0);
+    EXPECT_EQ(remarks, std::vector<std::string>{"A1: =A1-(B1-C1) comes back as =A1-B1-C1"});
+    remarks.clear();
+    sheet.at({0, 1}) = Formula{"?"};
+    EXPECT_EQ(spreadsheet.ExportSheet(sheet, "/folder/a.wks", 2, remark), 5);
+    EXPECT_EQ(remarks.back(), "B1: =? cannot be saved: Invalid procedure call: it cannot be converted");
+    EXPECT_EQ(spreadsheet.ExportSheet(sheet, "/folder/a.wks", 2), 5) << "nobody need listen";
+}
+
+TEST_F(SpreadsheetTest, AFileAbove64MBIsError7AndNotRead) {
+    memory.addFile("/folder/a.wks", test::startRecord + std::string(64 * 1024 * 1024, '\0'));
+    for (int format = 2; format <= 6; ++format) {
+        std::string said;
+        SheetGrid sheet;
+        EXPECT_EQ(spreadsheet.ImportSheet(sheet, "/folder/a.wks", format,
+                                          [&](const std::string& line) { said = line; }),
+                  7);
+        EXPECT_EQ(said, "the file is larger than 64 MB");
+    }
+    EXPECT_EQ(files.calls(test::FileCall::Read), 0);
+    EXPECT_EQ(memory.openFiles(), 0);
+}
+
 TEST_F(SpreadsheetTest, AFullDiskLeavesTheOldFile) {
     memory.addFile("/folder/a.wks", "old");
     files.failAfterBytes(10, ErrorNumber::DiskFull);

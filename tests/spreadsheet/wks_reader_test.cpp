@@ -6,6 +6,7 @@
 
 #include "base/run_time_error.h"
 #include "spreadsheet/sample_file.h"
+#include "spreadsheet/sheet_error.h"
 #include "spreadsheet/tokens.h"
 #include "spreadsheet/wks_writer.h"
 #include "support/failing_files.h"
@@ -126,12 +127,18 @@ TEST(WksReader, EveryPrefixOfAGoodFileIsSafe) {
     readEveryPrefix(content, [](File& opened) { return readWks(opened); });
 }
 
-TEST(WksReader, AFormulaThatIsTooDeepIsARunTimeError) {
+TEST(WksReader, AFormulaThatIsTooDeepIsAnErrorWithTheNameOfItsCell) {
     std::string tokens;
     for (int i = 0; i < 102; ++i) {
         tokens += integer(1);
     }
-    EXPECT_THROW(read(formulaRecord(0, 0, tokens)), RunTimeError);
+    try {
+        read(formulaRecord(1, 2, tokens));
+        FAIL();
+    } catch (const SheetError& error) {
+        EXPECT_EQ(error.number(), 9);
+        EXPECT_EQ(error.line().substr(0, 4), "B3: ");
+    }
 }
 
 TEST(WksReader, TheDialectReachesTheFormulas) {

@@ -58,9 +58,10 @@ TEST_F(Console, PrintsWholeTextsNotSixteenColumns) {
 
 TEST_F(Console, AReportIsALineBetweenThoseOfTheDisplay) {
     controller.setState(Downld);
-    controller.Report("Plan.wks, B3: caf\xE9");
+    controller.Report("Plan.wks, B3: caf\xE9\n\x1B[2J");
     controller.setState(WaitLink);
-    EXPECT_EQ(output, (Lines{"Downloading file", toSystemText("Plan.wks, B3: caf\xE9"), "Waiting for link"}));
+    EXPECT_EQ(output, (Lines{"Downloading file", toSystemText("Plan.wks, B3: caf\xE9<0A><1B>[2J"),
+                             "Waiting for link"}));
     EXPECT_TRUE(errors.empty());
 }
 
