@@ -15,7 +15,7 @@ ServerCore::ServerCore(const ServerCoreParts& parts)
       transferLog_(controller_, parts.trace, parts.rules),
       earlierCopies_(parts.files, parts.rules, parts.clock, transferLog_, copies),
       openFile_(parts.files, parts.rules, controller_, earlierCopies_, transferLog_),
-      spreadsheet_(parts.files, parts.rules, sheets),
+      spreadsheet_(parts.files, parts.rules, transfer.sheets),
       timeServices_(parts.clock, parts.zone),
       ftran_(link_, controller_, openFile_, tools_, transfer),
       file_(link_, controller_, openFile_, tools_),
@@ -42,8 +42,8 @@ ServerCore::ServerCore(const ServerCoreParts& parts)
 }
 
 void ServerCore::applySettings(const Settings& settings) {
-    sheets.locale = namedNumberLocale("").value_or(NumberLocale{});
-    sheets.wksDialect = settings.WksDialect == 1 ? WksDialect::Common : WksDialect::Own;
+    transfer.sheets.locale = namedNumberLocale("").value_or(NumberLocale{});
+    transfer.sheets.wksDialect = settings.WksDialect == 1 ? WksDialect::Common : WksDialect::Own;
     copies.days = settings.EarlierCopies;
     earlierCopies_.removeExpired();
 }

@@ -67,7 +67,6 @@ class ServerCore {
     Strings strings;
     ServerOptions options;
     TransferSettings transfer;
-    SpreadsheetSettings sheets;
     EarlierCopiesSettings copies;
     Crc crc;
 

@@ -157,10 +157,12 @@ void ServerController::pbSetup_Click(const std::function<void()>& openSetup) {
     if (running() || starting_ > 0 || inSetup_ > 0 || closed_) {
         return;
     }
+    const WksDialect dialect = parts_.transfer.sheets.wksDialect;
     {
         const Scope scope(inSetup_);
         openSetup();
     }
+    dialectChosen_ = dialectChosen_ || parts_.transfer.sheets.wksDialect != dialect;
     if (closed_) {
         return;
     }

@@ -206,6 +206,7 @@ class ServerController : public ServerWindow {
     int starting_ = 0;                     // PLP_Start is on the stack
     int linkCalls_ = 0;                    // PLP_ReceiveEvent or PLP_Timeout is on the stack
     int inSetup_ = 0;                      // the setup dialog is open
+    bool dialectChosen_ = false;           // the setup dialog changed the worksheets' dialect
     bool startWaits_ = false;              // Start was clicked while linkCalls_
     std::optional<std::int32_t> pending_;  // change that was reported while starting_
 };

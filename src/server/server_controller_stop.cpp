@@ -139,6 +139,9 @@ void ServerController::saveSettings(bool portChosen) {
     try {
         put("DataFileType", std::to_string(parts_.transfer.DataFileType));
         put("AutoStart", parts_.options.AutoStart ? "True" : "False");
+        if (dialectChosen_) {
+            put("WksDialect", std::to_string(static_cast<int>(parts_.transfer.sheets.wksDialect)));
+        }
         if (parts_.options.AutoSave && portChosen) {
             put("Port", std::to_string(parts_.port.CommPort()));
             put("Baud", plainText(numericValue(parts_.port.Settings())));

@@ -36,6 +36,7 @@ void SetupModel::load() {
     }
     portAtOpening_ = port_.CommPort();
     fileType_ = transfer_.DataFileType;
+    wksDialect_ = transfer_.sheets.wksDialect;
     autoStart_ = options_.AutoStart;
 
     std::int16_t port = portAtOpening_;
@@ -150,6 +151,7 @@ void SetupModel::pbOK_Click() {
     options_.AutoStart = autoStart_;
     options_.AutoSelectPort = false;
     transfer_.DataFileType = fileType_;
+    transfer_.sheets.wksDialect = wksDialect_;
     close();
 }
 

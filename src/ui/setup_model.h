@@ -1,4 +1,4 @@
-// The setup dialog without its controls: port, baud rate, automatic start, data file type.
+// The setup dialog without its controls: port, baud rate, automatic start, data file type, worksheet dialect.
 #pragma once
 
 #include <array>
@@ -11,6 +11,7 @@
 #include "server/port_status.h"
 #include "server/server_options.h"
 #include "services/transfer_settings.h"
+#include "spreadsheet/wks_dialect.h"
 
 namespace velmora {
 
@@ -27,6 +28,10 @@ class SetupModel {
     /// The entries of cboFileType; the index is the data file type.
     static constexpr std::array<const char*, 4> kFileTypes{"ODB (tab-delimited)", "TXT (tab-delimited)",
                                                            "CSV (comma)", "CSV (semicolon)"};
+
+    /// The entries of cboWksDialect; the index is the dialect of worksheets in WKS format.
+    static constexpr std::array<const char*, 2> kWksDialects{"as the Organiser's own",
+                                                             "for spreadsheet programs"};
 
     /// Tests a port and returns its PortStatusNumber; checkPort with its modem probe forced.
     using Probe = std::function<std::int32_t(std::int16_t port)>;
@@ -60,6 +65,7 @@ class SetupModel {
     void setAutoStart(bool on) { autoStart_ = on; }
     /// 0 to 3.
     void setFileType(std::int32_t type) { fileType_ = type; }
+    void setWksDialect(WksDialect dialect) { wksDialect_ = dialect; }
 
     void pbCheckPort_Click();
     void pbOK_Click();
@@ -80,6 +86,7 @@ class SetupModel {
     std::optional<int> baud() const { return baud_; }
     bool autoStart() const { return autoStart_; }
     std::int32_t fileType() const { return fileType_; }
+    WksDialect wksDialect() const { return wksDialect_; }
     /// Ports are being tested.
     bool probing() const { return probing_; }
     bool closed() const { return closed_; }
@@ -107,6 +114,7 @@ class SetupModel {
     std::optional<int> baud_;
     bool autoStart_ = false;
     std::int32_t fileType_ = 0;
+    WksDialect wksDialect_ = WksDialect::Own;
     bool probing_ = false;
     bool closed_ = false;
 };

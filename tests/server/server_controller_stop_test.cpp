@@ -326,6 +326,19 @@ TEST_F(Closing, SavesPortAndBaudWithAutoSaveOnly) {
               (std::vector<std::string>{"[Settings] DataFileType=2", "[Settings] AutoStart=False"}));
 }
 
+TEST_F(Closing, SavesTheDialectOfWorksheetsOnceSetupHasChangedIt) {
+    transfer.sheets.wksDialect = WksDialect::Common;
+    reach(Offline);
+    options.AutoSave = false;
+    options.AutoStart = false;
+    controller.pbSetup_Click([this] { transfer.sheets.wksDialect = WksDialect::Own; });
+    controller.pbSetup_Click([] {});
+    close();
+    EXPECT_EQ(store.entries,
+              (std::vector<std::string>{"[Settings] DataFileType=2", "[Settings] AutoStart=False",
+                                        "[Settings] WksDialect=0"}));
+}
+
 TEST_F(Closing, SavesNoPortWhenThereWasNone) {
     reach(NoPort);
     close();

@@ -53,11 +53,13 @@ TEST_F(Setup, OpensWithTheValuesInEffect) {
     port.settings = "2400,N,8,1";
     options.AutoStart = true;
     transfer.DataFileType = 3;
+    transfer.sheets.wksDialect = WksDialect::Common;
     portIs(2, kStatusAvailable);
     open();
     EXPECT_EQ(model.baud(), 2400);
     EXPECT_TRUE(model.autoStart());
     EXPECT_EQ(model.fileType(), 3);
+    EXPECT_EQ(model.wksDialect(), WksDialect::Common);
     EXPECT_EQ(model.selectedPort(), 2);
     EXPECT_EQ(model.statusText(), "COM2 is available");
     EXPECT_TRUE(model.okEnabled());
@@ -257,12 +259,15 @@ TEST_F(Setup, OkTakesEverythingOver) {
     model.selectBaud(1200);
     model.setAutoStart(true);
     model.setFileType(2);
+    model.setWksDialect(WksDialect::Common);
+    EXPECT_EQ(transfer.sheets.wksDialect, WksDialect::Own);
     model.pbOK_Click();
     EXPECT_EQ(port.number, 3);
     EXPECT_EQ(port.settings, "1200,N,8,1");
     EXPECT_TRUE(options.AutoStart);
     EXPECT_FALSE(options.AutoSelectPort);
     EXPECT_EQ(transfer.DataFileType, 2);
+    EXPECT_EQ(transfer.sheets.wksDialect, WksDialect::Common);
     EXPECT_EQ(closings, 1);
     EXPECT_TRUE(model.closed());
 }
@@ -289,6 +294,7 @@ TEST_F(Setup, CancelGivesThePortNumberBackAndChangesNothing) {
     EXPECT_NE(port.number, 2);
     model.setAutoStart(true);
     model.setFileType(1);
+    model.setWksDialect(WksDialect::Common);
     model.selectBaud(1200);
     model.pbCancel_Click();
     EXPECT_EQ(port.number, 2);
@@ -296,6 +302,7 @@ TEST_F(Setup, CancelGivesThePortNumberBackAndChangesNothing) {
     EXPECT_FALSE(options.AutoStart);
     EXPECT_TRUE(options.AutoSelectPort);
     EXPECT_EQ(transfer.DataFileType, 0);
+    EXPECT_EQ(transfer.sheets.wksDialect, WksDialect::Own);
     EXPECT_EQ(closings, 1);
 }
 

@@ -178,6 +178,15 @@ void frmSetup::build() {
     optionRows->addWidget(cbAutoStart, 0, 0, 1, 2);
     optionRows->addWidget(typeLabel, 1, 0);
     optionRows->addWidget(cboFileType, 1, 1);
+    cboWksDialect = new QComboBox;
+    cboWksDialect->setObjectName("cboWksDialect");
+    for (const char* dialect : SetupModel::kWksDialects) {
+        cboWksDialect->addItem(QString::fromLatin1(dialect));
+    }
+    auto* dialectLabel = new QLabel(QStringLiteral("&Worksheets (WKS)"));
+    dialectLabel->setBuddy(cboWksDialect);
+    optionRows->addWidget(dialectLabel, 2, 0);
+    optionRows->addWidget(cboWksDialect, 2, 1);
 
     lblBusy = new QLabel(QStringLiteral("Testing the ports..."));
     lblBusy->setObjectName("lblBusy");
@@ -197,9 +206,10 @@ void frmSetup::build() {
     all->addLayout(buttons);
 
     QWidget* before = obPort[0];
-    for (QWidget* next : std::initializer_list<QWidget*>{
-             obPort[1], obPort[2], obPort[3], obPort[4], txtPortNo, pbCheckPort, cboPresentPorts,
-             pbRefreshPorts, obBaud[0], obBaud[1], obBaud[2], cbAutoStart, cboFileType, pbOK, pbCancel}) {
+    for (QWidget* next :
+         std::initializer_list<QWidget*>{obPort[1], obPort[2], obPort[3], obPort[4], txtPortNo, pbCheckPort,
+                                         cboPresentPorts, pbRefreshPorts, obBaud[0], obBaud[1], obBaud[2],
+                                         cbAutoStart, cboFileType, cboWksDialect, pbOK, pbCancel}) {
         setTabOrder(before, next);
         before = next;
     }
@@ -222,6 +232,8 @@ void frmSetup::connectControls() {
     connect(pbRefreshPorts, &QPushButton::clicked, this, &frmSetup::fillDevices);
     connect(cbAutoStart, &QCheckBox::clicked, this, [this](bool on) { model_.setAutoStart(on); });
     connect(cboFileType, &QComboBox::activated, this, [this](int type) { model_.setFileType(type); });
+    connect(cboWksDialect, &QComboBox::activated, this,
+            [this](int dialect) { model_.setWksDialect(static_cast<WksDialect>(dialect)); });
     connect(pbOK, &QPushButton::clicked, this, [this] {
         accepting_ = true;
         model_.pbOK_Click();
@@ -305,6 +317,7 @@ void frmSetup::showState() {
     }
     cbAutoStart->setChecked(model_.autoStart());
     cboFileType->setCurrentIndex(model_.fileType());
+    cboWksDialect->setCurrentIndex(static_cast<int>(model_.wksDialect()));
     pbOK->setEnabled(loaded_ && model_.okEnabled() && !model_.probing());
     lblBusy->setText(model_.probing() || loading_ ? QStringLiteral("Testing the ports...") : QString());
 }

@@ -73,6 +73,7 @@ class frmSetup : public QDialog {
     std::array<QRadioButton*, SetupModel::kBaudRates.size()> obBaud{};
     QCheckBox* cbAutoStart = nullptr;
     QComboBox* cboFileType = nullptr;
+    QComboBox* cboWksDialect = nullptr;
     QLabel* lblBusy = nullptr;
     QPushButton* pbOK = nullptr;
     QPushButton* pbCancel = nullptr;

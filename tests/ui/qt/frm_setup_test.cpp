@@ -213,6 +213,10 @@ class FrmSetupTest : public QObject {
         find<QRadioButton>("obBaud_1200")->click();
         find<QCheckBox>("cbAutoStart")->click();
         QTest::keyClick(find<QComboBox>("cboFileType"), Qt::Key_Home);
+        auto* dialect = find<QComboBox>("cboWksDialect");
+        QCOMPARE(dialect->currentText(), QString("as the Organiser's own"));
+        QTest::keyClick(dialect, Qt::Key_End);
+        QCOMPARE(dialect->currentText(), QString("for spreadsheet programs"));
         QVERIFY(!options.AutoStart);
         QCOMPARE(transfer.DataFileType, 3);
         QCOMPARE(port.settings, std::string("2400,N,8,1"));
@@ -223,6 +227,7 @@ class FrmSetupTest : public QObject {
         QVERIFY(options.AutoStart);
         QVERIFY(!options.AutoSelectPort);
         QCOMPARE(transfer.DataFileType, 0);
+        QVERIFY(transfer.sheets.wksDialect == WksDialect::Common);
     }
     void aDeviceFillsTheNumber() {
         devices = {{5, "/dev/ttyUSB0", "FTDI", "FT232R USB UART", true, ""},
