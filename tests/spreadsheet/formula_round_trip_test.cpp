@@ -9,8 +9,11 @@
 
 #include <random>
 
+#include "spreadsheet/formula_cases.h"
 #include "spreadsheet/formula_decoder.h"
 #include "spreadsheet/formula_encoder.h"
+#include "spreadsheet/infix_to_rpn.h"
+#include "spreadsheet/rpn_to_infix.h"
 
 namespace velmora {
 namespace {
@@ -19,6 +22,20 @@ constexpr CellPosition kCell{10, 5};
 
 std::string roundTrip(const std::string& text, WksDialect dialect = WksDialect::Own) {
     return DecodeFormula(EncodeFormula(text, kCell, dialect), kCell, dialect);
+}
+
+TEST(FormulaRoundTrip, EveryRowOfTheTableReadsBothWays) {
+    for (const test::FormulaCase& row : test::formulaCases()) {
+        EXPECT_EQ(EncodeFormula(row.text, test::kC1, row.dialect), row.tokens + test::end) << row.text;
+        EXPECT_EQ(DecodeFormula(row.tokens + test::end, test::kC1, row.dialect), row.text);
+    }
+}
+
+TEST(FormulaRoundTrip, EveryPostfixTextOfTheTableReadsBothWays) {
+    for (const test::PostfixCase& row : test::postfixCases()) {
+        EXPECT_EQ(InfixToRpn(row.infix, row.dialect), row.postfix) << row.infix;
+        EXPECT_EQ(RpnToInfix(row.postfix, row.dialect), row.infix) << row.postfix;
+    }
 }
 
 TEST(FormulaRoundTrip, Examples) {

@@ -15,25 +15,11 @@ struct InfixRow {
     const char* postfix;
 };
 
-TEST(InfixToRpn, PutsOperatorsBehindTheirOperands) {
+TEST(InfixToRpn, TakesWhatTheWayBackDoesNotWrite) {
     const InfixRow rows[] = {
-        {"", ""},
         {"  ", ""},
-        {"A1", "A1"},
-        {"A1+B1", "A1 B1 +"},
         {" A1 + B1 ", "A1 B1 +"},
-        {"A1+B1*C1", "A1 B1 C1 * +"},
-        {"A1*B1+C1", "A1 B1 * C1 +"},
-        {"(A1+B1)*C1", "A1 B1 + C1 *"},
-        {"A1*(B1+C1)", "A1 B1 C1 + *"},
         {"((A1))", "A1"},
-        {"$A$1:B2", "$A$1:B2"},
-        {"A1=B1", "A1 B1 ="},
-        {"A1<>B1", "A1 B1 <>"},
-        {"A1<=B1", "A1 B1 <="},
-        {"A1>=B1", "A1 B1 >="},
-        {"A1<B1", "A1 B1 <"},
-        {"A1>B1", "A1 B1 >"},
         {"A1&B1|!C1", "A1 B1 C1 ! | &"},
     };
     for (const InfixRow& row : rows) {
@@ -41,9 +27,7 @@ TEST(InfixToRpn, PutsOperatorsBehindTheirOperands) {
     }
 }
 
-TEST(InfixToRpn, OperatorsOfEqualRankGroupToTheRight) {
-    EXPECT_EQ(InfixToRpn("A1-B1-C1"), "A1 B1 C1 - -");
-    EXPECT_EQ(InfixToRpn("A1/B1*C1"), "A1 B1 C1 * /");
+TEST(InfixToRpn, ParenthesesChangeTheGroupingOfEqualRanks) {
     EXPECT_EQ(InfixToRpn("(A1-B1)-C1"), "A1 B1 - C1 -");
 }
 
@@ -81,10 +65,7 @@ TEST(InfixToRpn, AWordWithParenthesesIsACall) {
 
 TEST(InfixToRpn, CallsComeBehindTheirArguments) {
     EXPECT_EQ(InfixToRpn("SUM(A1:A3)"), "A1:A3 SUM(1)");
-    EXPECT_EQ(InfixToRpn("ROUND(A1+1,2)*3"), "A1 1 + 2 ROUND(2) 3 *");
-    EXPECT_EQ(InfixToRpn("PI()"), "PI(0)");
     EXPECT_EQ(InfixToRpn("PI"), "PI");
-    EXPECT_EQ(InfixToRpn("ABS(INT(A1))"), "A1 INT(1) ABS(1)");
     EXPECT_EQ(InfixToRpn("ABS((A1+B1)*2)"), "A1 B1 + 2 * ABS(1)");
     EXPECT_EQ(InfixToRpn("sum(a1)"), "a1 sum(1)");
     EXPECT_EQ(InfixToRpn("SUM( A1 , B1 )"), "A1 B1 SUM(2)");
@@ -106,7 +87,6 @@ TEST(InfixToRpn, WhatFollowsACallBelongsToItsName) {
 }
 
 TEST(InfixToRpn, NumbersGoOnWithDigitsPointAndE) {
-    EXPECT_EQ(InfixToRpn("1.5E3+2"), "1.5E3 2 +");
     EXPECT_EQ(InfixToRpn(".5*2"), ".5 2 *");
     EXPECT_EQ(InfixToRpn("2e5"), "2e5");
     EXPECT_EQ(InfixToRpn("5.0E-1"), "5.0E 1 -") << "the sign of an exponent is a minus";
