@@ -15,9 +15,9 @@ using CellRemark = std::function<void(const std::string& line)>;
 
 /// Says how a formula (without "=") comes back from a worksheet: "=A1-(B1-C1) comes back as =A1-B1-C1". Empty
 /// when what comes back says the same, though perhaps in other letters or with fewer parentheses, and still
-/// does when it is saved and fetched a second time. RunTimeError 5 for a text that cannot be converted at all,
-/// 9 for one that is too deep to be saved or, once saved, to be fetched.
-/// `formulaCell`: where the formula stands.
+/// does when it is saved and fetched a second time. RunTimeError 5 for a text that cannot be converted at
+/// all, 9 for one that is too deep to be saved or, once saved, to be fetched. `formulaCell`: where the
+/// formula stands.
 std::string formulaChange(std::string_view text, const CellPosition& formulaCell, WksDialect dialect);
 
 /// Looks through the formulas of a sheet that is to become a worksheet. `remark` (which may be missing) hears

@@ -1,4 +1,5 @@
 set(profile_tests
+  profile/profile_files_contract_test.cpp
   profile/profile_rules_test.cpp
   profile/replace_contents_test.cpp
   profile/text_profile_files_test.cpp)

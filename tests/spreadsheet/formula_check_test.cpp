@@ -117,8 +117,7 @@ TEST_F(CheckFormulasTest, TheFirstFormulaThatCannotBeSavedIsTheErrorAndTheOthers
         FAIL();
     } catch (const SheetError& error) {
         EXPECT_EQ(error.number(), 5);
-        EXPECT_EQ(error.line(),
-                  "B1: =A1+( cannot be saved: Invalid procedure call: it cannot be converted");
+        EXPECT_EQ(error.line(), "B1: =A1+( cannot be saved: Invalid procedure call: it cannot be converted");
     }
     ASSERT_EQ(remarks.size(), 2U);
     EXPECT_EQ(remarks[0].substr(0, 3), "A2:");

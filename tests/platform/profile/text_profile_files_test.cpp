@@ -9,7 +9,6 @@
 #include "support/failing_files.h"
 #include "support/memory_files.h"
 #include "support/plain_path_rules.h"
-#include "support/profile_cases.h"
 #include "support/profile_edits.h"
 
 namespace velmora {
@@ -17,23 +16,18 @@ namespace {
 
 using test::FileCall;
 using ::testing::ElementsAre;
-using ::testing::IsEmpty;
 
 const std::string kTextFile = "/home/velmora.ini";
 
+// What every implementation promises is in profile_files_contract_test.cpp.
 class Profile : public ::testing::Test {
   protected:
     void given(const std::string& contents) { memory_.addFile(kTextFile, contents); }
     std::string contents() const { return memory_.content(kTextFile); }
-    std::string text(const std::string& section, const std::string& key, const std::string& otherwise = "DEF",
-                     std::size_t buffer = 255) {
-        return profiles_.getString(section, key, otherwise, buffer, kTextFile);
+    std::string text(const std::string& section, const std::string& key) {
+        return profiles_.getString(section, key, "DEF", 255, kTextFile);
     }
-    std::int32_t number(const std::string& key) { return profiles_.getInt("S", key, 42, kTextFile); }
     std::string path() { return profiles_.getPath("S", "Path", "none", kTextFile); }
-    std::vector<std::string> entries(const std::string& section) {
-        return profiles_.getSection(section, kTextFile);
-    }
     void put(const std::string& section, const std::string& key, const std::string& value) {
         profiles_.writeString(section, key, value, kTextFile);
     }
@@ -53,77 +47,9 @@ class Profile : public ::testing::Test {
     TextProfileFiles profiles_{files_, rules_};
 };
 
-// --- Reading one line
-
-class ProfileLine : public Profile, public ::testing::WithParamInterface<test::ProfileCase> {};
-
-TEST_P(ProfileLine, ReadsAsTheTableSays) {
-    const test::ProfileCase& row = GetParam();
-    given("[S]\r\n" + row.lines);
-    EXPECT_EQ(text("S", row.key), row.text);
-    EXPECT_EQ(number(row.key), row.number);
-    EXPECT_EQ(entries("S"), row.entries);
-}
-
-INSTANTIATE_TEST_SUITE_P(All, ProfileLine, ::testing::ValuesIn(test::profileCases()),
-                         [](const auto& row) { return std::string(row.param.name); });
-
-TEST_F(Profile, ADefaultLosesTrailingBlanksOnly) {
-    EXPECT_EQ(text("S", "A", "  \"DEF\"  "), "  \"DEF\"");
-}
-
-TEST_F(Profile, ADefaultIsCutToTheBufferToo) {
-    EXPECT_EQ(text("S", "A", "12345", 4), "123");
-}
-
-TEST_F(Profile, ABufferWithoutRoomGivesNothing) {
-    given("[S]\r\nA=1\r\n");
-    EXPECT_EQ(text("S", "A", "DEF", 1), "");
-    EXPECT_EQ(text("S", "A", "DEF", 0), "");
-}
-
-TEST_F(Profile, NumbersBeyondThirtyTwoBitsAreTheNearest) {
-    given("[S]\r\nA=99999999999999999999999\r\nB=-99999999999999999999999\r\nC=0xFFFFFFFFFFFFFFFFFFF\r\n");
-    EXPECT_EQ(number("A"), 2'147'483'647);
-    EXPECT_EQ(number("B"), -2'147'483'647 - 1);
-    EXPECT_EQ(number("C"), 2'147'483'647);
-}
-
-// --- Sections
-
-TEST_F(Profile, AMissingFileReadsAsEmpty) {
-    EXPECT_EQ(text("S", "A"), "DEF");
-    EXPECT_EQ(number("A"), 42);
-    EXPECT_THAT(entries("S"), IsEmpty());
-}
-
-class ProfileFile : public Profile, public ::testing::WithParamInterface<test::ProfileFileCase> {};
-
-TEST_P(ProfileFile, ReadsAsTheTableSays) {
-    const test::ProfileFileCase& row = GetParam();
-    given(row.file);
-    EXPECT_EQ(text(row.section, row.key), row.text);
-    EXPECT_EQ(entries(row.section), row.entries);
-}
-
-INSTANTIATE_TEST_SUITE_P(All, ProfileFile, ::testing::ValuesIn(test::profileFileCases()),
-                         [](const auto& row) { return std::string(row.param.name); });
-
 TEST_F(Profile, EntriesBeforeTheFirstSectionBelongToNone) {
     given("A=1\r\n[S]\r\n");
     EXPECT_EQ(text("", "A"), "DEF");
-}
-
-TEST_F(Profile, AnEditByAnotherProgramIsSeenAtOnce) {
-    given("[S]\r\nA=1\r\n");
-    EXPECT_EQ(text("S", "A"), "1");
-    given("[S]\r\nA=2\r\n");
-    EXPECT_EQ(text("S", "A"), "2");
-}
-
-TEST_F(Profile, TheWholeTextIsGivenWithoutItsMark) {
-    given("\xEF\xBB\xBF[S] ; \xC3\xA9\r\n");
-    EXPECT_EQ(profiles_.text(kTextFile), "[S] ; \xE9\r\n");
 }
 
 // --- Writing
@@ -145,69 +71,7 @@ TEST_F(Profile, ALineWithoutEqualsIsNoEntryToReplace) {
     EXPECT_EQ(contents(), "[S]\r\nA\r\nA=1\r\n");
 }
 
-TEST_F(Profile, WritingMakesAMissingFile) {
-    memory_.addFolder("/home");
-    put("S", "A", "1");
-    EXPECT_EQ(contents(), "[S]\r\nA=1\r\n");
-}
-
-TEST_F(Profile, WritingWhatIsThereTouchesNothing) {
-    given("[S]\r\nA=1\r\n");
-    put("S", "A", "1");
-    EXPECT_EQ(files_.calls(FileCall::CreateTemporary), 0);
-}
-
-TEST_F(Profile, WritingLeavesNoTemporaryFile) {
-    given("[S]\r\nA=1\r\n");
-    put("S", "A", "2");
-    EXPECT_THAT(memory_.paths(), ElementsAre(kTextFile));
-}
-
-class UnstorableEntry : public Profile, public ::testing::WithParamInterface<std::array<std::string, 3>> {};
-
-TEST_P(UnstorableEntry, IsRefusedAndTheFileStands) {
-    given("[S]\r\nA=1\r\n");
-    const auto& words = GetParam();
-    expectError(ErrorNumber::InvalidProcedureCall, [&] { put(words[0], words[1], words[2]); });
-    EXPECT_EQ(contents(), "[S]\r\nA=1\r\n");
-}
-
-using Words = std::array<std::string, 3>;
-INSTANTIATE_TEST_SUITE_P(All, UnstorableEntry,
-                         ::testing::Values(Words{"S", "A", "1\r\n[T]"}, Words{"S", "A", std::string(1, '\0')},
-                                           Words{"S", "A=B", "1"}, Words{"S", "", "1"}, Words{"S", ";A", "1"},
-                                           Words{"S", "[A", "1"}, Words{"S", " A", "1"},
-                                           Words{"S", "A\t", "1"}, Words{"S]", "A", "1"},
-                                           Words{"S\n", "A", "1"}, Words{" S", "A", "1"}));
-
-// --- Failures: the old file stands
-
-struct FailedCall {
-    const char* name;
-    FileCall call;
-};
-class FailedWrite : public Profile, public ::testing::WithParamInterface<FailedCall> {};
-
-TEST_P(FailedWrite, IsAnErrorAndTheOldFileStands) {
-    given("[S]\r\nA=1\r\n");
-    // Of the two files that are opened the first is the one being read.
-    const int call = GetParam().call == FileCall::Open ? 2 : 1;
-    files_.failAtCall(GetParam().call, call, ErrorNumber::PathFileAccess);
-    expectError(ErrorNumber::PathFileAccess, [&] { put("S", "A", "2"); });
-    EXPECT_EQ(contents(), "[S]\r\nA=1\r\n");
-    EXPECT_THAT(memory_.paths(), ElementsAre(kTextFile));
-    EXPECT_EQ(memory_.openFiles(), 0);
-    put("S", "A", "3");
-    EXPECT_EQ(text("S", "A"), "3");
-}
-
-INSTANTIATE_TEST_SUITE_P(All, FailedWrite,
-                         ::testing::Values(FailedCall{"ReadOnlyFolder", FileCall::CreateTemporary},
-                                           FailedCall{"Open", FileCall::Open},
-                                           FailedCall{"Write", FileCall::Write},
-                                           FailedCall{"Close", FileCall::Close},
-                                           FailedCall{"Rename", FileCall::Replace}),
-                         [](const auto& row) { return std::string(row.param.name); });
+// --- Failures
 
 TEST_F(Profile, AFullDiskIsAnErrorAndTheOldFileStands) {
     given("[S]\r\nA=1\r\n");
@@ -215,6 +79,7 @@ TEST_F(Profile, AFullDiskIsAnErrorAndTheOldFileStands) {
     expectError(ErrorNumber::DiskFull, [&] { put("S", "A", "2"); });
     EXPECT_EQ(contents(), "[S]\r\nA=1\r\n");
     EXPECT_THAT(memory_.paths(), ElementsAre(kTextFile));
+    EXPECT_EQ(memory_.openFiles(), 0);
 }
 
 TEST_F(Profile, TheFirstFailureIsReportedWhenTheTemporaryFileStaysToo) {
@@ -228,17 +93,6 @@ TEST_F(Profile, AnUnreadableFileIsAnError) {
     given("[S]\r\nA=1\r\n");
     files_.failAtCall(FileCall::Open, 1, ErrorNumber::PathFileAccess);
     expectError(ErrorNumber::PathFileAccess, [&] { text("S", "A"); });
-}
-
-TEST_F(Profile, AFolderInTheFilesPlaceIsAnError) {
-    memory_.addFolder(kTextFile);
-    expectError(ErrorNumber::PathFileAccess, [&] { text("S", "A"); });
-    expectError(ErrorNumber::PathFileAccess, [&] { put("S", "A", "1"); });
-    EXPECT_THAT(memory_.paths(), IsEmpty());
-}
-
-TEST_F(Profile, AMissingFolderIsAnErrorOfTheWrite) {
-    expectError(ErrorNumber::PathNotFound, [&] { put("S", "A", "1"); });
 }
 
 TEST_F(Profile, AFileAboveTheLimitIsRefused) {
@@ -276,12 +130,6 @@ TEST_F(Profile, AnEditKeepsTheEncoding) {
     EXPECT_EQ(contents(), "[S]\r\nA=\xE9\r\nB=\xFC\r\n");
 }
 
-TEST_F(Profile, ATextThatLooksLikeUtf8ComesBack) {
-    given("[S]\r\n");
-    put("S", "A", "\xC3\xA9");
-    EXPECT_EQ(text("S", "A"), "\xC3\xA9");
-}
-
 TEST_F(Profile, APathKeepsEveryCharacter) {
     for (const std::string before : {"[S]\r\n", "[S]\r\nA=\xC3\xA9\r\n", "[S]\r\nA=\xE9\r\n"}) {
         given(before);
@@ -299,15 +147,6 @@ TEST_F(Profile, APathTypedInWindows1252IsFound) {
     EXPECT_EQ(path(),
               "/home/b\xC3\xBC"
               "cher");
-}
-
-TEST_F(Profile, APathHasNoLimit) {
-    given("[S]\r\nPath=/" + std::string(1000, 'x') + "\r\n");
-    EXPECT_EQ(path().size(), 1001U);
-}
-
-TEST_F(Profile, AMissingPathIsItsDefault) {
-    EXPECT_EQ(path(), "none");
 }
 
 TEST_F(Profile, APathThatIsNotUtf8IsRefused) {

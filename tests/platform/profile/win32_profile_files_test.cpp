@@ -13,8 +13,6 @@
 #include "platform/profile/text_profile_files.h"
 #include "platform/win32/win32_files.h"
 #include "platform/windows_paths.h"
-#include "support/failing_files.h"
-#include "support/profile_cases.h"
 #include "support/profile_edits.h"
 #include "support/temp_folder.h"
 #include "support/win_ini_section.h"
@@ -22,23 +20,10 @@
 namespace velmora {
 namespace {
 
-using test::FileCall;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
-using ::testing::Not;
 
 constexpr const char* kName = "velmora.ini";
-
-/// Whether these are the functions of Wine and not those of Windows itself.
-bool isWine() {
-    const HMODULE ntdll = GetModuleHandleA("ntdll.dll");
-    return ntdll != nullptr && GetProcAddress(ntdll, "wine_get_version") != nullptr;
-}
-
-/// Whether a row of a table says what these functions do.
-bool holdsHere(test::UnderWine underWine) {
-    return underWine == test::UnderWine::Alike || !isWine();
-}
 
 /// The lines of a file without empty ones and without blanks at their ends and around "=".
 std::vector<std::string> linesOf(const std::string& text) {
@@ -61,13 +46,13 @@ std::vector<std::string> linesOf(const std::string& text) {
     return lines;
 }
 
+// What every implementation promises is in profile_files_contract_test.cpp.
 class Win32Profile : public ::testing::Test {
   protected:
     void given(const std::string& contents) { folder_.write(kName, contents); }
     std::string contents() const { return folder_.read(kName); }
-    std::string text(const std::string& section, const std::string& key, const std::string& otherwise = "DEF",
-                     std::size_t buffer = 255) {
-        return profiles_.getString(section, key, otherwise, buffer, file_);
+    std::string text(const std::string& section, const std::string& key) {
+        return profiles_.getString(section, key, "DEF", 255, file_);
     }
     std::int32_t number(const std::string& key) { return profiles_.getInt("S", key, 42, file_); }
     std::vector<std::string> entries(const std::string& section) {
@@ -88,82 +73,12 @@ class Win32Profile : public ::testing::Test {
     test::TempFolder folder_;
     std::string file_ = folder_.path(kName);
     Win32Files disk_{folder_.path()};
-    test::FailingFiles files_{disk_};
     WindowsPaths rules_{currentFolder()};
-    Win32ProfileFiles profiles_{files_, rules_};
+    Win32ProfileFiles profiles_{disk_, rules_};
     TextProfileFiles ours_{disk_, rules_, PathEncoding::Windows1252};
 };
 
-// --- Reading: the same table as for our own reader
-
-class Win32ProfileLine : public Win32Profile, public ::testing::WithParamInterface<test::ProfileCase> {};
-
-TEST_P(Win32ProfileLine, ReadsAsTheTableSays) {
-    const test::ProfileCase& row = GetParam();
-    given("[S]\r\n" + row.lines);
-    EXPECT_EQ(text("S", row.key) == row.text, holdsHere(row.underWine)) << text("S", row.key);
-    EXPECT_EQ(number(row.key) == row.number, holdsHere(row.underWine)) << number(row.key);
-    EXPECT_EQ(entries("S"), row.entries);
-}
-
-INSTANTIATE_TEST_SUITE_P(All, Win32ProfileLine, ::testing::ValuesIn(test::profileCases()),
-                         [](const auto& row) { return std::string(row.param.name); });
-
-class Win32ProfileFile : public Win32Profile, public ::testing::WithParamInterface<test::ProfileFileCase> {};
-
-TEST_P(Win32ProfileFile, ReadsAsTheTableSays) {
-    const test::ProfileFileCase& row = GetParam();
-    given(row.file);
-    const std::string found = text(row.section, row.key);
-    EXPECT_EQ(found == row.text, holdsHere(row.underWine)) << found;
-    EXPECT_EQ(entries(row.section) == row.entries, holdsHere(row.underWine))
-        << ::testing::PrintToString(entries(row.section));
-}
-
-INSTANTIATE_TEST_SUITE_P(All, Win32ProfileFile, ::testing::ValuesIn(test::profileFileCases()),
-                         [](const auto& row) { return std::string(row.param.name); });
-
-TEST_F(Win32Profile, ADefaultLosesTrailingBlanksOnly) {
-    EXPECT_EQ(text("S", "A", "  \"DEF\"  "), "  \"DEF\"");
-}
-
-TEST_F(Win32Profile, ADefaultIsCutToTheBufferToo) {
-    EXPECT_EQ(text("S", "A", "12345", 4), "123");
-}
-
-TEST_F(Win32Profile, ABufferWithoutRoomGivesNothing) {
-    given("[S]\r\nA=1\r\n");
-    EXPECT_EQ(text("S", "A", "DEF", 1), "");
-    EXPECT_EQ(text("S", "A", "DEF", 0), "");
-}
-
-TEST_F(Win32Profile, NumbersBeyondThirtyTwoBitsAreTheNearest) {
-    given(
-        "[S]\r\nA=99999999999999999999999\r\nB=-99999999999999999999999\r\nC=0xFFFFFFFFFFFFFFFFFFF\r\n"
-        "D=4294968496\r\n");
-    EXPECT_EQ(number("A"), 2'147'483'647);
-    EXPECT_EQ(number("B"), -2'147'483'647 - 1);
-    EXPECT_EQ(number("C"), 2'147'483'647);
-    EXPECT_EQ(number("D"), 2'147'483'647);
-}
-
-TEST_F(Win32Profile, AMissingFileReadsAsEmpty) {
-    EXPECT_EQ(text("S", "A"), "DEF");
-    EXPECT_EQ(number("A"), 42);
-    EXPECT_THAT(entries("S"), IsEmpty());
-    EXPECT_EQ(profiles_.text(file_), "");
-}
-
-TEST_F(Win32Profile, ALongSectionIsReadWhole) {
-    std::string lines = "[S]\r\n";
-    for (int i = 0; i < 5000; ++i) {
-        lines += "Key" + std::to_string(i) + "=value\r\n";
-    }
-    given(lines);
-    const std::vector<std::string> all = entries("S");
-    ASSERT_EQ(all.size(), 5000U);
-    EXPECT_EQ(all.back(), "Key4999=value");
-}
+// --- Reading
 
 TEST_F(Win32Profile, APathHasNoLimitAndComesBack) {
     const std::string path = "C:\\" + std::string(3000, 'x') + "\\\xFC";
@@ -171,29 +86,10 @@ TEST_F(Win32Profile, APathHasNoLimitAndComesBack) {
     EXPECT_EQ(profiles_.getPath("S", "Path", "none", file_), path);
 }
 
-TEST_F(Win32Profile, AMissingPathIsItsDefaultAndAnEmptyOneIsEmpty) {
-    given("[S]\r\nPath=\r\n");
-    EXPECT_EQ(profiles_.getPath("S", "Path", "none", file_), "");
-    EXPECT_EQ(profiles_.getPath("S", "Other", "none ", file_), "none ");
-}
-
-TEST_F(Win32Profile, AnEditByAnotherProgramIsSeenAtOnce) {
-    given("[S]\r\nA=1\r\n");
-    EXPECT_EQ(text("S", "A"), "1");
-    given("[S]\r\nA=2\r\n");
-    EXPECT_EQ(text("S", "A"), "2");
-}
-
-TEST_F(Win32Profile, TheWholeTextIsGivenWithoutItsMark) {
-    given("\xEF\xBB\xBF[S] ; \xC3\xA9\r\n");
-    EXPECT_EQ(profiles_.text(file_), "[S] ; \xE9\r\n");
-    given(std::string("\xFF\xFE[\0S\0]\0\xE9\0\r\0\n\0", 14));
-    EXPECT_EQ(profiles_.text(file_), "[S]\xE9\r\n");
-}
-
 TEST_F(Win32Profile, AFileInWideCharactersIsRead) {
     given(std::string("\xFF\xFE[\0S\0]\0\r\0\n\0A\0=\0\xE9\0\r\0\n\0", 24));
     EXPECT_EQ(text("S", "A"), "\xE9");
+    EXPECT_EQ(profiles_.text(file_), "[S]\r\nA=\xE9\r\n");
 }
 
 TEST_F(Win32Profile, ANumberOfAMarkedFileIsRead) {
@@ -202,7 +98,7 @@ TEST_F(Win32Profile, ANumberOfAMarkedFileIsRead) {
     EXPECT_EQ(number("B"), 42);
 }
 
-TEST_F(Win32Profile, ATextThatLooksLikeUtf8ComesBack) {
+TEST_F(Win32Profile, ATextThatLooksLikeUtf8IsTheSameToBothReaders) {
     put("S", "A", "\xC3\xA9");
     EXPECT_EQ(text("S", "A"), "\xC3\xA9");
     EXPECT_EQ(ours_.getString("S", "A", "", 255, file_), "\xC3\xA9");
@@ -237,7 +133,7 @@ TEST_F(Win32Profile, APathOutsideTheCodePageIsNeverASimilarOne) {
     EXPECT_EQ(profiles_.getPath("S", "Path", "none", file_), "C:\\?uk");
 }
 
-// --- Writing: the same table as for our own writer
+// --- Writing: the table of our own writer
 
 class Win32EditedProfile : public Win32Profile, public ::testing::WithParamInterface<test::ProfileEdit> {};
 
@@ -259,48 +155,7 @@ TEST_P(Win32EditedProfile, ReadsAsTheTableSaysByBothReaders) {
 INSTANTIATE_TEST_SUITE_P(All, Win32EditedProfile, ::testing::ValuesIn(test::profileEdits()),
                          [](const auto& row) { return std::string(row.param.name); });
 
-TEST_F(Win32Profile, WritingMakesAMissingFile) {
-    put("S", "A", "1");
-    EXPECT_EQ(text("S", "A"), "1");
-    EXPECT_THAT(folder_.names(), ElementsAre(kName));
-}
-
-TEST_F(Win32Profile, WritingWhatIsThereTouchesNothing) {
-    given("[S]\r\nA=1\r\n");
-    put("S", "A", "1");
-    EXPECT_EQ(files_.calls(FileCall::Replace), 0);
-    EXPECT_THAT(folder_.names(), ElementsAre(kName));
-}
-
-TEST_F(Win32Profile, NamesAndValuesThatWouldNotBeFoundAgainAreRefused) {
-    given("[S]\r\nA=1\r\n");
-    for (const char* key : {"A=B", "", ";A", "[A", " A", "A\t"}) {
-        expectError(ErrorNumber::InvalidProcedureCall, [&] { put("S", key, "1"); });
-    }
-    expectError(ErrorNumber::InvalidProcedureCall, [&] { put("S", "A", "1\r\n[T]"); });
-    expectError(ErrorNumber::InvalidProcedureCall, [&] { put("S]", "A", "1"); });
-    expectError(ErrorNumber::InvalidProcedureCall, [&] { put("S ", "A", "1"); });
-    expectError(ErrorNumber::BadFileName, [&] { profiles_.writePath("S", "Path", "C:\\a\nb", file_); });
-    EXPECT_EQ(contents(), "[S]\r\nA=1\r\n");
-}
-
-// --- Failures: the old file stands
-
-class Win32FailedWrite : public Win32Profile, public ::testing::WithParamInterface<FileCall> {};
-
-TEST_P(Win32FailedWrite, IsAnErrorAndTheOldFileStands) {
-    given("[S]\r\nA=1\r\n");
-    files_.failAtCall(GetParam(), 1, ErrorNumber::DiskFull);
-    expectError(ErrorNumber::DiskFull, [&] { put("S", "A", "2"); });
-    EXPECT_EQ(contents(), "[S]\r\nA=1\r\n");
-    EXPECT_THAT(folder_.names(), ElementsAre(kName));
-    put("S", "A", "3");
-    EXPECT_EQ(text("S", "A"), "3");
-}
-
-INSTANTIATE_TEST_SUITE_P(All, Win32FailedWrite,
-                         ::testing::Values(FileCall::CreateTemporary, FileCall::Open, FileCall::Write,
-                                           FileCall::Close, FileCall::Replace));
+// --- Failures
 
 TEST_F(Win32Profile, AFileHeldByAnotherProgramIsAnErrorAndNoSetOfDefaults) {
     given("[S]\r\nA=1\r\n");
@@ -313,18 +168,6 @@ TEST_F(Win32Profile, AFileHeldByAnotherProgramIsAnErrorAndNoSetOfDefaults) {
     expectError(ErrorNumber::PermissionDenied, [&] { put("S", "A", "2"); });
     CloseHandle(other);
     EXPECT_EQ(text("S", "A"), "1");
-}
-
-TEST_F(Win32Profile, AFolderInTheFilesPlaceIsAnError) {
-    folder_.makeFolder(kName);
-    expectError(ErrorNumber::PathFileAccess, [&] { text("S", "A"); });
-    expectError(ErrorNumber::PathFileAccess, [&] { put("S", "A", "1"); });
-}
-
-TEST_F(Win32Profile, AMissingFolderIsAnErrorOfTheWrite) {
-    const std::string file = folder_.path("missing\\velmora.ini");
-    EXPECT_EQ(profiles_.getString("S", "A", "DEF", 255, file), "DEF");
-    expectError(ErrorNumber::PathNotFound, [&] { profiles_.writeString("S", "A", "1", file); });
 }
 
 TEST_F(Win32Profile, ANameWithoutAFolderIsInTheCurrentFolder) {
