@@ -22,7 +22,7 @@ ServerCore::ServerCore(const ServerCoreParts& parts)
       boot_(link_, controller_, parts.files, tools_),
       exit_(link_, link_.stopRequests().exit),
       shutdown_(link_, link_.stopRequests().shutdown),
-      plan_(link_, controller_, parts.trace, tools_, spreadsheet_),
+      plan_(link_, controller_, tools_, spreadsheet_, earlierCopies_, transferLog_),
       planm_(link_, offeredFormats()),
       time_(link_, controller_, timeServices_, TimeReply::Local),
       gmt_(link_, controller_, timeServices_, TimeReply::Universal),

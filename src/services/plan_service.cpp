@@ -29,9 +29,14 @@ const std::string kEndReply = {kEndOfSheet, '\0'};
 
 }  // namespace
 
-PlanService::PlanService(FrameSender& sender, ServerWindow& window, Trace& trace,
-                         const FileNameMapper& mapper, Spreadsheet& spreadsheet)
-    : sender_(sender), window_(window), trace_(trace), mapper_(mapper), spreadsheet_(spreadsheet) {}
+PlanService::PlanService(FrameSender& sender, ServerWindow& window, const FileNameMapper& mapper,
+                         Spreadsheet& spreadsheet, EarlierCopies& copies, TransferLog& log)
+    : sender_(sender),
+      window_(window),
+      mapper_(mapper),
+      spreadsheet_(spreadsheet),
+      copies_(copies),
+      log_(log) {}
 
 void PlanService::handle(std::int32_t& code, std::string& payload) {
     switch (code) {
@@ -47,6 +52,7 @@ void PlanService::handle(std::int32_t& code, std::string& payload) {
             break;  // the Organiser asks for each cell, so an acknowledgement brings nothing
     }
     if (code == PLP_EV_RESET) {
+        tellOfBrokenSave();
         reset();
     }
 }
@@ -55,6 +61,14 @@ void PlanService::reset() {
     phase_ = Phase::Idle;
     sheet_ = SheetGrid();
     sheetDone_ = false;
+    unsaved_ = false;
+    arrived_ = 0;
+}
+
+void PlanService::tellOfBrokenSave() {
+    if (unsaved_) {
+        log_.saveBrokeOff({path_, arrived_, {}, false});
+    }
 }
 
 void PlanService::handleData(std::int32_t& code, std::string_view message) {
@@ -79,9 +93,7 @@ void PlanService::refuse(std::int32_t& code, std::string_view reason) {
 }
 
 void PlanService::report(const std::string& line) {
-    const std::string text = mapper_.displayName(path_) + line;
-    trace_.trace("COM,ERROR", "PLAN", text);
-    window_.Report(text);
+    log_.note(mapper_.displayName(path_) + line);
 }
 
 CellRemark PlanService::remarks() {
@@ -130,6 +142,7 @@ void PlanService::beginReceiving(std::int32_t& code) {
         return;
     }
     phase_ = Phase::HeaderDone;
+    unsaved_ = true;
     window_.setState(Downld);
     window_.setCurrentFile(path_);
     reply(kAccepted);
@@ -180,6 +193,7 @@ void PlanService::handleSize(std::string_view message) {
     sheet_ = SheetGrid(rows, columns);
     phase_ = Phase::Receiving;
     window_.SetStats(StatsBytesReceived, static_cast<std::int16_t>(kSizeLength));
+    arrived_ += kSizeLength;
     reply(kAccepted);
 }
 
@@ -194,6 +208,8 @@ void PlanService::handleCell(std::int32_t& code, std::string_view message) {
     const CellPosition at{byteAt(message, 1), byteAt(message, 0)};
     storeCell(at, byteAt(message, 2), message.substr(kCellHeaderLength));
     addToStats(window_, StatsBytesReceived, message.size());
+    unsaved_ = true;
+    arrived_ += message.size();
     reply(kAccepted);
 }
 
@@ -213,13 +229,23 @@ void PlanService::storeCell(const CellPosition& at, int type, std::string_view t
 
 void PlanService::finishReceiving(std::int32_t& code) {
     window_.SetStats(StatsFilesReceived, 1);
-    const int error = spreadsheet_.ExportSheet(sheet_, path_, format_, remarks());
+    const int error = writeSheet();
+    unsaved_ = false;
     if (error != 0) {
         reportFailure("was not saved", error);
         refuse(code, codePayload(error));
     } else {
         reply(kEndReply);
     }
+}
+
+int PlanService::writeSheet() {
+    try {
+        copies_.keep(path_);
+    } catch (const RunTimeError& error) {
+        return error.number();
+    }
+    return spreadsheet_.ExportSheet(sheet_, path_, format_, remarks());
 }
 
 }  // namespace velmora

@@ -18,14 +18,15 @@
 
 #include "link/frame_sender.h"
 #include "link/server_window.h"
-#include "link/trace.h"
 #include "services/file_name_mapper.h"
 #include "services/service_handler.h"
 #include "spreadsheet/spreadsheet.h"
+#include "transfers/earlier_copies.h"
+#include "transfers/transfer_log.h"
 
 namespace velmora {
 
-/// The handler. Holds references only; sender, window, trace, mapper and spreadsheet must outlive it.
+/// The handler. Holds references only; all of them must outlive it.
 ///
 /// What a format does not keep of a sheet, and why one could not be read or written, is said to the trace and
 /// the log, cell by cell.
@@ -36,8 +37,8 @@ namespace velmora {
 /// cell outside the announced size, is a RunTimeError for the dispatcher.
 class PlanService : public ServiceHandler {
   public:
-    PlanService(FrameSender& sender, ServerWindow& window, Trace& trace, const FileNameMapper& mapper,
-                Spreadsheet& spreadsheet);
+    PlanService(FrameSender& sender, ServerWindow& window, const FileNameMapper& mapper,
+                Spreadsheet& spreadsheet, EarlierCopies& copies, TransferLog& log);
 
     void handle(std::int32_t& code, std::string& payload) override;
 
@@ -45,6 +46,8 @@ class PlanService : public ServiceHandler {
     enum class Phase { Idle, WaitHeader, HeaderDone, Receiving };
 
     void reset();
+    /// Tells of a sheet that did not come to its end.
+    void tellOfBrokenSave();
     void handleData(std::int32_t& code, std::string_view message);
 
     void handleHeader(std::int32_t& code, std::string_view message);
@@ -60,6 +63,8 @@ class PlanService : public ServiceHandler {
     void handleCell(std::int32_t& code, std::string_view message);
     void storeCell(const CellPosition& at, int type, std::string_view text);
     void finishReceiving(std::int32_t& code);
+    /// Keeps the file that is there and puts the sheet in its place; 0 or the number of the run-time error.
+    int writeSheet();
 
     /// Tells trace and log a line about the file, behind its name.
     void report(const std::string& line);
@@ -72,9 +77,10 @@ class PlanService : public ServiceHandler {
 
     FrameSender& sender_;
     ServerWindow& window_;
-    Trace& trace_;
     const FileNameMapper& mapper_;
     Spreadsheet& spreadsheet_;
+    EarlierCopies& copies_;
+    TransferLog& log_;
 
     Phase phase_ = Phase::Idle;
     bool pcSends_ = false;
@@ -82,7 +88,9 @@ class PlanService : public ServiceHandler {
     std::string path_;
     SheetGrid sheet_;
     CellPosition current_;
-    bool sheetDone_ = false;  // the end of the sheet has been sent
+    bool sheetDone_ = false;     // the end of the sheet has been sent
+    bool unsaved_ = false;       // the Organiser sends, and the file has not been written since
+    std::uint64_t arrived_ = 0;  // bytes of the sheet that the Organiser sends
 };
 
 }  // namespace velmora

@@ -9,6 +9,7 @@
 #include "spreadsheet/tokens.h"
 #include "spreadsheet/wks_writer.h"
 #include "support/failing_files.h"
+#include "support/fake_timers.h"
 #include "support/memory_files.h"
 #include "support/recording_sender.h"
 #include "support/recording_trace.h"
@@ -123,7 +124,11 @@ class PlanServiceTest : public ::testing::Test {
     test::RecordingWindow window;
     test::RecordingTrace trace;
     FolderNames names{memory};
-    PlanService service{sender, window, trace, names, spreadsheet};
+    test::FakeTime time;
+    TransferLog log{window, trace, rules};
+    EarlierCopiesSettings copiesSettings{"/copies"};
+    EarlierCopies copies{files, rules, time, log, copiesSettings};
+    PlanService service{sender, window, names, spreadsheet, copies, log};
 };
 
 // Opening and header.
@@ -350,6 +355,7 @@ TEST_F(PlanServiceTest, ASecondMessageForACellIsIgnoredButCounted) {
 }
 
 TEST_F(PlanServiceTest, AnOldFileIsReplacedOnlyByAWholeOne) {
+    copiesSettings.days = 0;
     memory.addFile("/folder/C.CSV", "old");
     save(4, "C");
     announce(1, 1);
@@ -358,6 +364,29 @@ TEST_F(PlanServiceTest, AnOldFileIsReplacedOnlyByAWholeOne) {
     EXPECT_EQ(refusal("\xFE"), "=") << "61, the error number itself";
     EXPECT_EQ(memory.content("/folder/C.CSV"), "old");
     EXPECT_EQ(memory.paths().size(), 1U);
+}
+
+TEST_F(PlanServiceTest, WhatASheetReplacesIsKept) {
+    memory.addFile("/folder/C.CSV", "old");
+    save(4, "C");
+    announce(1, 1);
+    put(value(0, 0, "1"));
+    EXPECT_FALSE(memory.folderExists("/copies")) << "nothing is replaced yet";
+    EXPECT_EQ(ask("\xFE"), kEnd);
+    EXPECT_EQ(memory.content("/copies/C (2026-03-28 14.05.09).CSV"), "old");
+    EXPECT_EQ(memory.content("/folder/C.CSV"), "\"1\",\r\n");
+}
+
+TEST_F(PlanServiceTest, WithoutRoomForTheCopyTheDiskIsFullAndTheOldFileStands) {
+    memory.addFile("/folder/C.CSV", "old");
+    save(4, "C");
+    announce(1, 1);
+    put(value(0, 0, "1"));
+    files.failAfterBytes(2, ErrorNumber::DiskFull);
+    EXPECT_EQ(refusal("\xFE"), "=") << "61";
+    EXPECT_EQ(memory.content("/folder/C.CSV"), "old");
+    EXPECT_EQ(memory.paths().size(), 1U);
+    expectReports({"C.CSV was not saved: Disk full"});
 }
 
 TEST_F(PlanServiceTest, AFormatThatIsNoneWritesNothing) {
@@ -508,6 +537,27 @@ TEST_F(PlanServiceTest, ALinkThatGoesDownForgetsTheSheet) {
     EXPECT_EQ(event(PLP_EV_DATA, "\xFE"), PLP_EV_DATA);
     EXPECT_TRUE(sender.frames.empty());
     EXPECT_TRUE(memory.paths().empty());
+}
+
+TEST_F(PlanServiceTest, ASaveThatBreaksOffIsTold) {
+    save(4, "A");
+    announce(1, 1);
+    put(value(0, 0, "17"));
+    event(PLP_EV_RESET);
+    expectReports({"A.CSV was not saved: 7 bytes arrived."});
+    EXPECT_EQ(window.lineDowns, 1);
+}
+
+TEST_F(PlanServiceTest, ASaveOrLoadThatIsCompleteIsNotTold) {
+    save(4, "A");
+    announce(1, 1);
+    put(value(0, 0, "17"));
+    ask("\xFE");
+    event(PLP_EV_RESET);
+    load(4, "A");
+    event(PLP_EV_RESET);
+    expectReports({});
+    EXPECT_EQ(window.lineDowns, 0);
 }
 
 TEST_F(PlanServiceTest, ANewTransferStartsAfresh) {

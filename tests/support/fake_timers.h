@@ -53,10 +53,10 @@ class FakeTime : public Clock {
 
     /// Moves the clock to the next tick (at most `limit` away) and runs it; false if none was due by then.
     bool advanceToNextTick(milliseconds limit) {
-        const microseconds end = now_ + limit;
+        const microseconds last = now_ + limit;
         FakeTimer* next = nextTimer();
-        if (next == nullptr || next->due_ > end) {
-            now_ = end;
+        if (next == nullptr || next->due_ > last) {
+            now_ = last;
             return false;
         }
         fire(*next);
@@ -75,14 +75,14 @@ class FakeTime : public Clock {
     double midnightOffset = 40'000;
 
   private:
-    void advanceTo(microseconds end) {
+    void advanceTo(microseconds last) {
         while (FakeTimer* next = nextTimer()) {
-            if (next->due_ > end) {
+            if (next->due_ > last) {
                 break;
             }
             fire(*next);
         }
-        now_ = end;
+        now_ = last;
     }
     FakeTimer* nextTimer() const {
         FakeTimer* next = nullptr;
