@@ -43,7 +43,7 @@ ExitStatus run(const CommandLine& line) {
     const bool terminal = isTerminal(tour ? stdout : stderr);
     Progress silent;
     ProgressBar bar(tour ? std::cout : std::cerr, terminal && !line.trace);
-    const Console console{std::cout, std::cerr, tour || terminal ? bar : silent};
+    const Console console{std::cin, std::cout, std::cerr, tour || terminal ? bar : silent};
     return runCommand(line, link, console);
 }
 

@@ -203,8 +203,11 @@ void Syntax::addMode(CommandSyntax& syntax) {
 }
 
 void Syntax::addOutput(CommandSyntax& syntax) {
-    syntax.option("-o", "<file>", "Write to this file (default: standard output)",
-                  [this](const std::string& value) { command_.output = value; });
+    syntax.option("-o", "<file>", "Write to this file (default: \"-\", standard output)",
+                  [this](const std::string& value) {
+                      command_.output =
+                          value == kStandardStream ? std::nullopt : std::optional<std::string>(value);
+                  });
 }
 
 void Syntax::addLineEnds(CommandSyntax& syntax) {
@@ -232,7 +235,7 @@ void Syntax::addAddress(CommandSyntax& syntax, const std::string& help, Presence
 
 void Syntax::addFtranCommands() {
     CommandSyntax save = command("save", CommandKind::Save, "Save a file on the server");
-    save.operand("FILE", "File on this side", file());
+    save.operand("FILE", "File on this side, \"-\" for standard input", file());
     save.option("--as", "<name>", "Name on the server (default: from FILE's own)", name("--as"));
     addFileType(save);
     addMode(save);
@@ -254,7 +257,7 @@ void Syntax::addFileCommands() {
     addLineEnds(read);
     CommandSyntax write = command("write", CommandKind::Write, "Write any file of the server");
     write.operand("NAME", "Name on the server", name("NAME"));
-    write.operand("FILE", "File on this side", file());
+    write.operand("FILE", "File on this side, \"-\" for standard input", file());
     addTextAndSeek(write);
     addMode(write);
 }
@@ -262,7 +265,7 @@ void Syntax::addFileCommands() {
 void Syntax::addSheetCommands() {
     CommandSyntax save =
         command("sheet-save", CommandKind::SheetSave, "Save a spreadsheet as a worksheet file");
-    save.operand("CELLS", "File on this side, one cell a line", file());
+    save.operand("CELLS", "File on this side, one cell a line, or \"-\"", file());
     save.option("--as", "<name>", "Name on the server (needed)", name("--as"), Presence::Required);
     addFormat(save);
     CommandSyntax load =
@@ -303,6 +306,9 @@ void Syntax::finish() {
     command_.crLf = !lf_;
     command_.mode = mode_.value_or(command_.seek ? FileMode::Append : FileMode::Create);
     if (command_.kind == CommandKind::Save && command_.name.empty()) {
+        if (command_.file == kStandardStream) {
+            throw UsageError("--as is required when FILE is standard input");
+        }
         command_.name = upperCase(serverName("FILE", stemOf(command_.file)));
     }
     if (command_.kind == CommandKind::Dir && command_.name.empty()) {

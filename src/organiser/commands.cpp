@@ -63,12 +63,13 @@ void Commands::deliver(std::string_view contents) {
 
 void Commands::save() {
     FtranClient client(link_, console_.progress);
-    const std::string bytes = readLocalFile(command_.file);
+    const std::string bytes = readLocalInput(command_.file, console_.in);
     std::vector<std::string> lines;
     if (command_.fileType == kDataFile || command_.fileType == kProcedure) {
         lines = splitLines(bytes);
         // The lines of a procedure share messages, so only records have a limit of their own.
-        checkLines(command_.file, lines, command_.fileType == kDataFile ? kMostData : bytes.size());
+        checkLines(inputName(command_.file), lines,
+                   command_.fileType == kDataFile ? kMostData : bytes.size());
     }
     bool made = false;
     attempts_.run(
@@ -138,11 +139,11 @@ void Commands::read() {
 
 void Commands::write() {
     FileClient client(link_, console_.progress);
-    const std::string bytes = readLocalFile(command_.file);
+    const std::string bytes = readLocalInput(command_.file, console_.in);
     std::vector<std::string> lines;
     if (command_.text) {
         lines = splitLines(bytes);
-        checkLines(command_.file, lines, kMostData);
+        checkLines(inputName(command_.file), lines, kMostData);
     }
     bool made = false;
     attempts_.run(
@@ -211,7 +212,7 @@ void Commands::boot() {
 
 void Commands::sheetSave() {
     SheetClient client(link_, console_.progress);
-    const auto cells = parseCells(command_.file, readLocalFile(command_.file));
+    const auto cells = parseCells(inputName(command_.file), readLocalInput(command_.file, console_.in));
     attempts_.run([&] { client.save(command_.name, command_.sheetFormat, cells); });
     console_.out << "Saved " << toUtf8(command_.name) << ", " << counted(cells.size(), "cell") << ".\n";
 }

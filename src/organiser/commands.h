@@ -22,6 +22,7 @@ enum ExitStatus : int {
 
 /// Where the program speaks. The streams and the progress must outlive their user.
 struct Console {
+    std::istream& in;     ///< what is read for a file called "-"
     std::ostream& out;    ///< what was asked for, and words about it unless contents go there
     std::ostream& error;  ///< failures, and the words that must not mix with contents
     Progress& progress;

@@ -1,8 +1,10 @@
 #include "organiser/local_files.h"
 
+#include <array>
 #include <cerrno>
 #include <cstring>
 #include <fstream>
+#include <istream>
 #include <iterator>
 #include <sstream>
 
@@ -33,6 +35,25 @@ std::string readLocalFile(const std::string& path) {
         failed(path, "read");
     }
     return bytes.str();
+}
+
+std::string readLocalInput(const std::string& path, std::istream& standardInput) {
+    if (path != kStandardStream) {
+        return readLocalFile(path);
+    }
+    std::string bytes;
+    std::array<char, 65'536> buffer{};
+    while (standardInput.read(buffer.data(), buffer.size()), standardInput.gcount() > 0) {
+        bytes.append(buffer.data(), static_cast<std::size_t>(standardInput.gcount()));
+    }
+    if (standardInput.bad()) {
+        throw LocalFileError(inputName(path) + " cannot be read.");
+    }
+    return bytes;
+}
+
+std::string inputName(const std::string& path) {
+    return path == kStandardStream ? "standard input" : path;
 }
 
 void writeLocalFile(const std::string& path, std::string_view bytes) {

@@ -2,12 +2,16 @@
 #pragma once
 
 #include <filesystem>
+#include <iosfwd>
 #include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace velmora {
+
+/// The name of standard input and output.
+constexpr std::string_view kStandardStream = "-";
 
 /// A file of the user cannot be read, written or understood. The text is one sentence that names it.
 class LocalFileError : public std::runtime_error {
@@ -20,6 +24,10 @@ std::filesystem::path localPath(const std::string& path);
 
 /// All bytes of a file. Throws LocalFileError.
 std::string readLocalFile(const std::string& path);
+/// The same; "-" is the stream. Throws LocalFileError.
+std::string readLocalInput(const std::string& path, std::istream& standardInput);
+/// What messages call an input.
+std::string inputName(const std::string& path);
 /// Makes or replaces a file. Throws LocalFileError.
 void writeLocalFile(const std::string& path, std::string_view bytes);
 

@@ -74,5 +74,20 @@ TEST_F(CommandLinesTest, AHelpThatCannotBeWrittenIsAFailure) {
     }
 }
 
+// Each of them ended with 0, and what had been asked for was nowhere.
+TEST_F(CommandLinesTest, ContentsThatCannotBeWrittenAreAFailure) {
+    if (organiserSide->windows()) {
+        GTEST_SKIP() << "needs a device that is always full";
+    }
+    writeFile(home / "a.odb", "one\ttwo\r\n");
+    for (const std::string& arguments :
+         {"show " + (home / "a.odb").string(), "data " + (home / "a.odb").string() + " - --to csv"}) {
+        const std::string command = organiserSide->command("velmora-files", {}).front();
+        const Finished done = run({"/bin/sh", "-c", command + " " + arguments + " > /dev/full"});
+        EXPECT_EQ(done.status, 1) << arguments;
+        EXPECT_NE(done.error.find("velmora-files: "), std::string::npos) << done.error;
+    }
+}
+
 }  // namespace
 }  // namespace velmora::e2e

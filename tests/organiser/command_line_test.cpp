@@ -143,6 +143,7 @@ INSTANTIATE_TEST_SUITE_P(
         BadArguments{"BootWithoutAddress", {"boot", "N"}, "--address is required"},
         BadArguments{"SheetWithoutFormat", {"sheet-load", "N"}, "--format is required"},
         BadArguments{"SheetWithoutName", {"sheet-save", "f", "--format", "wks"}, "--as is required"},
+        BadArguments{"InputWithoutName", {"save", "-"}, "--as is required when FILE is standard input"},
         BadArguments{"UnknownFormat", {"sheet-load", "N", "--format", "xls"}, "wks, dif, csv, txt or tab"},
         BadArguments{"OptionOfAnotherCommand", {"time", "--long"}, "--long does not go with time"},
         BadArguments{"TooMuch", {"load", "A", "B"}, "\"B\" is one argument too many"},

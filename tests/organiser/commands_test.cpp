@@ -30,10 +30,11 @@ class CommandsTest : public test::ConversationFixture {
         arguments.insert(arguments.begin(), {"--device", "line"});
         out.str("");
         error.str("");
-        return runCommand(readCommandLine(arguments), link(), {out, error, progress});
+        return runCommand(readCommandLine(arguments), link(), {in, out, error, progress});
     }
 
     test::TempFolder directory;
+    std::istringstream in;
     std::ostringstream out;
     std::ostringstream error;
     test::ScriptedService exitService{test::reply("")};
@@ -55,6 +56,30 @@ TEST_F(CommandsTest, ContentsOnStandardOutputAreAlone) {
     EXPECT_EQ(run({"load", "MEMO", "--lf"}), kDone);
     EXPECT_EQ(out.str(), "a\n");
     EXPECT_EQ(error.str(), "Loaded MEMO, 1 record.\n");
+}
+
+TEST_F(CommandsTest, ADashIsStandardInputOrOutput) {
+    in.str("a\tb\nc\n");
+    EXPECT_EQ(run({"save", "-", "--as", "MEMO"}), kDone) << error.str();
+    EXPECT_EQ(folder["MEMO.ODB"], "a\tb\r\nc\r\n");
+    EXPECT_EQ(run({"load", "MEMO", "-o", "-"}), kDone);
+    EXPECT_EQ(out.str(), "a\tb\r\nc\r\n");
+    EXPECT_EQ(error.str(), "Loaded MEMO, 2 records.\n");
+    in = std::istringstream("0123");
+    EXPECT_EQ(run({"write", "A.DAT", "-"}), kDone) << error.str();
+    EXPECT_EQ(folder["A.DAT"], "0123");
+    in = std::istringstream("A1 12\n");
+    EXPECT_EQ(run({"sheet-save", "-", "--as", "S", "--format", "wks"}), kDone) << error.str();
+}
+
+TEST_F(CommandsTest, AStandardInputThatFailsSavesNothing) {
+    in.setstate(std::ios::badbit);
+    EXPECT_EQ(run({"save", "-", "--as", "MEMO"}), kLocalProblem);
+    EXPECT_EQ(error.str(), "standard input cannot be read.\n");
+    in = std::istringstream(std::string(251, 'x'));
+    EXPECT_EQ(run({"save", "-", "--as", "MEMO"}), kLocalProblem);
+    EXPECT_NE(error.str().find("standard input, line 1: 251 bytes"), std::string::npos) << error.str();
+    EXPECT_TRUE(folder.empty());
 }
 
 TEST_F(CommandsTest, ProceduresAndBlocksGoThereAndBack) {
