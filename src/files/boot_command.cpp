@@ -108,7 +108,7 @@ void runBootMakeCommand(const BootMakeRequest& request, const FileAccess& access
     const std::string code = access.readInput(request.code);
     std::string offsets = request.relocations;
     if (!offsets.empty() && offsets.front() == '@') {
-        offsets = access.readInput(offsets.substr(1));
+        offsets = withoutMark(access.readInput(offsets.substr(1)));
     }
     access.writeOutput(request.out, makeBootFile(code, parseRelocations(offsets, code.size())));
 }

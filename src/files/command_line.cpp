@@ -15,6 +15,17 @@ CommandSyntax::Take into(std::string& target) {
     return [&target](const std::string& value) { target = value; };
 }
 
+TextEncoding textEncoding(const std::string& value) {
+    const std::string name = lowerCase(value);
+    if (name == "utf-8") {
+        return TextEncoding::Utf8;
+    }
+    if (name != "windows-1252") {
+        wrongValue("--encoding", value, "utf-8 or windows-1252");
+    }
+    return TextEncoding::Windows1252;
+}
+
 WksDialect dialect(const std::string& option, const std::string& value) {
     const std::string name = lowerCase(value);
     if (name == "common" || name == "1") {
@@ -55,21 +66,24 @@ class Syntax {
         : program_("velmora-files",
                    "Converts what the Organiser keeps on a PC. \"-\" is standard input or output.",
                    ProgramSyntax::Repeated::Refused) {
+        addCommon();
         addSheet();
         addData();
         addBoot();
         addShow();
         program_.note(
             "velmora-files COMMAND --help tells about a command.\n"
-            "Exit status: 0 done, 1 a file failed or is damaged, 2 wrong usage.");
+            "Exit status: 0 done, 1 a file failed or is damaged, 2 wrong usage,\n"
+            "3 something was left out and --strict was given.");
     }
 
-    FilesCommand read(const std::vector<std::string>& arguments) {
+    FilesCommandLine read(const std::vector<std::string>& arguments) {
         program_.read(arguments);
-        return chosen_;
+        return {chosen_, strict_};
     }
 
   private:
+    void addCommon();
     void addSheet();
     void addData();
     void addBoot();
@@ -77,6 +91,7 @@ class Syntax {
     static void addInAndOut(CommandSyntax& command, std::string& in, std::string& out);
 
     ProgramSyntax program_;
+    bool strict_ = false;
     SheetRequest sheet_;
     DataRequest data_;
     BootMakeRequest bootMake_;
@@ -84,6 +99,16 @@ class Syntax {
     ShowRequest show_;
     FilesCommand chosen_;
 };
+
+void Syntax::addCommon() {
+    program_.flag("--strict", "Status 3 when something is left out or changed", strict_);
+    program_.option("--encoding", "<name>",
+                    "Of texts on the PC's side, all but odb and wks:\nutf-8 or windows-1252 (default)",
+                    [this](const std::string& value) {
+                        const TextEncoding encoding = textEncoding(value);
+                        sheet_.encoding = data_.encoding = show_.encoding = encoding;
+                    });
+}
 
 void Syntax::addInAndOut(CommandSyntax& command, std::string& in, std::string& out) {
     command.operand("IN", "File to read", into(in));
@@ -136,9 +161,9 @@ void Syntax::addData() {
     });
     addInAndOut(data, data_.in, data_.out);
     const auto addForm = [&data](const std::string& option, const std::string& help,
-                                 std::optional<char>& target) {
+                                 std::optional<DataForm>& target) {
         data.option(option, "<form>", help, [option, &target](const std::string& value) {
-            target = separatorOfForm(lowerCase(value));
+            target = dataFormNamed(lowerCase(value));
             if (!target) {
                 wrongValue(option, value, "odb, txt, csv or csv-semicolon");
             }
@@ -185,7 +210,7 @@ void Syntax::addShow() {
 
 }  // namespace
 
-FilesCommand readFilesCommandLine(const std::vector<std::string>& arguments) {
+FilesCommandLine readFilesCommandLine(const std::vector<std::string>& arguments) {
     return Syntax().read(arguments);
 }
 

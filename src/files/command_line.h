@@ -13,8 +13,13 @@ namespace velmora {
 /// RunTimeError.
 using FilesCommand = std::function<bool(const FileAccess& access)>;
 
+struct FilesCommandLine {
+    FilesCommand command;
+    bool strict = false;  ///< what is left out gives a status of its own
+};
+
 /// Reads the arguments behind the program's name. Throws UsageError, and RequestedText for --help and
 /// --version.
-FilesCommand readFilesCommandLine(const std::vector<std::string>& arguments);
+FilesCommandLine readFilesCommandLine(const std::vector<std::string>& arguments);
 
 }  // namespace velmora

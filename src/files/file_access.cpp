@@ -10,11 +10,6 @@
 #include "spreadsheet/whole_file.h"
 
 namespace velmora {
-namespace {
-
-constexpr const char* kStandardStream = "-";
-
-}  // namespace
 
 std::size_t BytesFile::read(char* buffer, std::size_t count) {
     const std::size_t start = std::min<std::uint64_t>(position_, bytes_.size());
@@ -46,6 +41,10 @@ std::string FileAccess::readInput(const std::string& name) const {
     return readAll(*openInput(name));
 }
 
+std::string FileAccess::readText(const std::string& name, TextEncoding encoding) const {
+    return textFromBytes(readInput(name), encoding, tellOf(name));
+}
+
 void FileAccess::writeOutput(const std::string& name, std::string_view bytes) const {
     if (name != kStandardStream) {
         writeWholeFile(files_, rules_, rules_.absolute(name), bytes);
@@ -55,6 +54,11 @@ void FileAccess::writeOutput(const std::string& name, std::string_view bytes) co
     if (!out_.flush()) {
         throw RunTimeError(ErrorNumber::DeviceIoError, "standard output");
     }
+}
+
+void FileAccess::writeText(const std::string& name, std::string_view windows1252,
+                           TextEncoding encoding) const {
+    writeOutput(name, bytesFromText(windows1252, encoding, tellOf(name)));
 }
 
 std::string readAll(File& file) {

@@ -9,8 +9,13 @@
 
 #include "base/files.h"
 #include "base/path_rules.h"
+#include "files/remarks.h"
+#include "files/text_encoding.h"
 
 namespace velmora {
+
+/// The name of standard input and output.
+constexpr const char* kStandardStream = "-";
 
 /// Bytes in memory as a file, for reading and writing.
 class BytesFile : public File {
@@ -37,16 +42,23 @@ class BytesFile : public File {
 /// current folder. Holds references only.
 class FileAccess {
   public:
-    FileAccess(Files& files, const PathRules& rules, std::istream& in, std::ostream& out)
-        : files_(files), rules_(rules), in_(in), out_(out) {}
+    FileAccess(Files& files, const PathRules& rules, std::istream& in, std::ostream& out, Remarks& remarks)
+        : files_(files), rules_(rules), in_(in), out_(out), remarks_(remarks) {}
 
     /// An input at its first byte. RunTimeError.
     std::unique_ptr<File> openInput(const std::string& name) const;
     /// All bytes of an input. RunTimeError.
     std::string readInput(const std::string& name) const;
+    /// The text of an input, as textFromBytes gives it. RunTimeError.
+    std::string readText(const std::string& name, TextEncoding encoding) const;
     /// Writes an output: a file as a whole or not at all. RunTimeError.
     void writeOutput(const std::string& name, std::string_view bytes) const;
 
+    /// The same with a text, in an encoding.
+    void writeText(const std::string& name, std::string_view windows1252, TextEncoding encoding) const;
+
+    /// Where a command tells what it cannot keep of a file.
+    Tell tellOf(const std::string& name) const { return remarks_.about(name); }
     /// Where a command prints what it has to say.
     std::ostream& out() const { return out_; }
     const PathRules& rules() const { return rules_; }
@@ -56,6 +68,7 @@ class FileAccess {
     const PathRules& rules_;
     std::istream& in_;
     std::ostream& out_;
+    Remarks& remarks_;
 };
 
 /// All bytes of a file from its position on.

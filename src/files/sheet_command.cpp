@@ -3,8 +3,10 @@
 #include <array>
 
 #include "arguments/usage_error.h"
+#include "files/quoted_line_breaks.h"
 #include "spreadsheet/spreadsheet.h"
 #include "spreadsheet/text_reader.h"
+#include "spreadsheet/wks_reader.h"
 
 namespace velmora {
 namespace {
@@ -18,6 +20,19 @@ int chosenFormat(const std::optional<int>& given, const char* option, const std:
                          " wks, dif, csv, txt or tab");
     }
     return format;
+}
+
+/// Reads a file of any format but WKS.
+SheetGrid readText(const SheetRequest& request, int format, const FileAccess& access, LeftOut& leftOut) {
+    const std::string text = access.readText(request.in, request.encoding);
+    BytesFile file(text);
+    if (format != kFormatCsv && format != kFormatTab) {
+        return sheetFromFile(file, format, {request.locale, request.fromDialect}, &leftOut);
+    }
+    const std::string separator = request.separator.value_or(format == kFormatTab ? "\t" : ";");
+    tellQuotedLineBreaks(text, separator.empty() ? ";,\t" : separator, InnerQuotes::AsTheyAre,
+                         access.tellOf(request.in));
+    return readDelimited(file, separator, request.locale, &leftOut);
 }
 
 }  // namespace
@@ -42,17 +57,40 @@ int sheetFormatOf(const std::string& extension) {
     return 0;
 }
 
+void tellLeftOut(const LeftOut& leftOut, const Tell& tell) {
+    const auto tellCount = [&tell](std::size_t count, const std::string& what) {
+        if (count > 0) {
+            tell(what + ": " + std::to_string(count));
+        }
+    };
+    tellCount(leftOut.rows, "rows below 99 are left out");
+    tellCount(leftOut.columns, "columns to the right of Z are left out");
+    tellCount(leftOut.cells, "cells outside A1 to Z99 are left out");
+    tellCount(leftOut.texts, "texts are cut to 250 characters");
+    if (leftOut.end) {
+        tell("the file is cut off; what follows is missing");
+    }
+}
+
 void runSheetCommand(const SheetRequest& request, const FileAccess& access) {
     const int from = chosenFormat(request.from, "--from", request.in, access);
     const int to = chosenFormat(request.to, "--to", request.out, access);
-    const std::string separator = request.separator.value_or(from == kFormatTab ? "\t" : ";");
-
-    const std::unique_ptr<File> file = access.openInput(request.in);
-    const bool isDelimited = from == kFormatCsv || from == kFormatTab;
-    const SheetGrid sheet = isDelimited ? readDelimited(*file, separator, request.locale)
-                                        : sheetFromFile(*file, from, {request.locale, request.fromDialect});
-    file->close();
-    access.writeOutput(request.out, sheetBytes(sheet, to, {request.locale, request.toDialect}));
+    LeftOut leftOut;
+    SheetGrid sheet;
+    if (from == kFormatWks) {
+        const std::unique_ptr<File> file = access.openInput(request.in);
+        sheet = readWks(*file, request.fromDialect, &leftOut);
+        file->close();
+    } else {
+        sheet = readText(request, from, access, leftOut);
+    }
+    tellLeftOut(leftOut, access.tellOf(request.in));
+    const std::string bytes = sheetBytes(sheet, to, {request.locale, request.toDialect});
+    if (to == kFormatWks) {
+        access.writeOutput(request.out, bytes);
+    } else {
+        access.writeText(request.out, bytes, request.encoding);
+    }
 }
 
 }  // namespace velmora

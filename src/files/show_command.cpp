@@ -5,10 +5,10 @@
 #include "arguments/usage_error.h"
 #include "files/boot_command.h"
 #include "files/data_command.h"
+#include "files/sheet_command.h"
 #include "files/show_texts.h"
 #include "services/block_file.h"
 #include "spreadsheet/dif_reader.h"
-#include "spreadsheet/text_reader.h"
 #include "spreadsheet/wks_reader.h"
 
 namespace velmora {
@@ -37,28 +37,42 @@ char shownSeparator(std::string_view bytes) {
     return found == std::string_view::npos ? ',' : bytes[found];
 }
 
-bool show(FileKind kind, const std::string& bytes, WksDialect dialect, std::ostream& out) {
-    BytesFile file(bytes);
+bool showSheet(FileKind kind, const std::string& bytes, const ShowRequest& request,
+               const FileAccess& access) {
+    const Tell tell = access.tellOf(request.file);
+    LeftOut leftOut;
+    BytesFile file(kind == FileKind::Dif ? textFromBytes(bytes, request.encoding, tell) : bytes);
+    printSheet(kind == FileKind::Dif ? readDif(file, &leftOut) : readWks(file, request.dialect, &leftOut),
+               access.out());
+    tellLeftOut(leftOut, tell);
+    return true;
+}
+
+bool showText(FileKind kind, const std::string& bytes, const ShowRequest& request, const FileAccess& access) {
+    const Tell tell = access.tellOf(request.file);
+    const std::string text = textFromBytes(bytes, request.encoding, tell);
+    if (kind == FileKind::Procedure) {
+        printProcedure(text, access.out());
+    } else {
+        const char separator = kind == FileKind::CsvFile ? shownSeparator(text) : kTabs;
+        printRecords(readRecords(text, separator, tell), access.out());
+    }
+    return true;
+}
+
+bool show(FileKind kind, const std::string& bytes, const ShowRequest& request, const FileAccess& access) {
     switch (kind) {
         case FileKind::Worksheet:
-            printSheet(readWks(file, dialect), out);
-            return true;
         case FileKind::Dif:
-            printSheet(readDif(file), out);
-            return true;
+            return showSheet(kind, bytes, request, access);
         case FileKind::DataFile:
-            printRecords(readRecords(file, '\0'), out);
-            return true;
         case FileKind::CsvFile:
-            printRecords(readRecords(file, shownSeparator(bytes)), out);
-            return true;
-        case FileKind::BlockFile:
-            return printBlockFile(bytes, out);
         case FileKind::Procedure:
-            printProcedure(bytes, out);
-            return true;
+            return showText(kind, bytes, request, access);
+        case FileKind::BlockFile:
+            return printBlockFile(bytes, access.out());
         case FileKind::BootFile:
-            return describeBootFile(bytes, out);
+            return describeBootFile(bytes, access.out());
         case FileKind::Unknown:
             break;
     }
@@ -112,8 +126,8 @@ FileKind recogniseFile(std::string_view bytes, const std::string& extension) {
 bool runShowCommand(const ShowRequest& request, const FileAccess& access) {
     const std::string bytes = access.readInput(request.file);
     const FileKind kind =
-        request.as.value_or(recogniseFile(bytes, lowerExtension(access.rules(), request.file)));
-    return show(kind, bytes, request.dialect, access.out());
+        request.as.value_or(recogniseFile(withoutMark(bytes), lowerExtension(access.rules(), request.file)));
+    return show(kind, bytes, request, access);
 }
 
 }  // namespace velmora

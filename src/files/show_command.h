@@ -24,11 +24,13 @@ struct ShowRequest {
     std::string file;
     std::optional<FileKind> as;  ///< without one it is recognised
     WksDialect dialect = WksDialect::Own;
+    TextEncoding encoding = TextEncoding::Windows1252;  ///< of what is text
 };
 
 /// Prints a file: worksheets as a table with their formulas, data files as records, block files and
 /// procedures with their headers, boot files with their parts. Texts are printed in the system's encoding.
-/// False when the file is damaged. UsageError when its kind is not recognised, RunTimeError.
+/// Tells of what the Organiser could not hold. False when the file is damaged. UsageError when its kind is
+/// not recognised, RunTimeError.
 bool runShowCommand(const ShowRequest& request, const FileAccess& access);
 
 }  // namespace velmora

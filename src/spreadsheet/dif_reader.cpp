@@ -32,12 +32,15 @@ int clampCount(double count, int most) {
 
 class Reader {
   public:
-    explicit Reader(File& file) : lines_(file) {}
+    Reader(File& file, LeftOut* leftOut) : lines_(file), leftOut_(leftOut) {}
 
     SheetGrid run() {
         if (readHeader()) {
             while (readItem()) {
             }
+        }
+        if (leftOut_ != nullptr) {
+            leftOut_->end = !ended_;
         }
         return std::move(sheet_);
     }
@@ -91,13 +94,18 @@ class Reader {
             ++at_.row;
             at_.column = 0;
         }
-        return mark != "EOD" && at_.row < kSheetRows;
+        ended_ = mark == "EOD";
+        // Behind the last row only what is left out is of interest.
+        return !ended_ && (at_.row < kSheetRows || leftOut_ != nullptr);
     }
 
     void storeText() {
         const std::size_t close = text_.rfind('"');
         if (text_.empty() || text_.front() != '"' || close < 2) {
             return;
+        }
+        if (leftOut_ != nullptr && close - 1 > kLongestCellText) {
+            ++leftOut_->texts;
         }
         store(Label{text_.substr(1, std::min(close - 1, kLongestCellText))});
     }
@@ -114,6 +122,8 @@ class Reader {
     void store(Cell cell) {
         if (sheet_.contains(at_)) {
             sheet_.at(at_) = std::move(cell);
+        } else if (leftOut_ != nullptr) {
+            ++leftOut_->cells;
         }
         at_.column = std::min(at_.column + 1, kSheetColumns);
     }
@@ -122,12 +132,14 @@ class Reader {
     SheetGrid sheet_;
     CellPosition at_{-1, 0};
     std::string text_;
+    bool ended_ = false;
+    LeftOut* leftOut_;
 };
 
 }  // namespace
 
-SheetGrid readDif(File& file) {
-    return Reader(file).run();
+SheetGrid readDif(File& file, LeftOut* leftOut) {
+    return Reader(file, leftOut).run();
 }
 
 }  // namespace velmora

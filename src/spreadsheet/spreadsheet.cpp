@@ -57,21 +57,21 @@ std::string sheetBytes(const SheetGrid& sheet, int format, const SpreadsheetSett
     }
 }
 
-SheetGrid sheetFromFile(File& file, int format, const SpreadsheetSettings& settings) {
+SheetGrid sheetFromFile(File& file, int format, const SpreadsheetSettings& settings, LeftOut* leftOut) {
     if (file.size() > kLargestSheetFile) {
         throw SheetError(ErrorNumber::OutOfMemory, "the file is larger than 64 MB");
     }
     switch (format) {
         case kFormatWks:
-            return readWks(file, settings.wksDialect);
+            return readWks(file, settings.wksDialect, leftOut);
         case kFormatDif:
-            return readDif(file);
+            return readDif(file, leftOut);
         case kFormatCsv:
-            return readDelimited(file, ";", settings.locale);
+            return readDelimited(file, ";", settings.locale, leftOut);
         case kFormatTxt:
-            return readFixedText(file, settings.locale);
+            return readFixedText(file, settings.locale, leftOut);
         case kFormatTab:
-            return readDelimited(file, "\t", settings.locale);
+            return readDelimited(file, "\t", settings.locale, leftOut);
         default:
             return {};
     }

@@ -7,6 +7,7 @@
 #include "base/files.h"
 #include "base/path_rules.h"
 #include "spreadsheet/formula_check.h"
+#include "spreadsheet/left_out.h"
 #include "spreadsheet/sheet_format.h"
 #include "spreadsheet/sheet_grid.h"
 #include "spreadsheet/spreadsheet_settings.h"
@@ -22,9 +23,11 @@ std::string sheetBytes(const SheetGrid& sheet, int format, const SpreadsheetSett
 /// Longest file that is read, in bytes.
 constexpr std::uint64_t kLargestSheetFile = 64 * 1024 * 1024;
 
-/// The sheet in a file of one of the formats 2 to 6; none for any other. Throws what the readers throw, and
-/// SheetError 7 for a file above kLargestSheetFile.
-SheetGrid sheetFromFile(File& file, int format, const SpreadsheetSettings& settings);
+/// The sheet in a file of one of the formats 2 to 6; none for any other. What the reader leaves out is
+/// counted for a caller that asks. Throws what the readers throw, and SheetError 7 for a file above
+/// kLargestSheetFile.
+SheetGrid sheetFromFile(File& file, int format, const SpreadsheetSettings& settings,
+                        LeftOut* leftOut = nullptr);
 
 /// Holds references only; files, rules and settings must outlive it.
 class Spreadsheet {

@@ -13,26 +13,47 @@
 namespace velmora {
 namespace {
 
-std::vector<std::string> readLines(File& file) {
+bool isBlank(std::string_view text) {
+    return text.find_first_not_of(' ') == std::string_view::npos;
+}
+
+std::vector<std::string> readLines(File& file, LeftOut* leftOut) {
     SheetLines reader(file);
     std::vector<std::string> lines;
     std::string line;
     while (lines.size() < kSheetRows && reader.next(line)) {
         lines.push_back(line);
     }
+    while (leftOut != nullptr && reader.next(line)) {
+        leftOut->rows += isBlank(line) ? 0 : 1;
+    }
     return lines;
 }
 
+/// Takes the field at the front of a line off it; the line is nothing when that was the last.
+std::string_view takeField(std::optional<std::string_view>& line, std::string_view separator) {
+    const std::size_t cut = separator.empty() ? std::string_view::npos : line->find(separator);
+    const std::string_view field = line->substr(0, cut);
+    if (cut == std::string_view::npos) {
+        line.reset();
+    } else {
+        line->remove_prefix(cut + separator.size());
+    }
+    return field;
+}
+
 /// At most as many fields as a sheet has columns.
-std::vector<std::string_view> splitFields(std::string_view line, std::string_view separator) {
+std::vector<std::string_view> splitFields(std::string_view line, std::string_view separator,
+                                          LeftOut* leftOut) {
     std::vector<std::string_view> fields;
-    while (fields.size() < kSheetColumns) {
-        const std::size_t cut = separator.empty() ? std::string_view::npos : line.find(separator);
-        fields.push_back(line.substr(0, cut));
-        if (cut == std::string_view::npos) {
-            break;
+    std::optional<std::string_view> rest = line;
+    while (fields.size() < kSheetColumns && rest) {
+        fields.push_back(takeField(rest, separator));
+    }
+    for (std::size_t beyond = 1; leftOut != nullptr && rest; ++beyond) {
+        if (!isBlank(takeField(rest, separator))) {
+            leftOut->columns = std::max(leftOut->columns, beyond);
         }
-        line.remove_prefix(cut + separator.size());
     }
     return fields;
 }
@@ -43,7 +64,7 @@ struct Span {
     std::size_t end;
 };
 
-std::vector<Span> findColumns(const std::vector<std::string>& lines) {
+std::vector<Span> findColumns(const std::vector<std::string>& lines, LeftOut* leftOut) {
     std::vector<bool> used;
     for (const std::string& line : lines) {
         used.resize(std::max(used.size(), line.size()));
@@ -59,12 +80,34 @@ std::vector<Span> findColumns(const std::vector<std::string>& lines) {
         if (!columns.empty()) {
             columns.back().end = i;
         }
-        if (columns.size() == kSheetColumns) {
-            break;
-        }
         columns.push_back({i, used.size()});
     }
+    if (columns.size() > kSheetColumns) {
+        if (leftOut != nullptr) {
+            leftOut->columns = columns.size() - kSheetColumns;
+        }
+        columns.resize(kSheetColumns);
+    }
     return columns;
+}
+
+/// A field without the blanks around it and one pair of quotes.
+std::string fieldText(std::string_view field) {
+    std::string text = trimBlanks(field);
+    if (text.size() >= 2 && text.front() == '"' && text.back() == '"') {
+        text = text.substr(1, text.size() - 2);
+    }
+    return text;
+}
+
+/// The cell for a field, which is counted when it is cut.
+Cell countedCell(std::string_view field, const NumberLocale& locale, LeftOut* leftOut) {
+    Cell cell = fieldCell(field, locale);
+    if (leftOut != nullptr && std::holds_alternative<Label>(cell) &&
+        fieldText(field).size() > kLongestCellText) {
+        ++leftOut->texts;
+    }
+    return cell;
 }
 
 }  // namespace
@@ -81,10 +124,7 @@ std::string detectSeparator(std::string_view line) {
 }
 
 Cell fieldCell(std::string_view field, const NumberLocale& locale) {
-    std::string text = trimBlanks(field);
-    if (text.size() >= 2 && text.front() == '"' && text.back() == '"') {
-        text = text.substr(1, text.size() - 2);
-    }
+    const std::string text = fieldText(field);
     const std::optional<double> value = localeNumber(text, locale);
     if (!value) {
         return Label{text.substr(0, kLongestCellText)};
@@ -97,15 +137,15 @@ Cell fieldCell(std::string_view field, const NumberLocale& locale) {
     return *value;
 }
 
-SheetGrid readDelimited(File& file, std::string separator, const NumberLocale& locale) {
-    const std::vector<std::string> lines = readLines(file);
+SheetGrid readDelimited(File& file, std::string separator, const NumberLocale& locale, LeftOut* leftOut) {
+    const std::vector<std::string> lines = readLines(file, leftOut);
     std::vector<std::vector<std::string_view>> rows;
     std::size_t columns = 0;
     for (const std::string& line : lines) {
         if (separator.empty()) {
             separator = detectSeparator(line);
         }
-        rows.push_back(splitFields(line, separator));
+        rows.push_back(splitFields(line, separator, leftOut));
         columns = std::max(columns, rows.back().size());
     }
     SheetGrid sheet(static_cast<int>(rows.size()), static_cast<int>(columns));
@@ -113,7 +153,7 @@ SheetGrid readDelimited(File& file, std::string separator, const NumberLocale& l
     for (const std::vector<std::string_view>& fields : rows) {
         at.column = 0;
         for (const std::string_view field : fields) {
-            sheet.at(at) = fieldCell(field, locale);
+            sheet.at(at) = countedCell(field, locale, leftOut);
             ++at.column;
         }
         ++at.row;
@@ -121,9 +161,9 @@ SheetGrid readDelimited(File& file, std::string separator, const NumberLocale& l
     return sheet;
 }
 
-SheetGrid readFixedText(File& file, const NumberLocale& locale) {
-    const std::vector<std::string> lines = readLines(file);
-    const std::vector<Span> columns = findColumns(lines);
+SheetGrid readFixedText(File& file, const NumberLocale& locale, LeftOut* leftOut) {
+    const std::vector<std::string> lines = readLines(file, leftOut);
+    const std::vector<Span> columns = findColumns(lines, leftOut);
     SheetGrid sheet(static_cast<int>(lines.size()), static_cast<int>(columns.size()));
     if (!sheet.exists()) {
         return sheet;
@@ -133,7 +173,7 @@ SheetGrid readFixedText(File& file, const NumberLocale& locale) {
         at.column = 0;
         for (const Span& column : columns) {
             const std::size_t begin = std::min(column.begin, line.size());
-            sheet.at(at) = fieldCell(line.substr(begin, column.end - column.begin), locale);
+            sheet.at(at) = countedCell(line.substr(begin, column.end - column.begin), locale, leftOut);
             ++at.column;
         }
         ++at.row;

@@ -67,7 +67,10 @@ SheetGrid copyOf(SheetGrid& full, int rows, int columns) {
 
 }  // namespace
 
-SheetGrid readWks(File& file, WksDialect dialect) {
+SheetGrid readWks(File& file, WksDialect dialect, LeftOut* leftOut) {
+    LeftOut uncounted;
+    LeftOut& counted = leftOut != nullptr ? *leftOut : uncounted;
+    counted.end = true;
     SheetGrid full(kSheetRows, kSheetColumns);
     CellPosition last;
     ByteReader reader(file);
@@ -79,6 +82,7 @@ SheetGrid readWks(File& file, WksDialect dialect) {
         const int type = bytesToInt16(header);
         const std::size_t length = bytesToUInt16(header.substr(2));
         if (length < shortestBody(type)) {
+            counted.end = counted.end && type != kRecordEnd;
             reader.skip(length);
             continue;
         }
@@ -88,6 +92,7 @@ SheetGrid readWks(File& file, WksDialect dialect) {
         }
         const CellPosition at{bytesToInt16(body.substr(3)), bytesToInt16(body.substr(1))};
         if (!isInSheet(at)) {
+            ++counted.cells;
             continue;
         }
         full.at(at) = readCell(type, body, at, dialect);

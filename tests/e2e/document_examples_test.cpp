@@ -94,6 +94,7 @@ class DocumentExamples : public ServerFixture {
             GTEST_SKIP() << "what is typed is for this system's shell";
         }
         ServerFixture::SetUp();
+        writeFile(home / "contacts.csv", "Ada,0171\r\n");
         writeFile(home / "plan.tab", "Tea\t1.25\r\nCup\t3\r\n");
         ASSERT_EQ(filesTool({"sheet", (home / "plan.tab").string(), (home / "plan.wks").string()}).status, 0);
     }

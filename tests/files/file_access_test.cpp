@@ -27,38 +27,44 @@ TEST(BytesFile, ReadsAndWritesAtItsPosition) {
     EXPECT_EQ(file.size(), 9U);
 }
 
-TEST(FileAccess, ADashIsAStandardStream) {
+class FileAccessTest : public ::testing::Test {
+  protected:
     test::MemoryFiles files;
     test::SlashPathRules rules;
-    std::istringstream in(std::string(100'000, 'i'));
+    std::istringstream in;
     std::ostringstream out;
-    const FileAccess access(files, rules, in, out);
+    std::ostringstream err;
+    Remarks remarks{err};
+    const FileAccess access{files, rules, in, out, remarks};
+};
+
+TEST_F(FileAccessTest, ADashIsAStandardStream) {
+    in.str(std::string(100'000, 'i'));
     EXPECT_EQ(access.readInput("-"), std::string(100'000, 'i'));
     access.writeOutput("-", "bytes");
     EXPECT_EQ(out.str(), "bytes");
     EXPECT_TRUE(files.paths().empty());
 }
 
-TEST(FileAccess, AFullOutputStreamIsADeviceError) {
-    test::MemoryFiles files;
-    test::SlashPathRules rules;
-    std::istringstream in;
-    std::ostringstream out;
+TEST_F(FileAccessTest, AFullOutputStreamIsADeviceError) {
     out.setstate(std::ios::badbit);
-    EXPECT_THROW(FileAccess(files, rules, in, out).writeOutput("-", "bytes"), RunTimeError);
+    EXPECT_THROW(access.writeOutput("-", "bytes"), RunTimeError);
 }
 
-TEST(FileAccess, ReadsFilesOfAnySize) {
-    test::MemoryFiles files;
-    test::SlashPathRules rules;
-    std::istringstream in;
-    std::ostringstream out;
+TEST_F(FileAccessTest, ReadsFilesOfAnySize) {
     files.addFile("/w/big", std::string(200'000, 'b'));
-    const FileAccess access(files, rules, in, out);
     EXPECT_EQ(access.readInput("/w/big").size(), 200'000U);
     EXPECT_THROW(access.readInput("/w/missing"), RunTimeError);
     access.writeOutput("/w/big", "small");
     EXPECT_EQ(files.content("/w/big"), "small");
+}
+
+TEST_F(FileAccessTest, TextsAreConvertedAndWhatIsLostIsToldOfTheirFile) {
+    files.addFile("/w/text", "\xC3\xA9\xC5\x81");
+    EXPECT_EQ(access.readText("/w/text", TextEncoding::Utf8), "\xE9?");
+    EXPECT_NE(err.str().find("velmora-files: /w/text: line 1: "), std::string::npos) << err.str();
+    access.writeText("-", "\xE9", TextEncoding::Utf8);
+    EXPECT_EQ(out.str(), "\xC3\xA9");
 }
 
 }  // namespace

@@ -18,6 +18,51 @@ class SheetCommandTest : public test::ToolTest {
     SheetGrid sheet{1, 3};
 };
 
+TEST_F(SheetCommandTest, WhatDoesNotFitIntoASheetIsTold) {
+    std::string tall;
+    for (int i = 1; i <= 101; ++i) {
+        tall += std::to_string(i) + "\n";
+    }
+    std::string wide = std::string(251, 'x');
+    for (int i = 1; i <= 28; ++i) {
+        wide += "\t" + std::to_string(i);
+    }
+    memory.addFile("/w/tall.tab", tall + "\n \n");
+    memory.addFile("/w/wide.tab", wide + "\t\n");
+    EXPECT_EQ(run({"sheet", "/w/tall.tab", "/w/out.wks"}), kStatusDone);
+    EXPECT_EQ(complaint, "velmora-files: /w/tall.tab: rows below 99 are left out: 2\n");
+    EXPECT_EQ(run({"sheet", "/w/wide.tab", "/w/out.wks", "--strict"}), kStatusLeftOut);
+    EXPECT_EQ(complaint,
+              "velmora-files: /w/wide.tab: columns to the right of Z are left out: 3\n"
+              "velmora-files: /w/wide.tab: texts are cut to 250 characters: 1\n");
+}
+
+TEST_F(SheetCommandTest, AWorksheetThatIsCutOffIsTold) {
+    EXPECT_EQ(run({"sheet", "-", "/w/whole.wks", "--from=tab"}, "one\ttwo\n"), 0);
+    const std::string whole = memory.content("/w/whole.wks");
+    EXPECT_EQ(run({"sheet", "/w/whole.wks", "-", "--to=tab", "--strict"}), kStatusDone) << complaint;
+    for (std::size_t length = 0; length < whole.size(); ++length) {
+        memory.addFile("/w/cut.wks", whole.substr(0, length));
+        EXPECT_EQ(run({"sheet", "/w/cut.wks", "-", "--to=tab", "--strict"}), kStatusLeftOut) << length;
+        EXPECT_EQ(complaint, "velmora-files: /w/cut.wks: the file is cut off; what follows is missing\n");
+        EXPECT_EQ(run({"show", "/w/cut.wks"}), kStatusDone);
+        EXPECT_NE(complaint, "");
+    }
+}
+
+TEST_F(SheetCommandTest, TextsOfThePcMayBeUtf8) {
+    EXPECT_EQ(run({"sheet", "-", "/w/a.wks", "--from=tab"},
+                  "\xEF\xBB\xBF"
+                  "Caf\xC3\xA9\n"),
+              0);
+    EXPECT_EQ(run({"sheet", "/w/a.wks", "-", "--to=tab"}), 0);
+    EXPECT_EQ(printed, "Caf\xE9\t\r\n");
+    EXPECT_EQ(run({"sheet", "/w/a.wks", "-", "--to=tab", "--encoding=utf-8"}), 0);
+    EXPECT_EQ(printed, "Caf\xC3\xA9\t\r\n");
+    EXPECT_EQ(run({"sheet", "-", "-", "--from=csv", "--to=tab"}, "\"a\nb\";c\n"), 0);
+    EXPECT_NE(complaint.find("line 1: a field in quotes goes on"), std::string::npos) << complaint;
+}
+
 TEST_F(SheetCommandTest, FormatsComeFromTheExtensions) {
     EXPECT_EQ(run({"sheet", "/w/in.wks", "/w/out.csv"}), 0) << complaint;
     EXPECT_EQ(memory.content("/w/out.csv"), "\"5\",\"(A1+1)*2\",\"0.5\",\r\n");

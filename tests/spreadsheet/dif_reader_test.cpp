@@ -15,7 +15,7 @@ namespace velmora {
 namespace {
 
 SheetGrid read(const std::string& content) {
-    return test::readSample(content, readDif);
+    return test::readSample(content, [](File& file) { return readDif(file); });
 }
 
 /// A file that announces a size and holds the data lines.
@@ -121,7 +121,7 @@ TEST(DifReader, ReadsBackASheetWithoutGaps) {
     sheet.at({1, 0}) = -0.25;
     sheet.at({1, 1}) = 1e20;
     EXPECT_EQ(read(writeDif(sheet)), sheet);
-    test::readEveryPrefix(writeDif(sheet), readDif);
+    test::readEveryPrefix(writeDif(sheet), [](File& file) { return readDif(file); });
 }
 
 TEST(DifReader, NoBytesThrowAnything) {
@@ -134,6 +134,34 @@ TEST(DifReader, NoBytesThrowAnything) {
             data += random() % 10 == 0 ? std::string(1, static_cast<char>(random())) : pieces[random() % 11];
         }
         ASSERT_NO_THROW(read(random() % 4 == 0 ? data : dif(5, 5, data)));
+    }
+}
+
+LeftOut leftOutOf(const std::string& content) {
+    return test::readSample(content, [](File& file) {
+        LeftOut leftOut;
+        readDif(file, &leftOut);
+        return leftOut;
+    });
+}
+
+TEST(DifReader, CountsWhatItLeavesOut) {
+    EXPECT_EQ(leftOutOf(dif(1, 1, kRow + "0,1\nV\n0,2\nV\n" + kRow + "0,3\nV\n" + kEnd)).cells, 2U);
+    EXPECT_EQ(leftOutOf(dif(1, 1, kRow + "0,1\nV\n" + kEnd)).cells, 0U);
+    std::string tall;
+    for (int i = 0; i < 102; ++i) {
+        tall += kRow + "0,1\nV\n";
+    }
+    EXPECT_EQ(leftOutOf(dif(1, 102, tall + kEnd)).cells, 3U);
+    EXPECT_FALSE(leftOutOf(dif(1, 102, tall + kEnd)).end);
+    EXPECT_EQ(leftOutOf(dif(1, 1, kRow + "1,0\n\"" + std::string(251, 'x') + "\"\n" + kEnd)).texts, 1U);
+}
+
+TEST(DifReader, TellsAFileThatEndsBeforeItsData) {
+    const std::string whole = dif(1, 1, kRow + "0,1\nV\n" + kEnd);
+    EXPECT_FALSE(leftOutOf(whole).end);
+    for (std::size_t length = 0; length + 2 < whole.size(); ++length) {
+        EXPECT_TRUE(leftOutOf(whole.substr(0, length)).end) << length;
     }
 }
 
