@@ -6,10 +6,15 @@
 #include <system_error>
 
 #include "apps/non_blocking_output.h"
+#include "arguments/usage_error.h"
 #include "base/system_text.h"
 
 namespace velmora {
 namespace {
+
+// Exit statuses besides those that all programs have.
+constexpr int kStatusPort = 1;
+constexpr int kStatusConfiguration = 3;
 
 RunOverrides overridesOf(const ServerArguments& arguments) {
     RunOverrides overrides;
@@ -31,7 +36,7 @@ HeadlessServer::HeadlessServer(const ServerArguments& arguments)
       platform_([this] { program_.controller().ComTimer_Tick(); }),
       traceSink_(platform_.clock, arguments.traceCategories, traceOutput()),
       view_([this](const std::string& line) { output_.print(line); },
-            [this](const std::string& line) { printError(line); },
+            [this](const std::string& line) { printWarning(line); },
             {[this] {
                  if (program_.controller().queryUnload(CloseReason::Program)) {
                      quit(0);
@@ -54,39 +59,43 @@ std::function<void(const std::string&)> HeadlessServer::traceOutput() {
     }
     traceFile_.reset(std::fopen(arguments_.traceFile->c_str(), "w"));
     if (traceFile_ == nullptr) {
-        throw std::system_error(errno, std::generic_category(), *arguments_.traceFile);
+        throw UsageError("--trace-file " + *arguments_.traceFile + ": " +
+                         std::generic_category().message(errno));
     }
     trace_.emplace(nonBlockingOutput(traceFile_.get()), kStreamLineEnd);
     return [this](const std::string& line) { trace_->print(toSystemText(line)); };
 }
 
-/// Prints a warning. A server whose port failed ends, and says so in one line.
 void HeadlessServer::printError(const std::string& line) {
+    errors_.print("velmorad: " + line);
+}
+
+/// Prints a warning of the server, with what helps. A server whose port failed ends, and says so in one line.
+void HeadlessServer::printWarning(const std::string& line) {
     if (failed_) {
         return;
     }
-    std::string text = line;
-    const std::string start = "Port COM" + std::to_string(platform_.port.CommPort()) + " ";
-    if (line.starts_with(start)) {
-        text += " " + program_.describePortFailure();
+    std::string advice;
+    if (line.starts_with("Port " + toSystemText(program_.portName()) + " ")) {
+        advice = " " + program_.describePortFailure();
+    } else if (line == kNoPortSelected) {
+        advice = " None of COM1 to COM64 is free; name one with --port.";
     }
-    errorPrinted_ = true;
-    errors_.print("velmorad: " + text);
+    warned_ = true;
+    printError(line + advice);
 }
 
 void HeadlessServer::portFailed() {
-    if (!errorPrinted_) {
-        printError("COM" + std::to_string(platform_.port.CommPort()) +
-                   " failed: " + platform_.port.lastErrorDescription());
+    if (!warned_) {
+        printError(toSystemText(program_.portName()) + " failed: " + platform_.port.lastErrorDescription());
     }
     failed_ = true;
-    quit(1);
+    quit(kStatusPort);
 }
 
 void HeadlessServer::stateChanged(std::int32_t state) {
     if (state == NoPort) {
-        printError("no free serial port was found; name one with --port");
-        quit(1);
+        quit(kStatusPort);
     } else if (state == OnExit) {
         quit(0);
     }
@@ -109,10 +118,10 @@ void HeadlessServer::stop() {
 int HeadlessServer::run() {
     const StartupReport report = program_.start("");
     if (report.outcome == StartupOutcome::Failed) {
-        if (!errorPrinted_) {
-            printError("start-up failed in " + report.step + ": " + report.detail);
-        }
-        return 1;
+        return report.portFailed ? kStatusPort : kStatusConfiguration;
+    }
+    if (program_.core().options.AutoSelectPort && program_.controller().running()) {
+        output_.print("Found " + toSystemText(program_.portName()) + ", " + program_.portDevice());
     }
     if (!quitting_) {
         QCoreApplication::exec();

@@ -32,6 +32,7 @@ class HeadlessServer {
   private:
     std::function<void(const std::string& line)> traceOutput();
     void printError(const std::string& line);
+    void printWarning(const std::string& line);
     void portFailed();
     void stateChanged(std::int32_t state);
     void quit(int status);
@@ -46,7 +47,7 @@ class HeadlessServer {
     std::optional<LineOutput> trace_;  // to the trace file; what stands below traces until its end
     bool quitting_ = false;
     bool failed_ = false;  // the port cannot be opened or failed
-    bool errorPrinted_ = false;
+    bool warned_ = false;  // the server has told why it cannot go on, or something else
     int exitStatus_ = 0;
 
     ServerArguments arguments_;

@@ -82,7 +82,8 @@ ServerArguments readServerArguments(const std::vector<std::string>& arguments) {
     addTraceOptions(syntax, result);
     syntax.note(
         "Options hold for this run and are not saved. Exit status: 0 stopped (by a signal or by the\n"
-        "Organiser), 1 the port cannot be opened or failed, 2 the command line makes no sense.");
+        "Organiser), 1 the port cannot be opened or failed, 2 the command line makes no sense,\n"
+        "3 the configuration file cannot be used.");
     syntax.read(arguments);
     return result;
 }

@@ -1,6 +1,7 @@
 // The server's objects and how they meet, for every program that serves.
 #pragma once
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <string>
@@ -52,7 +53,8 @@ struct ServerCoreParts {
     const Clock& clock;
     const ZoneSource& zone;
     EventYield& yield;
-    std::string programData;  ///< KnownFolders::programData()
+    std::string programData;                          ///< KnownFolders::programData()
+    std::function<std::string(int number)> portName;  ///< as ServerParts has it
 };
 
 /// One object of each kind, from the settings to the services, connected.

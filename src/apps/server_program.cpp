@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "base/system_text.h"
 #include "platform/known_folders.h"
 #include "serial/open_diagnosis.h"
 
@@ -13,7 +14,7 @@ ServerProgram::ServerProgram(PlatformParts& platform, RunOverrides overrides, co
       debug_(face.trace),
       core_({face.view, face.box, platform.files, platform.rules, platform.port, debug_, platform.ComTimer,
              platform.PLPtimer, platform.DisplayTimer, platform.clock, platform.zone, platform.yield,
-             platform.folders.programData()}),
+             platform.folders.programData(), [this](int number) { return portName(number); }}),
       form_(core_.controller(), face.view, core_.options, platform.port, platform.portNames, face.window),
       ini_(platform.profiles, platform.rules, face.box, windowsFolder()),
       settingsStore_(ini_, overrides_),
@@ -36,10 +37,17 @@ StartupReport ServerProgram::start(const std::string& commandLine) {
     return report;
 }
 
-std::string ServerProgram::describePortFailure() const {
+std::string ServerProgram::portName(int number) const {
+    return fromSystemText(platform_.portNames.shown(number)).value_or("COM" + std::to_string(number));
+}
+
+std::string ServerProgram::portDevice() const {
     const int number = platform_.port.CommPort();
-    const std::string device = platform_.portNames.device(number).value_or("COM" + std::to_string(number));
-    return describeOpenFailure(device, platform_.port.lastErrorNumber());
+    return platform_.portNames.device(number).value_or("COM" + std::to_string(number));
+}
+
+std::string ServerProgram::describePortFailure() const {
+    return describeOpenFailure(portDevice(), platform_.port.lastErrorNumber());
 }
 
 }  // namespace velmora

@@ -35,6 +35,10 @@ class ServerProgram {
     /// Runs the start-up steps; a failed one has been told by the box. `commandLine` as CommsLink::Main.
     StartupReport start(const std::string& commandLine);
 
+    /// What messages call the server's port, as a Windows-1252 text.
+    std::string portName() const { return portName(platform_.port.CommPort()); }
+    /// The device of the server's port; its name when it has none.
+    std::string portDevice() const;
     /// Why the server's port cannot be opened or failed, and what helps, as one sentence.
     std::string describePortFailure() const;
 
@@ -44,6 +48,8 @@ class ServerProgram {
     IniSettingsStore& settingsStore() { return settingsStore_; }
 
   private:
+    std::string portName(int number) const;
+
     PlatformParts& platform_;
     RunOverrides overrides_;
     Debug debug_;

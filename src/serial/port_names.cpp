@@ -120,15 +120,22 @@ int PortNames::numberFor(const std::string& nameOrDevice) {
         return *number;
     }
     if (const std::optional<int> number = numberOf(nameOrDevice)) {
+        given_[*number] = nameOrDevice;
         return *number;
     }
     for (int number = kFirstFreePort; number <= kLastPort; ++number) {
         if (!overrides_.contains(number)) {
             overrides_[number] = nameOrDevice;
+            given_[number] = nameOrDevice;
             return number;
         }
     }
     return 0;
+}
+
+std::string PortNames::shown(int number) const {
+    const auto given = given_.find(number);
+    return given != given_.end() ? given->second : "COM" + std::to_string(number);
 }
 
 int PortNames::firstFreeNumber() {

@@ -36,8 +36,11 @@ class PortNames {
 
     /// The number for a text "COM<n>" or a device path as a user gives it: the lowest number that stands for
     /// it, otherwise the first free one from firstFreeNumber on, which stands for it from now on. 0 when none
-    /// is free.
+    /// is free. A device's name is what messages call the port from now on.
     int numberFor(const std::string& nameOrDevice);
+
+    /// What messages call a port: the device as numberFor was given it, otherwise "COM<n>".
+    std::string shown(int number) const;
 
     /// The lowest number that a device may get which has none: 37; 4097 on Windows, which itself gives
     /// numbers up to 4096.
@@ -45,6 +48,7 @@ class PortNames {
 
   private:
     std::map<int, std::string> overrides_;
+    std::map<int, std::string> given_;  // devices by the number that they got
 };
 
 }  // namespace velmora

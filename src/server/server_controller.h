@@ -42,6 +42,8 @@ struct ServerParts {
     EventYield& yield;
     /// The last component of a path as Windows-1252 bytes.
     std::function<std::string(const std::string& path)> displayName;
+    /// What messages call the port of a number; without it "COM<n>".
+    std::function<std::string(int number)> portName = {};
 };
 
 /// What the end of the program saves and closes; each may be missing.
@@ -179,6 +181,7 @@ class ServerController : public ServerWindow {
     void afterLinkCall();
     void portFails();
     void reportPortError(const CommError& error);
+    std::string portName() const;
 
     void enableButton(MainButton button, bool enabled);
     void focusIfVisible(MainButton button);

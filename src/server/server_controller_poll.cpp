@@ -47,10 +47,15 @@ void ServerController::afterLinkCall() {
 }
 
 void ServerController::reportPortError(const CommError& error) {
-    ShowWarning("COM" + std::to_string(parts_.port.CommPort()) + ": " + error.description(), "");
+    ShowWarning(portName() + ": " + error.description(), "");
     pollFailed_ = true;
     portFails();
     setState(Offline);
+}
+
+std::string ServerController::portName() const {
+    const int number = parts_.port.CommPort();
+    return parts_.portName ? parts_.portName(number) : "COM" + std::to_string(number);
 }
 
 void ServerController::portFails() {

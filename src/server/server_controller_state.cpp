@@ -114,9 +114,7 @@ bool ServerController::startServer() {
     if (result > kLastStartSuccess) {
         const auto index = static_cast<std::size_t>(result);
         const auto& texts = parts_.strings.PortStatus;
-        ShowWarning("Port COM" + std::to_string(parts_.port.CommPort()) + " " +
-                        (index < texts.size() ? texts[index] : std::string()),
-                    "");
+        ShowWarning("Port " + portName() + " " + (index < texts.size() ? texts[index] : std::string()), "");
         pending_.reset();
         portFails();
         return false;

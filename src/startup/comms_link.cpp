@@ -47,9 +47,9 @@ StartupReport CommsLink::Main(const std::string& commandLine) {
     try {
         runSteps();
     } catch (const RunTimeError& error) {
-        return fail(error.number(), error.what());
+        return fail(error.number(), error.what(), error.errorNumber() == ErrorNumber::DeviceUnavailable);
     } catch (const CommError& error) {
-        return fail(error.number(), error.what());
+        return fail(error.number(), error.what(), true);
     } catch (const std::bad_alloc& error) {
         return fail(static_cast<int>(ErrorNumber::OutOfMemory), error.what());
     } catch (const std::exception& error) {
@@ -57,7 +57,7 @@ StartupReport CommsLink::Main(const std::string& commandLine) {
     }
     if (abandoned_) {
         parts_.form.unload();
-        return {StartupOutcome::Abandoned, step_, 0, {}};
+        return {StartupOutcome::Abandoned, step_, 0, {}, false};
     }
     parts_.form.setDebugMode(lowerCase(commandLine) == "-debug");
     parts_.form.show();
@@ -168,7 +168,7 @@ std::int32_t CommsLink::init_Ports() {
     if (form.ended()) {
         return Offline;
     }
-    form.ShowWarning("No port selected!", "");
+    form.ShowWarning(kNoPortSelected, "");
     return NoPort;
 }
 
@@ -186,12 +186,12 @@ bool CommsLink::searchPort() {
     return false;
 }
 
-StartupReport CommsLink::fail(std::int32_t number, const std::string& detail) {
+StartupReport CommsLink::fail(std::int32_t number, const std::string& detail, bool portFailed) {
     parts_.box.inform(BoxIcon::Critical, kErrorTitle,
                       "Error " + std::to_string(number) + " in " + step_ + ":\nPlease report this error to " +
                           kContact + "!");
     parts_.form.unload();
-    return {StartupOutcome::Failed, step_, number, detail};
+    return {StartupOutcome::Failed, step_, number, detail, portFailed};
 }
 
 StartupReport CommsLink::failWithoutFiles() {
@@ -199,7 +199,7 @@ StartupReport CommsLink::failWithoutFiles() {
                       "A component is missing!\n\n"
                       "Please download 'Microsoft Scripting Runtime' from the Velmora homepage\n"
                       "or directly from Microsoft, install it and re-run Velmora.");
-    return {StartupOutcome::Failed, step_, 0, "the file layer could not be set up"};
+    return {StartupOutcome::Failed, step_, 0, "the file layer could not be set up", false};
 }
 
 }  // namespace velmora

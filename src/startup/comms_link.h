@@ -17,6 +17,9 @@
 
 namespace velmora {
 
+/// The warning of a search for a free port that found none.
+inline constexpr const char* kNoPortSelected = "No port selected!";
+
 /// The user's folders, in the system's encoding.
 struct UserFolders {
     std::string applicationData;
@@ -48,6 +51,7 @@ struct StartupReport {
     std::string step;         ///< name of the step that failed
     std::int32_t number = 0;  ///< its error number
     std::string detail;       ///< what exactly failed
+    bool portFailed = false;  ///< it was a serial port, not the configuration
 };
 
 /// Starts the program.
@@ -81,7 +85,7 @@ class CommsLink {
     void runSteps();
     void chooseDownloadFolder();
     bool searchPort();
-    StartupReport fail(std::int32_t number, const std::string& detail);
+    StartupReport fail(std::int32_t number, const std::string& detail, bool portFailed = false);
     StartupReport failWithoutFiles();
 
     StartupParts parts_;

@@ -118,14 +118,14 @@ TEST_F(ConfigurationTest, AFileOfRandomBytesIsLeftAloneAndServedWithDefaults) {
 TEST_F(ConfigurationTest, AFolderInThePlaceOfTheFileEndsTheStartWithTheNameOfTheStep) {
     std::filesystem::create_directories(iniPath());
     const Finished done = finish("velmorad", {"--config", serverPath(iniPath()), "--port", serverPort});
-    EXPECT_EQ(done.status, 1);
+    EXPECT_EQ(done.status, 3);
     EXPECT_NE(done.error.find("load_INIfile"), std::string::npos) << done.error;
     EXPECT_TRUE(std::filesystem::is_directory(iniPath()));
 }
 
 TEST_F(ConfigurationTest, AValueThatIsNoneEndsTheStartWithTheNameOfTheStep) {
     startWith({{"AutoHide=", "AutoHide=perhaps"}});
-    EXPECT_EQ(server->wait(), 1);
+    EXPECT_EQ(server->wait(), 3);
     EXPECT_NE(server->error().find("get_Settings"), std::string::npos) << server->error();
 }
 

@@ -140,7 +140,47 @@ TEST_F(StopTest, AMissingPortEndsTheServerWithOneAndOneLine) {
     const Finished done = finish("velmorad", {"--port", missing, "--folder", serverPath(psion)});
     EXPECT_EQ(done.status, 1);
     EXPECT_EQ(std::count(done.error.begin(), done.error.end(), '\n'), 1) << done.error;
-    EXPECT_NE(done.error.find(missing), std::string::npos) << done.error;
+    EXPECT_EQ(done.error.find("velmorad: Port " + missing + " "), 0U) << done.error;
+}
+
+TEST_F(StopTest, WithoutAFreePortTheServerEndsWithOneAndOneLine) {
+    if (serverSide->windows()) {
+        GTEST_SKIP() << "devices have no names of their own there";
+    }
+    std::string ini = "[Settings]\r\nPort=0\r\n[Ports]\r\n";
+    for (int number = 1; number <= 64; ++number) {
+        ini += "COM" + std::to_string(number) + "=" + (home / "none").string() + "\r\n";
+    }
+    writeFile(home / "none.ini", ini);
+    const Finished done =
+        finish("velmorad", {"--config", (home / "none.ini").string(), "--folder", serverPath(psion)});
+    EXPECT_EQ(done.status, 1);
+    EXPECT_EQ(done.error,
+              "velmorad: No port selected! None of COM1 to COM64 is free; name one with --port.\n");
+}
+
+TEST_F(StopTest, ASearchSaysWhichPortItTook) {
+    if (serverSide->windows()) {
+        GTEST_SKIP() << "devices have no names of their own there";
+    }
+    std::string ini = "[Settings]\r\nPort=0\r\nDontTestModem=True\r\n[Ports]\r\n";
+    for (int number = 1; number <= 6; ++number) {
+        ini += "COM" + std::to_string(number) + "=" + (number < 6 ? (home / "none").string() : serverDevice) +
+               "\r\n";
+    }
+    writeFile(home / "search.ini", ini);
+    server = start("velmorad", {"--config", (home / "search.ini").string(), "--folder", serverPath(psion)});
+    EXPECT_TRUE(server->waitForOutput("Found COM6, " + serverDevice + "\n")) << server->output();
+    cable->signal(SIGKILL);
+    EXPECT_EQ(server->wait(), 1);
+    EXPECT_NE(server->error().find("COM6"), std::string::npos) << server->error();
+}
+
+TEST_F(StopTest, ATraceFileThatCannotBeMadeEndsTheServerWithTwo) {
+    const Finished done = finish("velmorad", {"--port", serverPort, "--folder", serverPath(psion),
+                                              "--trace-file", serverPath(home / "none" / "trace")});
+    EXPECT_EQ(done.status, 2);
+    EXPECT_NE(done.error.find("--trace-file"), std::string::npos) << done.error;
 }
 
 TEST_F(StopTest, AMissingPortNumberEndsTheServerWithOne) {

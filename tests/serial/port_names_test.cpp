@@ -81,5 +81,15 @@ TEST(PortNamesTest, AnUnknownDeviceGetsTheFirstFreeNumberAndKeepsIt) {
     EXPECT_EQ(names.numberFor("third"), first + 1);
 }
 
+TEST(PortNamesTest, MessagesCallAPortAsItWasGiven) {
+    PortNames names(PortNames::Overrides{{"COM50", "adapter"}});
+    EXPECT_EQ(names.shown(50), "COM50");
+    const int number = names.numberFor("other");
+    EXPECT_EQ(names.shown(number), "other");
+    names.numberFor("adapter");
+    EXPECT_EQ(names.shown(50), "adapter");
+    EXPECT_EQ(names.shown(names.numberFor("com12")), "COM12");
+}
+
 }  // namespace
 }  // namespace velmora

@@ -275,6 +275,13 @@ TEST_F(Startup, TheSearchEndsAtPort64) {
     EXPECT_EQ(form_.scriptedPort.number, 64);
 }
 
+TEST_F(Startup, AFailureTellsWhetherItWasThePorts) {
+    failAt("load", [] { throw CommError(kCommFailed, "device gone", "open"); });
+    EXPECT_TRUE(start().portFailed);
+    failAt("load", [] { throw RunTimeError(ErrorNumber::DiskFull); });
+    EXPECT_FALSE(start().portFailed);
+}
+
 TEST_F(Startup, TheSearchEndsWhenTheProgramIsToldToEnd) {
     givenIni("[Settings]\r\nPort=0\r\n");
     form_.endsAfterChecks = 3;
