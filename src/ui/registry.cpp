@@ -1,7 +1,6 @@
 #include "ui/registry.h"
 
 #include <charconv>
-#include <limits>
 #include <string_view>
 
 #include "base/byte_text.h"
@@ -61,13 +60,9 @@ void Registry::RegDeleteSettingsKey() {
     store_.deleteAll();
 }
 
-std::optional<std::int16_t> Registry::readPosition(const std::string& name) {
-    using Limits = std::numeric_limits<std::int16_t>;
-    const auto number = wholeNumber(RegReadValue(name).value_or(std::string()));
-    if (!number || *number < Limits::min() || *number > Limits::max()) {
-        return std::nullopt;
-    }
-    return static_cast<std::int16_t>(*number);
+// 16 bits would end at 2184 pixels; screens do not.
+std::optional<std::int32_t> Registry::readPosition(const std::string& name) {
+    return wholeNumber(RegReadValue(name).value_or(std::string()));
 }
 
 void Registry::LoadWindowPos(WindowGeometry& window) {

@@ -46,7 +46,7 @@ class Registry {
   public:
     explicit Registry(WindowPositionStore& store) : store_(store) {}
 
-    /// Moves the window to its stored place. On an axis without one, or with one that is no 16-bit number, it
+    /// Moves the window to its stored place. On an axis without one, or with one that is no whole number, it
     /// is centred. No other bounds apply.
     void LoadWindowPos(WindowGeometry& window);
 
@@ -61,7 +61,7 @@ class Registry {
     void RegDeleteSettingsKey();
 
   private:
-    std::optional<std::int16_t> readPosition(const std::string& name);
+    std::optional<std::int32_t> readPosition(const std::string& name);
     void writePosition(const std::string& name, std::int32_t position, std::int32_t size,
                        std::int32_t screen);
 

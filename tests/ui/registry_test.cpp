@@ -90,9 +90,16 @@ TEST_F(WindowPosition, TextsAreReadToo) {
     EXPECT_EQ(loadText(std::string("12\0zz", 5)).x, 12);
 }
 
-TEST_F(WindowPosition, WhatIsNoSixteenBitNumberIsCentred) {
-    for (const std::string text :
-         {"", "abc", "12x", "40000", "-40000", "99999999999", "&h", "&h123456789", "&h00009C40"}) {
+TEST_F(WindowPosition, APlaceOnAVeryWideScreenIsReadWhole) {
+    EXPECT_EQ(loadText("60000").x, 60'000);
+    EXPECT_EQ(loadText("-40000").x, -40'000);
+    EXPECT_EQ(loadText("&h0000EA60").x, 60'000);
+    registry_.RegWriteValue("XPos", std::uint32_t{60'000});
+    EXPECT_EQ(load().x, 60'000);
+}
+
+TEST_F(WindowPosition, WhatIsNoNumberIsCentred) {
+    for (const std::string text : {"", "abc", "12x", "99999999999", "&h", "&h123456789"}) {
         EXPECT_EQ(loadText(text).x, kCentredLeft) << text;
     }
 }
