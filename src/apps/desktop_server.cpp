@@ -22,7 +22,8 @@ DesktopServer::DesktopServer(const RunOverrides& overrides)
                      window_.hide();
                  },
                  [this] { window_.show(); },
-                 [this] { placeWindow(); }}}),
+                 [this] { placeWindow(); }},
+                {}}),
       registry_(positions_) {
     controller().setClosingActions(
         {&program_.settingsStore(), [this] { saveWindowPlace(); }, [this] { dialogs_.closeDebugWindow(); }});

@@ -44,12 +44,13 @@ HeadlessServer::HeadlessServer(const ServerArguments& arguments)
              },
              [this](std::int32_t state) { stateChanged(state); }}),
       box_([this](const std::string& line) { printError(line); }),
-      program_(platform_, overridesOf(arguments), {view_, box_, traceSink_, {}}) {
+      program_(platform_, overridesOf(arguments),
+               {view_, box_, traceSink_, {}, [this](const std::string& line) { output_.print(line); }}) {
     program_.controller().setClosingActions({&program_.settingsStore(), {}, {}});
     program_.controller().onPortFailure([this] { portFailed(); });
 }
 
-/// Where trace lines go; throws std::system_error when the trace file cannot be made.
+/// Where trace lines go; throws UsageError when the trace file cannot be made.
 std::function<void(const std::string&)> HeadlessServer::traceOutput() {
     if (!arguments_.trace) {
         return {};
@@ -66,15 +67,15 @@ std::function<void(const std::string&)> HeadlessServer::traceOutput() {
     return [this](const std::string& line) { trace_->print(toSystemText(line)); };
 }
 
+/// A server whose port failed ends, and says so in one line.
 void HeadlessServer::printError(const std::string& line) {
-    errors_.print("velmorad: " + line);
+    if (!failed_) {
+        errors_.print("velmorad: " + line);
+    }
 }
 
-/// Prints a warning of the server, with what helps. A server whose port failed ends, and says so in one line.
+/// Prints a warning of the server, with what helps.
 void HeadlessServer::printWarning(const std::string& line) {
-    if (failed_) {
-        return;
-    }
     std::string advice;
     if (line.starts_with("Port " + toSystemText(program_.portName()) + " ")) {
         advice = " " + program_.describePortFailure();

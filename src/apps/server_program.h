@@ -1,6 +1,7 @@
 // What the programs that serve have in common: the server on this machine, and its start.
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "apps/controller_form.h"
@@ -22,6 +23,8 @@ struct ServerFace {
     MessageBox& box;
     TraceSink& trace;
     ControllerForm::WindowCalls window;  ///< nothing for a program without one
+    /// Tells, in one line in the system's encoding, what start-up has made; may be missing.
+    std::function<void(const std::string& line)> tell;
 };
 
 /// The server with everything that starts it, built once and connected. Needs the toolkit's event loop.
@@ -33,6 +36,7 @@ class ServerProgram {
     ServerProgram& operator=(const ServerProgram&) = delete;
 
     /// Runs the start-up steps; a failed one has been told by the box. `commandLine` as CommsLink::Main.
+    /// Throws UsageError, before anything is made, when the command line names a folder that is not there.
     StartupReport start(const std::string& commandLine);
 
     /// What messages call the server's port, as a Windows-1252 text.
@@ -48,6 +52,7 @@ class ServerProgram {
     IniSettingsStore& settingsStore() { return settingsStore_; }
 
   private:
+    void checkFolders() const;
     std::string portName(int number) const;
 
     PlatformParts& platform_;

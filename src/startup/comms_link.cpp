@@ -3,6 +3,7 @@
 #include <exception>
 #include <new>
 #include <optional>
+#include <sstream>
 #include <utility>
 
 #include "base/byte_text.h"
@@ -33,6 +34,17 @@ std::string withoutFinalSeparator(std::string path, char separator) {
         path.pop_back();
     }
     return path;
+}
+
+/// Whether a small file has a line "key=value".
+bool holdsEntry(const std::string& contents) {
+    std::istringstream lines(contents);
+    for (std::string line; std::getline(lines, line);) {
+        if (!trimBlanks(line).starts_with(';') && line.find('=') != std::string::npos) {
+            return true;
+        }
+    }
+    return false;
 }
 
 }  // namespace
@@ -94,19 +106,43 @@ void CommsLink::load_INIfile() {
     Files& files = *parts_.files;
     const std::string usual = parts_.rules.join(parts_.folders.applicationData, "Velmora.ini");
     iniPath_ = parts_.rules.absolute(overrides_.configPath.value_or(usual));
-    if (!files.fileExists(iniPath_) || files.fileSize(iniPath_) < kSmallestIni) {
+    if (!files.fileExists(iniPath_)) {
         // On a fresh account even the application-data folder may be missing.
         files.createFolder(parts_.rules.parentFolder(iniPath_));
-        replaceContents(files, parts_.rules, iniPath_, defaultIni());
+        writeDefaultFile();
+    } else if (files.fileSize(iniPath_) < kSmallestIni) {
+        keepOldFile();
+        writeDefaultFile();
     }
     files.removeLeftovers(parts_.rules.parentFolder(iniPath_));
     parts_.ini.setIniFile(iniPath_);
 }
 
+void CommsLink::writeDefaultFile() {
+    replaceContents(*parts_.files, parts_.rules, iniPath_, defaultIni());
+    if (parts_.tell) {
+        parts_.tell("Wrote the default settings to " + iniPath_);
+    }
+}
+
+void CommsLink::keepOldFile() {
+    std::string contents(kSmallestIni, '\0');
+    contents.resize(parts_.files->open(iniPath_, OpenMode::Read)->read(contents.data(), contents.size()));
+    if (!holdsEntry(contents)) {
+        return;
+    }
+    const std::string kept = iniPath_ + ".old";
+    replaceContents(*parts_.files, parts_.rules, kept, contents);
+    parts_.box.inform(BoxIcon::Exclamation, "Velmora Warning",
+                      shownText(iniPath_) +
+                          " has less than 100 bytes and is replaced by the default file; it is kept as " +
+                          shownText(kept));
+}
+
 bool CommsLink::get_Settings() {
     parts_.form.setVersionTexts(kVersion, "build " + std::to_string(kRevision));
     settings_ = Settings();
-    readSettings(parts_.ini, SettingStep::get_Settings, settings_);
+    readSettings(parts_.ini, SettingStep::get_Settings, overrides_, settings_);
     settings_.ports = readPortDevices(parts_.ini);
     parts_.form.setPortDevices(settings_.ports);
 
@@ -130,13 +166,13 @@ void CommsLink::chooseDownloadFolder() {
         folder = withoutFinalSeparator(rules.absolute(*overrides_.folder), rules.separator());
     }
     if (folder.empty() || !files.folderExists(folder)) {
+        const std::string usual = rules.join(parts_.folders.documents, "Psion Files");
         if (!folder.empty()) {
-            const std::string shown = rules.hasDrives() ? folder : decodeText(folder, ProfileEncoding::Utf8);
-            parts_.box.inform(
-                BoxIcon::Exclamation, "Velmora Warning",
-                std::string(Strings::kDLPathNotFound1) + "\n   " + shown + "\n" + Strings::kDLPathNotFound2);
+            parts_.box.inform(BoxIcon::Exclamation, "Velmora Warning",
+                              std::string(Strings::kDLPathNotFound1) + "\n   " + shownText(folder) + "\n" +
+                                  Strings::kDLPathNotFound2 + "\n   " + shownText(usual));
         }
-        folder = rules.join(parts_.folders.documents, "Psion Files");
+        folder = usual;
         files.createFolder(folder);
     }
     files.removeLeftovers(folder);
@@ -145,7 +181,7 @@ void CommsLink::chooseDownloadFolder() {
 
 std::int32_t CommsLink::init_Ports() {
     StartupForm& form = parts_.form;
-    readSettings(parts_.ini, SettingStep::init_Ports, settings_);
+    readSettings(parts_.ini, SettingStep::init_Ports, overrides_, settings_);
     int port = settings_.Port;
     if (overrides_.port) {
         port = form.portNumber(*overrides_.port);
@@ -186,10 +222,16 @@ bool CommsLink::searchPort() {
     return false;
 }
 
+/// A text with a path, or of the configuration file, for a box.
+std::string CommsLink::shownText(const std::string& systemText) const {
+    const bool utf8 = !parts_.rules.hasDrives() && isUtf8(systemText);
+    return utf8 ? decodeText(systemText, ProfileEncoding::Utf8) : systemText;
+}
+
 StartupReport CommsLink::fail(std::int32_t number, const std::string& detail, bool portFailed) {
     parts_.box.inform(BoxIcon::Critical, kErrorTitle,
                       "Error " + std::to_string(number) + " in " + step_ + ":\nPlease report this error to " +
-                          kContact + "!");
+                          kContact + "!" + (detail.empty() ? "" : "\n" + shownText(detail)));
     parts_.form.unload();
     return {StartupOutcome::Failed, step_, number, detail, portFailed};
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 
 #include "base/files.h"
@@ -37,6 +38,8 @@ struct StartupParts {
     Strings& strings;
     TransferSettings& transfer;
     UserFolders folders;
+    /// Tells, in one line in the system's encoding, what was made; may be missing.
+    std::function<void(const std::string& line)> tell = {};
 };
 
 enum class StartupOutcome {
@@ -72,7 +75,8 @@ class CommsLink {
     // The steps with rules of their own; Main runs them in order.
 
     /// Fixes the path of the configuration file, writes the default file when it is missing or too small to
-    /// be one, and gives it to the INI object.
+    /// be one, and gives it to the INI object. A small file with an entry is kept with ".old" behind its
+    /// name.
     void load_INIfile();
     /// Reads the settings and chooses the download folder. False when the user abandons the start.
     bool get_Settings();
@@ -83,7 +87,10 @@ class CommsLink {
 
   private:
     void runSteps();
+    void writeDefaultFile();
+    void keepOldFile();
     void chooseDownloadFolder();
+    std::string shownText(const std::string& systemText) const;
     bool searchPort();
     StartupReport fail(std::int32_t number, const std::string& detail, bool portFailed = false);
     StartupReport failWithoutFiles();

@@ -19,8 +19,6 @@ class IniSettingsStore : public SettingsStore {
     void put(const std::string& section, const std::string& key, const std::string& value) override;
 
   private:
-    bool overridden(const std::string& section, const std::string& key) const;
-
     clsIniFile& ini_;
     const RunOverrides& overrides_;
 };

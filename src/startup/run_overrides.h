@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 
 namespace velmora {
 
@@ -17,5 +18,8 @@ struct RunOverrides {
     std::optional<std::int32_t> fileType;   ///< DataFileType; outside 0 to 3 it is 0
     std::optional<bool> autoStart;          ///< AutoStart: whether the server starts with the program
 };
+
+/// Whether one of them takes the place of a key of the file, in any case.
+bool isOverridden(const RunOverrides& overrides, std::string_view section, std::string_view key);
 
 }  // namespace velmora

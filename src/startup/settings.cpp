@@ -132,9 +132,9 @@ const SettingRow* findSetting(std::string_view section, std::string_view key) {
     return row == table.end() ? nullptr : &*row;
 }
 
-void readSettings(clsIniFile& ini, SettingStep step, Settings& settings) {
+void readSettings(clsIniFile& ini, SettingStep step, const RunOverrides& overrides, Settings& settings) {
     for (const SettingRow& row : settingsTable()) {
-        if (row.step == step) {
+        if (row.step == step && !isOverridden(overrides, row.section, row.key)) {
             ini.setSectionName(std::string(row.section));
             readRow(ini, row, settings);
         }

@@ -10,6 +10,7 @@
 
 #include "server/server_options.h"
 #include "startup/ini_file.h"
+#include "startup/run_overrides.h"
 
 namespace velmora {
 
@@ -62,8 +63,8 @@ const std::vector<SettingRow>& settingsTable();
 /// The row of a key, in any case; null when there is none.
 const SettingRow* findSetting(std::string_view section, std::string_view key);
 
-/// Reads the settings of a step.
-void readSettings(clsIniFile& ini, SettingStep step, Settings& settings);
+/// Reads the settings of a step; those that are overridden stay as they are, whatever the file says.
+void readSettings(clsIniFile& ini, SettingStep step, const RunOverrides& overrides, Settings& settings);
 
 /// Reads [Ports]: entries COM<n>, n from 1 to 32767, with a device each. Others are left out.
 PortDevices readPortDevices(clsIniFile& ini);

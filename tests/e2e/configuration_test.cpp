@@ -123,10 +123,76 @@ TEST_F(ConfigurationTest, AFolderInThePlaceOfTheFileEndsTheStartWithTheNameOfThe
     EXPECT_TRUE(std::filesystem::is_directory(iniPath()));
 }
 
-TEST_F(ConfigurationTest, AValueThatIsNoneEndsTheStartWithTheNameOfTheStep) {
+TEST_F(ConfigurationTest, AValueThatIsNoneEndsTheStartWithTheNamesOfTheStepAndTheSetting) {
     startWith({{"AutoHide=", "AutoHide=perhaps"}});
     EXPECT_EQ(server->wait(), 3);
     EXPECT_NE(server->error().find("get_Settings"), std::string::npos) << server->error();
+    EXPECT_NE(server->error().find("[Settings] AutoHide=perhaps"), std::string::npos) << server->error();
+}
+
+TEST_F(ConfigurationTest, WhatTheCommandLineSetsCannotFailTheStart) {
+    writeFile(iniPath(), "[Settings]\r\nPort=99999\r\nBaud=99999\r\n; " + std::string(100, '.') + "\r\n");
+    server = start("velmorad", {"--config", serverPath(iniPath()), "--port", serverPort, "--baud", "9600"});
+    EXPECT_TRUE(server->waitForOutput("Waiting for link")) << server->error();
+}
+
+TEST_F(ConfigurationTest, AFileThatIsWrittenIsTold) {
+    startServer({"--config", serverPath(iniPath())});
+    EXPECT_NE(server->output().find("Wrote the default settings to " + serverPath(iniPath())),
+              std::string::npos)
+        << server->output();
+}
+
+TEST_F(ConfigurationTest, AShortFileIsKeptAndTold) {
+    const std::string stump = "[Settings]\r\nDataFileType=2\r\n";
+    writeFile(iniPath(), stump);
+    startServer({"--config", serverPath(iniPath())});
+    EXPECT_EQ(contentsOf(home / "new.ini.old"), stump);
+    EXPECT_NE(server->error().find("new.ini.old"), std::string::npos) << server->error();
+}
+
+TEST_F(ConfigurationTest, AFolderOfTheCommandLineThatIsNotThereEndsTheStartAndNothingIsMade) {
+    writeFile(home / "file", "");
+    for (const std::string folder : {"none", "file"}) {
+        Finished done = finish("velmorad", {"--config", serverPath(iniPath()), "--port", serverPort,
+                                            "--folder", serverPath(home / folder)});
+        EXPECT_EQ(done.status, 2) << done.error;
+        EXPECT_EQ(done.error, "velmorad: --folder: " + serverPath(home / folder) + " is no folder\n");
+        done = finish("velmorad", {"--config", serverPath(home / folder / "new.ini"), "--port", serverPort});
+        EXPECT_EQ(done.status, 2) << done.error;
+        EXPECT_NE(done.error.find("--config"), std::string::npos) << done.error;
+    }
+    EXPECT_FALSE(std::filesystem::exists(iniPath()));
+    EXPECT_FALSE(std::filesystem::exists(home / "none"));
+    EXPECT_FALSE(std::filesystem::exists(home / "Documents"));
+}
+
+TEST_F(ConfigurationTest, AMissingFolderOfTheFileIsToldWithTheOneThatIsUsed) {
+    if (serverSide->windows()) {
+        GTEST_SKIP() << "the documents folder is the prefix's own";
+    }
+    startWith({{"DownloadPath=", "DownloadPath=" + (home / "none").string()}});
+    ASSERT_TRUE(server->waitForOutput("Waiting for link")) << server->error();
+    EXPECT_NE(server->error().find((home / "none").string()), std::string::npos) << server->error();
+    EXPECT_NE(server->error().find((home / "Documents" / "Psion Files").string()), std::string::npos)
+        << server->error();
+}
+
+TEST_F(ConfigurationTest, AUtf16FileIsToldOrRead) {
+    if (serverSide->windows()) {
+        GTEST_SKIP() << "the system reads it";
+    }
+    std::string text = "\xFF\xFE";
+    for (const char c : "[Settings]\r\nDataFileType=2\r\n; a comment that makes the file long enough\r\n") {
+        if (c != 0) {
+            text += {c, '\0'};
+        }
+    }
+    writeFile(iniPath(), text);
+    const Finished done = finish("velmorad", {"--config", serverPath(iniPath()), "--port", serverPort});
+    EXPECT_EQ(done.status, 3);
+    EXPECT_NE(done.error.find("is UTF-16"), std::string::npos) << done.error;
+    EXPECT_TRUE(contentsOf(iniPath()) == text);
 }
 
 }  // namespace

@@ -44,7 +44,8 @@ class Startup : public ::testing::Test, protected test::IniRig {
         ASSERT_FALSE(box.shown.empty());
         EXPECT_EQ(box.shown.back().icon, BoxIcon::Critical);
         EXPECT_EQ(box.shown.back().title, "Oops, Velmora Error");
-        EXPECT_EQ(box.shown.back().text, "Error " + std::to_string(number) + " in " + step + ":\n" + kBox);
+        EXPECT_EQ(box.shown.back().text,
+                  "Error " + std::to_string(number) + " in " + step + ":\n" + kBox + "\n" + report.detail);
         EXPECT_EQ(form_.calls.back(), "unload");
         EXPECT_THAT(form_.calls, Not(Contains("show")));
     }
@@ -57,13 +58,22 @@ class Startup : public ::testing::Test, protected test::IniRig {
     }
 
     test::RecordingForm form_;
+    std::vector<std::string> told_;
     Crc crc_;
     Strings strings_;
     TransferSettings transfer_;
     RunOverrides overrides_;
-    CommsLink link_{
-        {&files, rules, ini, box, form_, crc_, strings_, transfer_, {"/home/.config", "/home/docs"}},
-        overrides_};
+    CommsLink link_{{&files,
+                     rules,
+                     ini,
+                     box,
+                     form_,
+                     crc_,
+                     strings_,
+                     transfer_,
+                     {"/home/.config", "/home/docs"},
+                     [this](const std::string& line) { told_.push_back(line); }},
+                    overrides_};
 };
 
 // --- The whole road
@@ -106,6 +116,7 @@ TEST_F(Startup, AMissingFileIsWritten) {
     EXPECT_EQ(contents(), defaultIni());
     EXPECT_EQ(link_.iniPath(), kPath);
     EXPECT_THAT(memory.paths(), ElementsAre(kPath));
+    EXPECT_THAT(told_, ElementsAre(std::string("Wrote the default settings to ") + kPath));
 }
 
 TEST_F(Startup, AMissingApplicationDataFolderIsMade) {
@@ -120,6 +131,34 @@ TEST_F(Startup, AFileOf99BytesIsReplaced) {
     memory.addFile(kPath, std::string(99, ';'));
     start();
     EXPECT_EQ(contents(), defaultIni());
+}
+
+TEST_F(Startup, AShortFileWithAnEntryIsKeptBesideTheDefaultOne) {
+    const std::string kept = std::string(kPath) + ".old";
+    memory.addFile(kPath, "[Settings]\r\nPort=7\r\n");
+    EXPECT_EQ(start().outcome, StartupOutcome::Running);
+    EXPECT_EQ(contents(), defaultIni());
+    EXPECT_EQ(memory.content(kept), "[Settings]\r\nPort=7\r\n");
+    ASSERT_EQ(box.shown.size(), 1U);
+    EXPECT_EQ(box.shown[0].text,
+              std::string(kPath) +
+                  " has less than 100 bytes and is replaced by the default file; it is kept as " + kept);
+}
+
+TEST_F(Startup, AShortFileWithoutAnEntryIsNotKept) {
+    for (const std::string text : {"", "[Settings]\r\n", " ; Port=7\r\n"}) {
+        memory.addFile(kPath, text);
+        start();
+        EXPECT_THAT(memory.paths(), ElementsAre(kPath)) << text;
+    }
+    EXPECT_THAT(box.shown, IsEmpty());
+}
+
+TEST_F(Startup, AShortFileThatCannotBeKeptStays) {
+    memory.addFile(kPath, "[Settings]\r\nPort=7\r\n");
+    files.failAfterBytes(10, ErrorNumber::DiskFull);
+    expectFailure(start(), "load_INIfile", 61);
+    EXPECT_EQ(contents(), "[Settings]\r\nPort=7\r\n");
 }
 
 TEST_F(Startup, AFileOf100BytesIsKept) {
@@ -214,7 +253,7 @@ TEST_F(Startup, AMissingDownloadFolderIsReplacedWithAWarning) {
     EXPECT_EQ(box.shown[0].title, "Velmora Warning");
     EXPECT_EQ(box.shown[0].text,
               "The downloadpath specified in Velmora.INI does not exist:\n   /nowhere/\xFC?\n"
-              "Velmora is using 'My Files\\Psion Files' instead!");
+              "Velmora is using 'My Files\\Psion Files' instead!\n   /home/docs/Psion Files");
 }
 
 TEST_F(Startup, AFolderThatCannotBeMadeIsReported) {
@@ -367,6 +406,27 @@ TEST_F(Startup, ThePortAndRateOfTheRunAreUsedAsTheyAre) {
     EXPECT_EQ(form_.current, Offline);
     EXPECT_THAT(form_.checked, IsEmpty());
     EXPECT_EQ(contents(), defaultIni());
+}
+
+TEST_F(Startup, WhatTheRunOverridesCannotFailIt) {
+    memory.addFolder("/current/demo");
+    givenIni("[Settings]\r\nPort=99999\r\nBaud=99999\r\nAutoStart=maybe\r\nDataFileType=99999\r\n");
+    form_.portNumbers["/dev/pts/5"] = 37;
+    overrides_.port = "/dev/pts/5";
+    overrides_.baud = 9600;
+    overrides_.fileType = 1;
+    overrides_.autoStart = true;
+    EXPECT_EQ(start().outcome, StartupOutcome::Running);
+    EXPECT_EQ(form_.scriptedPort.number, 37);
+    EXPECT_EQ(transfer_.DataFileType, 1);
+}
+
+TEST_F(Startup, APathInAFailureReadsAsItIs) {
+    memory.addFolder("/current/\xC3\xBC.ini");
+    overrides_.configPath = "\xC3\xBC.ini";
+    start();
+    ASSERT_FALSE(box.shown.empty());
+    EXPECT_THAT(box.shown.back().text, ::testing::EndsWith("/current/\xFC.ini"));
 }
 
 TEST_F(Startup, APortOfTheRunThatDoesNotExistIsReported) {

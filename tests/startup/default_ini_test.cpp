@@ -24,8 +24,8 @@ class DefaultIni : public ::testing::Test, protected test::IniRig {
     }
     Settings settings() {
         Settings read;
-        readSettings(ini, SettingStep::get_Settings, read);
-        readSettings(ini, SettingStep::init_Ports, read);
+        readSettings(ini, SettingStep::get_Settings, {}, read);
+        readSettings(ini, SettingStep::init_Ports, {}, read);
         return read;
     }
 };

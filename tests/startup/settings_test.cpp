@@ -18,8 +18,8 @@ class SettingsFile : public ::testing::Test, protected test::IniRig {
     Settings read(const std::string& contents) {
         given(contents);
         Settings settings;
-        readSettings(ini, SettingStep::get_Settings, settings);
-        readSettings(ini, SettingStep::init_Ports, settings);
+        readSettings(ini, SettingStep::get_Settings, {}, settings);
+        readSettings(ini, SettingStep::init_Ports, {}, settings);
         return settings;
     }
     Settings readEntry(const std::string& line) { return read("[Settings]\r\n" + line + "\r\n"); }

@@ -38,6 +38,9 @@ const ProfileText& TextProfileFiles::load(const std::string& file) {
         content.resize(static_cast<std::size_t>(size));
         content.resize(opened->read(content.data(), content.size()));
     }
+    if (content.starts_with("\xFF\xFE") || content.starts_with("\xFE\xFF")) {
+        throw RunTimeError(ErrorNumber::TypeMismatch, file + " is UTF-16; save it as UTF-8");
+    }
     if (content != last_->content()) {
         last_ = std::make_unique<ProfileText>(std::move(content));
     }

@@ -191,5 +191,18 @@ TEST_F(Profile, AStrangeFileIsReadAndAnEntryAddedWithoutDamage) {
     }
 }
 
+TEST_F(Profile, AUtf16FileIsNotTakenForAnEmptyOne) {
+    for (const std::string mark : {"\xFF\xFE", "\xFE\xFF"}) {
+        given(mark + std::string("[\0S\0]\0", 6));
+        try {
+            profiles_.getString("S", "Key", "", 255, kTextFile);
+            ADD_FAILURE() << "it was read";
+        } catch (const RunTimeError& error) {
+            EXPECT_EQ(error.errorNumber(), ErrorNumber::TypeMismatch);
+            EXPECT_NE(std::string(error.what()).find("UTF-16"), std::string::npos) << error.what();
+        }
+    }
+}
+
 }  // namespace
 }  // namespace velmora
