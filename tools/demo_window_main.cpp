@@ -32,10 +32,11 @@ int main(int argc, char** argv) {
         return 2;
     }
     try {
+        const HeldStopSignals held;
         QApplication application(argc, argv);
         QApplication::setQuitOnLastWindowClosed(false);
         DesktopServer server;
-        const StopSignals stopSignals([&server] { server.stop(); });
+        const StopSignals stopSignals(held, [&server] { server.stop(); });
         if (!server.start("")) {
             return 1;
         }
