@@ -23,6 +23,9 @@ RunOverrides overridesOf(const ServerArguments& arguments) {
     overrides.baud = arguments.baud;
     overrides.folder = arguments.folder;
     overrides.fileType = arguments.fileType;
+    if (arguments.stayInFolder) {
+        overrides.stayInFolder = true;
+    }
     overrides.autoStart = true;  // this program exists to serve
     return overrides;
 }

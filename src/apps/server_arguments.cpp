@@ -50,6 +50,8 @@ void addServingOptions(CommandSyntax& syntax, ServerArguments& result) {
                   });
     syntax.option("--folder", "<folder>", "Download folder (default: the file's DownloadPath)",
                   into(result.folder));
+    syntax.flag("--stay-in-folder", "Refuse names that lead outside the download folder",
+                result.stayInFolder);
     syntax.option("--file-type", "<0..3>", "Data files as 0 ODB, 1 TXT, 2 CSV (comma),\n3 CSV (semicolon)",
                   [&result](const std::string& value) {
                       result.fileType =

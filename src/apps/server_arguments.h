@@ -15,6 +15,7 @@ struct ServerArguments {
     std::optional<std::int32_t> baud;      ///< bits a second, above 0
     std::optional<std::string> folder;     ///< download folder
     std::optional<std::int32_t> fileType;  ///< 0 to 3
+    bool stayInFolder = false;             ///< refuse names that lead outside the download folder
     bool trace = false;
     std::vector<std::string> traceCategories;  ///< in capitals; empty means all
     std::optional<std::string> traceFile;

@@ -12,6 +12,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -75,6 +76,9 @@ class Files {
     /// that was ever told or found means that file and no other for as long as this object lives, even if the
     /// file is gone or another one came that is called so. The path itself when it is no such name.
     virtual std::string pathOfShortName(const std::string& path) const = 0;
+    /// The path, free of links and dots and with the letters as stored, of what a path names, or of what
+    /// would be made under it; a link that leads to nothing is followed too. Nothing when it cannot be told.
+    virtual std::optional<std::string> resolvedPath(const std::string& path) const = 0;
 
     virtual std::unique_ptr<File> open(const std::string& path, OpenMode mode) = 0;
     virtual void deleteFile(const std::string& path) = 0;

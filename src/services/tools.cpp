@@ -86,6 +86,21 @@ Tools::Tools(const Files& files, const PathRules& rules, const TransferSettings&
     : files_(files), rules_(rules), settings_(settings) {}
 
 std::string Tools::map_FileName(std::string_view name, bool resolveExisting, bool allowWildcards) const {
+    const std::string path = pathOf(name, resolveExisting, allowWildcards);
+    if (path.empty() || !settings_.StayInFolder) {
+        return path;
+    }
+    return liesInDownloadFolder(allowWildcards ? rules_.parentFolder(path) : path) ? path : std::string();
+}
+
+bool Tools::liesInDownloadFolder(const std::string& path) const {
+    const std::optional<std::string> folder = files_.resolvedPath(settings_.DownloadPath);
+    const std::optional<std::string> place = files_.resolvedPath(path);
+    // A name behind the folder's own with a separator between them: "/psion2" does not lie in "/psion".
+    return folder && place && (*place == *folder || place->starts_with(rules_.join(*folder, {})));
+}
+
+std::string Tools::pathOf(std::string_view name, bool resolveExisting, bool allowWildcards) const {
     const std::optional<std::string> wanted = converted(rules_, name, allowWildcards);
     if (!wanted) {
         return {};

@@ -32,12 +32,16 @@ class Tools : public FileNameMapper {
     /// allowed, a folder that does not exist, a name that the system cannot hold.
     /// `resolveExisting`: an existing file is given with the letters as stored. A short name that was listed
     /// means the file that it was listed for, without either.
+    /// With StayInFolder also what leads outside the download folder once links are followed is refused.
     std::string map_FileName(std::string_view name, bool resolveExisting, bool allowWildcards) const override;
 
     /// The last component of a path as Windows-1252 bytes for a display; "?" for what has no byte.
     std::string displayName(const std::string& path) const override;
 
   private:
+    std::string pathOf(std::string_view name, bool resolveExisting, bool allowWildcards) const;
+    bool liesInDownloadFolder(const std::string& path) const;
+
     const Files& files_;
     const PathRules& rules_;
     const TransferSettings& settings_;

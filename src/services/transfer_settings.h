@@ -13,6 +13,7 @@ namespace velmora {
 struct TransferSettings {
     std::string DownloadPath;       ///< existing folder, in the system's encoding, without a final separator
     std::int32_t DataFileType = 0;  ///< 0 ODB, 1 TXT, 2 CSV with commas, 3 CSV with semicolons
+    bool StayInFolder = false;      ///< whether names that lead outside DownloadPath are refused
     SpreadsheetSettings sheets{};
 };
 

@@ -153,6 +153,7 @@ bool CommsLink::get_Settings() {
 
     const std::int32_t fileType = overrides_.fileType.value_or(settings_.DataFileType);
     parts_.transfer.DataFileType = fileType < 0 || fileType > 3 ? 0 : fileType;
+    parts_.transfer.StayInFolder = overrides_.stayInFolder.value_or(settings_.StayInFolder);
     chooseDownloadFolder();
     // The only way to abandon would be an Abort button, which the box about a missing folder does not have.
     return true;

@@ -16,6 +16,7 @@ struct RunOverrides {
     std::optional<std::int32_t> baud;       ///< bits per second, used as it is
     std::optional<std::string> folder;      ///< DownloadPath; relative to the current folder
     std::optional<std::int32_t> fileType;   ///< DataFileType; outside 0 to 3 it is 0
+    std::optional<bool> stayInFolder;       ///< StayInFolder
     std::optional<bool> autoStart;          ///< AutoStart: whether the server starts with the program
 };
 

@@ -58,6 +58,9 @@ std::vector<SettingRow> makeTable() {
     SettingRow wksDialect{kSettings, "WksDialect", SettingType::Integer, SettingStep::get_Settings, ""};
     wksDialect.optionalNumber = &Settings::WksDialect;
     wksDialect.check = zeroOrOne;
+    SettingRow stayInFolder{kSettings, "StayInFolder", SettingType::Boolean, SettingStep::get_Settings,
+                            "False"};
+    stayInFolder.limit = &Settings::StayInFolder;
     using Options = ServerOptions;
     constexpr SettingStep kSettingsStep = SettingStep::get_Settings;
     constexpr SettingStep kPortsStep = SettingStep::init_Ports;
@@ -70,6 +73,7 @@ std::vector<SettingRow> makeTable() {
             flagRow(kSettings, "DontTestModem", &Options::DontTestModem, false),
             wksDialect,
             numberRow("EarlierCopies", kSettingsStep, "30", &Settings::EarlierCopies, daysOrDefault),
+            stayInFolder,
             flagRow(kOnExit, "RestoreWin", &Options::RestoreWin, true),
             flagRow(kOnExit, "HideWin", &Options::HideWin, false),
             flagRow(kOnExit, "AskUser", &Options::AskUser, false),
@@ -93,7 +97,8 @@ void readRow(clsIniFile& ini, const SettingRow& row, Settings& settings) {
             settings.*row.path = trimBlanks(ini.GetPath(key, std::string(row.defaultText)));
             return;
         case SettingType::Boolean:
-            settings.options.*row.flag = ini.GetBool(key, row.defaultText == "True");
+            (row.flag != nullptr ? settings.options.*row.flag : settings.*row.limit) =
+                ini.GetBool(key, row.defaultText == "True");
             return;
         case SettingType::Integer:
             break;

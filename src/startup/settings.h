@@ -26,6 +26,7 @@ struct Settings {
     std::optional<std::int16_t>
         WksDialect;                   ///< tokens of WKS worksheets: 0 the system's own, 1 the common ones
     std::int16_t EarlierCopies = 30;  ///< days for which what a save replaces is kept; 0 for none
+    bool StayInFolder = false;        ///< names that lead outside the download folder are refused
     ServerOptions options;
     PortDevices ports;
 };
@@ -51,6 +52,7 @@ struct SettingRow {
     std::string Settings::*path = nullptr;
     std::int16_t Settings::*number = nullptr;
     bool ServerOptions::*flag = nullptr;
+    bool Settings::*limit = nullptr;  ///< a flag that is no option of the window
     /// For settings that may be missing altogether.
     std::optional<std::int16_t> Settings::*optionalNumber = nullptr;
     /// The number to use for one that was read.

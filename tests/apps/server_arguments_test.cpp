@@ -13,16 +13,18 @@ TEST(ServerArguments, NothingGivenLeavesAllToTheConfigurationFile) {
     EXPECT_FALSE(arguments.config || arguments.port || arguments.baud || arguments.folder ||
                  arguments.fileType);
     EXPECT_FALSE(arguments.trace);
+    EXPECT_FALSE(arguments.stayInFolder);
 }
 
 TEST(ServerArguments, TakesEveryOption) {
-    const ServerArguments arguments =
-        readServerArguments({"--config", "a.ini", "--port=COM7", "--baud", "2400", "--folder", "psion",
-                             "--file-type=3", "--trace=plp, com", "--trace-file", "trace.txt"});
+    const ServerArguments arguments = readServerArguments(
+        {"--config", "a.ini", "--port=COM7", "--baud", "2400", "--folder", "psion", "--stay-in-folder",
+         "--file-type=3", "--trace=plp, com", "--trace-file", "trace.txt"});
     EXPECT_EQ(arguments.config, "a.ini");
     EXPECT_EQ(arguments.port, "COM7");
     EXPECT_EQ(arguments.baud, 2400);
     EXPECT_EQ(arguments.folder, "psion");
+    EXPECT_TRUE(arguments.stayInFolder);
     EXPECT_EQ(arguments.fileType, 3);
     EXPECT_TRUE(arguments.trace);
     EXPECT_EQ(arguments.traceCategories, (std::vector<std::string>{"PLP", "COM"}));
@@ -67,8 +69,8 @@ TEST(ServerArguments, TheHelpNamesEveryOption) {
         readServerArguments({"--help"});
         FAIL() << "no help";
     } catch (const RequestedText& help) {
-        for (const char* option : {"--config", "--port", "--baud", "--folder", "--file-type", "--trace",
-                                   "--trace-file", "--help", "--version"}) {
+        for (const char* option : {"--config", "--port", "--baud", "--folder", "--stay-in-folder",
+                                   "--file-type", "--trace", "--trace-file", "--help", "--version"}) {
             EXPECT_NE(help.text.find(option), std::string::npos) << option;
         }
     }

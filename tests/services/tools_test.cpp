@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <memory>
 
 #include "platform/windows_paths.h"
@@ -104,6 +105,23 @@ TEST_F(WindowsNames, WorkWithTheRootOfADriveAsTheDownloadFolder) {
     EXPECT_EQ(tools.map_FileName("C:MEMO", false, false), "C:\\Memo");
 }
 
+TEST_F(WindowsNames, ThatLeadOutAreRefusedWhereTheServerStaysInItsFolder) {
+    files.addFolder("C:\\Psion\\Sub");
+    files.addFolder("C:\\Psion2");
+    files.addFolder("D:\\Other");
+    settings.StayInFolder = true;
+    for (const char* name : {"..\\MEMO", "\\MEMO", "C:\\TEMP\\MEMO", "D:\\Other\\MEMO", "..\\PSION2\\MEMO"}) {
+        EXPECT_EQ(tools.map_FileName(name, false, false), "") << name;
+        EXPECT_EQ(tools.map_FileName(name, true, false), "") << name;
+        EXPECT_EQ(tools.map_FileName(name, false, true), "") << name;
+    }
+    EXPECT_EQ(tools.map_FileName("MEMO", false, false), "C:\\Psion\\Memo");
+    EXPECT_EQ(tools.map_FileName("SUB\\MEMO", false, false), "C:\\Psion\\SUB\\Memo");
+    EXPECT_EQ(tools.map_FileName("*", false, true), "C:\\Psion\\*");
+    settings.DownloadPath = "C:\\";
+    EXPECT_EQ(tools.map_FileName("\\TEMP\\MEMO", false, false), "C:\\TEMP\\Memo");
+}
+
 TEST_F(WindowsNames, AreShownByTheirLastComponent) {
     EXPECT_EQ(tools.displayName("C:\\Psion\\Memo.txt"), "Memo.txt");
     EXPECT_EQ(tools.displayName("C:\\Psion\\\xC4rger\x81"), "\xC4rger?");
@@ -201,6 +219,31 @@ TEST_F(PosixNames, FindAFileByItsShortNameInAFolderByItsShortName) {
     folder.makeFolder("Psion/Folder with blanks");
     const std::string file = folder.write("Psion/Folder with blanks/Report of May.txt");
     EXPECT_EQ(map("FOLDER>1\\REPORT>1.TXT", true), file);
+}
+
+TEST_F(PosixNames, ThatLeadOutByLinksAreRefusedWhereTheServerStaysInItsFolder) {
+    folder.makeFolder("Outside");
+    folder.write("Outside/File");
+    std::filesystem::create_symlink(folder.path("Outside/File"), folder.path("Psion/Link"));
+    std::filesystem::create_symlink(folder.path("Outside/New"), folder.path("Psion/Dangling"));
+    std::filesystem::create_directory_symlink(folder.path("Outside"), folder.path("Psion/Folder"));
+    std::filesystem::create_directory_symlink("Sub", folder.path("Psion/Within"));
+    EXPECT_EQ(map("LINK", true), folder.path("Psion/Link"));
+    settings.StayInFolder = true;
+    for (const char* name : {"LINK", "DANGLING", "FOLDER\\FILE", "FOLDER\\NEW", "..\\OUTSIDE\\FILE"}) {
+        EXPECT_EQ(map(name), "") << name;
+        EXPECT_EQ(map(name, true), "") << name;
+    }
+    EXPECT_EQ(map("FOLDER\\*", false, true), "");
+    EXPECT_EQ(map("WITHIN\\NEW"), folder.path("Psion/WITHIN/New"));
+    EXPECT_EQ(map("MEMO"), folder.path("Psion/Memo"));
+}
+
+TEST_F(PosixNames, AreServedInADownloadFolderThatIsALinkItself) {
+    std::filesystem::create_directory_symlink("Psion", folder.path("link"));
+    settings.DownloadPath = folder.path("link");
+    settings.StayInFolder = true;
+    EXPECT_EQ(map("MEMO"), folder.path("link/Memo"));
 }
 
 TEST_F(PosixNames, AreShownWithAQuestionMarkForWhatHasNoByte) {

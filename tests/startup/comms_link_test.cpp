@@ -447,6 +447,18 @@ TEST_F(Startup, TheFolderAndFileTypeOfTheRunAreUsed) {
     EXPECT_THAT(box.shown, IsEmpty());
 }
 
+TEST_F(Startup, StayingInTheFolderIsAskedForByTheFileOrTheRun) {
+    start();
+    EXPECT_FALSE(transfer_.StayInFolder);
+    givenSetting("StayInFolder=True");
+    start();
+    EXPECT_TRUE(transfer_.StayInFolder);
+    givenSetting("StayInFolder=False");
+    overrides_.stayInFolder = true;
+    start();
+    EXPECT_TRUE(transfer_.StayInFolder);
+}
+
 TEST_F(Startup, AFileTypeOfTheRunOutsideTheFourIsTheFirst) {
     overrides_.fileType = 4;
     start();

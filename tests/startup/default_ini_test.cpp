@@ -129,7 +129,8 @@ TEST_F(DefaultIni, HoldsEverySettingThatIsNotForTheFew) {
     for (const SettingRow& row : settingsTable()) {
         ini.setSectionName(std::string(row.section));
         const bool present = ini.GetString(std::string(row.key), "missing") != "missing";
-        const bool forTheFew = row.key == "WksDialect" || row.key == "EarlierCopies";
+        const bool forTheFew =
+            row.key == "WksDialect" || row.key == "EarlierCopies" || row.key == "StayInFolder";
         EXPECT_EQ(present, !forTheFew) << row.key;
     }
     ini.setSectionName("Settings");

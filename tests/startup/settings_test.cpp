@@ -40,6 +40,13 @@ TEST_F(SettingsFile, AnEmptyFileGivesTheDefaults) {
     EXPECT_EQ(settings.Baud, 9600);
     EXPECT_EQ(settings.DataFileType, 0);
     EXPECT_EQ(settings.WksDialect, std::nullopt);
+    EXPECT_FALSE(settings.StayInFolder);
+}
+
+TEST_F(SettingsFile, StayingInTheFolderIsReadAsAFlag) {
+    EXPECT_TRUE(readEntry("StayInFolder=Yes").StayInFolder);
+    EXPECT_FALSE(readEntry("StayInFolder=0").StayInFolder);
+    EXPECT_EQ(errorOf("StayInFolder=perhaps"), 13);
 }
 
 TEST_F(SettingsFile, EveryFlagIsReadFromItsOwnKey) {
@@ -115,7 +122,7 @@ TEST_F(SettingsFile, KeysAreFoundInAnyCase) {
 TEST_F(SettingsFile, EveryRowHasExactlyOnePlaceAndNoKeyTwice) {
     for (const SettingRow& row : settingsTable()) {
         const int places = (row.path != nullptr) + (row.number != nullptr) + (row.flag != nullptr) +
-                           (row.optionalNumber != nullptr);
+                           (row.optionalNumber != nullptr) + (row.limit != nullptr);
         EXPECT_EQ(places, 1) << row.key;
         EXPECT_EQ(findSetting(row.section, row.key), &row);
     }

@@ -62,6 +62,9 @@ class FailingFiles : public Files {
     std::string pathOfShortName(const std::string& path) const override {
         return inner_.pathOfShortName(path);
     }
+    std::optional<std::string> resolvedPath(const std::string& path) const override {
+        return inner_.resolvedPath(path);
+    }
     std::unique_ptr<File> open(const std::string& path, OpenMode mode) override {
         script_->count(FileCall::Open);
         return std::make_unique<ForwardingFile>(inner_.open(path, mode), script_);

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -65,6 +66,10 @@ class MemoryFiles : public Files {
     }
     /// Short names are what a test says they are.
     std::string pathOfShortName(const std::string& path) const override { return path; }
+    /// There are no links.
+    std::optional<std::string> resolvedPath(const std::string& path) const override {
+        return storedPath(path);
+    }
     std::unique_ptr<File> open(const std::string& path, OpenMode mode) override {
         if (folderExists(path)) {
             throw RunTimeError(ErrorNumber::PathFileAccess, path);

@@ -1,17 +1,13 @@
 #include "platform/posix/path_lookup.h"
 
 #include <sys/stat.h>
-#include <unistd.h>
 
 #include <algorithm>
-#include <array>
-#include <climits>
-#include <cstdlib>
-#include <memory>
 
 #include "base/byte_text.h"
 #include "base/run_time_error.h"
 #include "platform/posix/folder_reader.h"
+#include "platform/posix/resolved_path.h"
 #include "platform/short_names.h"
 
 namespace velmora {
@@ -51,9 +47,7 @@ void readIfAllowed(const std::string& folder, const Visit& visit) {
 
 /// One text for a folder, whatever path leads to it.
 std::string canonical(const std::string& folder) {
-    const std::unique_ptr<char, decltype(&std::free)> path(
-        realpath(folder.empty() ? "." : folder.c_str(), nullptr), &std::free);
-    return path != nullptr ? std::string(path.get()) : folder;
+    return resolvedPosixPath(folder.empty() ? "." : folder).value_or(folder);
 }
 
 /// The entry with this name, else the first in byte order that differs only by case.
@@ -164,21 +158,6 @@ FoundPath PathLookup::lookUp(const std::string& path) const {
         start = end + 1;
     }
     return {found, isThere(found)};
-}
-
-std::string pathBehindLinks(std::string path) {
-    constexpr int kMostLinks = 40;  // as the kernel
-    for (int links = 0; links <= kMostLinks; ++links) {
-        std::array<char, PATH_MAX> target{};
-        const ssize_t length = readlink(path.c_str(), target.data(), target.size());
-        if (length <= 0) {
-            return path;
-        }
-        const std::string next(target.data(), static_cast<std::size_t>(length));
-        const std::string folder = path.substr(0, path.rfind('/') + 1);
-        path = next.front() == '/' ? next : folder + next;
-    }
-    throw RunTimeError(ErrorNumber::BadFileName, path);
 }
 
 }  // namespace velmora

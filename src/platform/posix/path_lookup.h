@@ -51,8 +51,4 @@ class PathLookup {
     mutable GivenShortNames given_;  ///< by the folders' canonical paths; what was asked once stays answered
 };
 
-/// What a path leads to when its last component is a link, of any number in a row: the first path that is no
-/// link, which need not exist. Throws RunTimeError 64 for a loop.
-std::string pathBehindLinks(std::string path);
-
 }  // namespace velmora

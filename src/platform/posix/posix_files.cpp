@@ -19,6 +19,7 @@
 #include "platform/posix/disk_flush.h"
 #include "platform/posix/folder_entries.h"
 #include "platform/posix/posix_file.h"
+#include "platform/posix/resolved_path.h"
 #include "platform/posix/system_errors.h"
 
 namespace velmora {
@@ -144,6 +145,14 @@ std::string PosixFiles::pathOfShortName(const std::string& path) const {
         return lookup_.pathOfShortName(path);
     } catch (const RunTimeError&) {
         return path;
+    }
+}
+
+std::optional<std::string> PosixFiles::resolvedPath(const std::string& path) const {
+    try {
+        return resolvedPosixPath(lookup_.lookUp(path).path);
+    } catch (const RunTimeError&) {
+        return std::nullopt;
     }
 }
 

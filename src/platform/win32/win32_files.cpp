@@ -13,6 +13,7 @@
 #include "platform/win32/win32_file.h"
 #include "platform/win32/win32_folder.h"
 #include "platform/win32/win32_handle.h"
+#include "platform/win32/win32_links.h"
 #include "platform/windows_paths.h"
 
 namespace velmora {
@@ -151,6 +152,14 @@ std::string Win32Files::pathOfShortName(const std::string& path) const {
         return lookup_.pathOfShortName(path);
     } catch (const RunTimeError&) {
         return path;
+    }
+}
+
+std::optional<std::string> Win32Files::resolvedPath(const std::string& path) const {
+    try {
+        return resolvedWin32Path(lookup_.lookUp(path));
+    } catch (const RunTimeError&) {
+        return std::nullopt;
     }
 }
 

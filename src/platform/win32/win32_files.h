@@ -31,6 +31,7 @@ class Win32Files : public Files {
     std::uint64_t fileSize(const std::string& path) const override;
     std::string storedPath(const std::string& path) const override;
     std::string pathOfShortName(const std::string& path) const override;
+    std::optional<std::string> resolvedPath(const std::string& path) const override;
     std::unique_ptr<File> open(const std::string& path, OpenMode mode) override;
     void deleteFile(const std::string& path) override;
     void createFolder(const std::string& path, FolderRights rights = FolderRights::Usual) override;

@@ -115,16 +115,6 @@ std::string absoluteFolder(const std::string& folder) {
     return upperCase(length > 0 && length < path.size() ? path.data() : folder);
 }
 
-/// A path as others take it, which Windows tells in the form for long paths: without "\\\\?\\" at its start.
-std::wstring withoutLongMark(const std::wstring& path) {
-    constexpr std::wstring_view kMark = L"\\\\?\\";
-    constexpr std::wstring_view kNetworkMark = L"\\\\?\\UNC\\";
-    if (path.starts_with(kNetworkMark)) {
-        return L"\\\\" + path.substr(kNetworkMark.size());
-    }
-    return path.starts_with(kMark) ? path.substr(kMark.size()) : path;
-}
-
 }  // namespace
 
 std::uint32_t readWin32Status(const std::string& path, Win32Status& status) {
@@ -183,28 +173,6 @@ std::vector<std::string> Win32Lookup::shortNames(const std::string& folder,
                                                  const std::vector<Win32Entry>& entries) const {
     const FolderNames names = folderNames(entries);
     return given_.give(absoluteFolder(folder), names.names, names.kept);
-}
-
-std::string pathBehindWin32Links(const std::string& path) {
-    const DWORD attributes = GetFileAttributesA(path.c_str());
-    if (attributes == INVALID_FILE_ATTRIBUTES || (attributes & FILE_ATTRIBUTE_REPARSE_POINT) == 0) {
-        return path;
-    }
-    const Win32Handle handle(CreateFileA(path.c_str(), FILE_READ_ATTRIBUTES,
-                                         FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
-                                         OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr));
-    std::array<wchar_t, 1024> buffer{};
-    const DWORD length = handle.isValid() ? GetFinalPathNameByHandleW(handle.get(), buffer.data(),
-                                                                      static_cast<DWORD>(buffer.size()), 0)
-                                          : 0;
-    if (length == 0 || length >= buffer.size()) {
-        return path;
-    }
-    const std::optional<std::string> target = exactPath(withoutLongMark({buffer.data(), length}));
-    if (!target) {
-        throw RunTimeError(ErrorNumber::BadFileName, path);
-    }
-    return *target;
 }
 
 std::string withStoredLetters(const std::string& path) {

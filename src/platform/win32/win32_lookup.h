@@ -47,11 +47,6 @@ class Win32Lookup {
     mutable GivenShortNames given_;  ///< by the folders' absolute paths; what was asked once stays answered
 };
 
-/// The path of the file itself where the last component of a path is a link, by GetFinalPathNameByHandleW;
-/// any other path as it is, and so that of a link that leads nowhere. Throws RunTimeError 64 when the file
-/// has no narrow path.
-std::string pathBehindWin32Links(const std::string& path);
-
 /// An existing path with the letters of every component as stored on disk and a capital drive letter. A
 /// component whose stored name is not in the ANSI code page is given by its short name; one in a folder that
 /// may not be read stays as it is.
