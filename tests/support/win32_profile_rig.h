@@ -3,6 +3,7 @@
 
 #include <windows.h>
 
+#include "platform/known_folders.h"
 #include "platform/profile/win32_profile_files.h"
 #include "platform/win32/win32_files.h"
 #include "platform/windows_paths.h"
