@@ -19,6 +19,7 @@ int PLP::PLP_Start(SerialPort& port, Timer& timer) {
     }
     ++run_;
     const Run run(*this);
+    portFailed_ = false;
     port_ = &port;
     timer_ = &timer;
     timer_->setEnabled(false);
@@ -100,6 +101,14 @@ void PLP::letGo() {
     cutter_.clear();
 }
 
+/// Ends the run since the port failed. The poll's next tick is what makes the window stop the link.
+void PLP::abandonPort() {
+    ++run_;
+    portFailed_ = true;
+    timer_->setEnabled(false);
+    comTimer_.setEnabled(true);
+}
+
 // ---------------------------------------------------------------------------------------------------------
 // Events
 
@@ -107,7 +116,7 @@ int PLP::PLP_ReceiveEvent() {
     trace_.trace("EVENT", "Event RECEIVE", {});
     const Run run(*this);
     PLP_Receive();
-    if (!run.over() && port_ != nullptr && state_ == LinkState::Idle) {
+    if (!run.over() && port_ != nullptr && !portFailed_ && state_ == LinkState::Idle) {
         PLP_Down();
         if (!run.over()) {
             PLP_InitLink();
@@ -123,7 +132,7 @@ int PLP::PLP_ReceiveEvent() {
 }
 
 void PLP::PLP_Timeout() {
-    if (port_ == nullptr) {
+    if (port_ == nullptr || portFailed_) {
         return;
     }
     trace_.trace("PLP", std::to_string(static_cast<std::int32_t>(state_)), "timeout");
@@ -144,7 +153,7 @@ void PLP::PLP_Timeout() {
 }
 
 void PLP::PLP_Receive() {
-    if (port_ == nullptr) {
+    if (port_ == nullptr || portFailed_) {
         return;
     }
     const Run run(*this);
@@ -158,19 +167,14 @@ void PLP::PLP_Receive() {
         }
         if (error.number() == 0) {
             armTimerByState();
+            comTimer_.setEnabled(true);
         } else {
             trace_.trace("COM,ERROR",
                          "ERROR " + std::to_string(error.number()) + " " + error.description() + " in " +
                              error.source(),
                          {});
+            abandonPort();
             window_.setState(LinkFailed);
-            if (run.over()) {
-                return;
-            }
-        }
-        // The next tick is what turns the failure into a stopped server.
-        if (window_.state() > Offline) {
-            comTimer_.setEnabled(true);
         }
     }
 }
@@ -244,7 +248,7 @@ bool PLP::PLP_Send(FrameType type, std::string_view data) {
 }
 
 bool PLP::sendFrame(FrameType type, std::string_view data) {
-    if (port_ == nullptr) {
+    if (port_ == nullptr || portFailed_) {
         return false;
     }
     const Run run(*this);
@@ -312,6 +316,7 @@ void PLP::PLP_Resend() {
 }
 
 void PLP::PLP_SendError(const CommError& error) {
+    abandonPort();
     const Run run(*this);
     window_.ShowWarning("Send error " + std::to_string(error.number()), error.description());
     if (!run.over()) {
@@ -442,8 +447,8 @@ bool PLP::isConsistent() const {
     if (window_.state() > Offline && !comTimer_.enabled()) {
         return false;
     }
-    if (window_.state() == LinkFailed) {
-        return true;  // a failed read leaves the protocol timer off; the poll's next tick stops the server
+    if (portFailed_) {
+        return !timer_->enabled();
     }
     const bool waitsForAnswer = timer_->enabled() && timer_->interval() >= kAnswerTime;
     switch (state_) {

@@ -51,6 +51,9 @@ enum LinkStartResult : int {
 /// every change of the window's state, PLP_Stop and another PLP_Start included. Each such call is followed by
 /// a look at whether this run of the link is still the one that made it; if not, whoever made it returns
 /// without touching the port, the timers or the window.
+///
+/// A port that fails ends the run as well: it is neither read nor written until the next start, and nothing
+/// but the poll goes on, whose next tick lets the window stop the link.
 class PLP : public FrameSender {
   public:
     /// `comTimer` is the receive poll, whose ticks the window turns into receive events; its interval is the
@@ -75,8 +78,8 @@ class PLP : public FrameSender {
     /// The protocol timer's tick. Nothing when the link is stopped.
     void PLP_Timeout();
 
-    /// The way out for the services. False when the link is stopped, when the port refused the bytes, and
-    /// when the event that is being answered belongs to a run of the link that has ended meanwhile.
+    /// The way out for the services. False when the link is stopped, when the port refuses the bytes or has,
+    /// and when the event that is being answered belongs to a run of the link that has ended meanwhile.
     bool PLP_Send(FrameType type, std::string_view data) override;
 
     /// Flags for the services that ask the server to stop.
@@ -113,6 +116,7 @@ class PLP : public FrameSender {
 
     void openPort();
     void letGo();
+    void abandonPort();
     bool sendFrame(FrameType type, std::string_view data);
     bool write(const std::string& frame);
     void readWhatWaits(const Run& run);
@@ -144,7 +148,8 @@ class PLP : public FrameSender {
 
     SerialPort* port_ = nullptr;  // null while stopped, and so is timer_
     Timer* timer_ = nullptr;
-    std::uint64_t run_ = 0;                  // changes with every start and stop
+    std::uint64_t run_ = 0;                  // changes with every start and stop, and when the port fails
+    bool portFailed_ = false;                // since the last start
     std::optional<std::uint64_t> eventRun_;  // the run of the event that the services are handling
     LinkState state_ = LinkState::Idle;
     std::uint8_t sendSequence_ = 0;     // of the next DATA frame, or of the one that awaits its ACK

@@ -259,6 +259,7 @@ SystemError PosixCommDevice::read(char* buffer, std::size_t count, std::size_t& 
 
 SystemError PosixCommDevice::write(std::string_view data, std::size_t& transferred) {
     transferred = 0;
+    stalled_ = false;
     steady_clock::time_point progress = steady_clock::now();
     while (transferred < data.size()) {
         const ssize_t put = ::write(fd_, data.data() + transferred, data.size() - transferred);
@@ -276,6 +277,7 @@ SystemError PosixCommDevice::write(std::string_view data, std::size_t& transferr
         const auto left =
             writeStall_ - std::chrono::duration_cast<milliseconds>(steady_clock::now() - progress);
         if (left <= milliseconds::zero()) {
+            stalled_ = true;
             return ETIMEDOUT;
         }
         if (const SystemError error = waitWritable(std::min(left, kWriteRetry))) {
@@ -389,10 +391,12 @@ SystemError PosixCommDevice::setModemLine(int line, bool on) const {
     return result(ioctl(fd_, on ? TIOCMBIS : TIOCMBIC, &line));
 }
 
-/// Lets the last bytes go out before the rate is set back under them; the system's own wait has no end.
+/// Lets the last bytes go out before the rate is set back under them; the system's own wait has no end. A
+/// line that has just been waited for in vain is not waited for again.
 void PosixCommDevice::drain() const {
     int waiting = 0;
-    for (milliseconds waited{0}; waited < kDrainLimit; waited += kDrainStep) {
+    const milliseconds limit = stalled_ ? milliseconds::zero() : kDrainLimit;
+    for (milliseconds waited{0}; waited < limit; waited += kDrainStep) {
         if (ioctl(fd_, TIOCOUTQ, &waiting) < 0 || waiting <= 0) {
             return;
         }

@@ -74,6 +74,7 @@ class PosixCommDevice : public CommDevice {
     termios block_{};                 ///< the control block
     std::optional<bool> dtrControl_;  ///< nothing: setState leaves DTR as it is
     std::chrono::milliseconds writeStall_{1000};
+    bool stalled_ = false;                    ///< the last write ended since the line took nothing
     std::optional<ErrorCounts> errorCounts_;  ///< nothing: the port does not count
 };
 

@@ -230,6 +230,7 @@ class LinkInterrupted : public testing::TestWithParam<Case>, protected test::Lin
             comTimer.setEnabled(false);
             forget();
             if (deed == Deed::StopAndStart) {
+                port.sendError.reset();
                 start();
             }
             happened = true;

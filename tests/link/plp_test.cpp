@@ -19,7 +19,6 @@ using testing::SizeIs;
 
 class LinkTest : public testing::Test, protected test::LinkRig {
   protected:
-    void failSends() { port.sendError = CommError(kCommFailed, "Error (5): CommWrite - gone", "Send"); }
     void failReads(std::int32_t number) { port.readError = CommError(number, "Device lost", "GetInput"); }
     void failCount(std::int32_t number) {
         port.countError = CommError(number, "Invalid port number", "CommRead (InBufferCount)");
@@ -339,47 +338,6 @@ TEST_F(LinkTest, AnotherTypeIsSentAsItIs) {
     EXPECT_TRUE(plp.PLP_Send(static_cast<FrameType>(40), "x"));
     EXPECT_THAT(sent(), ElementsAre("type 40"));
     EXPECT_EQ(plp.linkState(), LinkState::Ready);
-}
-
-TEST_F(LinkTest, AFailedWriteIsShownAndStopsTheServer) {
-    bringTo(LinkState::Ready);
-    failSends();
-    EXPECT_FALSE(plp.PLP_Send(FrameType::Data, "x"));
-    EXPECT_THAT(window.warnings, ElementsAre(Pair("Send error -1", "Error (5): CommWrite - gone")));
-    EXPECT_THAT(window.states, ElementsAre(LinkFailed));
-    EXPECT_EQ(plp.linkState(), LinkState::WaitAck) << "left as the send set it";
-    EXPECT_TRUE(plpTimer.enabled());
-    time.advance(20ms);
-    EXPECT_FALSE(port.open);
-    EXPECT_FALSE(plpTimer.enabled());
-}
-
-TEST_F(LinkTest, AFailedResendIsShown) {
-    bringTo(LinkState::WaitAck);
-    failSends();
-    time.advance(500ms);
-    EXPECT_THAT(window.warnings, SizeIs(1));
-    EXPECT_EQ(window.states.front(), LinkFailed);
-}
-
-TEST_F(LinkTest, APortThatReportsAShortWriteCountsAsFailed) {
-    class Refusing : public test::ScriptedPort {
-        bool Send(std::string_view) override { return false; }
-    } refusing;
-    EXPECT_EQ(plp.PLP_Start(refusing, plpTimer), 1);
-    EXPECT_THAT(window.states, ElementsAre(LinkFailed));
-    plp.PLP_Stop();
-}
-
-TEST_F(LinkTest, AFailedAcknowledgementIsNotHiddenByTheLinkComingUp) {
-    for (const FrameType type : {FrameType::Connect, FrameType::Data}) {
-        bringTo(LinkState::WaitLink);
-        failSends();
-        arrive(type, 1);
-        EXPECT_THAT(window.states, ElementsAre(LinkFailed));
-        port.sendError.reset();
-        stop();
-    }
 }
 
 // ---------------------------------------------------------------------------------------------------------

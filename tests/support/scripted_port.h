@@ -34,6 +34,7 @@ class ScriptedPort : public SerialPort {
     bool Send(std::string_view data) override {
         requireOpen();
         if (sendError) {
+            ++refusedSends;
             throw CommError(*sendError);
         }
         sent.emplace_back(data);
@@ -86,6 +87,7 @@ class ScriptedPort : public SerialPort {
     std::optional<CommError> sendError;
     std::optional<CommError> readError;
     std::optional<CommError> countError;
+    int refusedSends = 0;
     int emptyReads = 0;  ///< reads that come back empty although bytes wait
     int opened = 0;
     int closed = 0;
