@@ -17,6 +17,12 @@ constexpr std::uint32_t codePoint(unsigned char byte) {
     return byte >= 0x80 && byte <= 0x9F ? kHigh[byte - 0x80U] : byte;
 }
 
+std::string hexPair(char c) {
+    constexpr std::string_view kDigits = "0123456789ABCDEF";
+    const auto byte = static_cast<unsigned char>(c);
+    return {kDigits[byte >> 4], kDigits[byte & 15]};
+}
+
 void appendUtf8(std::string& out, std::uint32_t code) {
     if (code < 0x80) {
         out += static_cast<char>(code);
@@ -169,15 +175,24 @@ std::string showControls(std::string_view text) {
 }
 
 std::string hexDump(std::string_view bytes) {
-    constexpr const char* kDigits = "0123456789ABCDEF";
     std::string out;
     for (const char c : bytes) {
-        const auto byte = static_cast<unsigned char>(c);
         if (!out.empty()) {
             out += ' ';
         }
-        out += kDigits[byte >> 4];
-        out += kDigits[byte & 15];
+        out += hexPair(c);
+    }
+    return out;
+}
+
+std::string hexEscaped(std::string_view bytes) {
+    std::string out;
+    for (const char c : bytes) {
+        if (c >= 32 && c <= 126) {
+            out += c;
+        } else {
+            out += '<' + hexPair(c) + '>';
+        }
     }
     return out;
 }

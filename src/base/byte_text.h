@@ -29,5 +29,7 @@ std::string showControls(std::string_view text);
 
 /// The bytes as upper-case hexadecimal pairs with a blank between them, for messages.
 std::string hexDump(std::string_view bytes);
+/// The bytes 32 to 126 as they are, every other one as "<hh>": one line, whatever it says.
+std::string hexEscaped(std::string_view bytes);
 
 }  // namespace velmora

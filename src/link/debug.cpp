@@ -1,8 +1,5 @@
 #include "link/debug.h"
 
-#include <algorithm>
-#include <array>
-
 #include "base/byte_text.h"
 #include "link/frames.h"
 
@@ -13,18 +10,6 @@ constexpr std::string_view kHeader("\x16\x10\x02", kHeaderLength);
 constexpr std::size_t kTypeIndex = kHeaderLength + 1;  // behind the lead byte
 constexpr std::size_t kDataIndex = kTypeIndex + 1;
 constexpr std::size_t kFrameOverhead = kDataIndex + kTrailerLength;
-
-void appendDump(std::string& text, std::string_view bytes) {
-    constexpr std::string_view kDigits = "0123456789ABCDEF";
-    for (const char c : bytes) {
-        const auto code = static_cast<unsigned char>(c);
-        if (code >= 32 && code <= 126) {
-            text += c;
-        } else {
-            text += {'<', kDigits[code >> 4], kDigits[code & 15], '>'};
-        }
-    }
-}
 
 /// Calls `visit` with each of the words, in capitals, that "," separates.
 template <typename Visit>
@@ -47,12 +32,7 @@ bool hasCategory(std::string_view categories, std::string_view wanted) {
 
 /// The data of an entry: a frame described, any other text as it reads.
 std::string dataText(std::string_view data) {
-    if (data.substr(0, kHeaderLength) == kHeader) {
-        return describeFrame(data);
-    }
-    std::string text;
-    appendDump(text, data);
-    return text;
+    return data.substr(0, kHeaderLength) == kHeader ? describeFrame(data) : hexEscaped(data);
 }
 
 }  // namespace
@@ -76,7 +56,7 @@ std::string describeFrame(std::string_view frame) {
         }
     }
     if (frame.size() > kFrameOverhead) {
-        appendDump(text, frame.substr(kDataIndex, frame.size() - kFrameOverhead));
+        text += hexEscaped(frame.substr(kDataIndex, frame.size() - kFrameOverhead));
     }
     return text;
 }
@@ -115,9 +95,9 @@ std::string Debug::line(std::string_view categories, std::string_view label, std
     const bool repeatsAFrame = label == "recv" || label == "resend";
     const bool stateAlone = label.empty() && data.empty() && hasCategory(categories, "STATE");
     if (stateAlone || (!repeatsAFrame && hasCategory(categories, "STATUS"))) {
-        return std::string(label) + "\tStatus=" + stateText();
+        return hexEscaped(label) + "\tStatus=" + stateText();
     }
-    return std::string(label) + " \t" + dataText(data);
+    return hexEscaped(label) + " \t" + dataText(data);
 }
 
 std::string Debug::stateText() const {

@@ -70,13 +70,18 @@ void PLP::openPort() {
 }
 
 void PLP::PLP_Stop() {
+    if (port_ == nullptr) {
+        return;
+    }
     const Run run(*this);
-    trace_.trace("PLP", "PLP stopping", {});
+    if (!std::exchange(stopping_, true)) {
+        trace_.trace("PLP", "PLP stopping", {});
+    }
     giveEvent(PLP_EV_RESET, {});
     if (run.over()) {
         return;
     }
-    if (port_ != nullptr && port_->PortOpen()) {
+    if (port_->PortOpen()) {
         trace_.trace("COM", "close port", {});
         try {
             port_->ClosePort();
@@ -92,11 +97,10 @@ void PLP::PLP_Stop() {
 /// Ends the run: from here on neither port nor timer is touched.
 void PLP::letGo() {
     ++run_;
+    stopping_ = false;
     port_ = nullptr;
-    if (timer_ != nullptr) {
-        timer_->setEnabled(false);
-        timer_ = nullptr;
-    }
+    timer_->setEnabled(false);
+    timer_ = nullptr;
     state_ = LinkState::Idle;
     cutter_.clear();
 }

@@ -69,7 +69,7 @@ class PLP : public FrameSender {
     /// Forgets the stop requests of an earlier run. A link that runs is left alone and counts as started: a
     /// second click on Start can arrive while the first one's link request is being written.
     int PLP_Start(SerialPort& port, Timer& timer);
-    /// Ends the service, closes the port and lets go of port and timer.
+    /// Ends the service, closes the port and lets go of port and timer. Nothing when the link is stopped.
     void PLP_Stop();
 
     /// Reads what waits at the port and acts on every frame that has become complete. Returns the next state
@@ -151,6 +151,7 @@ class PLP : public FrameSender {
     std::uint64_t run_ = 0;                  // changes with every start and stop, and when the port fails
     bool portFailed_ = false;                // since the last start
     std::optional<std::uint64_t> eventRun_;  // the run of the event that the services are handling
+    bool stopping_ = false;                  // PLP_Stop is on the stack and not through
     LinkState state_ = LinkState::Idle;
     std::uint8_t sendSequence_ = 0;     // of the next DATA frame, or of the one that awaits its ACK
     std::uint8_t receiveSequence_ = 0;  // of the last DATA frame accepted

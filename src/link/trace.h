@@ -11,8 +11,8 @@ class Trace {
   public:
     virtual ~Trace() = default;
 
-    /// One entry: its categories, a short label, and a frame as on the wire, a text, or nothing. Cheap when
-    /// nobody listens.
+    /// One entry: its categories, a short label, and a frame as on the wire, a text, or nothing. Label and
+    /// text may hold any bytes; an entry is one line all the same. Cheap when nobody listens.
     virtual void trace(std::string_view categories, std::string_view label, std::string_view data) = 0;
 };
 

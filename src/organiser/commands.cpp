@@ -7,7 +7,6 @@
 #include "organiser/boot_client.h"
 #include "organiser/cells_file.h"
 #include "organiser/conversation.h"
-#include "organiser/frame_text.h"
 #include "organiser/local_files.h"
 #include "organiser/sheet_client.h"
 #include "organiser/tour.h"
@@ -186,14 +185,14 @@ void Commands::service() {
     attempts_.run([&] { reply = openService(link_, command_.name); });
     console_.out << toUtf8(command_.name) << " answered " << counted(reply.size(), "byte") << ".\n";
     if (!reply.empty()) {
-        console_.out << "hex:  " << hexDump(reply) << "\ntext: " << printable(reply) << '\n';
+        console_.out << "hex:  " << hexDump(reply) << "\ntext: " << hexEscaped(reply) << '\n';
     }
 }
 
 void Commands::clock(const std::string& service) {
     std::string reply;
     attempts_.run([&] { reply = openService(link_, service); });
-    console_.out << printable(reply) << '\n';
+    console_.out << hexEscaped(reply) << '\n';
 }
 
 void Commands::boot() {

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "organiser/frame_text.h"
+#include "base/byte_text.h"
 
 namespace velmora {
 
@@ -23,7 +23,7 @@ void requestExpecting(OrganiserLink& link, std::string_view request, std::string
     const std::string reply = link.request(request);
     if (reply != expected) {
         throw LinkFailure::unexpected("The server answered something else than expected: \"" +
-                                      printable(reply) + "\".");
+                                      hexEscaped(reply) + "\".");
     }
 }
 

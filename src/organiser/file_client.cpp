@@ -4,7 +4,6 @@
 
 #include "base/byte_text.h"
 #include "organiser/conversation.h"
-#include "organiser/frame_text.h"
 
 namespace velmora {
 namespace {
@@ -27,7 +26,7 @@ void FileClient::seekTo(const Seek& seek) {
     const std::string reply = link_.request(request + std::to_string(seek.offset));
     const bool digits = std::all_of(reply.begin(), reply.end(), [](char c) { return c >= '0' && c <= '9'; });
     if (!digits || reply.size() < kPositionDigits || reply.size() > kPositionDigits + 10) {
-        throw LinkFailure::unexpected("The server answered the seek with \"" + printable(reply) +
+        throw LinkFailure::unexpected("The server answered the seek with \"" + hexEscaped(reply) +
                                       "\" instead of a position.");
     }
     position_ = std::stoull(reply);

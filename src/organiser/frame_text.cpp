@@ -1,28 +1,10 @@
 #include "organiser/frame_text.h"
 
-#include <array>
-#include <cstdio>
-
 #include "base/byte_text.h"
 #include "link/crc.h"
 #include "link/frames.h"
 
 namespace velmora {
-
-std::string printable(std::string_view bytes) {
-    std::string text;
-    for (const char c : bytes) {
-        const auto byte = static_cast<unsigned char>(c);
-        if (byte >= 32 && byte < 127) {
-            text += c;
-        } else {
-            std::array<char, 8> hex{};
-            std::snprintf(hex.data(), hex.size(), "<%02X>", byte);
-            text += hex.data();
-        }
-    }
-    return text;
-}
 
 std::string frameText(std::string_view frame) {
     Crc crc;
@@ -41,7 +23,7 @@ std::string frameText(std::string_view frame) {
             return "CONNECT";
         case FrameType::Data:
             return "DATA " + sequence + " len=" + std::to_string(parsed->data.size()) +
-                   (parsed->data.empty() ? "" : " ") + printable(parsed->data);
+                   (parsed->data.empty() ? "" : " ") + hexEscaped(parsed->data);
     }
     return "unknown type " + std::to_string(parsed->type) + " " + hexDump(parsed->data);
 }

@@ -11,7 +11,4 @@ namespace velmora {
 /// bytes in hexadecimal.
 std::string frameText(std::string_view frame);
 
-/// The bytes with every one that is not printable ASCII as "<", two hexadecimal digits, ">".
-std::string printable(std::string_view bytes);
-
 }  // namespace velmora

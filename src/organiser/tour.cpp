@@ -13,7 +13,6 @@
 #include "organiser/boot_client.h"
 #include "organiser/cells_file.h"
 #include "organiser/conversation.h"
-#include "organiser/frame_text.h"
 #include "organiser/sheet_client.h"
 #include "organiser/tour_names.h"
 #include "services/service_codes.h"
@@ -250,7 +249,7 @@ void Tour::clock() {
           Question{"TIMEINFO", "Local time and zone:"}}) {
         std::string reply;
         attempts_.run([&] { reply = openService(link_, question.service); });
-        say(question.words + " " + printable(reply));
+        say(question.words + " " + hexEscaped(reply));
     }
     say("A \"*\" stands for daylight-saving time.");
 }

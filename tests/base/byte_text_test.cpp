@@ -57,5 +57,11 @@ TEST(ByteText, DumpsBytesInHexadecimal) {
     EXPECT_EQ(hexDump(std::string("\x00\x1F\xFE", 3)), "00 1F FE");
 }
 
+TEST(ByteText, HexEscapesEveryByteOutside32To126IsHexadecimal) {
+    EXPECT_EQ(hexEscaped("a ~"), "a ~");
+    EXPECT_EQ(hexEscaped(std::string("\0\x1F\x7F\x80\xFF\r\n", 7)), "<00><1F><7F><80><FF><0D><0A>");
+    EXPECT_EQ(hexEscaped(""), "");
+}
+
 }  // namespace
 }  // namespace velmora

@@ -144,6 +144,11 @@ TEST_F(DebugTest, APlainTextIsShownAsItReads) {
     EXPECT_EQ(lineOf("COM", "text", "a\tb\n"), "text \ta<09>b<0A>");
 }
 
+TEST_F(DebugTest, ALabelIsOneLineWhateverItHolds) {
+    EXPECT_EQ(lineOf("PLP", "PLP-->A\r\n\x1B[2J\x7F\x9B", {}), "PLP-->A<0D><0A><1B>[2J<7F><9B> \t");
+    EXPECT_EQ(lineOf("COM,STATUS", "a\nb", {}), "a<0A>b\tStatus=idle      ");
+}
+
 TEST_F(DebugTest, StatusEntriesShowTheLinkState) {
     LinkState state = LinkState::Ready;
     debug.showStateOf([&state] { return state; });

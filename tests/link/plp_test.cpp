@@ -111,10 +111,26 @@ TEST_F(LinkTest, StopOfAClosedPortDoesNotCloseItAgain) {
     EXPECT_THAT(traced(), ElementsAre("PLP|PLP stopping|", "COM|PLP_STOPPED|"));
 }
 
-TEST_F(LinkTest, StopOfALinkThatNeverStartedIsHarmless) {
+TEST_F(LinkTest, StopOfALinkThatDoesNotRunLeavesNoTrace) {
     plp.PLP_Stop();
+    EXPECT_THAT(traced(), IsEmpty());
+    bringTo(LinkState::Ready);
+    stop();
+    forget();
     plp.PLP_Stop();
-    EXPECT_THAT(services.events, SizeIs(2));
+    EXPECT_THAT(traced(), IsEmpty());
+    EXPECT_THAT(services.events, IsEmpty());
+    EXPECT_TRUE(plp.isConsistent());
+}
+
+TEST_F(LinkTest, AStopInsideAStopIsTracedOnce) {
+    bringTo(LinkState::Ready);
+    services.onEvent = [this](std::int32_t&, std::string&) {
+        services.onEvent = nullptr;
+        plp.PLP_Stop();
+    };
+    stop();
+    EXPECT_THAT(traced(), ElementsAre("PLP|PLP stopping|", "COM|close port|", "COM|PLP_STOPPED|"));
     EXPECT_TRUE(plp.isConsistent());
 }
 
