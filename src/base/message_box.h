@@ -18,6 +18,8 @@ class MessageBox {
     /// is brought before other programs' windows. A program that has nobody to ask answers false.
     virtual bool askYesNo(BoxIcon icon, const std::string& title, const std::string& text, bool defaultYes,
                           bool foreground) = 0;
+    /// Closes the question with this text, if it waits, as if it was answered with No.
+    virtual void withdraw(const std::string& text) = 0;
 };
 
 }  // namespace velmora

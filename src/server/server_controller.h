@@ -75,8 +75,10 @@ enum class CloseReason {
 /// - A link call that outlives its link (the user stopped the server while it was sending) cannot start the
 ///   server again, nor can the request that it returns stop or end anything. Likewise a link call that has
 ///   reported a failed port (LinkFailed) cannot cover that up by what it reports afterwards.
-/// - A port that fails while the user keeps the server running is not polled again until the next start; the
-///   warning stays, and the link's own next write, which fails, or the user stops the server.
+/// - A port that fails is not polled again until the next start, however long its question waits. When the
+/// user
+///   would keep the server running, the failed port stops it all the same; the warning stays.
+/// - A question about a server that has gone offline behind it closes by itself.
 class ServerController : public ServerWindow {
   public:
     /// Sets ComTimer to 20 ms and enables it, connects the ticks of the three timers, shows the statistics.
@@ -172,7 +174,8 @@ class ServerController : public ServerWindow {
     bool stillWanted(std::int32_t old, std::int32_t next) const;
     void stopLink();
     bool ask(Question question, BoxIcon icon, const std::string& text, bool foreground);
-    bool askUserInterrupt();
+    bool interruptionPasses();
+    void withdrawMootQuestions();
     bool closeOrderly();
     void saveSettings(bool portChosen);
 
@@ -201,7 +204,7 @@ class ServerController : public ServerWindow {
     std::string errorMsg_;
     bool startStopEnabled_ = true;
     bool portFailed_ = false;  // since the last start
-    bool pollFailed_ = false;  // the port's input count failed, and the server still runs
+    bool pollFailed_ = false;  // the port's input count failed since the last start
     bool closed_ = false;
 
     std::array<bool, kQuestions> asking_{};

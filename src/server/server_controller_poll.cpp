@@ -1,4 +1,6 @@
 // What the timers drive.
+#include <utility>
+
 #include "server/controller_scope.h"
 #include "server/server_controller.h"
 
@@ -47,10 +49,15 @@ void ServerController::afterLinkCall() {
 }
 
 void ServerController::reportPortError(const CommError& error) {
-    ShowWarning(portName() + ": " + error.description(), "");
+    const bool transfer = state_ >= FileAccess && state_ <= ServiceBusy;
+    ShowWarning(portName() + ": " + error.description(), transfer ? "The transfer is lost." : "");
     pollFailed_ = true;
     portFails();
     setState(Offline);
+    if (running()) {
+        // The user wants to go on, but there is nothing left to go on with.
+        setState(LinkFailed);
+    }
 }
 
 std::string ServerController::portName() const {
@@ -59,8 +66,7 @@ std::string ServerController::portName() const {
 }
 
 void ServerController::portFails() {
-    portFailed_ = true;
-    if (onPortFailure_) {
+    if (!std::exchange(portFailed_, true) && onPortFailure_) {
         onPortFailure_();
     }
 }

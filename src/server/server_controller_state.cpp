@@ -149,6 +149,9 @@ void ServerController::storeState(std::int32_t next) {
             minimisedCaption(parts_.strings.DisplayStrings[static_cast<std::size_t>(next)]));
     }
     parts_.view.showState(next);
+    if (!running()) {
+        withdrawMootQuestions();
+    }
 }
 
 }  // namespace velmora

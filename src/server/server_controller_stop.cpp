@@ -32,7 +32,7 @@ bool ServerController::stopRequestPasses(std::int32_t next) {
 bool ServerController::stopServer(std::int32_t next) {
     const bool transfer = state_ >= Connect && state_ != LinkFailed;
     const std::int32_t old = state_;
-    if (transfer && next != OnExit && (!askUserInterrupt() || !stillWanted(old, next))) {
+    if (transfer && next != OnExit && (!interruptionPasses() || !stillWanted(old, next))) {
         return false;
     }
     if (running()) {
@@ -76,8 +76,20 @@ bool ServerController::ask(Question question, BoxIcon icon, const std::string& t
     return yes;
 }
 
-bool ServerController::askUserInterrupt() {
-    return ask(Question::UserInterrupt, BoxIcon::Exclamation, parts_.strings.UserInterrupt, false);
+// Without a running server there is nothing left to interrupt, whatever became of the question.
+bool ServerController::interruptionPasses() {
+    return ask(Question::UserInterrupt, BoxIcon::Exclamation, parts_.strings.UserInterrupt, false) ||
+           !running();
+}
+
+// The question about SHUTDOWN stands: the program can still end.
+void ServerController::withdrawMootQuestions() {
+    if (asking_[static_cast<int>(Question::UserInterrupt)]) {
+        parts_.box.withdraw(parts_.strings.UserInterrupt);
+    }
+    if (asking_[static_cast<int>(Question::OnExit)]) {
+        parts_.box.withdraw(parts_.strings.OnExitAskText);
+    }
 }
 
 bool ServerController::queryUnload(CloseReason reason) {
@@ -111,7 +123,7 @@ bool ServerController::queryUnload(CloseReason reason) {
 }
 
 bool ServerController::closeOrderly() {
-    if (state_ > WaitLink && !askUserInterrupt()) {
+    if (state_ > WaitLink && !interruptionPasses()) {
         return false;
     }
     if (closed_) {

@@ -17,6 +17,8 @@ class NoUserBox : public MessageBox {
     void inform(BoxIcon icon, const std::string& title, const std::string& text) override;
     bool askYesNo(BoxIcon icon, const std::string& title, const std::string& text, bool defaultYes,
                   bool foreground) override;
+    /// No question ever waits.
+    void withdraw(const std::string&) override {}
 
   private:
     std::function<void(const std::string& line)> errors_;

@@ -109,56 +109,93 @@ TEST_F(Poll, APortErrorDuringATransferAsksOnceHoweverLongTheAnswerTakes) {
     EXPECT_EQ(link.count("stop"), 1);
 }
 
-TEST_F(Poll, AfterANoTheFailedPortIsLeftAlone) {
+TEST_F(Poll, AfterANoTheFailedPortStopsTheServerWithoutAnotherQuestion) {
     reach(Downld);
     portBreaks();
     box.answer = false;
     tick();
-    time.advance(milliseconds(10'000));
-    EXPECT_EQ(box.asked.size(), 1U);
-    EXPECT_EQ(failures, 1);
-    EXPECT_EQ(controller.state(), Downld);
-    EXPECT_EQ(view.warning(), "COM1: device gone");
-    EXPECT_EQ(link.count("receive"), 0);
-}
-
-TEST_F(Poll, AfterANoTheLinksFailedWriteStopsTheServerUnasked) {
-    reach(Downld);
-    portBreaks();
-    box.answer = false;
+    EXPECT_EQ(controller.state(), LinkFailed);
     tick();
-    link.onTimeout = [this] { controller.setState(LinkFailed); };
-    plpTimer.setInterval(milliseconds(500));
-    plpTimer.setEnabled(true);
-    time.advance(milliseconds(520));
     EXPECT_EQ(controller.state(), Offline);
     EXPECT_EQ(box.asked.size(), 1U);
+    EXPECT_EQ(failures, 1);
+    EXPECT_EQ(link.count("receive"), 0);
+    EXPECT_EQ(link.count("stop"), 1);
+    EXPECT_FALSE(port.open);
+    EXPECT_EQ(view.warning(), "COM1: device gone");
+    EXPECT_EQ(view.messages.lines[2].text, "The transfer is lost.");
 }
 
-TEST_F(Poll, APortThatFailsWhileAStopIsAskedAsksNothingMore) {
+TEST_F(Poll, AfterANoStartWorksWhenTheDeviceIsBack) {
+    reach(Downld);
+    portBreaks();
+    box.answer = false;
+    tick();
+    tick();
+    port.countError.reset();
+    controller.pbStartStop_Click();
+    EXPECT_EQ(controller.state(), WaitLink);
+    EXPECT_FALSE(controller.portFailed());
+}
+
+TEST_F(Poll, APortThatFailsBetweenTransfersLosesNone) {
+    for (const std::int32_t state : {WaitLink, Connect}) {
+        reach(state);
+        portBreaks();
+        tick();
+        EXPECT_EQ(view.warning(), "COM1: device gone");
+        EXPECT_EQ(view.messages.lines[2].text, "");
+        port.countError.reset();
+    }
+}
+
+TEST_F(Poll, APortThatFailsWhileAStopIsAskedStopsTheServerAndWithdrawsTheQuestion) {
+    reach(Downld);
+    box.whileAsking = [this] {
+        portBreaks();
+        time.advance(milliseconds(1000));
+        EXPECT_EQ(controller.state(), Offline);
+    };
+    controller.pbStartStop_Click();
+    EXPECT_EQ(box.asked.size(), 1U);
+    EXPECT_EQ(box.withdrawn, std::vector<std::string>{strings.UserInterrupt});
+    EXPECT_EQ(controller.state(), Offline);
+    EXPECT_EQ(link.count("stop"), 1);
+    EXPECT_EQ(failures, 1);
+}
+
+TEST_F(Poll, AFailedWriteWithdrawsTheQuestionThatWaits) {
+    reach(Downld);
+    box.whileAsking = [this] {
+        controller.setState(LinkFailed);
+        tick();
+    };
+    controller.pbStartStop_Click();
+    EXPECT_EQ(box.withdrawn, std::vector<std::string>{strings.UserInterrupt});
+    EXPECT_EQ(controller.state(), Offline);
+}
+
+TEST_F(Poll, APortThatFailsWhileExitIsAskedWithdrawsTheQuestion) {
+    options.AskUser = true;
+    reach(WaitLink);
+    box.whileAsking = [this] {
+        portBreaks();
+        tick();
+    };
+    controller.setState(OnExit);
+    EXPECT_EQ(box.withdrawn, std::vector<std::string>{strings.OnExitAskText});
+    EXPECT_EQ(controller.state(), Offline);
+}
+
+TEST_F(Poll, AWindowThatIsClosingGoesOnClosingWhenItsQuestionHasBecomeMoot) {
     reach(Downld);
     box.answer = false;
     box.whileAsking = [this] {
         portBreaks();
         time.advance(milliseconds(1000));
     };
-    controller.pbStartStop_Click();
-    time.advance(milliseconds(1000));
-    EXPECT_EQ(box.asked.size(), 1U);
-    EXPECT_EQ(controller.state(), Downld);
-    EXPECT_EQ(failures, 1);
-    EXPECT_EQ(view.warning(), "COM1: device gone");
-}
-
-TEST_F(Poll, AStopAfterTheFailureAsksAgainAsTheUserAskedForIt) {
-    reach(Downld);
-    portBreaks();
-    box.answer = false;
-    tick();
-    box.answer = true;
-    controller.pbStartStop_Click();
-    EXPECT_EQ(box.asked.size(), 2U);
-    EXPECT_EQ(controller.state(), Offline);
+    EXPECT_TRUE(controller.queryUnload(CloseReason::User));
+    EXPECT_EQ(link.count("stop"), 1);
 }
 
 TEST_F(Poll, TheProtocolTimerRunsTheLinksTimeOut) {

@@ -22,6 +22,7 @@ class RecordingBox : public MessageBox {
         shown.push_back({icon, title, text});
         return answer;
     }
+    void withdraw(const std::string&) override {}
 
     std::vector<Shown> shown;
     bool answer = false;

@@ -3,6 +3,7 @@
 
 #include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "base/message_box.h"
@@ -28,7 +29,12 @@ class ScriptedBox : public MessageBox {
         if (whileAsking) {
             whileAsking();
         }
-        return answer;
+        return !std::exchange(withdrawn_, false) && answer;
+    }
+    /// Withdraws the question that waits; like a box on the screen, it is then answered with No.
+    void withdraw(const std::string& text) override {
+        withdrawn.push_back(text);
+        withdrawn_ = true;
     }
 
     bool answer = true;
@@ -36,6 +42,10 @@ class ScriptedBox : public MessageBox {
     std::function<void()> whileAsking;
     std::vector<Shown> asked;
     std::vector<Shown> informed;
+    std::vector<std::string> withdrawn;
+
+  private:
+    bool withdrawn_ = false;
 };
 
 }  // namespace velmora::test

@@ -1,5 +1,7 @@
 #include "ui/qt/qt_message_box.h"
 
+#include <QAbstractButton>
+
 #include "ui/qt/qt_text.h"
 
 namespace velmora {
@@ -49,7 +51,18 @@ bool QtMessageBox::askYesNo(BoxIcon icon, const std::string& title, const std::s
         box.raise();
         box.activateWindow();
     }
-    return box.exec() == QMessageBox::Yes;
+    waiting_.push_back({text, &box});
+    const bool yes = box.exec() == QMessageBox::Yes;
+    waiting_.pop_back();  // boxes end in the reverse order, each inside the earlier one's event loop
+    return yes;
+}
+
+void QtMessageBox::withdraw(const std::string& text) {
+    for (const Waiting& question : waiting_) {
+        if (question.text == text) {
+            question.box->button(QMessageBox::No)->click();
+        }
+    }
 }
 
 }  // namespace velmora

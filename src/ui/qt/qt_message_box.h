@@ -4,6 +4,8 @@
 #include <QMessageBox>
 #include <QPointer>
 #include <QWidget>
+#include <string>
+#include <vector>
 
 #include "base/message_box.h"
 
@@ -18,11 +20,19 @@ class QtMessageBox : public MessageBox {
     void inform(BoxIcon icon, const std::string& title, const std::string& text) override;
     bool askYesNo(BoxIcon icon, const std::string& title, const std::string& text, bool defaultYes,
                   bool foreground) override;
+    void withdraw(const std::string& text) override;
 
   private:
     QWidget* parentOf() const;
 
+    /// A question that waits for its answer, and its box.
+    struct Waiting {
+        std::string text;
+        QMessageBox* box;
+    };
+
     QPointer<QWidget> window_;
+    std::vector<Waiting> waiting_;
 };
 
 }  // namespace velmora

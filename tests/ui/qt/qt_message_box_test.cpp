@@ -21,6 +21,8 @@ class QtMessageBoxTest : public QObject {
     void foregroundBoxStaysOnTop();
     void informingTextIsPlain();
     void timersTickWhileABoxWaits();
+    void mootQuestionClosesItself();
+    void otherQuestionsStay();
     void boxOfAMinimisedWindowStandsAlone();
     void boxBelongsToAVisibleWindow();
 
@@ -104,6 +106,21 @@ void QtMessageBoxTest::timersTickWhileABoxWaits() {
     timer.start(1);
     QVERIFY(box.askYesNo(BoxIcon::Question, "Velmora", "Really?", false, false));
     QVERIFY(ticks >= 3);
+}
+
+void QtMessageBoxTest::mootQuestionClosesItself() {
+    whenShown([this](QMessageBox&) { box.withdraw("Really?"); });
+    QVERIFY(!box.askYesNo(BoxIcon::Question, "Velmora", "Really?", true, false));
+    box.withdraw("Really?");  // none waits
+}
+
+void QtMessageBoxTest::otherQuestionsStay() {
+    whenShown([this](QMessageBox& shown) {
+        box.withdraw("Sure?");
+        QVERIFY(shown.isVisible());
+        press(shown, QMessageBox::Yes);
+    });
+    QVERIFY(box.askYesNo(BoxIcon::Question, "Velmora", "Really?", true, false));
 }
 
 void QtMessageBoxTest::boxOfAMinimisedWindowStandsAlone() {
