@@ -192,6 +192,7 @@ TEST_F(StopRequest, TheQuestionDefaultsToNoAndWarns) {
 TEST_F(StopRequest, ARefusedStopLeavesStatePortLinkAndButtons) {
     reach(Downld);
     box.answer = false;
+    box.whileAsking = [this] { EXPECT_FALSE(view.enabled[MainButton::Setup]); };
     controller.pbStartStop_Click();
     EXPECT_EQ(controller.state(), Downld);
     EXPECT_TRUE(port.open);
