@@ -50,7 +50,7 @@ void ServerProgram::checkFolders() const {
 
 StartupReport ServerProgram::start(const std::string& commandLine) {
     checkFolders();
-    const StartupReport report = start_.Main(commandLine);
+    StartupReport report = start_.Main(commandLine);
     core_.applySettings(start_.settings());
     return report;
 }
