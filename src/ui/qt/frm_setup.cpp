@@ -103,6 +103,15 @@ frmSetup::frmSetup(SerialPort& port, ServerOptions& options, TransferSettings& t
 }
 
 void frmSetup::build() {
+    auto* all = new QVBoxLayout(this);
+    all->addWidget(makePorts());
+    all->addWidget(makeRates());
+    all->addWidget(makeOptions());
+    all->addLayout(makeButtons());
+    orderControls();
+}
+
+QGroupBox* frmSetup::makePorts() {
     grpPort = new QGroupBox(QStringLiteral("Port"));
     grpPort->setObjectName("grpPort");
     auto* ports = new QGridLayout(grpPort);
@@ -133,6 +142,11 @@ void frmSetup::build() {
     ports->addWidget(txtPortNo, 4, 1);
     ports->addWidget(pbCheckPort, 4, 2);
     ports->setColumnStretch(3, 1);
+    addDevices(*ports);
+    return grpPort;
+}
+
+void frmSetup::addDevices(QGridLayout& ports) {
     cboPresentPorts = new QComboBox;
     cboPresentPorts->setObjectName("cboPresentPorts");
     cboPresentPorts->setAccessibleName(QStringLiteral("Serial devices that are present"));
@@ -141,20 +155,22 @@ void frmSetup::build() {
     pbRefreshPorts = new QPushButton(QStringLiteral("&Refresh"));
     pbRefreshPorts->setObjectName("pbRefreshPorts");
     pbRefreshPorts->setAutoDefault(false);
-    ports->addWidget(cboPresentPorts, 5, 0, 1, 3);
-    ports->addWidget(pbRefreshPorts, 5, 3, Qt::AlignLeft);
+    ports.addWidget(cboPresentPorts, 5, 0, 1, 3);
+    ports.addWidget(pbRefreshPorts, 5, 3, Qt::AlignLeft);
     lblDeviceHint = new QLabel;
     lblDeviceHint->setObjectName("lblDeviceHint");
     lblDeviceHint->setWordWrap(true);
-    ports->addWidget(lblDeviceHint, 6, 0, 1, 4);
+    ports.addWidget(lblDeviceHint, 6, 0, 1, 4);
     lblStatus = new QLabel;
     lblStatus->setObjectName("lblStatus");
     QFont strong = font();
     strong.setBold(true);
     lblStatus->setFont(strong);
     lblStatus->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("COM99  wasn't checked yet")));
-    ports->addWidget(lblStatus, 7, 0, 1, 4);
+    ports.addWidget(lblStatus, 7, 0, 1, 4);
+}
 
+QGroupBox* frmSetup::makeRates() {
     grpBaud = new QGroupBox(QStringLiteral("Baud"));
     grpBaud->setObjectName("grpBaud");
     auto* rates = new QHBoxLayout(grpBaud);
@@ -164,6 +180,10 @@ void frmSetup::build() {
         obBaud[i]->setObjectName("obBaud_" + rate);
         rates->addWidget(obBaud[i]);
     }
+    return grpBaud;
+}
+
+QGroupBox* frmSetup::makeOptions() {
     auto* options = new QGroupBox(QStringLiteral("Options"));
     auto* optionRows = new QGridLayout(options);
     cbAutoStart = new QCheckBox(QStringLiteral("&Autostart"));
@@ -187,7 +207,10 @@ void frmSetup::build() {
     dialectLabel->setBuddy(cboWksDialect);
     optionRows->addWidget(dialectLabel, 2, 0);
     optionRows->addWidget(cboWksDialect, 2, 1);
+    return options;
+}
 
+QHBoxLayout* frmSetup::makeButtons() {
     lblBusy = new QLabel(QStringLiteral("Testing the ports..."));
     lblBusy->setObjectName("lblBusy");
     pbOK = new QPushButton(QStringLiteral("OK"));
@@ -199,12 +222,10 @@ void frmSetup::build() {
     buttons->addWidget(lblBusy, 1);
     buttons->addWidget(pbOK);
     buttons->addWidget(pbCancel);
-    auto* all = new QVBoxLayout(this);
-    all->addWidget(grpPort);
-    all->addWidget(grpBaud);
-    all->addWidget(options);
-    all->addLayout(buttons);
+    return buttons;
+}
 
+void frmSetup::orderControls() {
     QWidget* before = obPort[0];
     for (QWidget* next :
          std::initializer_list<QWidget*>{obPort[1], obPort[2], obPort[3], obPort[4], txtPortNo, pbCheckPort,

@@ -12,7 +12,9 @@
 
 class QCheckBox;
 class QComboBox;
+class QGridLayout;
 class QGroupBox;
+class QHBoxLayout;
 class QLabel;
 class QLineEdit;
 class QPushButton;
@@ -43,6 +45,12 @@ class frmSetup : public QDialog {
 
   private:
     void build();
+    QGroupBox* makePorts();
+    void addDevices(QGridLayout& ports);
+    QGroupBox* makeRates();
+    QGroupBox* makeOptions();
+    QHBoxLayout* makeButtons();
+    void orderControls();
     void connectControls();
     void load();
     void showState();
