@@ -1,6 +1,7 @@
 #include "platform/short_names.h"
 
 #include <algorithm>
+#include <array>
 #include <unordered_map>
 #include <unordered_set>
 
@@ -91,7 +92,7 @@ class Numbering {
   private:
     struct Counts {
         unsigned& operator[](std::size_t i) { return counts[i]; }
-        unsigned counts[kMostDigits] = {};
+        std::array<unsigned, kMostDigits> counts{};
     };
     const std::unordered_set<std::string>& taken_;
     std::unordered_map<std::string, Counts> used_;
