@@ -2,7 +2,6 @@
 #include <cstdint>
 #include <cstdio>
 #include <iostream>
-#include <memory>
 #include <optional>
 #include <string>
 
@@ -10,11 +9,11 @@
 #include "arguments/program.h"
 #include "organiser/command_line.h"
 #include "organiser/commands.h"
-#include "organiser/device_line.h"
 #include "organiser/fault_injector.h"
 #include "organiser/frame_text.h"
 #include "organiser/organiser_link.h"
 #include "organiser/progress.h"
+#include "organiser/serial_line.h"
 #include "platform/binary_streams.h"
 #include "platform/console_output.h"
 #include "platform/file_size_limit.h"
@@ -29,12 +28,12 @@ void printFrame(FrameDirection direction, std::string_view frame) {
 }
 
 ExitStatus run(const CommandLine& line) {
-    const std::unique_ptr<OrganiserLine> device = openDeviceLine(line.device, line.baud);
+    SerialLine device(line.device, line.baud);
     std::optional<FaultInjector> faults;
     if (line.faults.any()) {
-        faults.emplace(*device, line.faults);
+        faults.emplace(device, line.faults);
     }
-    OrganiserLine& used = faults ? static_cast<OrganiserLine&>(*faults) : *device;
+    OrganiserLine& used = faults ? static_cast<OrganiserLine&>(*faults) : device;
     LineSettings settings;
     settings.baud = static_cast<std::uint32_t>(line.baud);
     OrganiserLink link(used, WireTime(settings), line.trace ? printFrame : OrganiserLink::FrameTrace());

@@ -30,7 +30,8 @@ inline constexpr SystemError kDeviceFailed = 1117;       ///< the device is gone
 
 /// Time-outs in milliseconds, in the meaning of the Win32 structure COMMTIMEOUTS. A read interval of
 /// 0xFFFFFFFF lets a read return at once with what has arrived; where nothing has, Windows waits for the
-/// total time-out, other systems do not.
+/// total time-out, other systems do not. With an interval of 0 a read waits for its bytes until the total
+/// time-out, for the first of them at least.
 struct CommTimeouts {
     std::uint32_t readInterval = 0xFFFFFFFF;
     std::uint32_t readTotalMultiplier = 0;
@@ -94,8 +95,8 @@ class CommDevice {
     /// Reads the state of the input side and clears the error flags. A line that was hung up (a pulled
     /// adapter, the other end of a pseudo-terminal closed) is an error, not an empty queue.
     virtual SystemError clearError(CommStatus& status) = 0;
-    /// Reads up to `count` bytes that wait. Ask only for bytes that clearError has told of: what a read does
-    /// when none wait differs between systems (CommTimeouts).
+    /// Reads up to `count` bytes. Unless the time-outs make a read wait, ask only for bytes that clearError
+    /// has told of: what a read does when none wait differs between systems (CommTimeouts).
     virtual SystemError read(char* buffer, std::size_t count, std::size_t& transferred) = 0;
     /// Writes all bytes, waiting no longer than the time-outs allow. kNoReason when it failed and the system
     /// told no number: it counts as done as far as it got.

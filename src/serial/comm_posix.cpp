@@ -181,6 +181,8 @@ SystemError PosixCommDevice::purge() {
 }
 
 SystemError PosixCommDevice::setTimeouts(const CommTimeouts& timeouts) {
+    const bool readsAtOnce = timeouts.readInterval == 0xFFFFFFFF;
+    readWait_ = milliseconds(readsAtOnce ? 0 : timeouts.readTotalConstant);
     writeStall_ = milliseconds(timeouts.writeTotalMultiplier) + milliseconds(timeouts.writeTotalConstant);
     return result(fcntl(fd_, F_GETFD));
 }
@@ -246,6 +248,12 @@ SystemError PosixCommDevice::clearError(CommStatus& status) {
 
 SystemError PosixCommDevice::read(char* buffer, std::size_t count, std::size_t& transferred) {
     transferred = 0;
+    if (readWait_ > milliseconds::zero()) {
+        pollfd watched{fd_, POLLIN, 0};
+        if (poll(&watched, 1, static_cast<int>(readWait_.count())) < 0 && errno != EINTR) {
+            return translated(errno);
+        }
+    }
     ssize_t got = 0;
     do {
         got = ::read(fd_, buffer, count);

@@ -13,7 +13,7 @@
 
 namespace velmora {
 
-/// A terminal device in raw mode: eight-bit clean, no flow control, reads that never wait, DTR dropped when
+/// A terminal device in raw mode: eight-bit clean, no flow control, DTR dropped when
 /// the program ends. It is locked for as long as it is open (flock and TIOCEXCL, as other serial programs do)
 /// and gets its former settings back when it is closed. A pseudo-terminal is as good as a real port.
 ///
@@ -73,6 +73,7 @@ class PosixCommDevice : public CommDevice {
     termios saved_{};                 ///< what the device had before
     termios block_{};                 ///< the control block
     std::optional<bool> dtrControl_;  ///< nothing: setState leaves DTR as it is
+    std::chrono::milliseconds readWait_{0};
     std::chrono::milliseconds writeStall_{1000};
     bool stalled_ = false;                    ///< the last write ended since the line took nothing
     std::optional<ErrorCounts> errorCounts_;  ///< nothing: the port does not count

@@ -65,7 +65,11 @@ SystemError Win32CommDevice::setTimeouts(const CommTimeouts& timeouts) {
 SystemError Win32CommDevice::getState() {
     block_ = DCB{};
     block_.DCBlength = sizeof block_;
-    return result(GetCommState(handle_, &block_));
+    const SystemError error = result(GetCommState(handle_, &block_));
+    if (error == kSuccess && !saved_) {
+        saved_ = block_;
+    }
+    return error;
 }
 
 SystemError Win32CommDevice::buildState(const std::string& settings) {
@@ -85,6 +89,11 @@ SystemError Win32CommDevice::close() {
     // The value for "no handle" is also the current process's own, which CloseHandle would accept.
     if (handle_ == INVALID_HANDLE_VALUE) {
         return ERROR_INVALID_HANDLE;
+    }
+    if (saved_) {
+        // Whether that works makes no difference: the device may be gone.
+        SetCommState(handle_, &*saved_);
+        saved_.reset();
     }
     return result(CloseHandle(std::exchange(handle_, INVALID_HANDLE_VALUE)));
 }

@@ -4,6 +4,7 @@
 #include <windows.h>
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -34,14 +35,14 @@ class Win32CommDevice : public CommDevice {
     SystemError purge() override;
     /// SetCommTimeouts.
     SystemError setTimeouts(const CommTimeouts& timeouts) override;
-    /// GetCommState.
+    /// GetCommState; what the port had before the first one is given back when it is closed.
     SystemError getState() override;
     /// BuildCommDCBA, which leaves DTR and RTS enabled and flow control off.
     SystemError buildState(const std::string& settings) override;
     void setDtrControl(bool enable) override;
     /// SetCommState.
     SystemError setState() override;
-    /// CloseHandle.
+    /// SetCommState with what the port had before, CloseHandle.
     SystemError close() override;
 
     /// ClearCommError.
@@ -69,6 +70,7 @@ class Win32CommDevice : public CommDevice {
     const PortNames& names_;
     HANDLE handle_ = INVALID_HANDLE_VALUE;
     DCB block_{};
+    std::optional<DCB> saved_;  ///< what the port had before
     OVERLAPPED overlapped_{};
 };
 

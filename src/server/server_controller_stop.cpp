@@ -84,10 +84,10 @@ bool ServerController::interruptionPasses() {
 
 // The question about SHUTDOWN stands: the program can still end.
 void ServerController::withdrawMootQuestions() {
-    if (asking_[static_cast<int>(Question::UserInterrupt)]) {
+    if (asking_[static_cast<std::size_t>(Question::UserInterrupt)]) {
         parts_.box.withdraw(parts_.strings.UserInterrupt);
     }
-    if (asking_[static_cast<int>(Question::OnExit)]) {
+    if (asking_[static_cast<std::size_t>(Question::OnExit)]) {
         parts_.box.withdraw(parts_.strings.OnExitAskText);
     }
 }

@@ -56,8 +56,7 @@ TEST_F(EarlierCopiesTest, AnOrganiserThatVanishesLeavesTheEarlierFileAndIsTold) 
     writeFile(psion / "Long.odb", whole);
     startServer();
     const auto save = startLongSave();
-    save->signal(SIGKILL);
-    save->wait();
+    kill(*save);
     EXPECT_EQ(organiser({"formats"}).status, 0);
     expectTheWholeFileIsKept();
 }

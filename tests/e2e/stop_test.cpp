@@ -127,8 +127,7 @@ TEST_F(StopTest, ASignalInTheMiddleOfASaveClosesTheFileAndLeavesWholeRecords) {
 TEST_F(StopTest, AnOrganiserThatVanishesLeavesWholeRecordsAndTheNextOneIsServed) {
     startServer();
     auto save = startLongSave();
-    save->signal(SIGKILL);
-    save->wait();
+    kill(*save);
     EXPECT_EQ(organiser({"formats"}).status, 0);
     const std::string stored = contentsOf(psion / "Long.odb");
     EXPECT_EQ(stored, contentsOf(home / "local").substr(0, stored.size()));

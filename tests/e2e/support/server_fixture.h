@@ -1,7 +1,11 @@
 // A server on one end of a cable, an Organiser on the other.
 #pragma once
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/ioctl.h>
+#include <unistd.h>
 
 #include <filesystem>
 #include <fstream>
@@ -95,6 +99,16 @@ class ServerFixture : public testing::Test {
         arguments.insert(arguments.end(), command.begin(), command.end());
         return std::make_unique<Process>(organiserSide->command("velmora-organiser", arguments),
                                          organiserSide->environment(home, zone));
+    }
+    /// Kills an Organiser amid its work. The mark of its exclusive use would go with a real port's closing;
+    /// here the cable keeps the terminal open.
+    void kill(Process& organiser) const {
+        organiser.signal(SIGKILL);
+        organiser.wait();
+        const int terminal = ::open(organiserDevice.c_str(), O_RDWR | O_NOCTTY | O_CLOEXEC);
+        ASSERT_GE(terminal, 0);
+        ::ioctl(terminal, TIOCNXCL);
+        ::close(terminal);
     }
     /// Runs the Organiser with a command to its end.
     Finished organiser(const std::vector<std::string>& command,

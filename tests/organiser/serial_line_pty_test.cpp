@@ -1,13 +1,15 @@
-#include "organiser/posix_line.h"
-
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <stdlib.h>
 #include <sys/file.h>
+#include <termios.h>
 #include <unistd.h>
 
 #include <array>
 #include <string>
+#include <thread>
+
+#include "organiser/serial_line.h"
 
 namespace velmora {
 namespace {
@@ -15,7 +17,7 @@ namespace {
 using namespace std::chrono_literals;
 
 /// A pseudo-terminal whose other end the test holds.
-class PosixLineTest : public testing::Test {
+class SerialLineTest : public testing::Test {
   protected:
     void SetUp() override {
         other = posix_openpt(O_RDWR | O_NOCTTY);
@@ -43,7 +45,7 @@ class PosixLineTest : public testing::Test {
     }
     static std::string problemWith(const std::string& device, int baud = 9600) {
         try {
-            PosixLine line(device, baud);
+            SerialLine line(device, baud);
         } catch (const LineError& error) {
             return error.what();
         }
@@ -54,12 +56,12 @@ class PosixLineTest : public testing::Test {
     std::string path;
 };
 
-TEST_F(PosixLineTest, EveryByteValuePassesBothWays) {
+TEST_F(SerialLineTest, EveryByteValuePassesBothWays) {
     std::string bytes;
     for (int i = 0; i < 256; ++i) {
         bytes += static_cast<char>(i);
     }
-    PosixLine line(path, 9600);
+    SerialLine line(path, 9600);
     line.write(bytes);
     EXPECT_EQ(otherReads(1'000), bytes);
     otherSends(bytes);
@@ -72,39 +74,57 @@ TEST_F(PosixLineTest, EveryByteValuePassesBothWays) {
     EXPECT_EQ(got, bytes);
 }
 
-TEST_F(PosixLineTest, ReadEndsAtItsDeadline) {
-    PosixLine line(path, 9600);
+TEST_F(SerialLineTest, ReadEndsAtItsDeadline) {
+    SerialLine line(path, 9600);
     const auto begin = line.now();
     EXPECT_EQ(line.read(begin + 20ms), "");
     EXPECT_GE(line.now() - begin, 20ms);
     EXPECT_EQ(line.read(begin), "");
 }
 
-TEST_F(PosixLineTest, BytesFromBeforeTheOpeningAreForgotten) {
+TEST_F(SerialLineTest, BytesFromBeforeTheOpeningAreForgotten) {
     const int slave = open(path.c_str(), O_RDWR | O_NOCTTY);
     ASSERT_GE(slave, 0);
     otherSends("old\n");
-    PosixLine line(path, 9600);
+    SerialLine line(path, 9600);
     otherSends("new");
     EXPECT_EQ(line.read(line.now() + 2s), "new");
     close(slave);
 }
 
-TEST_F(PosixLineTest, OtherSideThatHangsUpIsALineError) {
-    PosixLine line(path, 9600);
+TEST_F(SerialLineTest, OtherSideThatHangsUpIsALineError) {
+    SerialLine line(path, 9600);
     hangUp();
     EXPECT_THROW(line.read(line.now() + 2s), LineError);
     EXPECT_THROW(line.write("x"), LineError);
 }
 
-TEST_F(PosixLineTest, LockedDeviceIsInUse) {
+TEST_F(SerialLineTest, ReadEndsWithTheFirstBytesThatCome) {
+    SerialLine line(path, 9600);
+    std::thread sender([this] { otherSends("x"); });
+    EXPECT_EQ(line.read(line.now() + 30s), "x");
+    sender.join();
+}
+
+TEST_F(SerialLineTest, WhatHappensToAnOpenLineIsToldWithItsName) {
+    SerialLine line(path, 9600);
+    hangUp();
+    try {
+        line.read(line.now() + 2s);
+        FAIL() << "read from a line that was cut";
+    } catch (const LineError& error) {
+        EXPECT_EQ(error.what(), path + ": The line was cut or the device failed.");
+    }
+}
+
+TEST_F(SerialLineTest, LockedDeviceIsInUse) {
     const int holder = open(path.c_str(), O_RDWR | O_NOCTTY);
     ASSERT_EQ(flock(holder, LOCK_EX), 0);
-    EXPECT_EQ(problemWith(path), path + " is in use by another program.");
+    EXPECT_TRUE(problemWith(path).starts_with(path + " is in use by ")) << problemWith(path);
     close(holder);
 }
 
-TEST_F(PosixLineTest, SettingsAreGivenBackOnClosing) {
+TEST_F(SerialLineTest, SettingsAreGivenBackOnClosing) {
     const int slave = open(path.c_str(), O_RDWR | O_NOCTTY);
     ASSERT_GE(slave, 0);
     termios before{};
@@ -112,7 +132,7 @@ TEST_F(PosixLineTest, SettingsAreGivenBackOnClosing) {
     termios after{};
     ASSERT_EQ(tcgetattr(slave, &before), 0);
     {
-        PosixLine line(path, 1200);
+        SerialLine line(path, 1200);
         ASSERT_EQ(tcgetattr(slave, &during), 0);
     }
     ASSERT_EQ(tcgetattr(slave, &after), 0);
@@ -123,10 +143,11 @@ TEST_F(PosixLineTest, SettingsAreGivenBackOnClosing) {
     close(slave);
 }
 
-TEST_F(PosixLineTest, WhatCannotBeOpenedIsToldInOneSentence) {
-    EXPECT_EQ(problemWith("/dev/no-such-device"), "There is no device /dev/no-such-device.");
-    EXPECT_EQ(problemWith("/dev/null"), "/dev/null is not a serial device.");
-    EXPECT_EQ(problemWith(path, 12345), path + " cannot run at 12345 baud.");
+TEST_F(SerialLineTest, WhatCannotBeOpenedIsToldInOneSentence) {
+    EXPECT_EQ(problemWith("/dev/no-such-device"),
+              "/dev/no-such-device does not exist; is the adapter plugged in, and is it the right port?");
+    EXPECT_EQ(problemWith("/dev/null"), "/dev/null is not a serial port.");
+    EXPECT_EQ(problemWith(path, 12345), path + " does not take these line settings; choose another speed.");
     EXPECT_EQ(problemWith(path), "") << "an unsuccessful opening must leave the device free";
 }
 
