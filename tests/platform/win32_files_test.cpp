@@ -286,7 +286,9 @@ TEST_F(Win32FilesTest, ReplacingByAShortNameKeepsTheLongOne) {
 TEST_F(Win32FilesTest, TheFileBehindALinkIsReplacedAndTheLinkStays) {
     folder.write("real", "old");
     folder.write("new", "new");
-    if (CreateSymbolicLinkA(path("link").c_str(), path("real").c_str(), 0) == 0) {
+    // Wine tells of success and makes nothing.
+    if (CreateSymbolicLinkA(path("link").c_str(), path("real").c_str(), 0) == 0 ||
+        GetFileAttributesA(path("link").c_str()) == INVALID_FILE_ATTRIBUTES) {
         GTEST_SKIP() << "this system lets this user make no links";
     }
     files.replaceFile(path("new"), path("link"));
