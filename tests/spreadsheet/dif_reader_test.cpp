@@ -137,7 +137,7 @@ TEST(DifReader, NoBytesThrowAnything) {
     }
 }
 
-LeftOut leftOutOf(const std::string& content) {
+LeftOut leftOutOfDif(const std::string& content) {
     return test::readSample(content, [](File& file) {
         LeftOut leftOut;
         readDif(file, &leftOut);
@@ -146,22 +146,22 @@ LeftOut leftOutOf(const std::string& content) {
 }
 
 TEST(DifReader, CountsWhatItLeavesOut) {
-    EXPECT_EQ(leftOutOf(dif(1, 1, kRow + "0,1\nV\n0,2\nV\n" + kRow + "0,3\nV\n" + kEnd)).cells, 2U);
-    EXPECT_EQ(leftOutOf(dif(1, 1, kRow + "0,1\nV\n" + kEnd)).cells, 0U);
+    EXPECT_EQ(leftOutOfDif(dif(1, 1, kRow + "0,1\nV\n0,2\nV\n" + kRow + "0,3\nV\n" + kEnd)).cells, 2U);
+    EXPECT_EQ(leftOutOfDif(dif(1, 1, kRow + "0,1\nV\n" + kEnd)).cells, 0U);
     std::string tall;
     for (int i = 0; i < 102; ++i) {
         tall += kRow + "0,1\nV\n";
     }
-    EXPECT_EQ(leftOutOf(dif(1, 102, tall + kEnd)).cells, 3U);
-    EXPECT_FALSE(leftOutOf(dif(1, 102, tall + kEnd)).end);
-    EXPECT_EQ(leftOutOf(dif(1, 1, kRow + "1,0\n\"" + std::string(251, 'x') + "\"\n" + kEnd)).texts, 1U);
+    EXPECT_EQ(leftOutOfDif(dif(1, 102, tall + kEnd)).cells, 3U);
+    EXPECT_FALSE(leftOutOfDif(dif(1, 102, tall + kEnd)).end);
+    EXPECT_EQ(leftOutOfDif(dif(1, 1, kRow + "1,0\n\"" + std::string(251, 'x') + "\"\n" + kEnd)).texts, 1U);
 }
 
 TEST(DifReader, TellsAFileThatEndsBeforeItsData) {
     const std::string whole = dif(1, 1, kRow + "0,1\nV\n" + kEnd);
-    EXPECT_FALSE(leftOutOf(whole).end);
+    EXPECT_FALSE(leftOutOfDif(whole).end);
     for (std::size_t length = 0; length + 2 < whole.size(); ++length) {
-        EXPECT_TRUE(leftOutOf(whole.substr(0, length)).end) << length;
+        EXPECT_TRUE(leftOutOfDif(whole.substr(0, length)).end) << length;
     }
 }
 

@@ -11,10 +11,10 @@ namespace {
 
 using test::repeated;
 
-constexpr CellPosition kCell{10, 5};
+constexpr CellPosition kF11{10, 5};
 
 std::string change(const std::string& text, WksDialect dialect = WksDialect::Own) {
-    return formulaChange(text, kCell, dialect);
+    return formulaChange(text, kF11, dialect);
 }
 
 int errorOf(const std::string& text, WksDialect dialect = WksDialect::Own) {

@@ -204,7 +204,7 @@ TEST(TextReaders, EveryPrefixAndAnyBytesAreSafe) {
 }
 
 /// What a reader of separated fields, or else of columns, leaves out.
-LeftOut leftOutOf(const std::string& content, bool separated = true) {
+LeftOut leftOutOfText(const std::string& content, bool separated = true) {
     return test::readSample(content, [separated](File& file) {
         LeftOut leftOut;
         if (separated) {
@@ -226,24 +226,24 @@ std::string repeatedText(const std::string& text, int count) {
 
 TEST(TextReaders, CountLinesThatHoldSomethingBelowTheSheet) {
     for (const bool separated : {true, false}) {
-        EXPECT_EQ(leftOutOf(repeatedText("1\n", 99), separated).rows, 0U);
-        EXPECT_EQ(leftOutOf(repeatedText("1\n", 101) + "\n  \n", separated).rows, 2U);
+        EXPECT_EQ(leftOutOfText(repeatedText("1\n", 99), separated).rows, 0U);
+        EXPECT_EQ(leftOutOfText(repeatedText("1\n", 101) + "\n  \n", separated).rows, 2U);
     }
 }
 
 TEST(TextReaders, CountColumnsBeyondTheSheetUpToTheLastThatHoldsSomething) {
-    EXPECT_EQ(leftOutOf(repeatedText("1;", 26)).columns, 0U) << "our own files end each cell so";
-    EXPECT_EQ(leftOutOf(repeatedText("1;", 26) + ";;").columns, 0U);
-    EXPECT_EQ(leftOutOf(repeatedText("1;", 26) + ";x;;\n" + repeatedText("1;", 27)).columns, 2U);
-    EXPECT_EQ(leftOutOf(repeatedText("1 ", 26), false).columns, 0U);
-    EXPECT_EQ(leftOutOf(repeatedText("1 ", 29), false).columns, 3U);
+    EXPECT_EQ(leftOutOfText(repeatedText("1;", 26)).columns, 0U) << "our own files end each cell so";
+    EXPECT_EQ(leftOutOfText(repeatedText("1;", 26) + ";;").columns, 0U);
+    EXPECT_EQ(leftOutOfText(repeatedText("1;", 26) + ";x;;\n" + repeatedText("1;", 27)).columns, 2U);
+    EXPECT_EQ(leftOutOfText(repeatedText("1 ", 26), false).columns, 0U);
+    EXPECT_EQ(leftOutOfText(repeatedText("1 ", 29), false).columns, 3U);
 }
 
 TEST(TextReaders, CountTextsThatAreCut) {
     const std::string text(250, 'x');
-    EXPECT_EQ(leftOutOf(text + ";\" " + text.substr(2) + " \"").texts, 0U);
-    EXPECT_EQ(leftOutOf(text + "y; " + text + "z").texts, 2U);
-    EXPECT_EQ(leftOutOf(std::string(251, '1')).texts, 0U) << "a number is not";
+    EXPECT_EQ(leftOutOfText(text + ";\" " + text.substr(2) + " \"").texts, 0U);
+    EXPECT_EQ(leftOutOfText(text + "y; " + text + "z").texts, 2U);
+    EXPECT_EQ(leftOutOfText(std::string(251, '1')).texts, 0U) << "a number is not";
 }
 
 }  // namespace

@@ -177,7 +177,7 @@ TEST(WksReader, PassesOnAFailureOfTheFile) {
     EXPECT_THROW(readWks(*opened), RunTimeError);
 }
 
-LeftOut leftOutOf(const std::string& content) {
+LeftOut leftOutOfWks(const std::string& content) {
     return readSample(content, [](File& file) {
         LeftOut leftOut;
         readWks(file, WksDialect::Own, &leftOut);
@@ -186,16 +186,16 @@ LeftOut leftOutOf(const std::string& content) {
 }
 
 TEST(WksReader, CountsCellsOutside) {
-    EXPECT_EQ(leftOutOf(file(integerRecord(25, 98, 1))).cells, 0U);
-    EXPECT_EQ(leftOutOf(file(integerRecord(26, 0, 2) + integerRecord(0, 99, 3))).cells, 2U);
+    EXPECT_EQ(leftOutOfWks(file(integerRecord(25, 98, 1))).cells, 0U);
+    EXPECT_EQ(leftOutOfWks(file(integerRecord(26, 0, 2) + integerRecord(0, 99, 3))).cells, 2U);
 }
 
 TEST(WksReader, TellsAFileThatIsCutOff) {
     const std::string whole = file(integerRecord(0, 0, 1) + labelRecord(1, 0, "Sum"));
-    EXPECT_FALSE(leftOutOf(whole).end);
-    EXPECT_FALSE(leftOutOf(whole + "rest").end) << "nothing belongs behind the end";
+    EXPECT_FALSE(leftOutOfWks(whole).end);
+    EXPECT_FALSE(leftOutOfWks(whole + "rest").end) << "nothing belongs behind the end";
     for (std::size_t length = 0; length < whole.size(); ++length) {
-        EXPECT_TRUE(leftOutOf(whole.substr(0, length)).end) << length;
+        EXPECT_TRUE(leftOutOfWks(whole.substr(0, length)).end) << length;
     }
 }
 
