@@ -18,6 +18,7 @@
 #include <cstring>
 #include <exception>
 #include <string>
+#include <system_error>
 
 #include "cable.h"
 
@@ -115,8 +116,10 @@ int main(int argc, char** argv) {
                 }
             }
         }
-        std::printf("%s\n%s\n", first.device().c_str(), second.device().c_str());
-        std::fflush(stdout);
+        if (std::printf("%s\n%s\n", first.device().c_str(), second.device().c_str()) < 0 ||
+            std::fflush(stdout) != 0) {
+            throw std::system_error(errno, std::generic_category(), "standard output");
+        }
         CableDirection forth(first, second, baud);
         CableDirection back(second, first, baud);
         carry(forth, back);

@@ -84,7 +84,7 @@ void runDataCommand(const DataRequest& request, const FileAccess& access) {
 
     const std::string text = access.readText(request.in, encodingOf(from, request.encoding));
     std::string lines;
-    for (const std::string& record : readRecords(text, separatorOf(from), access.tellOf(request.in))) {
+    for (const std::string& record : readRecords(text, separatorOf(from), access.tellOfInput(request.in))) {
         lines += separator == kTabs ? record : record_ToLine(record, separator);
         lines += "\r\n";
     }

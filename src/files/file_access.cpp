@@ -42,7 +42,7 @@ std::string FileAccess::readInput(const std::string& name) const {
 }
 
 std::string FileAccess::readText(const std::string& name, TextEncoding encoding) const {
-    return textFromBytes(readInput(name), encoding, tellOf(name));
+    return textFromBytes(readInput(name), encoding, tellOfInput(name));
 }
 
 void FileAccess::writeOutput(const std::string& name, std::string_view bytes) const {
@@ -58,7 +58,15 @@ void FileAccess::writeOutput(const std::string& name, std::string_view bytes) co
 
 void FileAccess::writeText(const std::string& name, std::string_view windows1252,
                            TextEncoding encoding) const {
-    writeOutput(name, bytesFromText(windows1252, encoding, tellOf(name)));
+    writeOutput(name, bytesFromText(windows1252, encoding, tellOfOutput(name)));
+}
+
+Tell FileAccess::tellOfInput(const std::string& name) const {
+    return remarks_.about(name == kStandardStream ? "standard input" : name);
+}
+
+Tell FileAccess::tellOfOutput(const std::string& name) const {
+    return remarks_.about(name == kStandardStream ? "standard output" : name);
 }
 
 std::string readAll(File& file) {

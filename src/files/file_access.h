@@ -58,7 +58,8 @@ class FileAccess {
     void writeText(const std::string& name, std::string_view windows1252, TextEncoding encoding) const;
 
     /// Where a command tells what it cannot keep of a file.
-    Tell tellOf(const std::string& name) const { return remarks_.about(name); }
+    Tell tellOfInput(const std::string& name) const;
+    Tell tellOfOutput(const std::string& name) const;
     /// Where a command prints what it has to say.
     std::ostream& out() const { return out_; }
     const PathRules& rules() const { return rules_; }

@@ -2,14 +2,12 @@
 
 #include <ostream>
 
-#include "files/file_access.h"
-
 namespace velmora {
 
 Tell Remarks::about(const std::string& name) {
-    return [this, shown = name == kStandardStream ? "standard input" : name](const std::string& what) {
+    return [this, name](const std::string& what) {
         any_ = true;
-        err_ << "velmora-files: " << shown << ": " << what << '\n';
+        err_ << "velmora-files: " << name << ": " << what << '\n';
     };
 }
 

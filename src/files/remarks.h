@@ -16,7 +16,7 @@ class Remarks {
     /// `err` must outlive it.
     explicit Remarks(std::ostream& err) : err_(err) {}
 
-    /// Tells of a file by the name that the user gave it.
+    /// Tells of a file by a name that its user knows.
     Tell about(const std::string& name);
     bool any() const { return any_; }
 

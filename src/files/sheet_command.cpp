@@ -3,6 +3,7 @@
 #include <array>
 
 #include "arguments/usage_error.h"
+#include "base/system_text.h"
 #include "files/quoted_line_breaks.h"
 #include "spreadsheet/spreadsheet.h"
 #include "spreadsheet/text_reader.h"
@@ -31,7 +32,7 @@ SheetGrid readText(const SheetRequest& request, int format, const FileAccess& ac
     }
     const std::string separator = request.separator.value_or(format == kFormatTab ? "\t" : ";");
     tellQuotedLineBreaks(text, separator.empty() ? ";,\t" : separator, InnerQuotes::AsTheyAre,
-                         access.tellOf(request.in));
+                         access.tellOfInput(request.in));
     return readDelimited(file, separator, request.locale, &leftOut);
 }
 
@@ -84,8 +85,11 @@ void runSheetCommand(const SheetRequest& request, const FileAccess& access) {
     } else {
         sheet = readText(request, from, access, leftOut);
     }
-    tellLeftOut(leftOut, access.tellOf(request.in));
-    const std::string bytes = sheetBytes(sheet, to, {request.locale, request.toDialect});
+    tellLeftOut(leftOut, access.tellOfInput(request.in));
+    const Tell tellOfOut = access.tellOfOutput(request.out);
+    const std::string bytes =
+        sheetBytes(sheet, to, {request.locale, request.toDialect},
+                   [&tellOfOut](const std::string& line) { tellOfOut(toSystemText(line)); });
     if (to == kFormatWks) {
         access.writeOutput(request.out, bytes);
     } else {

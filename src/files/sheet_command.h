@@ -25,8 +25,8 @@ struct SheetRequest {
     TextEncoding encoding = TextEncoding::Windows1252;  ///< of all formats but WKS
 };
 
-/// Converts a worksheet. Tells of what does not fit into a sheet. UsageError when a name tells no format,
-/// RunTimeError.
+/// Converts a worksheet. Tells of what does not fit into a sheet, and of formulas that a WKS file changes.
+/// UsageError when a name tells no format, RunTimeError.
 void runSheetCommand(const SheetRequest& request, const FileAccess& access);
 
 /// Tells of what a reader left out of a sheet.

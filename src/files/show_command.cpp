@@ -39,7 +39,7 @@ char shownSeparator(std::string_view bytes) {
 
 bool showSheet(FileKind kind, const std::string& bytes, const ShowRequest& request,
                const FileAccess& access) {
-    const Tell tell = access.tellOf(request.file);
+    const Tell tell = access.tellOfInput(request.file);
     LeftOut leftOut;
     BytesFile file(kind == FileKind::Dif ? textFromBytes(bytes, request.encoding, tell) : bytes);
     printSheet(kind == FileKind::Dif ? readDif(file, &leftOut) : readWks(file, request.dialect, &leftOut),
@@ -49,7 +49,7 @@ bool showSheet(FileKind kind, const std::string& bytes, const ShowRequest& reque
 }
 
 bool showText(FileKind kind, const std::string& bytes, const ShowRequest& request, const FileAccess& access) {
-    const Tell tell = access.tellOf(request.file);
+    const Tell tell = access.tellOfInput(request.file);
     const std::string text = textFromBytes(bytes, request.encoding, tell);
     if (kind == FileKind::Procedure) {
         printProcedure(text, access.out());

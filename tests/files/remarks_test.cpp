@@ -11,7 +11,7 @@ TEST(Remarks, EachIsALineWithTheNameOfItsFile) {
     std::ostringstream err;
     Remarks remarks(err);
     const Tell ofFile = remarks.about("a.csv");
-    const Tell ofInput = remarks.about("-");
+    const Tell ofInput = remarks.about("standard input");
     EXPECT_FALSE(remarks.any()) << "nothing was told yet";
     ofFile("it is cut off");
     ofInput("so is it");

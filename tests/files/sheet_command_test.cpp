@@ -50,6 +50,15 @@ TEST_F(SheetCommandTest, AWorksheetThatIsCutOffIsTold) {
     }
 }
 
+// The number comes back with an exponent, which the file cannot hold.
+TEST_F(SheetCommandTest, AFormulaThatAWorksheetWillNotGiveBackIsTold) {
+    SheetGrid half(1, 2);
+    half.at({0, 1}) = Formula{"0.5*A1"};
+    memory.addFile("/w/in.wks", writeWks(half, WksDialect::Own));
+    EXPECT_EQ(run({"sheet", "/w/in.wks", "-", "--to=wks", "--strict"}), kStatusLeftOut);
+    EXPECT_EQ(complaint, "velmora-files: standard output: B1: =5.0E-1*A1 comes back as =ERR\n");
+}
+
 TEST_F(SheetCommandTest, TextsOfThePcMayBeUtf8) {
     EXPECT_EQ(run({"sheet", "-", "/w/a.wks", "--from=tab"},
                   "\xEF\xBB\xBF"
