@@ -49,9 +49,9 @@ void readAtStart(benchmark::State& state, const std::string& file) {
         Strings strings;
         get_Messages(rig.ini, strings);
         Settings settings;
-        readSettings(rig.ini, SettingStep::get_Settings, settings);
+        readSettings(rig.ini, SettingStep::get_Settings, {}, settings);
         settings.ports = readPortDevices(rig.ini);
-        readSettings(rig.ini, SettingStep::init_Ports, settings);
+        readSettings(rig.ini, SettingStep::init_Ports, {}, settings);
         benchmark::DoNotOptimize(settings);
     }
 }

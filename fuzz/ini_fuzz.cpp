@@ -28,7 +28,7 @@ void readEverything(test::IniRig& rig) {
     for (const SettingStep step : {SettingStep::get_Settings, SettingStep::init_Ports}) {
         try {
             Settings settings;
-            readSettings(rig.ini, step, settings);
+            readSettings(rig.ini, step, {}, settings);
         } catch (const RunTimeError& error) {
             require(error.number() == 6 || error.number() == 13);
         }
