@@ -264,6 +264,26 @@ TEST_F(CommPosixTest, ReadingAnEmptyLineReturnsAtOnceWithNothing) {
     EXPECT_EQ(read(100), "");
 }
 
+TEST_F(CommPosixTest, WithAReadIntervalOfZeroAReadWaitsForItsFirstByte) {
+    openLine();
+    CommTimeouts timeouts;
+    timeouts.readInterval = 0;
+    timeouts.readTotalConstant = 20;
+    ASSERT_EQ(device.setTimeouts(timeouts), kSuccess);
+    char byte = 0;
+    std::size_t transferred = 1;
+    const auto start = std::chrono::steady_clock::now();
+    EXPECT_EQ(device.read(&byte, 1, transferred), kSuccess);
+    EXPECT_EQ(transferred, 0U);
+    EXPECT_GE(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(20));
+
+    timeouts.readTotalConstant = test::PtyPair::kPatienceMs;
+    ASSERT_EQ(device.setTimeouts(timeouts), kSuccess);
+    line.write("x");
+    EXPECT_EQ(device.read(&byte, 1, transferred), kSuccess);
+    EXPECT_EQ(transferred, 1U);
+}
+
 TEST_F(CommPosixTest, AHungUpLineIsAnErrorAndNotAnEmptyQueue) {
     openLine();
     line.closeMaster();

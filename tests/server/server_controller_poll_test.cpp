@@ -187,6 +187,19 @@ TEST_F(Poll, APortThatFailsWhileExitIsAskedWithdrawsTheQuestion) {
     EXPECT_EQ(controller.state(), Offline);
 }
 
+TEST_F(Poll, AnAcceptedShutdownGoesOnWhenItsQuestionAboutTheTransferHasBecomeMoot) {
+    options.AllowShutdown = true;
+    reach(Downld);
+    box.answer = false;
+    box.whileAsking = [this] {
+        portBreaks();
+        time.advance(milliseconds(40));
+    };
+    controller.setState(Shutdown);
+    EXPECT_EQ(controller.state(), Shutdown);
+    EXPECT_EQ(link.count("stop"), 1);
+}
+
 TEST_F(Poll, AWindowThatIsClosingGoesOnClosingWhenItsQuestionHasBecomeMoot) {
     reach(Downld);
     box.answer = false;
