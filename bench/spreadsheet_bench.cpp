@@ -1,6 +1,6 @@
 // How fast worksheets and formulas are converted. Targets on a desktop of today: a full sheet of formulas
 // written and read in under 5 ms each; half a million tokens a second both ways; junk records skipped in
-// time linear in their number, without being kept.
+// time linear in their number, without being kept; no file of 49 MB read for longer than 3 s.
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
