@@ -9,10 +9,11 @@ namespace velmora {
 std::string temporaryName(std::uint32_t number) {
     constexpr std::string_view kDigits = "0123456789abcdef";
     std::string letters(kTemporaryLetters, '0');
-    for (auto letter = letters.rbegin(); letter != letters.rend(); ++letter) {
-        *letter = kDigits[number % 16];
+    for (char& letter : letters) {
+        letter = kDigits[number % 16];
         number /= 16;
     }
+    std::reverse(letters.begin(), letters.end());
     return std::string(kTemporaryPrefix) + letters + std::string(kTemporarySuffix);
 }
 

@@ -86,7 +86,7 @@ Tools::Tools(const Files& files, const PathRules& rules, const TransferSettings&
     : files_(files), rules_(rules), settings_(settings) {}
 
 std::string Tools::map_FileName(std::string_view name, bool resolveExisting, bool allowWildcards) const {
-    const std::string path = pathOf(name, resolveExisting, allowWildcards);
+    std::string path = pathOf(name, resolveExisting, allowWildcards);
     if (path.empty() || !settings_.StayInFolder) {
         return path;
     }
@@ -114,7 +114,7 @@ std::string Tools::pathOf(std::string_view name, bool resolveExisting, bool allo
     if (!isFileName(file) || !files_.folderExists(folder)) {
         return {};
     }
-    const std::string path = rules_.join(folder, recased(rules_, file));
+    std::string path = rules_.join(folder, recased(rules_, file));
     if (allowWildcards) {
         return path;
     }

@@ -90,7 +90,7 @@ std::string formulaChange(std::string_view text, const CellPosition& formulaCell
     if (back == text) {
         return {};
     }
-    const std::string change = "=" + std::string(text) + " comes back as =" + back;
+    std::string change = "=" + std::string(text) + " comes back as =" + back;
     if (!saysTheSame(text, back)) {
         return change;
     }

@@ -1,5 +1,6 @@
 #include "transfers/earlier_copy_name.h"
 
+#include <array>
 #include <charconv>
 #include <cstdio>
 
@@ -62,10 +63,10 @@ bool endsAName(std::string_view text) {
 
 std::string earlierCopyName(std::string_view baseName, std::string_view extension, const DateTime& moment,
                             int number) {
-    char stamp[64];
-    std::snprintf(stamp, sizeof stamp, " (%04d-%02d-%02d %02d.%02d.%02d)", moment.year, moment.month,
+    std::array<char, 64> stamp{};
+    std::snprintf(stamp.data(), stamp.size(), " (%04d-%02d-%02d %02d.%02d.%02d)", moment.year, moment.month,
                   moment.day, moment.hour, moment.minute, moment.second);
-    std::string name = std::string(baseName) + stamp;
+    std::string name = std::string(baseName) + stamp.data();
     if (number > 1) {
         name += " (" + std::to_string(number) + ")";
     }
