@@ -87,7 +87,7 @@ TEST_F(Win32Profile, APathHasNoLimitAndComesBack) {
 }
 
 TEST_F(Win32Profile, AFileInWideCharactersIsRead) {
-    given(std::string("\xFF\xFE[\0S\0]\0\r\0\n\0A\0=\0\xE9\0\r\0\n\0", 24));
+    given(std::string("\xFF\xFE[\0S\0]\0\r\0\n\0A\0=\0\xE9\0\r\0\n\0", 22));
     EXPECT_EQ(text("S", "A"), "\xE9");
     EXPECT_EQ(profiles_.text(file_), "[S]\r\nA=\xE9\r\n");
 }
