@@ -3,6 +3,7 @@
 #include <array>
 
 #include "arguments/usage_error.h"
+#include "base/byte_text.h"
 #include "base/system_text.h"
 #include "files/quoted_line_breaks.h"
 #include "spreadsheet/spreadsheet.h"
@@ -89,7 +90,7 @@ void runSheetCommand(const SheetRequest& request, const FileAccess& access) {
     const Tell tellOfOut = access.tellOfOutput(request.out);
     const std::string bytes =
         sheetBytes(sheet, to, {request.locale, request.toDialect},
-                   [&tellOfOut](const std::string& line) { tellOfOut(toSystemText(line)); });
+                   [&tellOfOut](const std::string& line) { tellOfOut(toSystemText(showControls(line))); });
     if (to == kFormatWks) {
         access.writeOutput(request.out, bytes);
     } else {

@@ -1,5 +1,6 @@
 #include "files/sheet_command.h"
 
+#include "base/system_text.h"
 #include "files/tool_fixture.h"
 #include "spreadsheet/spreadsheet.h"
 #include "spreadsheet/wks_writer.h"
@@ -57,6 +58,16 @@ TEST_F(SheetCommandTest, AFormulaThatAWorksheetWillNotGiveBackIsTold) {
     memory.addFile("/w/in.wks", writeWks(half, WksDialect::Own));
     EXPECT_EQ(run({"sheet", "/w/in.wks", "-", "--to=wks", "--strict"}), kStatusLeftOut);
     EXPECT_EQ(complaint, "velmora-files: standard output: B1: =5.0E-1*A1 comes back as =ERR\n");
+}
+
+TEST_F(SheetCommandTest, ControlBytesOfAFormulaAreShownAndNotSentToTheTerminal) {
+    SheetGrid formulas(1, 1);
+    formulas.at({0, 0}) = Formula{"A1=\"caf\xE9 \x1B[2J\""};
+    memory.addFile("/w/common.wks", writeWks(formulas, WksDialect::Common));
+    EXPECT_EQ(run({"sheet", "/w/common.wks", "/w/own.wks", "--from-dialect=common", "--strict"}),
+              kStatusLeftOut);
+    EXPECT_EQ(complaint, "velmora-files: /w/own.wks: A1: =A1=\"" + toSystemText("caf\xE9") +
+                             " <1B>[2J\" comes back as =ERR\n");
 }
 
 TEST_F(SheetCommandTest, TextsOfThePcMayBeUtf8) {
