@@ -1,6 +1,5 @@
 // Where the server's lines go when nobody takes them.
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include <filesystem>
 #include <string>
@@ -37,9 +36,7 @@ TEST_F(OutputTest, AServerWhoseOutputNobodyReadsEndsOnASignal) {
     startServer({"--trace"});
     saveMuch();
     stopServer();
-    while (server->running()) {
-        ::usleep(1000);
-    }
+    ASSERT_TRUE(server->endsUnread());
     EXPECT_EQ(server->wait(), 0);
 }
 

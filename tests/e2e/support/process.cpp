@@ -166,6 +166,12 @@ void Process::signal(int number) const {
     ::kill(id_, number);
 }
 
+bool Process::endsUnread() const {
+    pollfd watched{end_, POLLIN, 0};
+    constexpr std::chrono::milliseconds kMilliseconds = kPatience;
+    return ::poll(&watched, 1, static_cast<int>(kMilliseconds.count())) == 1;
+}
+
 bool Process::running() {
     if (!reaped_) {
         int status = 0;

@@ -33,6 +33,8 @@ class Process {
 
     /// Reads everything, waits for the end and returns the exit status (128 + signal when it was killed).
     int wait();
+    /// Waits for the end and reads nothing, so that full pipes stay full; false when the program goes on.
+    bool endsUnread() const;
     /// Writes all of the standard input that the program gets, and ends it. Only for texts that fit a pipe.
     void feed(const std::string& input);
     /// Closes our end of the program's output and error output.
