@@ -25,7 +25,7 @@ scripts/build-sanitize.sh
 ctest --test-dir build-sanitize --output-on-failure -j "$jobs" -LE e2e --progress
 stage "Programs as they are released"
 scripts/build.sh build -DCMAKE_BUILD_TYPE=Release -DCMAKE_CXX_FLAGS_RELEASE="-O2 -DNDEBUG" -DBUILD_TESTING=ON \
-  -DVELMORA_WERROR=ON -- programs e2e_tests
+  -DVELMORA_WERROR=ON -DVELMORA_BENCH=ON -- programs e2e_tests benchmarks
 stage "End-to-end tests"
 ctest --test-dir build --output-on-failure -j "$jobs" -L e2e --progress
 stage "Windows"

@@ -10,7 +10,6 @@
 
 #include <csignal>
 #include <cstdlib>
-#include <ctime>
 #include <filesystem>
 
 #include "support/run_time_errors.h"
@@ -340,7 +339,8 @@ TEST_F(PosixFilesTest, AFileDeletedWhileItIsListedDoesNoHarm) {
 
 // Size.
 
-TEST_F(PosixFilesTest, AHundredThousandFilesAreFoundAndListedInNoTime) {
+// How long it takes is a figure of the benchmark of files; a search that is quadratic would not end here.
+TEST_F(PosixFilesTest, AHundredThousandFilesAreFoundAndListed) {
     constexpr int kCount = 100'000;
     for (int i = 0; i < kCount; ++i) {
         const int file = ::open(folder.path("Measurement " + std::to_string(i)).c_str(),
@@ -348,18 +348,10 @@ TEST_F(PosixFilesTest, AHundredThousandFilesAreFoundAndListedInNoTime) {
         ASSERT_NE(file, -1);
         ::close(file);
     }
-    // Processor time, so that a busy machine does not count.
-    const auto seconds = [](const auto& call) {
-        const std::clock_t start = std::clock();
-        call();
-        return static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
-    };
-    // Room for sanitizers; a quadratic search would take minutes.
-    constexpr double kLimit = 4;
-    EXPECT_LT(seconds([&] { EXPECT_FALSE(files.fileExists(folder.path("NO SUCH FILE"))); }), kLimit);
-    EXPECT_LT(seconds([&] { EXPECT_TRUE(files.fileExists(folder.path("MEASUREMENT 77777"))); }), kLimit);
-    EXPECT_LT(seconds([&] { EXPECT_TRUE(files.fileExists(folder.path("MEAS~999"))); }), kLimit);
-    EXPECT_LT(seconds([&] { EXPECT_EQ(listShort().size(), static_cast<std::size_t>(kCount)); }), kLimit);
+    EXPECT_FALSE(files.fileExists(folder.path("NO SUCH FILE")));
+    EXPECT_TRUE(files.fileExists(folder.path("MEASUREMENT 77777")));
+    EXPECT_TRUE(files.fileExists(folder.path("MEAS~999")));
+    EXPECT_EQ(listShort().size(), static_cast<std::size_t>(kCount));
 }
 
 }  // namespace

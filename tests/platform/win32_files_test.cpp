@@ -3,7 +3,6 @@
 #include <gmock/gmock.h>
 #include <windows.h>
 
-#include <ctime>
 #include <functional>
 #include <map>
 #include <memory>
@@ -336,17 +335,14 @@ TEST_F(Win32FilesTest, AFileDeletedWhileItIsListedDoesNoHarm) {
     EXPECT_LE(seen.size(), 2U);
 }
 
-TEST_F(Win32FilesTest, ThousandsOfFilesAreListedAndFoundInNoTime) {
+TEST_F(Win32FilesTest, ThousandsOfFilesWithoutShortNamesAreListedAndFound) {
     constexpr int kCount = 2'000;
     for (int i = 0; i < kCount; ++i) {
         folder.write(std::to_string(i) + "%");  // none has a short name of the volume's
     }
-    // Processor time of all there is to do; a quadratic search would take minutes.
-    const std::clock_t start = std::clock();
     EXPECT_EQ(listShort().size(), static_cast<std::size_t>(kCount));
     EXPECT_TRUE(files.fileExists(path("1711_~1")));
     EXPECT_FALSE(files.fileExists(path("NO~1")));
-    EXPECT_LT(std::clock() - start, 10 * CLOCKS_PER_SEC);
 }
 
 }  // namespace
