@@ -3,10 +3,12 @@
 
 #include <QLabel>
 #include <QLocale>
+#include <QMessageBox>
 #include <QProcess>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 #include <filesystem>
 #include <fstream>
 #include <memory>
@@ -43,6 +45,8 @@ class DesktopServerTest : public QObject {
     void pulledCableStopsTheServerUntilItIsBack();
     void missingDeviceTellsWhatToDo();
     void displayStatisticsAndFileAgree();
+    void cablePulledAmidAFileLosesItWhateverTheUserAnswers_data();
+    void cablePulledAmidAFileLosesItWhateverTheUserAnswers();
     void debugSwitchIsShownForTheWholeCommandLineOnly_data();
     void debugSwitchIsShownForTheWholeCommandLineOnly();
 
@@ -52,6 +56,25 @@ class DesktopServerTest : public QObject {
         std::filesystem::remove(port);
         std::filesystem::create_symlink(pty->slavePath(), port);
     }
+    /// Makes the port one end of a cable; the other is the handheld's. The cable ends with its process.
+    void layCable() {
+        cable.start(QStringLiteral(VELMORA_TOOLS_DIR "/velmora-cable"), QStringList());
+        QTRY_COMPARE(cable.bytesAvailable() > 0 ? cable.peek(4096).count('\n') : 0, qsizetype{2});
+        const QByteArray device = cable.readLine().trimmed();
+        handheld = QString::fromLocal8Bit(cable.readLine().trimmed());
+        std::filesystem::remove(port);
+        std::filesystem::create_symlink(device.toStdString(), port);
+    }
+    /// Starts an Organiser that saves a block file of so many bytes as NOTES.
+    void startSaving(std::size_t size, const QStringList& faults = {}) {
+        const std::filesystem::path local = home->filePath(QStringLiteral("local")).toStdString();
+        std::ofstream(local, std::ios::binary) << std::string(size, 'x');
+        organiser.start(QStringLiteral(VELMORA_BIN_DIR "/velmora-organiser"),
+                        QStringList{QStringLiteral("--device"), handheld} + faults +
+                            QStringList{QStringLiteral("save"), QString::fromStdString(local.string()),
+                                        QStringLiteral("--as"), QStringLiteral("NOTES"),
+                                        QStringLiteral("--type"), QStringLiteral("block:2")});
+    }
     QLabel* label(const char* name) const { return server->window().findChild<QLabel*>(QLatin1String(name)); }
     QPushButton* startStop() const {
         return server->window().findChild<QPushButton*>(QStringLiteral("pbStartStop"));
@@ -60,6 +83,9 @@ class DesktopServerTest : public QObject {
     std::unique_ptr<QTemporaryDir> home;
     std::filesystem::path port;
     std::unique_ptr<test::PtyPair> pty;
+    QProcess cable;
+    QString handheld;
+    QProcess organiser;
     std::unique_ptr<DesktopServer> server;
 };
 
@@ -126,33 +152,64 @@ void DesktopServerTest::missingDeviceTellsWhatToDo() {
 
 void DesktopServerTest::displayStatisticsAndFileAgree() {
     const std::filesystem::path folder = home->path().toStdString();
-    QProcess cable;
-    cable.start(QStringLiteral(VELMORA_TOOLS_DIR "/velmora-cable"), QStringList());
-    QTRY_COMPARE(cable.bytesAvailable() > 0 ? cable.peek(4096).count('\n') : 0, qsizetype{2});
-    const QByteArray device = cable.readLine().trimmed();
-    const QString handheld = QString::fromLocal8Bit(cable.readLine().trimmed());
-    std::filesystem::remove(port);
-    std::filesystem::create_symlink(device.toStdString(), port);
+    layCable();
     QVERIFY(server->start(""));
     PaintedTexts line1(*label("tlDisplay_1"));
     PaintedTexts line2(*label("tlDisplay_2"));
 
-    const std::string contents(3000, 'x');
-    std::ofstream(folder / "local", std::ios::binary) << contents;
-    QProcess organiser;
-    organiser.start(QStringLiteral(VELMORA_BIN_DIR "/velmora-organiser"),
-                    {QStringLiteral("--device"), handheld, QStringLiteral("save"),
-                     QString::fromStdString((folder / "local").string()), QStringLiteral("--as"),
-                     QStringLiteral("NOTES"), QStringLiteral("--type"), QStringLiteral("block:2")});
+    constexpr std::size_t kSize = 3000;
+    startSaving(kSize);
     QTRY_COMPARE_WITH_TIMEOUT(organiser.state(), QProcess::NotRunning, 30'000);
     QCOMPARE(organiser.exitCode(), 0);
 
-    QCOMPARE(std::filesystem::file_size(folder / "psion" / "Notes.ob2"), std::uintmax_t{contents.size() + 6});
+    QCOMPARE(std::filesystem::file_size(folder / "psion" / "Notes.ob2"), std::uintmax_t{kSize + 6});
     QCOMPARE(label("tlFilesRecv")->text(), QStringLiteral("1"));
     QCOMPARE(label("tlFilesSent")->text(), QStringLiteral("0"));
-    QVERIFY(QLocale::c().toInt(label("tlBytesRecv")->text()) >= int(contents.size()));
+    QVERIFY(QLocale::c().toInt(label("tlBytesRecv")->text()) >= int{kSize});
     QVERIFY2(line1.texts.contains(QStringLiteral("Downloading file")), qPrintable(line1.texts.join('|')));
     QVERIFY2(line2.texts.contains(QStringLiteral("Notes.ob2")), qPrintable(line2.texts.join('|')));
+    cable.closeWriteChannel();
+    QTRY_COMPARE(cable.state(), QProcess::NotRunning);
+}
+
+void DesktopServerTest::cablePulledAmidAFileLosesItWhateverTheUserAnswers_data() {
+    QTest::addColumn<QMessageBox::StandardButton>("answer");
+    QTest::newRow("goes on") << QMessageBox::No;
+    QTest::newRow("stops") << QMessageBox::Yes;
+}
+
+void DesktopServerTest::cablePulledAmidAFileLosesItWhateverTheUserAnswers() {
+    QFETCH(QMessageBox::StandardButton, answer);
+    layCable();
+    QVERIFY(server->start(""));
+    startSaving(60'000, {QStringLiteral("--delay"), QStringLiteral("5")});
+    QTRY_COMPARE(label("tlDisplay_1")->text(), QStringLiteral("Downloading file"));
+    // The question runs an event loop of its own, inside which it is answered.
+    int questions = 0;
+    QTimer user;
+    connect(&user, &QTimer::timeout, this, [&] {
+        if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+            ++questions;
+            QTest::mouseClick(box->button(answer), Qt::LeftButton);
+        }
+    });
+    user.start(1);
+    cable.kill();
+
+    QTRY_COMPARE(server->controller().state(), int{Offline});
+    QCOMPARE(questions, 1);
+    QCOMPARE(label("tlDisplay_1")->text().trimmed(), QStringLiteral("Server Offline"));
+    QVERIFY(label("tlWarning")->isVisible());
+    QVERIFY(label("tlBottomText_2")->text().startsWith(QStringLiteral("COM40: ")));
+    QVERIFY2(label("tlBottomText_3")->text().contains(QStringLiteral("The transfer is lost.")),
+             qPrintable(label("tlBottomText_3")->text()));
+
+    QTRY_COMPARE_WITH_TIMEOUT(organiser.state(), QProcess::NotRunning, 30'000);
+    layCable();
+    QTest::mouseClick(startStop(), Qt::LeftButton);
+    startSaving(3000);
+    QTRY_COMPARE_WITH_TIMEOUT(organiser.state(), QProcess::NotRunning, 30'000);
+    QCOMPARE(organiser.exitCode(), 0);
     cable.closeWriteChannel();
     QTRY_COMPARE(cable.state(), QProcess::NotRunning);
 }
