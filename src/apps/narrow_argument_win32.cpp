@@ -19,7 +19,7 @@ std::string narrowArgument(const std::wstring& word) {
         }
     }
     throw UsageError("\"" + ansiPath(word) +
-                     "\" has a character that this system's ANSI code page lacks, shown as \"?\"");
+                     R"(" has a character that this system's ANSI code page lacks, shown as "?")");
 }
 
 }  // namespace velmora

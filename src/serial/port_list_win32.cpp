@@ -34,8 +34,8 @@ std::vector<FoundPort> announcedPorts() {
     for (DWORD index = 0;; ++index) {
         Buffer driver{};
         Buffer name{};
-        DWORD driverLength = static_cast<DWORD>(driver.size());
-        DWORD nameSize = static_cast<DWORD>(name.size());
+        auto driverLength = static_cast<DWORD>(driver.size());
+        auto nameSize = static_cast<DWORD>(name.size());
         DWORD type = 0;
         const LSTATUS status = RegEnumValueA(key, index, driver.data(), &driverLength, nullptr, &type,
                                              reinterpret_cast<BYTE*>(name.data()), &nameSize);
@@ -68,7 +68,7 @@ std::string portName(HDEVINFO devices, SP_DEVINFO_DATA& device) {
         return {};
     }
     Buffer name{};
-    DWORD size = static_cast<DWORD>(name.size());
+    auto size = static_cast<DWORD>(name.size());
     DWORD type = 0;
     const LSTATUS status =
         RegQueryValueExA(key, "PortName", nullptr, &type, reinterpret_cast<BYTE*>(name.data()), &size);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstring>
+#include <ranges>
 #include <string_view>
 
 namespace velmora {
@@ -45,8 +46,8 @@ class OpenKey {
 std::string hexText(std::string_view littleEndian) {
     constexpr std::string_view kDigits = "0123456789ABCDEF";
     std::string text = "&h";
-    for (auto byte = littleEndian.rbegin(); byte != littleEndian.rend(); ++byte) {
-        const auto code = static_cast<unsigned char>(*byte);
+    for (const char byte : std::views::reverse(littleEndian)) {
+        const auto code = static_cast<unsigned char>(byte);
         text += kDigits[code >> 4];
         text += kDigits[code & 0xF];
     }

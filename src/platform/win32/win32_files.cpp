@@ -248,7 +248,7 @@ std::string Win32Files::createTemporaryFile(const std::string& folder) {
     const std::string place = lookup_.lookUp(folder.empty() ? temporaryFolder_ : folder);
     std::random_device random;
     while (true) {
-        const std::string path = withSeparator(place) + temporaryName(random());
+        std::string path = withSeparator(place) + temporaryName(random());
         const Win32Handle file(
             CreateFileA(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr));
         if (file.isValid()) {

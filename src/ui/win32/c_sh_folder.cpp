@@ -2,6 +2,8 @@
 
 #include <shlobj.h>
 
+#include <array>
+
 #include "ui/win32/item_lists.h"
 #include "ui/win32/sh_folder_callback.h"
 
@@ -83,11 +85,11 @@ std::string cSHFolder::BrowseForFolder(HWND owner, const std::optional<std::stri
     const OleScope ole;
     const ItemList rootItem = specialFolderItem(owner, root);
     const std::string title = prompt.value_or(FolderQuestion().prompt);
-    char name[MAX_PATH] = "";
+    std::array<char, MAX_PATH> name{};
     BROWSEINFOA info{};
     info.hwndOwner = owner;
     info.pidlRoot = rootItem.get();
-    info.pszDisplayName = name;
+    info.pszDisplayName = name.data();
     info.lpszTitle = title.c_str();
     info.ulFlags = BIF_RETURNONLYFSDIRS | (newDialog_ ? BIF_NEWDIALOGSTYLE : 0) |
                    (statusTextArea_ ? BIF_STATUSTEXT : 0) | (includeFiles_ ? BIF_BROWSEINCLUDEFILES : 0) |

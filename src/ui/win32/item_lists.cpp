@@ -1,5 +1,7 @@
 #include "ui/win32/item_lists.h"
 
+#include <array>
+
 #include "platform/win32/ansi_text.h"
 
 namespace velmora {
@@ -13,8 +15,8 @@ ItemList specialFolderItem(HWND owner, int number) {
 }
 
 std::optional<std::string> pathOfItem(PCIDLIST_ABSOLUTE item) {
-    wchar_t path[MAX_PATH] = L"";
-    return SHGetPathFromIDListW(item, path) == FALSE ? std::string() : exactPath(path);
+    std::array<wchar_t, MAX_PATH> path{};
+    return SHGetPathFromIDListW(item, path.data()) == FALSE ? std::string() : exactPath(path.data());
 }
 
 }  // namespace velmora
