@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <cstring>
-#include <ranges>
 #include <string_view>
 
 namespace velmora {
@@ -46,7 +45,7 @@ class OpenKey {
 std::string hexText(std::string_view littleEndian) {
     constexpr std::string_view kDigits = "0123456789ABCDEF";
     std::string text = "&h";
-    for (const char byte : std::views::reverse(littleEndian)) {
+    for (const char byte : std::string(littleEndian.rbegin(), littleEndian.rend())) {
         const auto code = static_cast<unsigned char>(byte);
         text += kDigits[code >> 4];
         text += kDigits[code & 0xF];
