@@ -2,7 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <random>
+#include <string>
+#include <vector>
 
 #include "base/run_time_error.h"
 #include "spreadsheet/sample_file.h"
@@ -53,6 +56,29 @@ TEST(WksReader, TheSizeFollowsTheCellsThatAreKept) {
     const SheetGrid sheet = read(file(integerRecord(1, 1, 1) + integerRecord(26, 50, 2)));
     EXPECT_EQ(sheet.rows(), 2);
     EXPECT_EQ(sheet.columns(), 2);
+}
+
+TEST(WksReader, CellsComeInAnyOrder) {
+    SheetGrid expected(4, 3);
+    expected.at({0, 1}) = std::int16_t{-2};
+    expected.at({0, 2}) = 1.5;
+    expected.at({2, 0}) = Label{"Sum"};
+    expected.at({3, 1}) = std::int16_t{4};
+    expected.at({1, 1}) = Formula{"A1+B1"};
+    std::vector<std::string> records = {integerRecord(1, 0, -2), numberRecord(2, 0, 1.5),
+                                        labelRecord(0, 2, "Sum"), integerRecord(1, 3, 4),
+                                        formulaRecord(1, 1, ref(-1, -1) + ref(0, -1) + bytes({9}) + end)};
+    std::sort(records.begin(), records.end());
+    int orders = 0;
+    do {
+        std::string all;
+        for (const std::string& each : records) {
+            all += each;
+        }
+        EXPECT_EQ(read(file(all)), expected);
+        ++orders;
+    } while (std::next_permutation(records.begin(), records.end()));
+    EXPECT_EQ(orders, 120);
 }
 
 TEST(WksReader, CellsOutsideAreLeftOut) {
