@@ -10,6 +10,8 @@ for program in build-bench/bench/*_bench; do
   echo "== $(basename "$program")"
   "$program" --benchmark_min_time=0.3 2> /dev/null
 done
-echo
-echo "== bench/end_to_end.sh"
-bench/end_to_end.sh build-bench
+for script in end_to_end line_share wakeups; do
+  echo
+  echo "== bench/$script.sh"
+  "bench/$script.sh" build-bench
+done

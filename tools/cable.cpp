@@ -10,6 +10,7 @@
 #include <array>
 #include <cerrno>
 #include <system_error>
+#include <utility>
 
 namespace velmora::tools {
 namespace {
@@ -91,6 +92,10 @@ CableDirection::Time CableDirection::nextArrival() const {
     return burst.start + byteTime_ * (burst.done + 1);
 }
 
+std::optional<CableDirection::Time> CableDirection::takeArrival() {
+    return bursts_.empty() ? std::exchange(arrival_, std::nullopt) : std::nullopt;
+}
+
 void CableDirection::deliver(Time now) {
     while (!bursts_.empty()) {
         Burst& burst = bursts_.front();
@@ -113,6 +118,7 @@ void CableDirection::deliver(Time now) {
             burst.done += gone;
             waiting_ -= gone;
             carried_ += count > 0 ? gone : 0;
+            arrival_ = now;
         }
         if (burst.done < burst.bytes.size()) {
             return;

@@ -4,6 +4,7 @@
 #include <chrono>
 #include <cstddef>
 #include <deque>
+#include <optional>
 #include <string>
 
 namespace velmora::tools {
@@ -47,6 +48,9 @@ class CableDirection {
     int source() const { return from_.master(); }
     /// Bytes carried so far.
     std::size_t carried() const { return carried_; }
+    /// When the last of the bytes carried so far arrived, once: nothing while some are under way, and until
+    /// more have arrived than at the last call.
+    std::optional<Time> takeArrival();
 
   private:
     struct Burst {
@@ -61,7 +65,8 @@ class CableDirection {
     std::deque<Burst> bursts_;
     std::size_t waiting_ = 0;  // bytes in bursts_ that are not yet done
     std::size_t carried_ = 0;
-    bool blocked_ = false;  // the other end took nothing; try again at retry_
+    std::optional<Time> arrival_;  // of the last byte, until it is taken
+    bool blocked_ = false;         // the other end took nothing; try again at retry_
     Time retry_{};
 };
 

@@ -4,21 +4,25 @@
 // Prints the two devices, one a line, and carries bytes until its standard input closes or it is told to
 // stop. With --baud the bytes take the time that they take on a real line. With --link LINK1 LINK2 symbolic
 // links are made to the devices. With --held the devices are in use by the cable itself, as far as other
-// programs can tell, so that opening them fails. On exit it prints how many bytes went each way.
+// programs can tell, so that opening them fails. On exit it prints how many bytes went each way, and how soon
+// the first device answered: the time from a last byte's arrival there to the first one from there.
 
 #include <poll.h>
 #include <signal.h>
 #include <sys/prctl.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <chrono>
+#include <cstddef>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <exception>
 #include <string>
 #include <system_error>
+#include <vector>
 
 #include "cable.h"
 
@@ -51,27 +55,45 @@ const timespec* waitTime(Clock::time_point next, timespec& storage) {
     return &storage;
 }
 
-void carry(CableDirection& forth, CableDirection& back) {
+/// The middle one of some times, in microseconds; 0 when there are none.
+double medianMicroseconds(std::vector<Clock::duration> times) {
+    if (times.empty()) {
+        return 0;
+    }
+    const auto middle = times.begin() + static_cast<std::ptrdiff_t>(times.size() / 2);
+    std::nth_element(times.begin(), middle, times.end());
+    return std::chrono::duration<double, std::micro>(*middle).count();
+}
+
+/// Carries until the input closes; returns how long the first end took for each of its answers.
+std::vector<Clock::duration> carry(CableDirection& forth, CableDirection& back) {
+    std::vector<Clock::duration> answers;
     std::array<pollfd, 3> watched = {pollfd{forth.source(), POLLIN, 0}, pollfd{back.source(), POLLIN, 0},
                                      pollfd{STDIN_FILENO, POLLIN, 0}};
     while (stopRequested == 0) {
         timespec storage{};
         const timespec* wait = waitTime(std::min(forth.nextArrival(), back.nextArrival()), storage);
         if (::ppoll(watched.data(), watched.size(), wait, nullptr) < 0 && errno != EINTR) {
-            return;
+            break;
         }
         const Clock::time_point now = Clock::now();
+        if (watched[0].revents != 0) {
+            if (const auto arrival = back.takeArrival()) {
+                answers.push_back(now - *arrival);
+            }
+        }
         if ((watched[0].revents != 0 && !forth.receive(now)) ||
             (watched[1].revents != 0 && !back.receive(now))) {
-            return;
+            break;
         }
         forth.deliver(Clock::now());
         back.deliver(Clock::now());
         char ignored = 0;
         if (watched[2].revents != 0 && ::read(STDIN_FILENO, &ignored, 1) <= 0) {
-            return;
+            break;
         }
     }
+    return answers;
 }
 
 }  // namespace
@@ -122,8 +144,9 @@ int main(int argc, char** argv) {
         }
         CableDirection forth(first, second, baud);
         CableDirection back(second, first, baud);
-        carry(forth, back);
+        const auto answers = carry(forth, back);
         std::printf("carried %zu %zu\n", forth.carried(), back.carried());
+        std::printf("answers %zu, median %.0f us\n", answers.size(), medianMicroseconds(answers));
         for (const char* link : links) {
             if (link != nullptr) {
                 ::unlink(link);

@@ -55,6 +55,7 @@ struct ServerCoreParts {
     EventYield& yield;
     std::string programData;                          ///< KnownFolders::programData()
     std::function<std::string(int number)> portName;  ///< as ServerParts has it
+    std::function<bool()> portWatched;                ///< as ServerParts has it
 };
 
 /// One object of each kind, from the settings to the services, connected.

@@ -27,7 +27,7 @@ class Timer {
 
   protected:
     /// Runs the handler, for the implementations.
-    void tick() const {
+    virtual void tick() {
         if (handler_) {
             handler_();
         }

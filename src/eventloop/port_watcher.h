@@ -14,7 +14,8 @@ namespace velmora {
 /// on, so there the poll's own interval is what it takes.
 ///
 /// The poll may be switched off while the link works; the watch then rests with it, since a descriptor that
-/// stays readable would otherwise keep the event loop busy.
+/// stays readable would otherwise keep the event loop busy. For the same reason it rests once it has woken
+/// the poll, until that is switched on again, as a poll that reads is, or ticks.
 class PortWatcher : public PortObserver {
   public:
     /// `onReadable` runs on the event loop when the port has bytes or has hung up.
@@ -27,6 +28,8 @@ class PortWatcher : public PortObserver {
     void portClosing(std::intptr_t handle) override;
     /// Switches the watch on and off together with the poll.
     void setActive(bool active);
+    /// Whether bytes, or the end of the port, will wake the poll.
+    bool watches() const;
 
   private:
     class Watch;  // the system's side
@@ -34,7 +37,8 @@ class PortWatcher : public PortObserver {
     std::unique_ptr<Watch> watch_;
 };
 
-/// A poll timer that takes the watch along when it is switched on and off.
+/// A poll timer that takes the watch along when it is switched on and off, and switches a watch that rests on
+/// again when it ticks.
 template <typename TimerBase>
 class WatchedTimer : public TimerBase {
   public:
@@ -42,6 +46,12 @@ class WatchedTimer : public TimerBase {
     void setEnabled(bool enabled) override {
         TimerBase::setEnabled(enabled);
         watcher_.setActive(enabled);
+    }
+
+  protected:
+    void tick() override {
+        watcher_.setActive(true);
+        TimerBase::tick();
     }
 
   private:

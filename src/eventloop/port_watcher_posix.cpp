@@ -28,11 +28,12 @@ class PortWatcher::Watch {
             notifier_->setEnabled(active);
         }
     }
+    bool watches() const { return notifier_ && notifier_->isEnabled(); }
 
   private:
     void wake() {
         // Once only: a poll that reads switches itself, and so the watch, on again. One that leaves the bytes
-        // where they are (a question waits for its answer) must not be woken by them over and over.
+        // where they are (the link is being stopped) must not be woken by them over and over.
         notifier_->setEnabled(false);
         onReadable_();
     }
@@ -56,6 +57,10 @@ void PortWatcher::portClosing(std::intptr_t /*handle*/) {
 
 void PortWatcher::setActive(bool active) {
     watch_->setActive(active);
+}
+
+bool PortWatcher::watches() const {
+    return watch_->watches();
 }
 
 }  // namespace velmora

@@ -12,5 +12,8 @@ PortWatcher::~PortWatcher() = default;
 void PortWatcher::portOpened(std::intptr_t /*handle*/) {}
 void PortWatcher::portClosing(std::intptr_t /*handle*/) {}
 void PortWatcher::setActive(bool /*active*/) {}
+bool PortWatcher::watches() const {
+    return false;
+}
 
 }  // namespace velmora

@@ -1,8 +1,6 @@
 // What is shown, and the buttons.
 #include "server/server_controller.h"
 
-#include <chrono>
-
 #include "base/byte_text.h"
 #include "server/caption.h"
 #include "server/controller_scope.h"
@@ -13,12 +11,6 @@
 
 namespace velmora {
 
-namespace {
-
-constexpr std::chrono::milliseconds kPollInterval{20};
-
-}  // namespace
-
 ServerController::ServerController(const ServerParts& parts)
     : parts_(parts), mirror_(parts.DisplayTimer, [this](int line, const std::string& text) {
           parts_.view.setDisplayLine(line, text);
@@ -26,7 +18,7 @@ ServerController::ServerController(const ServerParts& parts)
     parts_.ComTimer.onTick([this] { ComTimer_Tick(); });
     parts_.PLPtimer.onTick([this] { PLPtimer_Tick(); });
     parts_.DisplayTimer.onTick([this] { DisplayTimer_Tick(); });
-    parts_.ComTimer.setInterval(kPollInterval);
+    pacePoll();
     parts_.ComTimer.setEnabled(true);
     ShowStats();
 }

@@ -44,6 +44,8 @@ struct ServerParts {
     std::function<std::string(const std::string& path)> displayName;
     /// What messages call the port of a number; without it "COM<n>".
     std::function<std::string(int number)> portName = {};
+    /// Whether bytes that come, and the end of the port, run the poll by themselves; without it they do not.
+    std::function<bool()> portWatched = {};
 };
 
 /// What the end of the program saves and closes; each may be missing.
@@ -65,6 +67,10 @@ enum class CloseReason {
 /// Starts and stops the server, polls the port, drives the link and reacts to the Organiser's EXIT and
 /// SHUTDOWN requests. Everything runs on one thread, from timer ticks and button events.
 ///
+/// The poll ticks as often as it must: not at all while the server is stopped, every 20 ms while it runs, and
+/// only once a second where the system tells of bytes anyway. What the system does not tell of is looked for
+/// every 20 ms all the same: a failed link, and whatever may happen behind a question.
+///
 /// Timers tick while a message box waits, and events may run inside calls of the link, so state changes can
 /// be nested. The rules that keep them apart:
 /// - While a question is on the screen it is not asked a second time; what would have asked it ends there.
@@ -81,7 +87,7 @@ enum class CloseReason {
 /// - A question about a server that has gone offline behind it closes by itself.
 class ServerController : public ServerWindow {
   public:
-    /// Sets ComTimer to 20 ms and enables it, connects the ticks of the three timers, shows the statistics.
+    /// Enables ComTimer, connects the ticks of the three timers, shows the statistics.
     explicit ServerController(const ServerParts& parts);
     /// Takes its ticks off the timers.
     ~ServerController() override;
@@ -180,6 +186,8 @@ class ServerController : public ServerWindow {
     void saveSettings(bool portChosen);
 
     // Port.
+    void poll();
+    void pacePoll();
     void receive();
     void afterLinkCall();
     void portFails();

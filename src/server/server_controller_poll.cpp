@@ -1,4 +1,6 @@
 // What the timers drive.
+#include <algorithm>
+#include <chrono>
 #include <utility>
 
 #include "server/controller_scope.h"
@@ -6,10 +8,40 @@
 
 namespace velmora {
 
+namespace {
+
+using std::chrono::milliseconds;
+
+constexpr milliseconds kPollInterval{20};
+/// A look now and then, should the system ever fail to tell.
+constexpr milliseconds kWatchedPollInterval{1000};
+constexpr milliseconds kNever{0};
+
+}  // namespace
+
 void ServerController::ComTimer_Tick() {
     if (closed_ || !parts_.ComTimer.enabled()) {
         return;
     }
+    poll();
+    // Bytes that were left where they are do not tell of themselves again.
+    pacePoll();
+}
+
+/// Gives the poll the interval that it needs now; its count-down goes on when that is the one it has.
+void ServerController::pacePoll() {
+    const bool asks = std::find(asking_.begin(), asking_.end(), true) != asking_.end();
+    const bool told = parts_.portWatched && parts_.portWatched() && state_ != LinkFailed && !asks;
+    milliseconds wanted = kNever;
+    if (running()) {
+        wanted = told ? kWatchedPollInterval : kPollInterval;
+    }
+    if (parts_.ComTimer.interval() != wanted) {
+        parts_.ComTimer.setInterval(wanted);
+    }
+}
+
+void ServerController::poll() {
     if (state_ == LinkFailed) {
         setState(Offline);
         return;

@@ -144,6 +144,7 @@ void ServerController::storeState(std::int32_t next) {
         parts_.PLPtimer.setEnabled(false);
     }
     state_ = next;
+    pacePoll();
     if (parts_.view.isMinimised()) {
         parts_.view.setCaption(
             minimisedCaption(parts_.strings.DisplayStrings[static_cast<std::size_t>(next)]));

@@ -69,10 +69,12 @@ bool ServerController::ask(Question question, BoxIcon icon, const std::string& t
         return false;
     }
     onScreen = true;
+    pacePoll();
     // For the Organiser's requests the box's own default stands; what interrupts a transfer must be chosen.
     const bool defaultYes = question != Question::UserInterrupt;
     const bool yes = parts_.box.askYesNo(icon, kProgramName, text, defaultYes, foreground);
     onScreen = false;
+    pacePoll();
     return yes;
 }
 

@@ -1,6 +1,7 @@
 #include <unistd.h>
 
 #include <array>
+#include <utility>
 
 #include "base/timer.h"
 #include "event_loop_fixture.h"
@@ -22,8 +23,9 @@ class PortWatcherTest : public EventLoopFixture {
     }
     ~PortWatcherTest() override {
         ::close(ends_[0]);
-        ::close(ends_[1]);
+        hangUp();
     }
+    void hangUp() { ::close(std::exchange(ends_[1], -1)); }
     void bytesCome() const { EXPECT_EQ(::write(ends_[1], "x", 1), 1); }
     /// Ends the loop after everything that is due.
     void endSoon() {
@@ -65,6 +67,47 @@ TEST_F(PortWatcherTest, RestsWithThePoll) {
         bytesCome();
         endSoon();
     });
+    watcher.portClosing(port());
+}
+
+TEST_F(PortWatcherTest, WatchesAnOpenPortUntilItHasWokenThePoll) {
+    PortWatcher watcher([] { QCoreApplication::exit(); });
+    EXPECT_FALSE(watcher.watches()) << "no port";
+    watcher.portOpened(port());
+    EXPECT_TRUE(watcher.watches());
+    run([&] { bytesCome(); });
+    EXPECT_FALSE(watcher.watches()) << "the bytes were left where they are";
+    watcher.setActive(true);
+    EXPECT_TRUE(watcher.watches());
+    watcher.portClosing(port());
+    EXPECT_FALSE(watcher.watches());
+}
+
+TEST_F(PortWatcherTest, ATickOfThePollSwitchesTheWatchOnAgain) {
+    int woken = 0;
+    PortWatcher watcher([&] {
+        if (++woken == 3) {
+            QCoreApplication::exit();
+        }
+    });
+    WatchedTimer<QtTimer> poll(watcher);
+    int ticks = 0;
+    poll.onTick([&] {
+        ++ticks;
+        EXPECT_EQ(woken, ticks) << "once for each look";
+    });
+    poll.setInterval(5ms);
+    poll.setEnabled(true);
+    watcher.portOpened(port());
+    run([&] { bytesCome(); });
+    EXPECT_EQ(woken, 3);
+    watcher.portClosing(port());
+}
+
+TEST_F(PortWatcherTest, AHangUpWakesThePoll) {
+    PortWatcher watcher([] { QCoreApplication::exit(); });
+    watcher.portOpened(port());
+    run([&] { hangUp(); });
     watcher.portClosing(port());
 }
 

@@ -11,10 +11,10 @@ namespace {
 using Controller = test::ControllerTest;
 using test::milliseconds;
 
-TEST_F(Controller, StartsInStateNoughtWithThePollRunningAndTheStatisticsShown) {
+TEST_F(Controller, StartsInStateNoughtWithNothingToPollAndTheStatisticsShown) {
     EXPECT_EQ(controller.state(), Welcome);
     EXPECT_TRUE(comTimer.enabled());
-    EXPECT_EQ(comTimer.interval(), milliseconds(20));
+    EXPECT_FALSE(time.advanceToNextTick(milliseconds(1000)));
     EXPECT_FALSE(plpTimer.enabled());
     EXPECT_TRUE(view.statisticsVisible);
 }
@@ -27,6 +27,7 @@ TEST_F(Controller, TakesItsTicksOffTheTimersAtItsEnd) {
                                            otherTime.makeTimer(), otherTime.makeTimer(), otherTime, yield,
                                            [](const std::string& path) { return path; }});
     }
+    com.setInterval(milliseconds(20));
     EXPECT_TRUE(otherTime.advanceToNextTick(milliseconds(20)));
     EXPECT_TRUE(link.calls.empty());
 }

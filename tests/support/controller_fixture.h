@@ -58,9 +58,22 @@ class ControllerTest : public testing::Test {
     FakeTime::FakeTimer& plpTimer = time.makeTimer();
     FakeTime::FakeTimer& displayTimer = time.makeTimer();
     bool programEnded = false;
+    bool portWatched = false;
     ServerController controller{
-        {view, box, strings, options, transfer, port, comTimer, plpTimer, displayTimer, time, yield,
-         [](const std::string& path) { return path.substr(path.find_last_of("\\/") + 1); }}};
+        {view,
+         box,
+         strings,
+         options,
+         transfer,
+         port,
+         comTimer,
+         plpTimer,
+         displayTimer,
+         time,
+         yield,
+         [](const std::string& path) { return path.substr(path.find_last_of("\\/") + 1); },
+         {},
+         [this] { return portWatched; }}};
 };
 
 }  // namespace velmora::test

@@ -70,6 +70,7 @@ class ScriptedPort : public SerialPort {
     void setPortOpen(bool value) override { value ? OpenPort() : ClosePort(); }
     std::int16_t InBufferCount() override {
         requireOpen();
+        ++looks;
         if (countError) {
             throw CommError(*countError);
         }
@@ -87,6 +88,7 @@ class ScriptedPort : public SerialPort {
     std::optional<CommError> sendError;
     std::optional<CommError> readError;
     std::optional<CommError> countError;
+    int looks = 0;  ///< at how many bytes wait
     int refusedSends = 0;
     int emptyReads = 0;  ///< reads that come back empty although bytes wait
     int opened = 0;
