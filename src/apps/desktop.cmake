@@ -6,7 +6,8 @@ velmora_library(desktop_server
   LIBS velmora_server_program velmora_ui_qt velmora_qt_dialogs)
 
 add_executable(velmora velmora_main.cpp)
-target_link_libraries(velmora PRIVATE velmora_desktop_server velmora_server_arguments velmora_console)
+target_link_libraries(velmora PRIVATE
+  velmora_desktop_server velmora_server_arguments velmora_console velmora_hardening)
 # Windows opens no console for it.
 set_target_properties(velmora PROPERTIES WIN32_EXECUTABLE ON)
 velmora_windows_resources(velmora "Velmora")

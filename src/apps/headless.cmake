@@ -1,7 +1,7 @@
 # The server without a window.
 add_executable(velmorad velmorad_main.cpp headless_server.cpp)
 target_link_libraries(velmorad PRIVATE
-  velmora_server_program velmora_server_arguments velmora_console)
+  velmora_server_program velmora_server_arguments velmora_console velmora_hardening)
 target_compile_definitions(velmorad PRIVATE QT_NO_KEYWORDS)
 velmora_windows_resources(velmorad "Velmora server without a window")
 add_dependencies(programs velmorad)
