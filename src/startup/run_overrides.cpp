@@ -9,11 +9,12 @@
 namespace velmora {
 
 bool isOverridden(const RunOverrides& overrides, std::string_view section, std::string_view key) {
-    const std::array<std::pair<std::string_view, bool>, 5> given = {
+    const std::array<std::pair<std::string_view, bool>, 6> given = {
         {{"DOWNLOADPATH", overrides.folder.has_value()},
          {"PORT", overrides.port.has_value()},
          {"BAUD", overrides.baud.has_value()},
          {"DATAFILETYPE", overrides.fileType.has_value()},
+         {"STAYINFOLDER", overrides.stayInFolder.has_value()},
          {"AUTOSTART", overrides.autoStart.has_value()}}};
     const std::string wanted = upperCase(key);
     return upperCase(section) == "SETTINGS" &&

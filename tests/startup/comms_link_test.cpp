@@ -410,12 +410,15 @@ TEST_F(Startup, ThePortAndRateOfTheRunAreUsedAsTheyAre) {
 
 TEST_F(Startup, WhatTheRunOverridesCannotFailIt) {
     memory.addFolder("/current/demo");
-    givenIni("[Settings]\r\nPort=99999\r\nBaud=99999\r\nAutoStart=maybe\r\nDataFileType=99999\r\n");
+    givenIni(
+        "[Settings]\r\nPort=99999\r\nBaud=99999\r\nAutoStart=maybe\r\nDataFileType=99999\r\n"
+        "StayInFolder=maybe\r\n");
     form_.portNumbers["/dev/pts/5"] = 37;
     overrides_.port = "/dev/pts/5";
     overrides_.baud = 9600;
     overrides_.fileType = 1;
     overrides_.autoStart = true;
+    overrides_.stayInFolder = true;
     EXPECT_EQ(start().outcome, StartupOutcome::Running);
     EXPECT_EQ(form_.scriptedPort.number, 37);
     EXPECT_EQ(transfer_.DataFileType, 1);

@@ -170,7 +170,8 @@ TEST_F(SettingsSaved, WhatTheCommandLineSaidIsNotWritten) {
     overrides_.folder = "/x";
     overrides_.fileType = 3;
     overrides_.autoStart = true;
-    for (const char* key : {"Port", "Baud", "DownloadPath", "DataFileType", "AutoStart"}) {
+    overrides_.stayInFolder = true;
+    for (const char* key : {"Port", "Baud", "DownloadPath", "DataFileType", "AutoStart", "StayInFolder"}) {
         store_.put("Settings", key, "9");
     }
     EXPECT_EQ(contents(), before);
