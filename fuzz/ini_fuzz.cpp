@@ -6,6 +6,7 @@
 
 #include "base/message_box.h"
 #include "base/run_time_error.h"
+#include "platform/profile/profile_encoding.h"
 #include "platform/profile/text_profile_files.h"
 #include "startup/ini_file.h"
 #include "startup/messages.h"
@@ -75,7 +76,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::string before(reinterpret_cast<const char*>(data), size);
     test::IniRig rig;
     rig.given(before);
-    if (before.starts_with("\xFF\xFE") || before.starts_with("\xFE\xFF")) {
+    if (isUtf16(before)) {
         require(isRefused(rig));
         return 0;
     }

@@ -54,6 +54,11 @@ bool isUtf8(std::string_view bytes) {
     return true;
 }
 
+bool isUtf16(std::string_view file) {
+    const bool oneOfTwoIsZero = file.size() >= 2 && (file[0] == '\0') != (file[1] == '\0');
+    return oneOfTwoIsZero || file.starts_with("\xFF\xFE") || file.starts_with("\xFE\xFF");
+}
+
 ProfileEncoding detectEncoding(std::string_view file) {
     if (file.starts_with(kUtf8Mark)) {
         return ProfileEncoding::Utf8;

@@ -38,7 +38,7 @@ const ProfileText& TextProfileFiles::load(const std::string& file) {
         content.resize(static_cast<std::size_t>(size));
         content.resize(opened->read(content.data(), content.size()));
     }
-    if (content.starts_with("\xFF\xFE") || content.starts_with("\xFE\xFF")) {
+    if (isUtf16(content)) {
         throw RunTimeError(ErrorNumber::TypeMismatch, file + " is UTF-16; save it as UTF-8");
     }
     if (content != last_->content()) {

@@ -192,8 +192,10 @@ TEST_F(Profile, AStrangeFileIsReadAndAnEntryAddedWithoutDamage) {
 }
 
 TEST_F(Profile, AUtf16FileIsNotTakenForAnEmptyOne) {
-    for (const std::string mark : {"\xFF\xFE", "\xFE\xFF"}) {
-        given(mark + std::string("[\0S\0]\0", 6));
+    const std::string little("[\0S\0]\0", 6);
+    const std::string big("\0[\0S\0]", 6);
+    for (const std::string& bytes : {"\xFF\xFE" + little, "\xFE\xFF" + big, little, big}) {
+        given(bytes);
         try {
             profiles_.getString("S", "Key", "", 255, kTextFile);
             ADD_FAILURE() << "it was read";
