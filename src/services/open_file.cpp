@@ -21,6 +21,12 @@ bool isBlockFile(int kind) {
     return kind < kKindProcedure;
 }
 
+/// Whether the Organiser is going to write over what a file holds. Blocks and procedures begin at the first
+/// byte in every mode; text is added at the end, and any other file is changed where the Organiser seeks to.
+bool writesOver(int mode, int kind) {
+    return mode == kModeCreate || mode == kModeReplace || (mode == kModeAppend && kind <= kKindProcedure);
+}
+
 /// Overflow comes from what the file is to hold, not from the file layer.
 bool isFileFailure(const RunTimeError& error) {
     return error.errorNumber() != ErrorNumber::Overflow;
@@ -120,8 +126,7 @@ void OpenFile::openForReading(const std::string& path, int kind) {
 
 void OpenFile::openForWriting(const std::string& path, int mode, int kind) {
     const std::string target = mode == kModeCreateNew ? path : files_.storedPath(path);
-    const bool replaces = mode == kModeCreate || mode == kModeReplace;
-    save_ = {target, 0, replaces ? copies_.keep(target) : std::string()};
+    save_ = {target, 0, writesOver(mode, kind) ? copies_.keep(target) : std::string()};
     file_ = files_.open(target, writingMode(mode));
     unfinished_ = mode != kModeAppend;
     if (kind == kKindText) {

@@ -406,6 +406,8 @@ TEST_F(OpenFileTest, AProcedureIsWrittenWithoutAHeader) {
 
 constexpr const char* kCopy = "/copies/f (2026-03-28 14.05.09)";
 
+constexpr int kBlockKind = -3;
+
 class KindTest : public OpenFileTest, public testing::WithParamInterface<int> {};
 
 TEST_P(KindTest, WhatIsReplacedIsKept) {
@@ -421,10 +423,21 @@ TEST_P(KindTest, WhatIsReplacedIsKept) {
 
 TEST_P(KindTest, NothingIsKeptOfWhatIsNotReplaced) {
     add("old");
-    for (const int mode : {0, 3, 4}) {
+    for (const int mode : {0, 3}) {
         open(mode, GetParam());
         file.close();
         EXPECT_FALSE(memory.folderExists("/copies")) << mode;
+    }
+}
+
+TEST_P(KindTest, WhatIsWrittenOverFromItsStartIsKept) {
+    const bool writtenOver = GetParam() == kKindProcedure || GetParam() == kBlockKind;
+    add("old and whole");
+    ASSERT_EQ(open(4, GetParam()), kOpenForWriting);
+    file.writeRecord("new");
+    ASSERT_EQ(memory.fileExists(kCopy), writtenOver);
+    if (writtenOver) {
+        EXPECT_EQ(memory.content(kCopy), "old and whole");
     }
 }
 
@@ -444,7 +457,8 @@ TEST_P(KindTest, ACopyThatFailsDoesNotHinderTheSave) {
     EXPECT_EQ(window.warnings.size(), 1U);
 }
 
-INSTANTIATE_TEST_SUITE_P(Kinds, KindTest, testing::Values(kKindText, kKindBinary, kKindProcedure, -3));
+INSTANTIATE_TEST_SUITE_P(Kinds, KindTest,
+                         testing::Values(kKindText, kKindBinary, kKindProcedure, kBlockKind));
 
 // Saves that break off.
 
