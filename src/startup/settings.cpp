@@ -90,6 +90,19 @@ std::int16_t defaultNumber(const SettingRow& row) {
     return number;
 }
 
+/// Whether a value begins like a number. A word would be read as 0, which can be a choice that nobody made.
+bool saysNumber(std::string_view value) {
+    const std::size_t start = value.find_first_not_of(" \t+-");
+    return start != std::string_view::npos && value[start] >= '0' && value[start] <= '9';
+}
+
+/// The number of an entry, or the table's where the file says none.
+std::int16_t readNumber(clsIniFile& ini, const SettingRow& row) {
+    const std::string key(row.key);
+    const std::int16_t otherwise = defaultNumber(row);
+    return saysNumber(ini.GetString(key, {})) ? ini.GetInt(key, otherwise) : otherwise;
+}
+
 void readRow(clsIniFile& ini, const SettingRow& row, Settings& settings) {
     const std::string key(row.key);
     switch (row.type) {
@@ -104,7 +117,7 @@ void readRow(clsIniFile& ini, const SettingRow& row, Settings& settings) {
             break;
     }
     if (row.number != nullptr) {
-        settings.*row.number = row.check(ini.GetInt(key, defaultNumber(row)));
+        settings.*row.number = row.check(readNumber(ini, row));
     } else if (!ini.GetString(key, {}).empty()) {
         settings.*row.optionalNumber = row.check(ini.GetInt(key, 0));
     }

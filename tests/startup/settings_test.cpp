@@ -93,8 +93,12 @@ TEST_F(SettingsFile, TheWorksheetDialectIsReadWhenPresent) {
 }
 
 TEST_F(SettingsFile, EarlierCopiesAreKeptForThirtyDaysUnlessTheFileSaysOtherwise) {
-    for (const auto& [text, days] :
-         {std::pair{"", 30}, {"EarlierCopies=0", 0}, {"EarlierCopies=365", 365}, {"EarlierCopies=-1", 30}}) {
+    for (const auto& [text, days] : {std::pair{"", 30},
+                                     {"EarlierCopies=0", 0},
+                                     {"EarlierCopies=365", 365},
+                                     {"EarlierCopies=-1", 30},
+                                     {"EarlierCopies=True", 30},
+                                     {"EarlierCopies= 7 days", 7}}) {
         EXPECT_EQ(readEntry(text).EarlierCopies, days) << text;
     }
 }
