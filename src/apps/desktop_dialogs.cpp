@@ -1,5 +1,6 @@
 #include "apps/desktop_dialogs.h"
 
+#include "serial/adapter_latency.h"
 #include "serial/port_list.h"
 #include "ui/qt/frm_setup.h"
 #include "ui/qt/native_folder_browser.h"
@@ -13,6 +14,7 @@ void DesktopDialogs::runSetup(QWidget& window, SerialPort& port, ServerOptions& 
                               TransferSettings& transfer, const SetupModel::Probe& probe) {
     frmSetup dialog(
         port, options, transfer, probe, [this] { return listSerialDevices(portNames_); }, &window);
+    dialog.setDeviceTip([&port](const std::string& device) { return latencyTip(device, port.Settings()); });
     dialog.exec();
 }
 

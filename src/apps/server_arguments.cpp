@@ -8,6 +8,7 @@
 #include "arguments/argument_values.h"
 #include "arguments/syntax.h"
 #include "base/byte_text.h"
+#include "serial/mode_string.h"
 
 namespace velmora {
 namespace {
@@ -45,7 +46,7 @@ void addServingOptions(CommandSyntax& syntax, ServerArguments& result) {
                   into(result.port));
     syntax.option("--baud", "<rate>", "Line speed (default: the file's Baud, 9600)",
                   [&result](const std::string& value) {
-                      result.baud = numberValue<std::int32_t>("--baud", value, 1, 4'000'000,
+                      result.baud = numberValue<std::int32_t>("--baud", value, kLowestRate, kHighestRate,
                                                               "a number from 1 to 4000000");
                   });
     syntax.option("--folder", "<folder>", "Download folder (default: the file's DownloadPath)",

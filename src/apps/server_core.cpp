@@ -9,7 +9,7 @@ ServerCore::ServerCore(const ServerCoreParts& parts)
       controller_({parts.view, parts.box, strings, options, transfer, parts.port, parts.ComTimer,
                    parts.PLPtimer, parts.DisplayTimer, parts.clock, parts.yield,
                    [this](const std::string& path) { return tools_.displayName(path); }, parts.portName,
-                   parts.portWatched}),
+                   parts.portWatched, parts.started}),
       link_(crc, controller_, parts.ComTimer, parts.trace, parts.yield, parts.clock),
       linkControl_(link_),
       dispatcher_(link_, controller_, parts.trace),

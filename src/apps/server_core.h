@@ -56,6 +56,7 @@ struct ServerCoreParts {
     std::string programData;                          ///< KnownFolders::programData()
     std::function<std::string(int number)> portName;  ///< as ServerParts has it
     std::function<bool()> portWatched;                ///< as ServerParts has it
+    std::function<void()> started;                    ///< as ServerParts has it
 };
 
 /// One object of each kind, from the settings to the services, connected.

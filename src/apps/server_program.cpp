@@ -16,7 +16,11 @@ ServerProgram::ServerProgram(PlatformParts& platform, RunOverrides overrides, co
       core_({face.view, face.box, platform.files, platform.rules, platform.port, debug_, platform.ComTimer,
              platform.PLPtimer, platform.DisplayTimer, platform.clock, platform.zone, platform.yield,
              platform.folders.programData(), [this](int number) { return portName(number); },
-             [&platform] { return platform.watcher.watches(); }}),
+             [&platform] { return platform.watcher.watches(); },
+             [this] {
+                 slowPort_.opened(portDevice(), platform_.device->heldBack(), platform_.port.Settings());
+             }}),
+      slowPort_(core_.controller(), debug_),
       form_(core_.controller(), face.view, core_.options, platform.port, platform.portNames, face.window),
       ini_(platform.profiles, platform.rules, face.box, windowsFolder()),
       settingsStore_(ini_, overrides_),

@@ -10,6 +10,7 @@
 #include "base/message_box.h"
 #include "link/debug.h"
 #include "server/main_view.h"
+#include "server/slow_port_note.h"
 #include "startup/comms_link.h"
 #include "startup/ini_file.h"
 #include "startup/ini_settings_store.h"
@@ -59,6 +60,7 @@ class ServerProgram {
     RunOverrides overrides_;
     Debug debug_;
     ServerCore core_;
+    SlowPortNote slowPort_;
     ControllerForm form_;
     clsIniFile ini_;
     IniSettingsStore settingsStore_;

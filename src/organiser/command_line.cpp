@@ -9,6 +9,7 @@
 #include "arguments/syntax.h"
 #include "base/byte_text.h"
 #include "organiser/local_files.h"
+#include "serial/mode_string.h"
 
 namespace velmora {
 namespace {
@@ -81,12 +82,7 @@ int sheetFormat(std::string_view option, std::string_view value) {
 }
 
 int lineSpeed(std::string_view option, std::string_view value) {
-    const auto& speeds = knownLineSpeeds();
-    const int baud = numberValue<int>(option, value, 1, 10'000'000, "a line speed");
-    if (std::find(speeds.begin(), speeds.end(), baud) == speeds.end()) {
-        wrongValue(option, value, "a line speed that serial devices know, such as 1200, 9600 or 38400");
-    }
-    return baud;
+    return numberValue<int>(option, value, kLowestRate, kHighestRate, "a line speed from 1 to 4000000");
 }
 
 /// The syntax of the whole command line. What is read goes into the line that it is made for.
@@ -317,12 +313,6 @@ void Syntax::finish() {
 }
 
 }  // namespace
-
-const std::vector<int>& knownLineSpeeds() {
-    static const std::vector<int> speeds{75,   110,  150,   300,   600,   1200,  2400,
-                                         4800, 9600, 19200, 38400, 57600, 115200};
-    return speeds;
-}
 
 CommandLine readCommandLine(const std::vector<std::string>& arguments) {
     CommandLine line;

@@ -61,7 +61,4 @@ struct CommandLine {
 /// --version.
 CommandLine readCommandLine(const std::vector<std::string>& arguments);
 
-/// The line speeds that serial devices know.
-const std::vector<int>& knownLineSpeeds();
-
 }  // namespace velmora

@@ -17,7 +17,7 @@ namespace velmora {
 /// raised.
 class SerialLine : public OrganiserLine {
   public:
-    /// Opens `device`: a path, or a name such as "COM7". `baud` is one of knownLineSpeeds(). Throws LineError
+    /// Opens `device`: a path, or a name such as "COM7". `baud` in bits a second. Throws LineError
     /// that says what is wrong and what helps.
     SerialLine(const std::string& device, int baud);
 

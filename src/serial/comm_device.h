@@ -5,9 +5,11 @@
 // comm_posix.cpp and comm_win32.cpp implement it with the same small helpers in the same order.
 #pragma once
 
+#include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -117,6 +119,8 @@ class CommDevice {
     virtual std::string errorMessage(SystemError number) const = 0;
     /// The handle that the event loop can watch, kNoHandle when not open.
     virtual std::intptr_t handle() const = 0;
+    /// For how long the open device holds received bytes back, where that is known and could not be changed.
+    virtual std::optional<std::chrono::milliseconds> heldBack() const { return std::nullopt; }
 };
 
 /// This system's serial device. `names` must outlive it.

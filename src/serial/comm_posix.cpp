@@ -14,11 +14,13 @@
 #include <cerrno>
 #include <utility>
 
+#include "serial/adapter_latency.h"
 #include "serial/device_facts.h"
 #include "serial/mode_string.h"
 #include "serial/open_diagnosis.h"
 #include "serial/port_names.h"
 #include "serial/system_text.h"
+#include "serial/unlisted_rate.h"
 
 namespace velmora {
 
@@ -76,6 +78,7 @@ void makeRaw(termios& block) {
     block.c_cc[VTIME] = 0;
 }
 
+/// False for a rate that the block has no place for.
 bool applyBaud(termios& block, std::uint32_t baud) {
     const auto* const rate =
         std::find_if(kRates.begin(), kRates.end(), [baud](const auto& entry) { return entry.first == baud; });
@@ -169,6 +172,8 @@ SystemError PosixCommDevice::acquire() {
 #endif
     ioctl(fd_, TIOCEXCL);
     errorCounts_ = readErrorCounts();
+    savedUnlistedRate_ = unlistedRate(fd_);
+    lowLatency_.take(driverSettings());
     return kSuccess;
 }
 
@@ -198,8 +203,12 @@ SystemError PosixCommDevice::buildState(const std::string& settings) {
         return kInvalidParameter;
     }
     makeRaw(block_);
-    const bool possible = applyBaud(block_, line->baud) && applyParity(block_, line->parity) &&
-                          applyDataBits(block_, line->dataBits) && applyStopBits(block_, line->stopBits);
+    unlistedRate_.reset();
+    if (!applyBaud(block_, line->baud)) {
+        unlistedRate_ = line->baud;
+    }
+    const bool possible = applyParity(block_, line->parity) && applyDataBits(block_, line->dataBits) &&
+                          applyStopBits(block_, line->stopBits);
     return possible ? kSuccess : kInvalidParameter;
 }
 
@@ -213,7 +222,7 @@ SystemError PosixCommDevice::setState() {
     if (tcgetattr(fd_, &taken) < 0) {
         return translated(errno);
     }
-    if (cfgetospeed(&taken) != cfgetospeed(&block_)) {
+    if (unlistedRate_ ? !setUnlistedRate(fd_, *unlistedRate_) : cfgetospeed(&taken) != cfgetospeed(&block_)) {
         return kInvalidParameter;
     }
     if (dtrControl_) {
@@ -228,6 +237,10 @@ SystemError PosixCommDevice::close() {
     }
     drain();
     tcsetattr(fd_, TCSANOW, &saved_);
+    if (savedUnlistedRate_) {
+        setUnlistedRate(fd_, *savedUnlistedRate_);
+    }
+    lowLatency_.giveBack(driverSettings());
     ioctl(fd_, TIOCNXCL);
     flock(fd_, LOCK_UN);
     // The descriptor is gone whatever close answers.
@@ -354,6 +367,15 @@ std::string PosixCommDevice::errorMessage(SystemError number) const {
         default:
             return systemText(number);
     }
+}
+
+LowLatency::Control PosixCommDevice::driverSettings() const {
+    return
+        [fd = fd_](unsigned long request, serial_struct& settings) { return ioctl(fd, request, &settings); };
+}
+
+std::optional<milliseconds> PosixCommDevice::heldBack() const {
+    return fd_ < 0 || lowLatency_.taken() ? std::nullopt : latencyTimer(path_);
 }
 
 SystemError PosixCommDevice::waitWritable(milliseconds atMost) const {

@@ -10,12 +10,14 @@
 #include <string_view>
 
 #include "serial/comm_device.h"
+#include "serial/low_latency_posix.h"
 
 namespace velmora {
 
 /// A terminal device in raw mode: eight-bit clean, no flow control, DTR dropped when
 /// the program ends. It is locked for as long as it is open (flock and TIOCEXCL, as other serial programs do)
-/// and gets its former settings back when it is closed. A pseudo-terminal is as good as a real port.
+/// and gets its former settings back when it is closed. Where the driver can, it hands received bytes over at
+/// once meanwhile. A pseudo-terminal is as good as a real port.
 ///
 /// Beside the numbers that comm_device.h names, errors are errno values.
 class PosixCommDevice : public CommDevice {
@@ -48,6 +50,7 @@ class PosixCommDevice : public CommDevice {
 
     std::string errorMessage(SystemError number) const override;
     std::intptr_t handle() const override { return fd_; }
+    std::optional<std::chrono::milliseconds> heldBack() const override;
 
   private:
     SystemError acquire();
@@ -67,12 +70,18 @@ class PosixCommDevice : public CommDevice {
     };
     std::optional<ErrorCounts> readErrorCounts() const;
 
+    /// Makes calls about the driver's settings, for LowLatency.
+    LowLatency::Control driverSettings() const;
+
     const PortNames& names_;
+    LowLatency lowLatency_;
     std::string path_;
     int fd_ = -1;
-    termios saved_{};                 ///< what the device had before
-    termios block_{};                 ///< the control block
-    std::optional<bool> dtrControl_;  ///< nothing: setState leaves DTR as it is
+    termios saved_{};                                 ///< what the device had before
+    termios block_{};                                 ///< the control block
+    std::optional<std::uint32_t> savedUnlistedRate_;  ///< beside saved_, which has no place for such a rate
+    std::optional<std::uint32_t> unlistedRate_;       ///< beside block_
+    std::optional<bool> dtrControl_;                  ///< nothing: setState leaves DTR as it is
     std::chrono::milliseconds readWait_{0};
     std::chrono::milliseconds writeStall_{1000};
     bool stalled_ = false;                    ///< the last write ended since the line took nothing

@@ -10,6 +10,10 @@ namespace velmora {
 enum class Parity { None, Odd, Even, Mark, Space };
 enum class StopBits { One, OneAndHalf, Two };
 
+/// The rates in bits a second that may be chosen. Whether a device takes one shows when it is opened.
+inline constexpr std::int32_t kLowestRate = 1;
+inline constexpr std::int32_t kHighestRate = 4'000'000;
+
 struct LineSettings {
     std::uint32_t baud = 9600;  ///< bits per second
     Parity parity = Parity::None;

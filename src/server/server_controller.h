@@ -46,6 +46,8 @@ struct ServerParts {
     std::function<std::string(int number)> portName = {};
     /// Whether bytes that come, and the end of the port, run the poll by themselves; without it they do not.
     std::function<bool()> portWatched = {};
+    /// Runs each time the server has started, with its port open.
+    std::function<void()> started = {};
 };
 
 /// What the end of the program saves and closes; each may be missing.

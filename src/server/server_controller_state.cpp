@@ -123,6 +123,9 @@ bool ServerController::startServer() {
     enableButton(MainButton::Setup, false);
     parts_.view.setButtonCaption(MainButton::StartStop, "Stop");
     focusIfVisible(MainButton::StartStop);
+    if (parts_.started) {
+        parts_.started();
+    }
     return true;
 }
 

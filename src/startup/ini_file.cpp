@@ -147,15 +147,16 @@ bool clsIniFile::registered() {
 }
 
 std::int16_t clsIniFile::GetInt(const std::string& key, std::int16_t defaultValue) {
-    if (!registered()) {
-        return 0;
-    }
     using Limits = std::numeric_limits<std::int16_t>;
-    const std::int32_t value = profiles_.getInt(section_, key, defaultValue, path_);
+    const std::int32_t value = GetLong(key, defaultValue);
     if (value < Limits::min() || value > Limits::max()) {
         throw RunTimeError(ErrorNumber::Overflow, entryText(section_, key, GetString(key, {})));
     }
     return static_cast<std::int16_t>(value);
+}
+
+std::int32_t clsIniFile::GetLong(const std::string& key, std::int32_t defaultValue) {
+    return registered() ? profiles_.getInt(section_, key, defaultValue, path_) : 0;
 }
 
 std::string clsIniFile::GetString(const std::string& key, const std::string& defaultText) {

@@ -56,6 +56,8 @@ class clsIniFile {
 
     /// RunTimeError 6 for a number that does not fit.
     std::int16_t GetInt(const std::string& key, std::int16_t defaultValue);
+    /// The same for numbers of 32 bits; one beyond them is given as the nearest.
+    std::int32_t GetLong(const std::string& key, std::int32_t defaultValue);
     /// At most 254 characters; a present but empty value is empty.
     std::string GetString(const std::string& key, const std::string& defaultText);
     /// "Yes", "Y", "True", "T", "On" and "No", "N", "False", "F", "Off" in any case, or a number (not 0 is

@@ -4,6 +4,7 @@
 #include <charconv>
 
 #include "base/byte_text.h"
+#include "serial/mode_string.h"
 
 namespace velmora {
 namespace {
@@ -16,12 +17,9 @@ std::int16_t anyNumber(std::int16_t value) {
     return value;
 }
 
-/// A rate counts as known when it occurs, with a blank before it, in the list of rates. That lets the
-/// beginnings of known rates pass as well (96, 24, 1), which files out there may rely on.
-std::int16_t knownRate(std::int16_t rate) {
-    constexpr std::string_view kRates = " 9600 2400 1200";
-    const bool known = kRates.find(' ' + std::to_string(rate)) != std::string_view::npos;
-    return known ? rate : std::int16_t{9600};
+/// Whether the device takes the rate shows when it is opened.
+std::int32_t rateOrDefault(std::int32_t rate) {
+    return rate < kLowestRate || rate > kHighestRate ? 9600 : rate;
 }
 
 std::int16_t upToThree(std::int16_t value) {
@@ -61,6 +59,9 @@ std::vector<SettingRow> makeTable() {
     SettingRow stayInFolder{kSettings, "StayInFolder", SettingType::Boolean, SettingStep::get_Settings,
                             "False"};
     stayInFolder.limit = &Settings::StayInFolder;
+    SettingRow baud{kSettings, "Baud", SettingType::Integer, SettingStep::init_Ports, "9600"};
+    baud.wideNumber = &Settings::Baud;
+    baud.checkWide = rateOrDefault;
     using Options = ServerOptions;
     constexpr SettingStep kSettingsStep = SettingStep::get_Settings;
     constexpr SettingStep kPortsStep = SettingStep::init_Ports;
@@ -80,12 +81,13 @@ std::vector<SettingRow> makeTable() {
             flagRow(kOnExit, "StopServer", &Options::StopServer, true),
             flagRow(kOnExit, "AllowShutdown", &Options::AllowShutdown, true),
             numberRow("Port", kPortsStep, "-1", &Settings::Port, anyNumber),
-            numberRow("Baud", kPortsStep, "9600", &Settings::Baud, knownRate)};
+            baud};
 }
 
 /// A default of the table as a number; the table holds nothing else for integers.
-std::int16_t defaultNumber(const SettingRow& row) {
-    std::int16_t number = 0;
+template <typename Number>
+Number defaultNumber(const SettingRow& row) {
+    Number number = 0;
     std::from_chars(row.defaultText.data(), row.defaultText.data() + row.defaultText.size(), number);
     return number;
 }
@@ -99,7 +101,7 @@ bool saysNumber(std::string_view value) {
 /// The number of an entry, or the table's where the file says none.
 std::int16_t readNumber(clsIniFile& ini, const SettingRow& row) {
     const std::string key(row.key);
-    const std::int16_t otherwise = defaultNumber(row);
+    const auto otherwise = defaultNumber<std::int16_t>(row);
     return saysNumber(ini.GetString(key, {})) ? ini.GetInt(key, otherwise) : otherwise;
 }
 
@@ -116,7 +118,9 @@ void readRow(clsIniFile& ini, const SettingRow& row, Settings& settings) {
         case SettingType::Integer:
             break;
     }
-    if (row.number != nullptr) {
+    if (row.wideNumber != nullptr) {
+        settings.*row.wideNumber = row.checkWide(ini.GetLong(key, defaultNumber<std::int32_t>(row)));
+    } else if (row.number != nullptr) {
         settings.*row.number = row.check(readNumber(ini, row));
     } else if (!ini.GetString(key, {}).empty()) {
         settings.*row.optionalNumber = row.check(ini.GetInt(key, 0));

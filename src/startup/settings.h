@@ -21,7 +21,7 @@ using PortDevices = std::map<std::string, std::string>;
 struct Settings {
     std::string DownloadPath;  ///< trimmed, in the system's encoding; empty when none is given
     std::int16_t Port = -1;    ///< below 1: none, search for a free one
-    std::int16_t Baud = 9600;  ///< bits per second
+    std::int32_t Baud = 9600;  ///< bits per second
     std::int16_t DataFileType = 0;
     std::optional<std::int16_t>
         WksDialect;                   ///< tokens of WKS worksheets: 0 the system's own, 1 the common ones
@@ -34,7 +34,7 @@ struct Settings {
 /// How a value is written and read.
 enum class SettingType {
     Path,     ///< a folder, in the system's encoding
-    Integer,  ///< a 16-bit number; one that does not fit is RunTimeError 6
+    Integer,  ///< a 16-bit number; one that does not fit is RunTimeError 6, except in a wide one
     Boolean,  ///< clsIniFile::GetBool; another text is RunTimeError 13
 };
 
@@ -57,6 +57,9 @@ struct SettingRow {
     std::optional<std::int16_t> Settings::*optionalNumber = nullptr;
     /// The number to use for one that was read.
     std::int16_t (*check)(std::int16_t value) = nullptr;
+    /// For a number beyond 16 bits, with a check of its own.
+    std::int32_t Settings::*wideNumber = nullptr;
+    std::int32_t (*checkWide)(std::int32_t value) = nullptr;
 };
 
 /// Every setting of [Settings] and [OnExit], in the order in which they are read.

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "base/number_text.h"
+#include "serial/mode_string.h"
 
 namespace velmora {
 
@@ -28,12 +29,7 @@ SetupModel::SetupModel(SerialPort& port, ServerOptions& options, TransferSetting
       portAtOpening_(port.CommPort()) {}
 
 void SetupModel::load() {
-    const double rate = numericValue(port_.Settings());
-    for (const int baud : kBaudRates) {
-        if (rate == baud) {
-            baud_ = baud;
-        }
-    }
+    takeRate();
     portAtOpening_ = port_.CommPort();
     fileType_ = transfer_.DataFileType;
     wksDialect_ = transfer_.sheets.wksDialect;
@@ -48,6 +44,17 @@ void SetupModel::load() {
         return;
     }
     changed();
+}
+
+void SetupModel::takeRate() {
+    const double rate = numericValue(port_.Settings());
+    if (rate < kLowestRate || rate > kHighestRate) {
+        return;
+    }
+    baud_ = static_cast<int>(rate);
+    if (std::find(kBaudRates.begin(), kBaudRates.end(), *baud_) == kBaudRates.end()) {
+        otherBaud_ = baud_;
+    }
 }
 
 void SetupModel::probePorts(std::int16_t& port) {

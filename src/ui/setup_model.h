@@ -60,7 +60,7 @@ class SetupModel {
     void setPortText(const std::string& text);
     /// The left mouse button was pressed in txtPortNo.
     void portTextPressed();
-    /// One of kBaudRates was selected.
+    /// One of kBaudRates, or otherBaud, was selected.
     void selectBaud(int baud) { baud_ = baud; }
     void setAutoStart(bool on) { autoStart_ = on; }
     /// 0 to 3.
@@ -82,8 +82,10 @@ class SetupModel {
     bool okEnabled() const { return okEnabled_; }
     /// Text of lblStatus.
     const std::string& statusText() const { return statusText_; }
-    /// The selected obBaud; nothing when the port's rate is none of kBaudRates.
+    /// The selected rate; nothing when the port has none.
     std::optional<int> baud() const { return baud_; }
+    /// The rate of obBaud_other: the port's own when that is none of kBaudRates.
+    std::optional<int> otherBaud() const { return otherBaud_; }
     bool autoStart() const { return autoStart_; }
     std::int32_t fileType() const { return fileType_; }
     WksDialect wksDialect() const { return wksDialect_; }
@@ -92,6 +94,7 @@ class SetupModel {
     bool closed() const { return closed_; }
 
   private:
+    void takeRate();
     void probePorts(std::int16_t& port);
     void ShowPortStatus(int index, std::int32_t status);
     void showStatusOfSelected();
@@ -112,6 +115,7 @@ class SetupModel {
     std::string statusText_;
     bool okEnabled_ = true;
     std::optional<int> baud_;
+    std::optional<int> otherBaud_;
     bool autoStart_ = false;
     std::int32_t fileType_ = 0;
     WksDialect wksDialect_ = WksDialect::Own;

@@ -162,8 +162,8 @@ TEST_F(SerialLineWin32Test, ClosingDoesNotWaitForWhomeverDoesNotRead) {
     EXPECT_LT(other.now() - begin, 10s);
 }
 
-TEST_F(SerialLineWin32Test, EverySpeedOfTheCommandLineIsTaken) {
-    for (const int baud : knownLineSpeeds()) {
+TEST_F(SerialLineWin32Test, TakesTheUsualSpeedsAndOthers) {
+    for (const int baud : {75, 110, 300, 1'200, 2'400, 9'600, 19'200, 38'400, 57'600, 115'200}) {
         EXPECT_EQ(problemWith(here, baud), "") << baud;
     }
 }

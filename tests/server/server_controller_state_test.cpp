@@ -1,4 +1,5 @@
 // State changes: what each state shows and does, starting, and changes that meet a start or a stop.
+#include "server/port_status.h"
 #include "support/controller_fixture.h"
 
 namespace velmora {
@@ -331,6 +332,21 @@ TEST_F(StateChange, AProgramThatEndsInsideTheStartStopsTheLink) {
     EXPECT_EQ(link.calls, (std::vector<std::string>{"start", "stop"}));
     EXPECT_FALSE(port.open);
     EXPECT_TRUE(view.states.empty());
+}
+
+TEST_F(StateChange, AStartIsToldOnceThePortIsOpenAndNoFailedOne) {
+    int told = 0;
+    onStarted = [&] {
+        ++told;
+        EXPECT_TRUE(port.open);
+    };
+    controller.setState(WaitLink);
+    controller.setState(Connect);
+    EXPECT_EQ(told, 1);
+    controller.setState(Offline);
+    link.startResult = kStatusInUse;
+    controller.setState(WaitLink);
+    EXPECT_EQ(told, 1);
 }
 
 }  // namespace

@@ -275,8 +275,6 @@ TEST_F(Startup, ANumberThatDoesNotFitIsReportedWithItsStep) {
     expectFailure(start(), "get_Settings", 6);
     givenIni("[Settings]\r\nPort=40000\r\n");
     expectFailure(start(), "init_Ports", 6);
-    givenSetting("Baud=115200");
-    expectFailure(start(), "init_Ports", 6);
 }
 
 // --- init_Ports
@@ -289,6 +287,12 @@ TEST_F(Startup, AConfiguredPortIsSetUpAndLeftAlone) {
     EXPECT_EQ(form_.current, Offline);
     EXPECT_FALSE(form_.serverOptions.AutoSelectPort);
     EXPECT_THAT(form_.checked, IsEmpty());
+}
+
+TEST_F(Startup, AConfiguredRateNeedNotBeOneOfTheOrganisers) {
+    givenIni("[Settings]\r\nPort=7\r\nBaud=115200\r\n");
+    start();
+    EXPECT_EQ(form_.scriptedPort.settings, "115200,N,8,1");
 }
 
 TEST_F(Startup, WithoutAPortTheFirstFreeOneIsTaken) {

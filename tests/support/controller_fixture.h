@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <string>
 
 #include "server/server_controller.h"
@@ -59,6 +60,7 @@ class ControllerTest : public testing::Test {
     FakeTime::FakeTimer& displayTimer = time.makeTimer();
     bool programEnded = false;
     bool portWatched = false;
+    std::function<void()> onStarted;
     ServerController controller{
         {view,
          box,
@@ -73,7 +75,12 @@ class ControllerTest : public testing::Test {
          yield,
          [](const std::string& path) { return path.substr(path.find_last_of("\\/") + 1); },
          {},
-         [this] { return portWatched; }}};
+         [this] { return portWatched; },
+         [this] {
+             if (onStarted) {
+                 onStarted();
+             }
+         }}};
 };
 
 }  // namespace velmora::test

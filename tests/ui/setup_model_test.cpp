@@ -160,12 +160,32 @@ TEST_F(Setup, APortNumberBelowOneIsNoPort) {
     }
 }
 
-TEST_F(Setup, ABaudRateThatHasNoButtonSelectsNone) {
-    port.settings = "24,N,8,1";
+TEST_F(Setup, ABaudRateBesideTheUsualOnesIsShownAndKept) {
+    for (const int rate : {24, 19'200, 115'200}) {
+        port.settings = std::to_string(rate) + ",N,8,1";
+        SetupModel dialog(port, options, transfer, [](std::int16_t) { return kStatusAvailable; }, {});
+        dialog.load();
+        EXPECT_EQ(dialog.baud(), rate);
+        EXPECT_EQ(dialog.otherBaud(), rate);
+        dialog.selectPort(1);
+        dialog.pbOK_Click();
+        EXPECT_EQ(port.settings, std::to_string(rate) + ",N,8,1");
+    }
+}
+
+TEST_F(Setup, AUsualBaudRateHasNoOtherBesideIt) {
+    port.settings = "2400,N,8,1";
+    open();
+    EXPECT_EQ(model.otherBaud(), std::nullopt);
+}
+
+TEST_F(Setup, WithoutARateNoneIsSelectedAndTheSettingsStay) {
+    port.settings = "no rate";
     open();
     EXPECT_EQ(model.baud(), std::nullopt);
+    EXPECT_EQ(model.otherBaud(), std::nullopt);
     model.pbOK_Click();
-    EXPECT_EQ(port.settings, "24,N,8,1");
+    EXPECT_EQ(port.settings, "no rate");
 }
 
 TEST_F(Setup, SelectingTheOtherPortEnablesItsTextAndTakesTheFocus) {

@@ -180,6 +180,11 @@ QGroupBox* frmSetup::makeRates() {
         obBaud[i]->setObjectName("obBaud_" + rate);
         rates->addWidget(obBaud[i]);
     }
+    obBaud_other = new QRadioButton;
+    obBaud_other->setObjectName("obBaud_other");
+    obBaud_other->setToolTip(QStringLiteral("The Organiser knows none but the other rates."));
+    obBaud_other->hide();
+    rates->addWidget(obBaud_other);
     return grpBaud;
 }
 
@@ -227,10 +232,10 @@ QHBoxLayout* frmSetup::makeButtons() {
 
 void frmSetup::orderControls() {
     QWidget* before = obPort[0];
-    for (QWidget* next :
-         std::initializer_list<QWidget*>{obPort[1], obPort[2], obPort[3], obPort[4], txtPortNo, pbCheckPort,
-                                         cboPresentPorts, pbRefreshPorts, obBaud[0], obBaud[1], obBaud[2],
-                                         cbAutoStart, cboFileType, cboWksDialect, pbOK, pbCancel}) {
+    for (QWidget* next : std::initializer_list<QWidget*>{
+             obPort[1], obPort[2], obPort[3], obPort[4], txtPortNo, pbCheckPort, cboPresentPorts,
+             pbRefreshPorts, obBaud[0], obBaud[1], obBaud[2], obBaud_other, cbAutoStart, cboFileType,
+             cboWksDialect, pbOK, pbCancel}) {
         setTabOrder(before, next);
         before = next;
     }
@@ -245,6 +250,8 @@ void frmSetup::connectControls() {
         connect(obBaud[i], &QRadioButton::clicked, this,
                 [this, i] { model_.selectBaud(SetupModel::kBaudRates[i]); });
     }
+    connect(obBaud_other, &QRadioButton::clicked, this,
+            [this] { model_.selectBaud(model_.otherBaud().value_or(SetupModel::kBaudRates[0])); });
     connect(txtPortNo, &QLineEdit::textEdited, this,
             [this](const QString& text) { model_.setPortText(fromUtf8(text.toStdString()).value_or("?")); });
     txtPortNo->installEventFilter(this);
@@ -336,6 +343,11 @@ void frmSetup::showState() {
             obBaud[i]->setChecked(true);
         }
     }
+    if (const auto rate = model_.otherBaud()) {
+        obBaud_other->setText(QString::number(*rate));
+        obBaud_other->setChecked(model_.baud() == rate);
+        obBaud_other->show();
+    }
     cbAutoStart->setChecked(model_.autoStart());
     cboFileType->setCurrentIndex(model_.fileType());
     cboWksDialect->setCurrentIndex(static_cast<int>(model_.wksDialect()));
@@ -351,9 +363,23 @@ void frmSetup::fillDevices() {
     for (const SerialDevice& device : devices_) {
         cboPresentPorts->addItem(describe(device));
     }
+    showDeviceTips();
     cboPresentPorts->setCurrentIndex(-1);
     lblDeviceHint->clear();
     lblDeviceHint->hide();
+}
+
+void frmSetup::setDeviceTip(DeviceTip tip) {
+    deviceTip_ = std::move(tip);
+    showDeviceTips();
+}
+
+void frmSetup::showDeviceTips() {
+    int row = 0;
+    for (const auto& device : devices_) {
+        cboPresentPorts->setItemData(row++, deviceTip_ ? qtSystemText(deviceTip_(device.device)) : QString(),
+                                     Qt::ToolTipRole);
+    }
 }
 
 void frmSetup::deviceChosen(int row) {

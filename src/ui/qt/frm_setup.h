@@ -28,6 +28,7 @@ class frmSetup : public QDialog {
     Q_OBJECT
 
   public:
+    using DeviceTip = std::function<std::string(const std::string& device)>;
     using ListDevices = std::function<std::vector<SerialDevice>()>;
 
     /// The references must outlive the dialog; `listDevices` names the devices that are present.
@@ -37,6 +38,8 @@ class frmSetup : public QDialog {
     void reject() override;
     /// What sounds when a key is refused or there is no number to check; the desktop's beep at first.
     void setBeep(std::function<void()> beep) { beep_ = std::move(beep); }
+    /// What is said beside a device of the list; empty for nothing. Without it nothing is.
+    void setDeviceTip(DeviceTip tip);
 
   protected:
     void showEvent(QShowEvent* event) override;
@@ -55,12 +58,14 @@ class frmSetup : public QDialog {
     void load();
     void showState();
     void fillDevices();
+    void showDeviceTips();
     void deviceChosen(int row);
     void closeNow();
 
     SetupModel model_;
     ListDevices listDevices_;
     std::function<void()> beep_;
+    DeviceTip deviceTip_;
     std::vector<SerialDevice> devices_;
     bool shownOnce_ = false;
     bool loading_ = false;
@@ -79,6 +84,7 @@ class frmSetup : public QDialog {
     QLabel* lblStatus = nullptr;
     QGroupBox* grpBaud = nullptr;
     std::array<QRadioButton*, SetupModel::kBaudRates.size()> obBaud{};
+    QRadioButton* obBaud_other = nullptr;  // shown when the rate is none of these
     QCheckBox* cbAutoStart = nullptr;
     QComboBox* cboFileType = nullptr;
     QComboBox* cboWksDialect = nullptr;

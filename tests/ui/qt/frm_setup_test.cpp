@@ -201,6 +201,45 @@ class FrmSetupTest : public QObject {
         QCOMPARE(find<QLabel>("lblStatus")->text(), QString("COM12 is used (device)"));
         isForEverybody();
     }
+    void aRateThatIsSetHasAButton() {
+        port.settings = "19200,N,8,1";
+        statuses[1] = kStatusAvailable;
+        open();
+        auto* rate = find<QRadioButton>("obBaud_other");
+        QVERIFY(rate->isVisible() && rate->isChecked());
+        QCOMPARE(rate->text(), QString("19200"));
+        isForEverybody();
+        find<QRadioButton>("obBaud_1200")->click();
+        QVERIFY(!rate->isChecked());
+        rate->click();
+        button(1)->click();
+        ok()->click();
+        QCOMPARE(port.settings, std::string("19200,N,8,1"));
+    }
+    void theUsualRatesHaveNoOtherBesideThem() {
+        port.settings = "9600,N,8,1";
+        open();
+        QVERIFY(!find<QRadioButton>("obBaud_other")->isVisible());
+        isForEverybody();
+    }
+    void devicesHaveTheTipsThatTheyAreGiven() {
+        statuses[1] = kStatusAvailable;
+        for (const char* const device : {"/dev/ttyUSB0", "/dev/ttyUSB1"}) {
+            devices.emplace_back().device = device;
+        }
+        open();
+        dialog->setDeviceTip([](const std::string& device) {
+            return device == "/dev/ttyUSB1" ? "It is slow." : std::string();
+        });
+        const auto tip = [this](int row) {
+            return find<QComboBox>("cboPresentPorts")->itemData(row, Qt::ToolTipRole).toString();
+        };
+        QCOMPARE(tip(0), QString());
+        QCOMPARE(tip(1), QString("It is slow."));
+        devices.erase(devices.begin());
+        find<QPushButton>("pbRefreshPorts")->click();
+        QCOMPARE(tip(0), QString("It is slow."));
+    }
     void okTakesEverythingOver() {
         options.AutoSelectPort = true;
         statuses[1] = kStatusAvailable;
