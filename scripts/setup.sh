@@ -6,7 +6,7 @@
 #   scripts/setup.sh bare     that, and what makes a minimal system to try all this in
 set -euo pipefail
 
-packages=(g++ cmake ninja-build qt6-base-dev libcli11-dev ccache libwps-tools fonts-dejavu-core)
+packages=(g++ cmake ninja-build qt6-base-dev libcli11-dev nlohmann-json3-dev libudev-dev ccache libwps-tools fonts-dejavu-core)
 if [[ "${1:-}" == tests ]]; then
   packages+=(libgtest-dev libgmock-dev libbenchmark-dev clang clang-format clang-tidy libclang-rt-dev
     xvfb xauth tzdata gnumeric python3)

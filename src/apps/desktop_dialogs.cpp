@@ -13,7 +13,7 @@ DesktopDialogs::DesktopDialogs(const Clock& clock, PortNames& portNames)
 void DesktopDialogs::runSetup(QWidget& window, SerialPort& port, ServerOptions& options,
                               TransferSettings& transfer, const SetupModel::Probe& probe) {
     frmSetup dialog(
-        port, options, transfer, probe, [this] { return listSerialDevices(portNames_); }, &window);
+        port, options, transfer, probe, [this] { return listPorts(portNames_); }, &window);
     dialog.setDeviceTip([&port](const std::string& device) { return latencyTip(device, port.Settings()); });
     dialog.exec();
 }

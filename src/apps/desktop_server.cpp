@@ -23,12 +23,13 @@ DesktopServer::DesktopServer(const RunOverrides& overrides)
                  },
                  [this] { window_.show(); },
                  [this] { placeWindow(); }},
-                {}}),
+                {},
+                [this] { return waitFor(); }}),
       registry_(positions_) {
     controller().setClosingActions(
         {&program_.settingsStore(), [this] { saveWindowPlace(); }, [this] { dialogs_.closeDebugWindow(); }});
     // The warning stands already; this adds why it is so, and what helps.
-    controller().onPortFailure([this] { window_.showAdvice(program_.describePortFailure()); });
+    controller().onPortFailure([this] { window_.showAdvice(portAdvice()); });
     window_.setActions(windowActions());
 
     QObject::connect(qApp, &QGuiApplication::commitDataRequest, &session_,
@@ -54,6 +55,15 @@ frmMain::Actions DesktopServer::windowActions() {
     actions.closed = [this] { quit(); };
     actions.resized = [&controller](bool minimised) { controller.windowResized(minimised); };
     return actions;
+}
+
+WaitFor DesktopServer::waitFor() {
+    return program_.core().options.Reconnect ? WaitFor::LostPort : WaitFor::Nothing;
+}
+
+std::string DesktopServer::portAdvice() {
+    const std::string reason = program_.describePortFailure();
+    return program_.core().waitsForPort() ? reason + " " + kGoesOn : reason;
 }
 
 bool DesktopServer::queryUnload(CloseReason reason) {

@@ -36,6 +36,8 @@ class DesktopServer {
 
   private:
     frmMain::Actions windowActions();
+    WaitFor waitFor();
+    std::string portAdvice();
     bool queryUnload(CloseReason reason);
     void chooseFolder();
     void openSetup();

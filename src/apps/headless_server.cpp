@@ -1,6 +1,7 @@
 #include "apps/headless_server.h"
 
 #include <QCoreApplication>
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <system_error>
@@ -8,6 +9,7 @@
 #include "apps/non_blocking_output.h"
 #include "arguments/usage_error.h"
 #include "base/system_text.h"
+#include "serial/port_list.h"
 
 namespace velmora {
 namespace {
@@ -15,6 +17,9 @@ namespace {
 // Exit statuses besides those that all programs have.
 constexpr int kStatusPort = 1;
 constexpr int kStatusConfiguration = 3;
+
+constexpr const char* kWaits = " Waiting for it.";
+constexpr const char* kWaitsForAny = " Waiting for another one.";
 
 RunOverrides overridesOf(const ServerArguments& arguments) {
     RunOverrides overrides;
@@ -45,10 +50,23 @@ HeadlessServer::HeadlessServer(const ServerArguments& arguments)
                      quit(0);
                  }
              },
-             [this](std::int32_t state) { stateChanged(state); }}),
-      box_([this](const std::string& line) { printError(line); }),
+             [this](std::int32_t state) { stateChanged(state); },
+             [this] { return !program_.core().waitsForPort(); }}),
+      box_([this](const std::string& line) { printAnswer(line); }),
       program_(platform_, overridesOf(arguments),
-               {view_, box_, traceSink_, {}, [this](const std::string& line) { output_.print(line); }}) {
+               {view_,
+                box_,
+                traceSink_,
+                {},
+                [this](const std::string& line) { output_.print(line); },
+                [this] { return arguments_.wait ? WaitFor::AnyPort : WaitFor::Nothing; }}),
+      search_(
+          searchTimer_, [this] { return lookForNewPort(); },
+          [this] {
+              const bool found = program_.searchPort();
+              tellFoundPort();
+              return found;
+          }) {
     program_.controller().setClosingActions({&program_.settingsStore(), {}, {}});
     program_.controller().onPortFailure([this] { portFailed(); });
 }
@@ -82,26 +100,71 @@ void HeadlessServer::printWarning(const std::string& line) {
     std::string advice;
     if (line.starts_with("Port " + toSystemText(program_.portName()) + " ")) {
         advice = " " + program_.describePortFailure();
+        if (arguments_.wait) {
+            advice += kWaits;
+        }
+    } else if (arguments_.wait && line.starts_with(toSystemText(program_.portName()))) {
+        advice = std::string(" ") + kGoesOn;
     } else if (line == kNoPortSelected) {
         advice = " None of COM1 to COM64 is free; name one with --port.";
+        if (arguments_.wait) {
+            advice += kWaitsForAny;
+        }
     }
     warned_ = true;
     printError(line + advice);
 }
 
+/// A question about a port that is lost has its answer already.
+void HeadlessServer::printAnswer(const std::string& line) {
+    if (!program_.core().waitsForPort()) {
+        printError(line);
+    }
+}
+
 void HeadlessServer::portFailed() {
     if (!warned_) {
-        printError(toSystemText(program_.portName()) + " failed: " + platform_.port.lastErrorDescription());
+        printWarning(toSystemText(program_.portName()) + " failed: " + platform_.port.lastErrorDescription());
+    }
+    if (arguments_.wait) {
+        return;
     }
     failed_ = true;
     quit(kStatusPort);
 }
 
 void HeadlessServer::stateChanged(std::int32_t state) {
-    if (state == NoPort) {
+    if (state == WaitLink) {
+        warned_ = false;
+        search_.end();
+    } else if (state == NoPort && arguments_.wait) {
+        if (!search_.waiting()) {
+            lookForNewPort();
+            search_.begin(true);
+        }
+    } else if (state == NoPort) {
         quit(kStatusPort);
     } else if (state == OnExit) {
         quit(0);
+    }
+}
+
+/// A search tries every port, so it only begins when there is one more than at the last.
+PortPresence HeadlessServer::lookForNewPort() {
+    std::vector<std::string> devices;
+    for (const PortIdentity& port : listPorts(platform_.portNames)) {
+        devices.push_back(port.device);
+    }
+    const bool more = std::any_of(devices.begin(), devices.end(), [this](const std::string& device) {
+        return std::find(triedDevices_.begin(), triedDevices_.end(), device) == triedDevices_.end();
+    });
+    triedDevices_ = std::move(devices);
+    return more ? PortPresence::Present : PortPresence::Absent;
+}
+
+void HeadlessServer::tellFoundPort() {
+    if (program_.core().options.AutoSelectPort && program_.controller().running()) {
+        output_.print("Found " + toSystemText(program_.portName()) + ", " + program_.portDevice());
     }
 }
 
@@ -124,8 +187,9 @@ int HeadlessServer::run() {
     if (report.outcome == StartupOutcome::Failed) {
         return report.portFailed ? kStatusPort : kStatusConfiguration;
     }
-    if (program_.core().options.AutoSelectPort && program_.controller().running()) {
-        output_.print("Found " + toSystemText(program_.portName()) + ", " + program_.portDevice());
+    tellFoundPort();
+    if (arguments_.wait && !platform_.adapters.live()) {
+        output_.print("The system tells nothing of adapters: a lost port is looked for once a second.");
     }
     if (!quitting_) {
         QCoreApplication::exec();

@@ -5,12 +5,14 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "apps/console_trace.h"
 #include "apps/line_output.h"
 #include "apps/platform_parts.h"
 #include "apps/server_arguments.h"
 #include "apps/server_program.h"
+#include "server/reconnection.h"
 #include "ui/console_view.h"
 #include "ui/no_user_box.h"
 
@@ -33,8 +35,11 @@ class HeadlessServer {
     std::function<void(const std::string& line)> traceOutput();
     void printError(const std::string& line);
     void printWarning(const std::string& line);
+    void printAnswer(const std::string& line);
     void portFailed();
     void stateChanged(std::int32_t state);
+    void tellFoundPort();
+    PortPresence lookForNewPort();
     void quit(int status);
 
     struct FileCloser {
@@ -56,6 +61,10 @@ class HeadlessServer {
     ConsoleView view_;
     NoUserBox box_;
     ServerProgram program_;
+    // No port is configured, and none was free: waits for one more to be there.
+    QtTimer searchTimer_;
+    std::vector<std::string> triedDevices_;
+    Reconnection search_;
 };
 
 }  // namespace velmora

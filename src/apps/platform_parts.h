@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "apps/system_zone.h"
+#include "eventloop/adapter_monitor.h"
 #include "eventloop/port_watcher.h"
 #include "eventloop/qt_event_yield.h"
 #include "eventloop/qt_timer.h"
@@ -42,6 +43,8 @@ struct PlatformParts {
     WatchedTimer<QtTimer> ComTimer;
     QtTimer PLPtimer;
     QtTimer DisplayTimer;
+    QtTimer KeeperTimer;
+    AdapterMonitor adapters;
 };
 
 }  // namespace velmora

@@ -8,6 +8,7 @@
 #include "arguments/argument_values.h"
 #include "arguments/syntax.h"
 #include "base/byte_text.h"
+#include "serial/adapter_key.h"
 #include "serial/mode_string.h"
 
 namespace velmora {
@@ -41,9 +42,17 @@ void addServingOptions(CommandSyntax& syntax, ServerArguments& result) {
     syntax.option("--config", "<file>",
                   "Configuration file (default: Velmora.ini in\nthe user's configuration folder)",
                   into(result.config));
-    syntax.option("--port", "<COMn|device>",
-                  "Serial port, for example COM5 or /dev/ttyUSB0\n(default: the file's Port)",
-                  into(result.port));
+    syntax.option(
+        "--port", "<name>",
+        "Serial port, for example COM5, /dev/ttyUSB0 or\nusb:0403:6001:A50285BI (default: the file's "
+        "Port)",
+        [&result](const std::string& value) {
+            if (namesAdapter(value) && !adapterKeyOfName(value)) {
+                wrongValue("--port", value, "usb:VENDOR:PRODUCT:SERIAL, as --list-ports prints it");
+            }
+            result.port = value;
+        });
+    syntax.flag("--wait", "Wait for a port that is missing or lost instead\nof ending", result.wait);
     syntax.option("--baud", "<rate>", "Line speed (default: the file's Baud, 9600)",
                   [&result](const std::string& value) {
                       result.baud = numberValue<std::int32_t>("--baud", value, kLowestRate, kHighestRate,
@@ -74,6 +83,11 @@ void addTraceOptions(CommandSyntax& syntax, ServerArguments& result) {
     });
 }
 
+void addListing(CommandSyntax& syntax, ServerArguments& result) {
+    syntax.flag("--list-ports", "Print the serial ports that are present, and end", result.listPorts);
+    syntax.flag("--json", "With --list-ports: as JSON", result.json);
+}
+
 }  // namespace
 
 ServerArguments readServerArguments(const std::vector<std::string>& arguments) {
@@ -83,11 +97,16 @@ ServerArguments readServerArguments(const std::vector<std::string>& arguments) {
                          "to stop.");
     addServingOptions(syntax, result);
     addTraceOptions(syntax, result);
+    addListing(syntax, result);
     syntax.note(
         "Options hold for this run and are not saved. Exit status: 0 stopped (by a signal or by the\n"
-        "Organiser), 1 the port cannot be opened or failed, 2 the command line makes no sense,\n"
+        "Organiser), 1 the port cannot be opened or failed (without --wait), 2 the command line makes no "
+        "sense,\n"
         "3 the configuration file cannot be used.");
     syntax.read(arguments);
+    if (result.json && !result.listPorts) {
+        throw UsageError("--json goes with --list-ports");
+    }
     return result;
 }
 

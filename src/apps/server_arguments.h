@@ -11,11 +11,14 @@ namespace velmora {
 /// What `velmorad` was asked to do. Everything that is not set is taken from the configuration file.
 struct ServerArguments {
     std::optional<std::string> config;     ///< path of the configuration file
-    std::optional<std::string> port;       ///< "COMn" or a device
+    std::optional<std::string> port;       ///< "COMn", a device or "usb:VENDOR:PRODUCT:SERIAL"
     std::optional<std::int32_t> baud;      ///< bits a second, above 0
     std::optional<std::string> folder;     ///< download folder
     std::optional<std::int32_t> fileType;  ///< 0 to 3
     bool stayInFolder = false;             ///< refuse names that lead outside the download folder
+    bool wait = false;                     ///< wait for a port that is missing or lost
+    bool listPorts = false;                ///< print the ports and end
+    bool json = false;                     ///< them as JSON
     bool trace = false;
     std::vector<std::string> traceCategories;  ///< in capitals; empty means all
     std::optional<std::string> traceFile;

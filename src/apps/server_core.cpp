@@ -29,6 +29,13 @@ ServerCore::ServerCore(const ServerCoreParts& parts)
       gmt_(link_, controller_, timeServices_, TimeReply::Universal),
       timeInfo_(link_, controller_, timeServices_, TimeReply::LocalWithZone) {
     controller_.attachLink(linkControl_);
+    if (parts.portKeeping) {
+        const ServerCoreParts::PortKeeping& keeping = *parts.portKeeping;
+        keeper_.emplace(
+            WantedPortParts{parts.port, keeping.names, options, keeping.list, keeping.facts, keeping.tell},
+            keeping.timer, keeping.waitFor, [this] { return controller_.restart(); });
+        controller_.attachPortKeeper(*keeper_);
+    }
     link_.setServices(dispatcher_);
     dispatcher_.add("FTRAN", ftran_);
     dispatcher_.add("FILE", file_);
@@ -47,6 +54,14 @@ void ServerCore::applySettings(const Settings& settings) {
     transfer.sheets.wksDialect = settings.WksDialect == 1 ? WksDialect::Common : WksDialect::Own;
     copies.days = settings.EarlierCopies;
     earlierCopies_.removeExpired();
+}
+
+void ServerCore::adapterEvent(AdapterEvent event) {
+    if (event == AdapterEvent::Sleeps) {
+        controller_.pullPort("The computer goes to sleep.");
+    } else if (keeper_) {
+        keeper_->adaptersChanged();
+    }
 }
 
 ServerCore::~ServerCore() {

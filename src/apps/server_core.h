@@ -4,7 +4,9 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
+#include <vector>
 
 #include "base/clock.h"
 #include "base/event_yield.h"
@@ -15,9 +17,14 @@
 #include "link/crc.h"
 #include "link/plp.h"
 #include "link/trace.h"
+#include "serial/adapter_events.h"
+#include "serial/device_facts.h"
+#include "serial/port_identity.h"
+#include "serial/port_names.h"
 #include "serial/serial_port.h"
 #include "server/link_control.h"
 #include "server/main_view.h"
+#include "server/port_keeper.h"
 #include "server/server_controller.h"
 #include "server/server_options.h"
 #include "services/boot_service.h"
@@ -57,6 +64,16 @@ struct ServerCoreParts {
     std::function<std::string(int number)> portName;  ///< as ServerParts has it
     std::function<bool()> portWatched;                ///< as ServerParts has it
     std::function<void()> started;                    ///< as ServerParts has it
+    /// What finds the port's adapter and waits for it; without it a lost port stays lost.
+    struct PortKeeping {
+        Timer& timer;
+        PortNames& names;
+        std::function<std::vector<PortIdentity>()> list;
+        std::function<DeviceFacts(const std::string& device)> facts;
+        std::function<void(const std::string& line)> tell;  ///< may be missing
+        std::function<WaitFor()> waitFor;
+    };
+    std::optional<PortKeeping> portKeeping = {};
 };
 
 /// One object of each kind, from the settings to the services, connected.
@@ -79,6 +96,12 @@ class ServerCore {
     void applySettings(const Settings& settings);
 
     ServerController& controller() { return controller_; }
+    /// What happens to adapters, for who waits for one.
+    void adapterEvent(AdapterEvent event);
+    /// Why the port's adapter cannot be told; empty when it can.
+    std::string portComplaint() const { return keeper_ ? keeper_->complaint() : std::string(); }
+    /// Whether the server waits for its port.
+    bool waitsForPort() const { return keeper_ && keeper_->waiting(); }
     const PLP& link() const { return link_; }
 
   private:
@@ -98,6 +121,7 @@ class ServerCore {
     };
 
     Tools tools_;
+    std::optional<PortKeeper> keeper_;
     ServerController controller_;
     PLP link_;
     LinkOfController linkControl_;

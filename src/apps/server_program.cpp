@@ -6,6 +6,7 @@
 #include "base/system_text.h"
 #include "platform/known_folders.h"
 #include "serial/open_diagnosis.h"
+#include "serial/port_list.h"
 
 namespace velmora {
 
@@ -19,7 +20,11 @@ ServerProgram::ServerProgram(PlatformParts& platform, RunOverrides overrides, co
              [&platform] { return platform.watcher.watches(); },
              [this] {
                  slowPort_.opened(portDevice(), platform_.device->heldBack(), platform_.port.Settings());
-             }}),
+             },
+             ServerCoreParts::PortKeeping{
+                 platform.KeeperTimer, platform.portNames,
+                 [&platform] { return listPorts(platform.portNames); }, gatherDeviceFacts,
+                 [this](const std::string& line) { tellOfPort(line); }, face.waitFor}}),
       slowPort_(core_.controller(), debug_),
       form_(core_.controller(), face.view, core_.options, platform.port, platform.portNames, face.window),
       ini_(platform.profiles, platform.rules, face.box, windowsFolder()),
@@ -35,6 +40,7 @@ ServerProgram::ServerProgram(PlatformParts& platform, RunOverrides overrides, co
               {platform.folders.applicationData(), platform.folders.documents()},
               face.tell},
              overrides_) {
+    platform_.adapters.onEvent([this](AdapterEvent event) { core_.adapterEvent(event); });
     debug_.showStateOf([this] { return core_.link().linkState(); });
 }
 
@@ -60,6 +66,17 @@ StartupReport ServerProgram::start(const std::string& commandLine) {
     return report;
 }
 
+bool ServerProgram::searchPort() {
+    controller().setState(start_.init_Ports());
+    return controller().running();
+}
+
+void ServerProgram::tellOfPort(const std::string& line) {
+    const std::string shown = shownText(line);
+    debug_.trace("COM", shown, {});
+    controller().ShowText("", shown, "");
+}
+
 std::string ServerProgram::portName(int number) const {
     return fromSystemText(platform_.portNames.shown(number)).value_or("COM" + std::to_string(number));
 }
@@ -70,6 +87,9 @@ std::string ServerProgram::portDevice() const {
 }
 
 std::string ServerProgram::describePortFailure() const {
+    if (const std::string complaint = core_.portComplaint(); !complaint.empty()) {
+        return complaint;
+    }
     return describeOpenFailure(portDevice(), platform_.port.lastErrorNumber());
 }
 

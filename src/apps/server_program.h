@@ -18,6 +18,9 @@
 
 namespace velmora {
 
+/// What is said of a lost port that the server waits for.
+inline constexpr const char* kGoesOn = "Velmora goes on when it is plugged in again.";
+
 /// How a program shows its server; all of it must outlive the server.
 struct ServerFace {
     MainView& view;
@@ -26,6 +29,8 @@ struct ServerFace {
     ControllerForm::WindowCalls window;  ///< nothing for a program without one
     /// Tells, in one line in the system's encoding, what start-up has made; may be missing.
     std::function<void(const std::string& line)> tell;
+    /// What to do about a port that the server cannot have.
+    std::function<WaitFor()> waitFor;
 };
 
 /// The server with everything that starts it, built once and connected. Needs the toolkit's event loop.
@@ -39,6 +44,10 @@ class ServerProgram {
     /// Runs the start-up steps; a failed one has been told by the box. `commandLine` as CommsLink::Main.
     /// Throws UsageError, before anything is made, when the command line names a folder that is not there.
     StartupReport start(const std::string& commandLine);
+
+    /// Looks for a free port as start-up does when none is configured, and starts the server on it; whether
+    /// it runs then.
+    bool searchPort();
 
     /// What messages call the server's port, as a Windows-1252 text.
     std::string portName() const { return portName(platform_.port.CommPort()); }
@@ -54,6 +63,7 @@ class ServerProgram {
 
   private:
     void checkFolders() const;
+    void tellOfPort(const std::string& line);
     std::string portName(int number) const;
 
     PlatformParts& platform_;

@@ -6,7 +6,9 @@
 #include <string>
 
 #include "apps/console.h"
+#include "apps/listed_ports.h"
 #include "arguments/program.h"
+#include "arguments/syntax.h"
 #include "organiser/command_line.h"
 #include "organiser/commands.h"
 #include "organiser/fault_injector.h"
@@ -56,6 +58,9 @@ int main(int argc, char** argv) {
     useBinaryStandardStreams();
     return runProgram("velmora-organiser", std::cout, std::cerr, [argc, argv] {
         const CommandLine line = readCommandLine(utf8Arguments(argc, argv));
+        if (line.command.kind == CommandKind::ListPorts) {
+            throw RequestedText{listedPorts(line.command.json)};
+        }
         ExitStatus status = kDone;
         const ExitStatus failed = guarded(std::cerr, [&] { status = run(line); });
         return failed != kDone ? failed : status;

@@ -5,8 +5,10 @@
 
 #include "apps/console.h"
 #include "apps/headless_server.h"
+#include "apps/listed_ports.h"
 #include "apps/server_arguments.h"
 #include "arguments/program.h"
+#include "arguments/syntax.h"
 #include "eventloop/stop_signals.h"
 #include "platform/console_output.h"
 #include "platform/file_size_limit.h"
@@ -34,6 +36,10 @@ int main(int argc, char** argv) {
     outliveFileSizeLimit();
     const auto console = showOnConsole(PrintedText::System);
     return runProgram("velmorad", std::cout, std::cerr, [argc, argv] {
-        return serve(readServerArguments(systemArguments(argc, argv)), argc, argv);
+        const ServerArguments arguments = readServerArguments(systemArguments(argc, argv));
+        if (arguments.listPorts) {
+            throw RequestedText{listedPorts(arguments.json)};
+        }
+        return serve(arguments, argc, argv);
     });
 }

@@ -239,8 +239,25 @@ ProgramSyntax::ProgramSyntax(std::unique_ptr<CLI::App> app) : CommandSyntax(*app
 
 ProgramSyntax::~ProgramSyntax() = default;
 
+void ProgramSyntax::standAloneFlag(const std::string& name, const std::string& help, bool& given) {
+    flag(name, help, given);
+    standAlone_.push_back(name);
+}
+
+void ProgramSyntax::requireNothing() {
+    app().require_subcommand(0);
+    for (CLI::Option* option : app().get_options()) {
+        option->required(false);
+    }
+}
+
 void ProgramSyntax::read(const std::vector<std::string>& arguments, Unknown unknown) {
     CLI::App& program = app();
+    const auto optionsEnd = std::find(arguments.begin(), arguments.end(), "--");
+    if (std::find_first_of(arguments.begin(), optionsEnd, standAlone_.begin(), standAlone_.end()) !=
+        optionsEnd) {
+        requireNothing();
+    }
     program.allow_extras(unknown == Unknown::Ignored);
     try {
         program.parse(prepared(program, arguments));

@@ -70,6 +70,9 @@ class ProgramSyntax : public CommandSyntax {
     ProgramSyntax(const ProgramSyntax&) = delete;
     ProgramSyntax& operator=(const ProgramSyntax&) = delete;
 
+    /// A flag that may stand without anything that must be given otherwise.
+    void standAloneFlag(const std::string& name, const std::string& help, bool& given);
+
     /// Reads the arguments behind the program's name, once. Throws UsageError, and RequestedText when
     /// --help or --version asks for one.
     void read(const std::vector<std::string>& arguments, Unknown unknown = Unknown::Refused);
@@ -77,7 +80,10 @@ class ProgramSyntax : public CommandSyntax {
   private:
     explicit ProgramSyntax(std::unique_ptr<CLI::App> app);
 
+    void requireNothing();
+
     std::unique_ptr<CLI::App> owned_;
+    std::vector<std::string> standAlone_;
 };
 
 /// The user asks for a text and for nothing else: thrown by ProgramSyntax::read.

@@ -108,6 +108,10 @@ class Syntax {
 
     void read(const std::vector<std::string>& arguments) {
         program_.read(arguments);
+        if (listPorts_) {
+            command_.kind = CommandKind::ListPorts;
+            return;
+        }
         finish();
     }
 
@@ -144,11 +148,13 @@ class Syntax {
     ProgramSyntax program_;
     std::optional<FileMode> mode_;
     bool lf_ = false;
+    bool listPorts_ = false;
 };
 
 void Syntax::addLine() {
     program_.option(
-        "--device", "<path>", "Serial device that leads to the server (needed)",
+        "--device", "<path>",
+        "Serial device that leads to the server, or a name\nthat --list-ports prints (needed)",
         [this](const std::string& value) { line_.device = value; }, Presence::Required);
     program_.option("--baud", "<rate>", "Line speed (default: 9600)",
                     [this](const std::string& value) { line_.baud = lineSpeed("--baud", value); });
@@ -158,6 +164,8 @@ void Syntax::addLine() {
                             numberValue<int>("--tries", value, 1, 100, "a whole number from 1 to 100");
                     });
     program_.flag("--trace", "Print each frame on standard error", line_.trace);
+    program_.standAloneFlag("--list-ports", "Print the serial ports that are present, and end", listPorts_);
+    program_.flag("--json", "With --list-ports: as JSON", command_.json);
 }
 
 void Syntax::addFaults() {
@@ -296,6 +304,9 @@ void Syntax::addTour() {
 
 /// What follows from the options together.
 void Syntax::finish() {
+    if (command_.json) {
+        throw UsageError("--json goes with --list-ports");
+    }
     if (command_.text && command_.seek) {
         throw UsageError("--seek counts bytes and does not go with --text");
     }

@@ -29,6 +29,7 @@ enum class CommandKind : std::uint8_t {
     SheetSave,
     SheetLoad,
     Tour,
+    ListPorts,
 };
 
 /// What is to be done. Names of the server's files are Windows-1252 bytes, paths are UTF-8.
@@ -46,10 +47,11 @@ struct Command {
     std::optional<std::uint16_t> address;  ///< --address
     int sheetFormat = 0;                   ///< --format: 2 WKS, 3 DIF, 4 CSV, 5 TXT, 6 TXT with tabs
     std::optional<std::string> bootName;   ///< --boot
+    bool json = false;                     ///< --json, for ListPorts
 };
 
 struct CommandLine {
-    std::string device;
+    std::string device;  ///< empty only for ListPorts
     int baud = 9600;
     FaultOptions faults;
     bool trace = false;

@@ -304,6 +304,8 @@ ExitStatus runCommand(const CommandLine& line, OrganiserLink& link, const Consol
             case CommandKind::SheetLoad:
                 commands.sheetLoad();
                 break;
+            case CommandKind::ListPorts:  // needs no link
+                break;
             case CommandKind::Tour:
                 status = runTour(line, link, console);
                 break;

@@ -2,10 +2,14 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
+#include <vector>
 
 #include "base/byte_text.h"
 #include "base/event_yield.h"
+#include "serial/adapter_key.h"
 #include "serial/open_diagnosis.h"
+#include "serial/port_list.h"
 
 namespace velmora {
 namespace {
@@ -34,16 +38,32 @@ CommTimeouts timeoutsAt(int baud) {
     return timeouts;
 }
 
+/// Lets the number stand for the adapter, wherever it is; one that is not there stays a device that does not
+/// exist.
+void placeAdapter(PortNames& names, int number, const AdapterKey& key) {
+    const std::vector<PortIdentity> found = portsMatching(key, listPorts(names));
+    if (found.size() > 1) {
+        throw LineError(severalSentence(key, found));
+    }
+    if (!found.empty()) {
+        names.setDevice(number, found.front().device);
+    }
+}
+
 }  // namespace
 
 SerialLine::SerialLine(const std::string& device, int baud)
     : name_(device), device_(makeCommDevice(names_)), timeouts_(timeoutsAt(baud)) {
-    const std::string port = "COM" + std::to_string(names_.numberFor(device));
+    const int number = names_.numberFor(device);
+    if (const std::optional<AdapterKey> key = adapterKeyOfName(device)) {
+        placeAdapter(names_, number, *key);
+    }
+    const std::string port = "COM" + std::to_string(number);
     NoEvents noEvents;
     PlainComm plain(*device_, noEvents, timeouts_);
     constexpr bool kRaiseDtr = true;
     if (plain.CommOpen(port, std::to_string(baud) + ",N,8,1", kRaiseDtr) != kSuccess) {
-        throw LineError(describeOpenFailure(name_, plain.lastErrorNumber()));
+        throw LineError(describeOpenFailure(names_.device(number).value_or(name_), plain.lastErrorNumber()));
     }
 }
 

@@ -17,8 +17,8 @@ namespace velmora {
 /// raised.
 class SerialLine : public OrganiserLine {
   public:
-    /// Opens `device`: a path, or a name such as "COM7". `baud` in bits a second. Throws LineError
-    /// that says what is wrong and what helps.
+    /// Opens `device`: a path, or a name such as "COM7" or "usb:0403:6001:A50285BI". `baud` in bits a second.
+    /// Throws LineError that says what is wrong and what helps.
     SerialLine(const std::string& device, int baud);
 
     void write(std::string_view bytes) override;

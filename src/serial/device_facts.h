@@ -8,6 +8,7 @@ namespace velmora {
 struct DeviceFacts {
     bool exists = false;
     bool mayOpen = false;  ///< for reading and writing
+    std::string stamp;     ///< differs when the device was made anew; the same for all on Windows
     // Empty and false on Windows, whose serial devices have neither owner nor group.
     std::string owner;  ///< user name, or the number in digits when it has none
     std::string group;

@@ -108,6 +108,8 @@ DeviceFacts gatherDeviceFacts(const std::string& device) {
         return facts;
     }
     facts.exists = true;
+    facts.stamp = std::to_string(status.st_rdev) + "/" + std::to_string(status.st_ino) + "/" +
+                  std::to_string(status.st_ctim.tv_sec) + "." + std::to_string(status.st_ctim.tv_nsec);
     facts.mayOpen = faccessat(AT_FDCWD, device.c_str(), R_OK | W_OK, AT_EACCESS) == 0;
     facts.owner = userName(status.st_uid);
     facts.login = userName(geteuid());

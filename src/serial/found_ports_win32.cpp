@@ -5,6 +5,8 @@
 #include <utility>
 
 #include "base/byte_text.h"
+#include "serial/adapter_chips.h"
+#include "serial/device_instance.h"
 
 namespace velmora {
 
@@ -28,8 +30,8 @@ std::string withoutMaker(std::string product, const std::string& maker) {
     return product;
 }
 
-void add(std::vector<SerialDevice>& devices, const FoundPort& port, PortNames& names) {
-    SerialDevice found;
+void add(std::vector<PortIdentity>& devices, const FoundPort& port, PortNames& names) {
+    PortIdentity found;
     const std::optional<int> ownNumber = comNumber(port.name);
     found.device = ownNumber ? "COM" + std::to_string(*ownNumber) : port.name;
     // A port "COM<n>" whose number was given to another device has no number unless it was given one.
@@ -40,21 +42,30 @@ void add(std::vector<SerialDevice>& devices, const FoundPort& port, PortNames& n
     found.maker = trimBlanks(port.maker);
     found.product = withoutMaker(productOf(port), found.maker);
     found.mayOpen = true;
-    const auto same = std::find_if(devices.begin(), devices.end(), [&found](const SerialDevice& device) {
+    const InstanceParts parts = instanceParts(port.instance);
+    found.stableName = port.instance;
+    found.vendorId = parts.vendorId;
+    found.productId = parts.productId;
+    found.serial = parts.serial;
+    // An instance without a serial number is made of the way to the socket, as the system counts it.
+    found.socket = port.socket.empty() ? port.instance : port.socket;
+    found.driver = port.driver;
+    found.chip = adapterChip(found.vendorId, found.productId);
+    const auto same = std::find_if(devices.begin(), devices.end(), [&found](const PortIdentity& device) {
         return device.number == found.number;
     });
     if (same == devices.end()) {
         devices.push_back(std::move(found));
-    } else if (same->product.empty() && same->maker.empty()) {
+    } else if (same->product.empty() && same->maker.empty() && same->stableName.empty()) {
         *same = std::move(found);
     }
 }
 
 }  // namespace
 
-std::vector<SerialDevice> serialDevices(const std::vector<FoundPort>& announced,
+std::vector<PortIdentity> serialDevices(const std::vector<FoundPort>& announced,
                                         const std::vector<FoundPort>& pluggedIn, PortNames& names) {
-    std::vector<SerialDevice> devices;
+    std::vector<PortIdentity> devices;
     for (const FoundPort& port : announced) {
         if (!port.name.empty()) {
             add(devices, port, names);
@@ -66,7 +77,7 @@ std::vector<SerialDevice> serialDevices(const std::vector<FoundPort>& announced,
         }
     }
     std::sort(devices.begin(), devices.end(),
-              [](const SerialDevice& a, const SerialDevice& b) { return a.number < b.number; });
+              [](const PortIdentity& a, const PortIdentity& b) { return a.number < b.number; });
     return devices;
 }
 

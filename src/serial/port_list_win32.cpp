@@ -6,7 +6,9 @@
 // clang-format on
 
 #include <array>
+#include <iterator>
 
+#include "serial/com_port_interface_win32.h"
 #include "serial/found_ports_win32.h"
 #include "serial/port_list.h"
 
@@ -40,7 +42,7 @@ std::vector<FoundPort> announcedPorts() {
         const LSTATUS status = RegEnumValueA(key, index, driver.data(), &driverLength, nullptr, &type,
                                              reinterpret_cast<BYTE*>(name.data()), &nameSize);
         if (status == ERROR_SUCCESS && type == REG_SZ) {
-            ports.push_back(FoundPort{textIn(name, nameSize), {}, {}});
+            ports.push_back(FoundPort{textIn(name, nameSize), {}, {}, {}, {}, {}});
         } else if (status != ERROR_SUCCESS && status != ERROR_MORE_DATA) {
             break;
         }
@@ -49,6 +51,7 @@ std::vector<FoundPort> announcedPorts() {
     return ports;
 }
 
+/// A text, or the first of several.
 std::string property(HDEVINFO devices, SP_DEVINFO_DATA& device, DWORD which) {
     Buffer text{};
     DWORD size = 0;
@@ -56,7 +59,7 @@ std::string property(HDEVINFO devices, SP_DEVINFO_DATA& device, DWORD which) {
     if (SetupDiGetDeviceRegistryPropertyA(devices, &device, which, &type,
                                           reinterpret_cast<BYTE*>(text.data()),
                                           static_cast<DWORD>(text.size()), &size) == FALSE ||
-        type != REG_SZ) {
+        (type != REG_SZ && type != REG_MULTI_SZ)) {
         return {};
     }
     return textIn(text, size);
@@ -76,10 +79,20 @@ std::string portName(HDEVINFO devices, SP_DEVINFO_DATA& device) {
     return status == ERROR_SUCCESS && type == REG_SZ ? textIn(name, size) : std::string();
 }
 
-/// The devices of the class "Ports" that are plugged in, with what they are called in the device manager.
-std::vector<FoundPort> pluggedInPorts() {
+std::string instanceOf(HDEVINFO devices, SP_DEVINFO_DATA& device) {
+    Buffer text{};
+    DWORD size = 0;
+    if (SetupDiGetDeviceInstanceIdA(devices, &device, text.data(), static_cast<DWORD>(text.size()), &size) ==
+        FALSE) {
+        return {};
+    }
+    return textIn(text, size);
+}
+
+/// The devices of a class or with an interface, with what they are called in the device manager.
+std::vector<FoundPort> describedPorts(const GUID& of, DWORD which) {
     std::vector<FoundPort> ports;
-    const HDEVINFO devices = SetupDiGetClassDevsA(&GUID_DEVCLASS_PORTS, nullptr, nullptr, DIGCF_PRESENT);
+    const HDEVINFO devices = SetupDiGetClassDevsA(&of, nullptr, nullptr, which);
     if (devices == INVALID_HANDLE_VALUE) {
         return ports;
     }
@@ -87,15 +100,28 @@ std::vector<FoundPort> pluggedInPorts() {
     device.cbSize = sizeof device;
     for (DWORD index = 0; SetupDiEnumDeviceInfo(devices, index, &device) != FALSE; ++index) {
         ports.push_back(FoundPort{portName(devices, device), property(devices, device, SPDRP_FRIENDLYNAME),
-                                  property(devices, device, SPDRP_MFG)});
+                                  property(devices, device, SPDRP_MFG), instanceOf(devices, device),
+                                  property(devices, device, SPDRP_SERVICE),
+                                  property(devices, device, SPDRP_LOCATION_PATHS)});
     }
     SetupDiDestroyDeviceInfoList(devices);
     return ports;
 }
 
+/// The devices with a serial port's interface that are plugged in, whatever class their drivers put them in,
+/// and those of the class "Ports" behind them: older drivers announce no interface.
+std::vector<FoundPort> pluggedInPorts() {
+    std::vector<FoundPort> ports = describedPorts(kComPortInterface, DIGCF_PRESENT | DIGCF_DEVICEINTERFACE);
+    std::vector<FoundPort> ofClass = describedPorts(GUID_DEVCLASS_PORTS, DIGCF_PRESENT);
+    ports.insert(ports.end(), std::make_move_iterator(ofClass.begin()),
+                 std::make_move_iterator(ofClass.end()));
+    return ports;
+}
+
 }  // namespace
 
-std::vector<SerialDevice> listSerialDevices(PortNames& names) {
+/// The system tells nobody who holds a port.
+std::vector<PortIdentity> listPorts(PortNames& names, Holders /*holders*/) {
     return serialDevices(announcedPorts(), pluggedInPorts(), names);
 }
 

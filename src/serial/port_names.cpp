@@ -93,6 +93,9 @@ PortNames::PortNames(const Overrides& overrides) {
 }
 
 std::optional<std::string> PortNames::device(int number) const {
+    if (const auto found = placed_.find(number); found != placed_.end()) {
+        return found->second;
+    }
     if (const auto found = overrides_.find(number); found != overrides_.end()) {
         return found->second;
     }
@@ -124,7 +127,7 @@ int PortNames::numberFor(const std::string& nameOrDevice) {
         return *number;
     }
     for (int number = kFirstFreePort; number <= kLastPort; ++number) {
-        if (!overrides_.contains(number)) {
+        if (!overrides_.contains(number) && !placed_.contains(number)) {
             overrides_[number] = nameOrDevice;
             given_[number] = nameOrDevice;
             return number;

@@ -39,6 +39,11 @@ class PortNames {
     /// is free. A device's name is what messages call the port from now on.
     int numberFor(const std::string& nameOrDevice);
 
+    /// Lets a number stand for a device, whatever else it stands for, until clearDevice; messages call the
+    /// port as before.
+    void setDevice(int number, const std::string& device) { placed_[number] = device; }
+    void clearDevice(int number) { placed_.erase(number); }
+
     /// What messages call a port: the device as numberFor was given it, otherwise "COM<n>".
     std::string shown(int number) const;
 
@@ -48,7 +53,8 @@ class PortNames {
 
   private:
     std::map<int, std::string> overrides_;
-    std::map<int, std::string> given_;  // devices by the number that they got
+    std::map<int, std::string> placed_;  // by setDevice
+    std::map<int, std::string> given_;   // devices by the number that they got
 };
 
 }  // namespace velmora

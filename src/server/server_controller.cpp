@@ -133,6 +133,10 @@ void ServerController::windowResized(bool minimised) {
 }
 
 void ServerController::pbStartStop_Click() {
+    if (stopWaiting()) {
+        ShowClear();
+        return;
+    }
     if (state_ != Offline && state_ != OnExit) {
         setState(Offline);
         return;
@@ -150,6 +154,8 @@ void ServerController::pbSetup_Click(const std::function<void()>& openSetup) {
         return;
     }
     const WksDialect dialect = parts_.transfer.sheets.wksDialect;
+    const auto chosenPort = [this] { return std::pair(parts_.port.CommPort(), parts_.options.PortIdentity); };
+    const auto port = chosenPort();
     {
         const Scope scope(inSetup_);
         openSetup();
@@ -157,6 +163,10 @@ void ServerController::pbSetup_Click(const std::function<void()>& openSetup) {
     dialectChosen_ = dialectChosen_ || parts_.transfer.sheets.wksDialect != dialect;
     if (closed_) {
         return;
+    }
+    if (chosenPort() != port) {
+        identityChosen_ = true;
+        stopWaiting();
     }
     ShowClear();
     enableButton(MainButton::StartStop, true);

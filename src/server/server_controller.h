@@ -20,6 +20,7 @@
 #include "server/link_control.h"
 #include "server/main_view.h"
 #include "server/message_lines.h"
+#include "server/port_keeper.h"
 #include "server/server_options.h"
 #include "server/settings_store.h"
 #include "services/strings.h"
@@ -98,6 +99,9 @@ class ServerController : public ServerWindow {
 
     /// Gives the link, which must outlive the controller. Required before any change of state.
     void attachLink(LinkControl& link) { link_ = &link; }
+    /// Gives who finds the port and waits for it, which must outlive the controller. Without it a lost port
+    /// stays lost.
+    void attachPortKeeper(PortKeeper& keeper) { keeper_ = &keeper; }
     void setClosingActions(ClosingActions actions) { closing_ = std::move(actions); }
     /// Called once each time the port cannot be opened or fails while the server runs.
     void onPortFailure(std::function<void()> handler) { onPortFailure_ = std::move(handler); }
@@ -140,6 +144,13 @@ class ServerController : public ServerWindow {
     void pbHide_Click();
     void pbShutDown_Click();
 
+    /// Starts a stopped server (state Offline) whose port is back, on the port as it stands. False when it
+    /// could not, or not now: while the user is busy with a question or the setup dialog.
+    bool restart();
+    /// The port goes, as if it were pulled, for a reason such as "the computer goes to sleep". Asks nothing:
+    /// the transfer is lost in any case.
+    void pullPort(const std::string& reason);
+
     /// Polls the port. Does nothing while ComTimer is disabled, so it may be called at any time when bytes
     /// are known to wait.
     void ComTimer_Tick();
@@ -175,6 +186,7 @@ class ServerController : public ServerWindow {
     bool startServer();
     void showStateText(std::int32_t old, std::int32_t next);
     void storeState(std::int32_t next);
+    void waitOrNot();
 
     // Stop requests and closing.
     bool stopRequestPasses(std::int32_t next);
@@ -192,7 +204,8 @@ class ServerController : public ServerWindow {
     void pacePoll();
     void receive();
     void afterLinkCall();
-    void portFails();
+    void portFails(bool gone = false);
+    bool stopWaiting();
     void reportPortError(const CommError& error);
     std::string portName() const;
 
@@ -204,6 +217,7 @@ class ServerController : public ServerWindow {
 
     ServerParts parts_;
     LinkControl* link_ = nullptr;
+    PortKeeper* keeper_ = nullptr;
     ClosingActions closing_;
     std::function<void()> onPortFailure_;
     DisplayMirror mirror_;
@@ -215,6 +229,7 @@ class ServerController : public ServerWindow {
     bool startStopEnabled_ = true;
     bool portFailed_ = false;  // since the last start
     bool pollFailed_ = false;  // the port's input count failed since the last start
+    bool restarting_ = false;  // the port has been looked for
     bool closed_ = false;
 
     std::array<bool, kQuestions> asking_{};
@@ -222,6 +237,7 @@ class ServerController : public ServerWindow {
     int starting_ = 0;                     // PLP_Start is on the stack
     int linkCalls_ = 0;                    // PLP_ReceiveEvent or PLP_Timeout is on the stack
     int inSetup_ = 0;                      // the setup dialog is open
+    bool identityChosen_ = false;          // the setup dialog changed the port or its adapter
     bool dialectChosen_ = false;           // the setup dialog changed the worksheets' dialect
     bool startWaits_ = false;              // Start was clicked while linkCalls_
     std::optional<std::int32_t> pending_;  // change that was reported while starting_

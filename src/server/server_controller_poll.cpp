@@ -97,10 +97,57 @@ std::string ServerController::portName() const {
     return parts_.portName ? parts_.portName(number) : "COM" + std::to_string(number);
 }
 
-void ServerController::portFails() {
-    if (!std::exchange(portFailed_, true) && onPortFailure_) {
+void ServerController::portFails(bool gone) {
+    if (std::exchange(portFailed_, true)) {
+        return;
+    }
+    if (keeper_ != nullptr && running()) {
+        keeper_->lost(gone);
+    }
+    if (onPortFailure_) {
         onPortFailure_();
     }
+}
+
+void ServerController::pullPort(const std::string& reason) {
+    if (!running() || stopping_ > 0 || closed_) {
+        return;
+    }
+    const bool transfer = state_ >= FileAccess && state_ <= ServiceBusy;
+    ShowWarning(portName() + ": " + reason, transfer ? "The transfer is lost." : "");
+    pollFailed_ = true;
+    portFails(true);
+    setState(LinkFailed);
+    setState(Offline);
+}
+
+bool ServerController::restart() {
+    const bool busy = inSetup_ > 0 || starting_ > 0 || stopping_ > 0 || linkCalls_ > 0;
+    if (state_ != Offline || busy || closed_) {
+        return false;
+    }
+    restarting_ = true;
+    setState(WaitLink);
+    restarting_ = false;
+    // The warning was about the port. Where the adapter is now stays on the screen.
+    if (running() && messages_.warning) {
+        ShowClear();
+    }
+    return running();
+}
+
+/// Ends the wait for the port; whether there was one, in a server that is stopped.
+bool ServerController::stopWaiting() {
+    if (keeper_ == nullptr || !keeper_->waiting()) {
+        return false;
+    }
+    keeper_->giveUp();
+    if (running()) {
+        return false;
+    }
+    parts_.view.setButtonCaption(MainButton::StartStop, "Start");
+    showStateText(state_, state_);
+    return true;
 }
 
 void ServerController::PLPtimer_Tick() {

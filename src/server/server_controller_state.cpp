@@ -10,6 +10,7 @@ namespace velmora {
 namespace {
 
 constexpr std::chrono::milliseconds kShutdownDelay{500};
+constexpr const char* kWaitingForPort = "Waiting for port";
 /// Results of PLP_Start up to this one are success.
 constexpr std::int32_t kLastStartSuccess = 1;
 
@@ -103,6 +104,9 @@ void ServerController::continueServing(std::int32_t next) {
 bool ServerController::startServer() {
     portFailed_ = false;
     pollFailed_ = false;
+    if (keeper_ != nullptr && !restarting_) {
+        keeper_->beforeStart();
+    }
     std::int32_t result = 0;
     {
         const Scope scope(starting_);
@@ -116,8 +120,14 @@ bool ServerController::startServer() {
         const auto& texts = parts_.strings.PortStatus;
         ShowWarning("Port " + portName() + " " + (index < texts.size() ? texts[index] : std::string()), "");
         pending_.reset();
+        if (keeper_ != nullptr) {
+            keeper_->startFailed();
+        }
         portFails();
         return false;
+    }
+    if (keeper_ != nullptr) {
+        keeper_->started();
     }
     minimiseIfAutoHide();
     enableButton(MainButton::Setup, false);
@@ -141,6 +151,19 @@ void ServerController::showStateText(std::int32_t old, std::int32_t next) {
     Display(text.line1, text.line2);
 }
 
+/// A server that waits for its port can be stopped. One that the Organiser has stopped waits no longer.
+void ServerController::waitOrNot() {
+    if (keeper_ == nullptr || !keeper_->waiting() || running()) {
+        return;
+    }
+    if (state_ == Offline) {
+        parts_.view.setButtonCaption(MainButton::StartStop, "Stop");
+        Display(parts_.strings.DisplayStrings[Offline].line1, kWaitingForPort);
+    } else {
+        keeper_->giveUp();
+    }
+}
+
 void ServerController::storeState(std::int32_t next) {
     // The count-down to the end of the program is off when something else is wanted now.
     if (state_ == Shutdown && next < WaitLink) {
@@ -148,6 +171,7 @@ void ServerController::storeState(std::int32_t next) {
     }
     state_ = next;
     pacePoll();
+    waitOrNot();
     if (parts_.view.isMinimised()) {
         parts_.view.setCaption(
             minimisedCaption(parts_.strings.DisplayStrings[static_cast<std::size_t>(next)]));

@@ -115,6 +115,7 @@ bool ServerController::queryUnload(CloseReason reason) {
             break;
     }
     closed_ = true;
+    stopWaiting();
     for (Timer* timer : {&parts_.ComTimer, &parts_.PLPtimer, &parts_.DisplayTimer}) {
         timer->setEnabled(false);
     }
@@ -158,6 +159,9 @@ void ServerController::saveSettings(bool portChosen) {
         }
         if (parts_.options.AutoSave && portChosen) {
             put("Port", std::to_string(parts_.port.CommPort()));
+            if (identityChosen_) {
+                put("PortIdentity", parts_.options.PortIdentity);
+            }
             put("Baud", plainText(numericValue(parts_.port.Settings())));
         }
     } catch (const RunTimeError& error) {

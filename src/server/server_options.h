@@ -1,6 +1,8 @@
 // The settings that the server controller acts on.
 #pragma once
 
+#include <string>
+
 namespace velmora {
 
 /// Read by start-up from [Settings] and [OnExit], changed by the setup dialog, held by the controller.
@@ -12,6 +14,9 @@ struct ServerOptions {
     bool AutoHide = false;       ///< minimise when the server starts or waits for a link
     bool AutoPopup = false;      ///< raise the window when a transfer begins
     bool DontTestModem = false;  ///< leave out the modem probe of the port test
+    bool Reconnect = true;       ///< start again by itself when a lost adapter is back
+    /// The adapter that the port's number stands for (AdapterKey's text); empty: whatever has the number.
+    std::string PortIdentity;
 
     // Reaction to EXIT and SHUTDOWN.
     bool RestoreWin = true;

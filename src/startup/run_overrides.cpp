@@ -9,9 +9,10 @@
 namespace velmora {
 
 bool isOverridden(const RunOverrides& overrides, std::string_view section, std::string_view key) {
-    const std::array<std::pair<std::string_view, bool>, 6> given = {
+    const std::array<std::pair<std::string_view, bool>, 7> given = {
         {{"DOWNLOADPATH", overrides.folder.has_value()},
          {"PORT", overrides.port.has_value()},
+         {"PORTIDENTITY", overrides.port.has_value()},
          {"BAUD", overrides.baud.has_value()},
          {"DATAFILETYPE", overrides.fileType.has_value()},
          {"STAYINFOLDER", overrides.stayInFolder.has_value()},

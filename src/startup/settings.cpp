@@ -62,6 +62,8 @@ std::vector<SettingRow> makeTable() {
     SettingRow baud{kSettings, "Baud", SettingType::Integer, SettingStep::init_Ports, "9600"};
     baud.wideNumber = &Settings::Baud;
     baud.checkWide = rateOrDefault;
+    SettingRow portIdentity{kSettings, "PortIdentity", SettingType::Text, SettingStep::get_Settings, ""};
+    portIdentity.text = &ServerOptions::PortIdentity;
     using Options = ServerOptions;
     constexpr SettingStep kSettingsStep = SettingStep::get_Settings;
     constexpr SettingStep kPortsStep = SettingStep::init_Ports;
@@ -75,6 +77,8 @@ std::vector<SettingRow> makeTable() {
             wksDialect,
             numberRow("EarlierCopies", kSettingsStep, "30", &Settings::EarlierCopies, daysOrDefault),
             stayInFolder,
+            flagRow(kSettings, "Reconnect", &Options::Reconnect, true),
+            portIdentity,
             flagRow(kOnExit, "RestoreWin", &Options::RestoreWin, true),
             flagRow(kOnExit, "HideWin", &Options::HideWin, false),
             flagRow(kOnExit, "AskUser", &Options::AskUser, false),
@@ -114,6 +118,9 @@ void readRow(clsIniFile& ini, const SettingRow& row, Settings& settings) {
         case SettingType::Boolean:
             (row.flag != nullptr ? settings.options.*row.flag : settings.*row.limit) =
                 ini.GetBool(key, row.defaultText == "True");
+            return;
+        case SettingType::Text:
+            settings.options.*row.text = trimBlanks(ini.GetString(key, std::string(row.defaultText)));
             return;
         case SettingType::Integer:
             break;

@@ -36,6 +36,7 @@ enum class SettingType {
     Path,     ///< a folder, in the system's encoding
     Integer,  ///< a 16-bit number; one that does not fit is RunTimeError 6, except in a wide one
     Boolean,  ///< clsIniFile::GetBool; another text is RunTimeError 13
+    Text,     ///< taken as it is, without blanks around it
 };
 
 /// The start-up step that reads a setting and that a failure is reported with.
@@ -52,6 +53,7 @@ struct SettingRow {
     std::string Settings::*path = nullptr;
     std::int16_t Settings::*number = nullptr;
     bool ServerOptions::*flag = nullptr;
+    std::string ServerOptions::*text = nullptr;
     bool Settings::*limit = nullptr;  ///< a flag that is no option of the window
     /// For settings that may be missing altogether.
     std::optional<std::int16_t> Settings::*optionalNumber = nullptr;

@@ -24,7 +24,9 @@ ConsoleView::ConsoleView(PrintLine output, PrintLine errors, ProgramCalls progra
     : output_(std::move(output)), errors_(std::move(errors)), program_(std::move(program)) {}
 
 void ConsoleView::showStatus(const std::string& text) {
-    output_(toSystemText(text));
+    if (!program_.statusWanted || program_.statusWanted()) {
+        output_(toSystemText(text));
+    }
 }
 
 void ConsoleView::showReport(const std::string& line) {

@@ -21,6 +21,7 @@ class ConsoleView : public MainView {
     struct ProgramCalls {
         std::function<void()> close;                     ///< the controller wants the program to end
         std::function<void(std::int32_t)> stateChanged;  ///< the server has a new state
+        std::function<bool()> statusWanted;              ///< whether the display is of interest now
     };
 
     ConsoleView(PrintLine output, PrintLine errors, ProgramCalls program);

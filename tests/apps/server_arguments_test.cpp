@@ -38,6 +38,14 @@ TEST(ServerArguments, TraceAloneTracesEverythingAndTakesNoFollowingWord) {
     EXPECT_EQ(arguments.port, "COM1");
 }
 
+TEST(ServerArguments, ListsPortsWaitsAndTakesTheNamesOfAdapters) {
+    EXPECT_FALSE(readServerArguments({}).wait);
+    EXPECT_FALSE(readServerArguments({}).listPorts);
+    EXPECT_TRUE(readServerArguments({"--wait"}).wait);
+    EXPECT_TRUE(readServerArguments({"--list-ports", "--json"}).json);
+    EXPECT_EQ(readServerArguments({"--port", "usb:0403:6001:A5"}).port, "usb:0403:6001:A5");
+}
+
 TEST(ServerArguments, ATraceFileTurnsTheTraceOn) {
     EXPECT_TRUE(readServerArguments({"--trace-file=t"}).trace);
 }
@@ -52,6 +60,9 @@ TEST(ServerArguments, SaysWhatIsWrong) {
         return "no complaint";
     };
     EXPECT_EQ(complaint({"--port"}), "--port needs a value");
+    EXPECT_EQ(complaint({"--json"}), "--json goes with --list-ports");
+    EXPECT_EQ(complaint({"--port=usb:0403"}),
+              "--port: \"usb:0403\" is not usb:VENDOR:PRODUCT:SERIAL, as --list-ports prints it");
     EXPECT_EQ(complaint({"--folder="}), "--folder needs a value");
     EXPECT_EQ(complaint({"--baud", "fast"}), "--baud: \"fast\" is not a number from 1 to 4000000");
     EXPECT_EQ(complaint({"--baud", "0"}), "--baud: \"0\" is not a number from 1 to 4000000");

@@ -84,6 +84,12 @@ TEST(OrganiserCommandLine, NothingIsAnOptionBehindTwoDashes) {
     EXPECT_EQ(command({"load", "--", "--long"}).name, "--long");
 }
 
+TEST(OrganiserCommandLine, TheListOfPortsNeedsNothingElse) {
+    EXPECT_EQ(readCommandLine({"--list-ports"}).command.kind, CommandKind::ListPorts);
+    EXPECT_TRUE(readCommandLine({"--list-ports", "--json"}).command.json);
+    EXPECT_FALSE(readCommandLine({"--list-ports"}).command.json);
+}
+
 TEST(OrganiserCommandLine, HelpNeedsNothingElse) {
     const auto help = [](const std::vector<std::string>& arguments) -> std::string {
         try {

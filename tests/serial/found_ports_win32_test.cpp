@@ -17,9 +17,9 @@ using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using ::testing::IsSupersetOf;
 
-std::vector<std::string> linesOf(const std::vector<SerialDevice>& devices) {
+std::vector<std::string> linesOf(const std::vector<PortIdentity>& devices) {
     std::vector<std::string> lines;
-    for (const SerialDevice& device : devices) {
+    for (const PortIdentity& device : devices) {
         lines.push_back(std::to_string(device.number) + "|" + device.device + "|" + device.maker + "|" +
                         device.product);
     }
@@ -128,10 +128,10 @@ TEST(FoundPortsWin32Test, TheMachinesOwnPortsAreInOrderAndKnown) {
         GTEST_SKIP() << "this machine announces no ports";
     }
     PortNames names;
-    const std::vector<SerialDevice> devices = listSerialDevices(names);
+    const std::vector<PortIdentity> devices = listPorts(names);
     std::set<std::string> listed;
     int last = 0;
-    for (const SerialDevice& device : devices) {
+    for (const PortIdentity& device : devices) {
         EXPECT_GT(device.number, last);
         EXPECT_EQ(names.device(device.number), device.device);
         last = device.number;

@@ -64,6 +64,8 @@ class ConfigurationPage : public ::testing::Test {
                 return "number";
             case SettingType::Boolean:
                 return "yes/no";
+            case SettingType::Text:
+                return "text";
         }
         return {};
     }

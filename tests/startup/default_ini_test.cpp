@@ -129,8 +129,9 @@ TEST_F(DefaultIni, HoldsEverySettingThatIsNotForTheFew) {
     for (const SettingRow& row : settingsTable()) {
         ini.setSectionName(std::string(row.section));
         const bool present = ini.GetString(std::string(row.key), "missing") != "missing";
-        const bool forTheFew =
-            row.key == "WksDialect" || row.key == "EarlierCopies" || row.key == "StayInFolder";
+        const bool forTheFew = row.key == "WksDialect" || row.key == "EarlierCopies" ||
+                               row.key == "StayInFolder" || row.key == "Reconnect" ||
+                               row.key == "PortIdentity";
         EXPECT_EQ(present, !forTheFew) << row.key;
     }
     ini.setSectionName("Settings");

@@ -43,6 +43,20 @@ TEST_F(SettingsFile, AnEmptyFileGivesTheDefaults) {
     EXPECT_FALSE(settings.StayInFolder);
 }
 
+TEST_F(SettingsFile, TheAdapterIsATextAndReconnectingIsTheRule) {
+    EXPECT_EQ(read("").options.PortIdentity, "");
+    EXPECT_EQ(readEntry("PortIdentity= 0403:6001:A50285BI ").options.PortIdentity, "0403:6001:A50285BI");
+    EXPECT_TRUE(read("").options.Reconnect);
+    EXPECT_FALSE(readEntry("Reconnect=False").options.Reconnect);
+}
+
+TEST_F(SettingsFile, APortOfTheCommandLineTakesThePlaceOfTheFilesAdapterToo) {
+    RunOverrides overrides;
+    EXPECT_FALSE(isOverridden(overrides, "Settings", "PortIdentity"));
+    overrides.port = "COM7";
+    EXPECT_TRUE(isOverridden(overrides, "Settings", "PortIdentity"));
+}
+
 TEST_F(SettingsFile, StayingInTheFolderIsReadAsAFlag) {
     EXPECT_TRUE(readEntry("StayInFolder=Yes").StayInFolder);
     EXPECT_FALSE(readEntry("StayInFolder=0").StayInFolder);
@@ -128,7 +142,7 @@ TEST_F(SettingsFile, EveryRowHasExactlyOnePlaceAndNoKeyTwice) {
     for (const SettingRow& row : settingsTable()) {
         const int places = (row.path != nullptr) + (row.number != nullptr) + (row.flag != nullptr) +
                            (row.optionalNumber != nullptr) + (row.limit != nullptr) +
-                           (row.wideNumber != nullptr);
+                           (row.wideNumber != nullptr) + (row.text != nullptr);
         EXPECT_EQ(places, 1) << row.key;
         EXPECT_EQ(findSetting(row.section, row.key), &row);
     }

@@ -31,7 +31,9 @@ class Console : public testing::Test {
     test::ScriptedLink link;
     ConsoleView view{[this](const std::string& line) { output.push_back(line); },
                      [this](const std::string& line) { errors.push_back(line); },
-                     {[this] { ++closings; }, [this](std::int32_t state) { states.push_back(state); }}};
+                     {[this] { ++closings; }, [this](std::int32_t state) { states.push_back(state); },
+                      [this] { return statusWanted; }}};
+    bool statusWanted = true;
     NoUserBox box{[this](const std::string& line) { errors.push_back(line); }};
     ServerController controller{{view, box, strings, options, transfer, port, time.makeTimer(),
                                  time.makeTimer(), time.makeTimer(), time, yield,
@@ -49,6 +51,13 @@ TEST_F(Console, TellsATransferLineByLine) {
                              "Downloading file: Memo.odb", "Waiting for link"}));
     EXPECT_TRUE(errors.empty());
     EXPECT_EQ(states, (std::vector<std::int32_t>{5, 6, 9, 5}));
+}
+
+TEST_F(Console, LeavesOutTheDisplayWhileItIsNotWantedButNoReport) {
+    statusWanted = false;
+    controller.setState(WaitLink);
+    controller.Report("Memo.odb is incomplete");
+    EXPECT_EQ(output, Lines{"Memo.odb is incomplete"});
 }
 
 TEST_F(Console, PrintsWholeTextsNotSixteenColumns) {

@@ -52,7 +52,7 @@ QColor groundFor(const QColor& mark, const QColor& own) {
     return contrast(mark, Qt::white) > contrast(mark, dark) ? QColor(Qt::white) : dark;
 }
 
-QString describe(const SerialDevice& device) {
+QString describe(const PortIdentity& device) {
     QStringList parts{QStringLiteral("COM%1").arg(device.number)};
     // On Windows the device is called as its port.
     if (const QString name = qtSystemText(device.device); name != parts.front()) {
@@ -61,6 +61,11 @@ QString describe(const SerialDevice& device) {
     const QString product = qtSystemText(device.maker + " " + device.product).trimmed();
     if (!product.isEmpty()) {
         parts.append(product);
+    }
+    // Two adapters of one kind differ in the end of their serial numbers.
+    constexpr qsizetype kTold = 4;
+    if (const QString serial = qtSystemText(device.serial); !serial.isEmpty()) {
+        parts.append((serial.size() > kTold ? QStringLiteral("\u2026") : QString()) + serial.right(kTold));
     }
     return parts.join(QStringLiteral("  "));
 }
@@ -356,11 +361,11 @@ void frmSetup::showState() {
 }
 
 void frmSetup::fillDevices() {
-    devices_ = listDevices_ ? listDevices_() : std::vector<SerialDevice>();
+    devices_ = listDevices_ ? listDevices_() : std::vector<PortIdentity>();
     cboPresentPorts->clear();
     cboPresentPorts->setPlaceholderText(devices_.empty() ? QStringLiteral("No serial device is present")
                                                          : QStringLiteral("Devices that are present"));
-    for (const SerialDevice& device : devices_) {
+    for (const PortIdentity& device : devices_) {
         cboPresentPorts->addItem(describe(device));
     }
     showDeviceTips();
@@ -386,7 +391,7 @@ void frmSetup::deviceChosen(int row) {
     if (row < 0 || static_cast<std::size_t>(row) >= devices_.size()) {
         return;
     }
-    const SerialDevice& device = devices_[static_cast<std::size_t>(row)];
+    const PortIdentity& device = devices_[static_cast<std::size_t>(row)];
     // The arrow keys choose too: the focus stays in the list.
     keepFocus_ = true;
     model_.setPortText(std::to_string(device.number));

@@ -7,7 +7,7 @@
 #include <utility>
 #include <vector>
 
-#include "serial/port_list.h"
+#include "serial/port_identity.h"
 #include "ui/setup_model.h"
 
 class QCheckBox;
@@ -29,7 +29,7 @@ class frmSetup : public QDialog {
 
   public:
     using DeviceTip = std::function<std::string(const std::string& device)>;
-    using ListDevices = std::function<std::vector<SerialDevice>()>;
+    using ListDevices = std::function<std::vector<PortIdentity>()>;
 
     /// The references must outlive the dialog; `listDevices` names the devices that are present.
     frmSetup(SerialPort& port, ServerOptions& options, TransferSettings& transfer, SetupModel::Probe probe,
@@ -66,7 +66,7 @@ class frmSetup : public QDialog {
     ListDevices listDevices_;
     std::function<void()> beep_;
     DeviceTip deviceTip_;
-    std::vector<SerialDevice> devices_;
+    std::vector<PortIdentity> devices_;
     bool shownOnce_ = false;
     bool loading_ = false;
     bool loaded_ = false;

@@ -43,6 +43,7 @@ class DesktopServerTest : public QObject {
     void cleanup();
     void startsByItselfAndShowsIt();
     void pulledCableStopsTheServerUntilItIsBack();
+    void whileItWaitsForItsCableItCanBeStopped();
     void missingDeviceTellsWhatToDo();
     void displayStatisticsAndFileAgree();
     void cablePulledAmidAFileLosesItWhateverTheUserAnswers_data();
@@ -128,14 +129,32 @@ void DesktopServerTest::pulledCableStopsTheServerUntilItIsBack() {
     QVERIFY(label("tlWarning")->isVisible());
     QVERIFY(label("tlBottomText_2")->text().startsWith(QStringLiteral("COM40: ")));
     QVERIFY(label("lblAdvice")->isVisible());
-    QCOMPARE(startStop()->text(), QStringLiteral("&Start"));
+    QVERIFY(
+        label("lblAdvice")->text().endsWith(QStringLiteral("Velmora goes on when it is plugged in again.")));
+    QCOMPARE(label("tlDisplay_2")->text(), QStringLiteral("Waiting for port"));
+
+    plug();
+    QTRY_COMPARE(server->controller().state(), int{WaitLink});
+    QVERIFY(!label("tlWarning")->isVisible());
+    QVERIFY(!label("lblAdvice")->isVisible());
+    QCOMPARE(startStop()->text(), QStringLiteral("&Stop"));
+}
+
+void DesktopServerTest::whileItWaitsForItsCableItCanBeStopped() {
+    QVERIFY(server->start(""));
+    pty.reset();
+    QTRY_COMPARE(server->controller().state(), int{Offline});
+    QCOMPARE(startStop()->text(), QStringLiteral("&Stop"));
     QVERIFY(startStop()->isEnabled());
+    QTest::mouseClick(startStop(), Qt::LeftButton);
+    QCOMPARE(server->controller().state(), int{Offline});
+    QCOMPARE(startStop()->text(), QStringLiteral("&Start"));
+    QVERIFY(!label("tlWarning")->isVisible());
+    QVERIFY(label("tlDisplay_2")->text().contains(QStringLiteral("Click Start!")));
 
     plug();
     QTest::mouseClick(startStop(), Qt::LeftButton);
     QCOMPARE(server->controller().state(), int{WaitLink});
-    QVERIFY(!label("tlWarning")->isVisible());
-    QVERIFY(!label("lblAdvice")->isVisible());
 }
 
 void DesktopServerTest::missingDeviceTellsWhatToDo() {
@@ -206,7 +225,7 @@ void DesktopServerTest::cablePulledAmidAFileLosesItWhateverTheUserAnswers() {
 
     QTRY_COMPARE_WITH_TIMEOUT(organiser.state(), QProcess::NotRunning, 30'000);
     layCable();
-    QTest::mouseClick(startStop(), Qt::LeftButton);
+    QTRY_COMPARE(server->controller().state(), int{WaitLink});
     startSaving(3000);
     QTRY_COMPARE_WITH_TIMEOUT(organiser.state(), QProcess::NotRunning, 30'000);
     QCOMPARE(organiser.exitCode(), 0);

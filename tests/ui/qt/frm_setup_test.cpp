@@ -269,11 +269,12 @@ class FrmSetupTest : public QObject {
         QVERIFY(transfer.sheets.wksDialect == WksDialect::Common);
     }
     void aDeviceFillsTheNumber() {
-        devices = {{5, "/dev/ttyUSB0", "FTDI", "FT232R USB UART", true, ""},
-                   {6, "/dev/ttyUSB1", "", "", false, "dialout"}};
+        devices = {adapter(5, "/dev/ttyUSB0", "A50285BI"), device(6, "/dev/ttyUSB1")};
+        devices[1].mayOpen = false;
+        devices[1].groupToJoin = "dialout";
         open();
         auto* list = find<QComboBox>("cboPresentPorts");
-        QCOMPARE(list->itemText(0), QString("COM5  /dev/ttyUSB0  FTDI FT232R USB UART"));
+        QCOMPARE(list->itemText(0), QString("COM5  /dev/ttyUSB0  FTDI FT232R USB UART  …85BI"));
         QTest::keyClick(list, Qt::Key_Down);
         QCOMPARE(text()->text(), QString("5"));
         QVERIFY(other()->isChecked());
@@ -290,7 +291,7 @@ class FrmSetupTest : public QObject {
         auto* list = find<QComboBox>("cboPresentPorts");
         QCOMPARE(list->count(), 0);
         QCOMPARE(list->placeholderText(), QString("No serial device is present"));
-        devices = {{5, "/dev/ttyUSB0", "", "", true, ""}};
+        devices = {device(5, "/dev/ttyUSB0")};
         find<QPushButton>("pbRefreshPorts")->click();
         QCOMPARE(list->count(), 1);
         QCOMPARE(list->currentIndex(), -1);
@@ -339,6 +340,22 @@ class FrmSetupTest : public QObject {
         openProbing();
         QTRY_VERIFY(ok()->isEnabled());
     }
+    static PortIdentity device(int number, const std::string& path) {
+        PortIdentity identity;
+        identity.number = number;
+        identity.device = path;
+        identity.mayOpen = true;
+        return identity;
+    }
+    static PortIdentity adapter(int number, const std::string& path, const std::string& serial) {
+        PortIdentity identity = device(number, path);
+        identity.vendorId = "0403";
+        identity.productId = "6001";
+        identity.serial = serial;
+        identity.maker = "FTDI";
+        identity.product = "FT232R USB UART";
+        return identity;
+    }
     std::int32_t probe(std::int16_t number) {
         port.number = number;
         probed.push_back(number);
@@ -353,7 +370,7 @@ class FrmSetupTest : public QObject {
     ServerOptions options;
     TransferSettings transfer;
     std::map<int, std::int32_t> statuses;
-    std::vector<SerialDevice> devices;
+    std::vector<PortIdentity> devices;
     std::vector<int> probed;
     int beeps = 0;
     std::function<void()> whileProbing;

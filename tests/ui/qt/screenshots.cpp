@@ -122,7 +122,16 @@ bool saveSetup(const QDir& folder, const char* name) {
         return kAnswers[number - 1];
     };
     const auto devices = [] {
-        return std::vector<SerialDevice>{{5, "/dev/ttyUSB0", "FTDI", "FT232R USB UART", true, ""}};
+        PortIdentity adapter;
+        adapter.number = 5;
+        adapter.device = "/dev/ttyUSB0";
+        adapter.vendorId = "0403";
+        adapter.productId = "6001";
+        adapter.serial = "A50285BI";
+        adapter.maker = "FTDI";
+        adapter.product = "FT232R USB UART";
+        adapter.mayOpen = true;
+        return std::vector<PortIdentity>{adapter};
     };
     frmSetup dialog(port, options, transfer, probe, devices);
     dialog.show();
