@@ -37,8 +37,8 @@ stop_cable() {
 organiser() { "$build/bin/velmora-organiser" --device "$1" "${@:2}" > /dev/null; }
 
 # Of all threads of the server: nanoseconds on a processor, and the number of wake-ups.
-busy() { cat "/proc/$server/task/"*/schedstat | awk '{ sum += $1 } END { print sum }'; }
-wakeups() { cat "/proc/$server/task/"*/status | awk '/^voluntary_ctxt_switches/ { sum += $2 } END { print sum }'; }
+busy() { cat "/proc/$server/task/"*/schedstat | awk '{ sum += $1 } END { printf "%.0f", sum }'; }
+wakeups() { cat "/proc/$server/task/"*/status | awk '/^voluntary_ctxt_switches/ { sum += $2 } END { printf "%.0f", sum }'; }
 stop_server() {
   kill "$server"
   wait "$server" || true

@@ -4,7 +4,8 @@
 # the clock.
 #   bench/line_share.sh [BUILD_FOLDER]
 #   bench/line_share.sh --wine WINDOWS_BUILD_FOLDER [BUILD_FOLDER]
-# With --wine the server is velmorad.exe, whose COM port is added to the Wine prefix WINEPREFIX.
+# With --wine the server is velmorad.exe, whose COM port is added to the Wine prefix WINEPREFIX; only the short
+# records are measured then, since the rates are the line's.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 windows=
@@ -20,8 +21,12 @@ com_port=$([[ -z "$windows" ]] || echo "${WINEPREFIX:-$HOME/.wine}/dosdevices/co
 start_server() {
   if [[ -n "$windows" ]]; then
     ln -sfn "$1" "$com_port"
-    WINEDEBUG=-all wine "$windows/bin/velmorad.exe" --port COM97 --config "Z:$work/Velmora.ini" \
-      --folder "Z:$work/psion" "${@:2}" > "$work/server.log" 2>&1 &
+    # Programs that Wine starts beside it live on, and would keep the cable from its end.
+    (
+      exec {hold}>&-
+      WINEDEBUG=-all exec wine "$windows/bin/velmorad.exe" --port COM97 --config "Z:$work/Velmora.ini" \
+        --folder "Z:$work/psion" "${@:2}" > "$work/server.log" 2>&1
+    ) &
   else
     "$build/bin/velmorad" --port "$1" --folder "$work/psion" "${@:2}" > "$work/server.log" 2>&1 &
   fi
@@ -79,9 +84,12 @@ for length in 60 24 8; do
     share 9600 $length $direction
   done
 done
+if [[ -n "$windows" ]]; then
+  rm -f "$com_port"
+  exit
+fi
 for baud in 1200 2400 19200 38400 57600 115200; do
   for direction in save load; do
     share $baud 26 $direction
   done
 done
-[[ -z "$com_port" ]] || rm -f "$com_port"

@@ -25,7 +25,7 @@ struct PlatformParts {
           rules(currentFolder()),
           profiles(files, rules),
           device(makeCommDevice(portNames)),
-          watcher(std::move(poll)),
+          watcher(std::move(poll), clock),
           port(*device, yield, &watcher),
           ComTimer(watcher) {}
 

@@ -5,27 +5,30 @@
 #include <functional>
 #include <memory>
 
+#include "base/clock.h"
 #include "serial/port_observer.h"
 
 namespace velmora {
 
-/// Watches the open port where the system has a way to, so that the poll runs as soon as bytes wait instead
-/// of at its next tick. On Windows nothing wakes up: a COM port that is not overlapped has no handle to wait
-/// on, so there the poll's own interval is what it takes.
+/// Watches the open port, so that the poll runs as soon as bytes wait instead of at its next tick. On Windows
+/// nothing tells of them: a COM port that is not overlapped has no handle to wait on. There the port is
+/// looked at every millisecond for as long as bytes keep coming (QueueWatch), and the first of them are found
+/// by the poll.
 ///
 /// The poll may be switched off while the link works; the watch then rests with it, since a descriptor that
 /// stays readable would otherwise keep the event loop busy. For the same reason it rests once it has woken
 /// the poll, until that is switched on again, as a poll that reads is, or ticks.
 class PortWatcher : public PortObserver {
   public:
-    /// `onReadable` runs on the event loop when the port has bytes or has hung up.
-    explicit PortWatcher(std::function<void()> onReadable);
+    /// `onReadable` runs on the event loop when the port has bytes or has hung up. `clock` must outlive it.
+    PortWatcher(std::function<void()> onReadable, const Clock& clock);
     ~PortWatcher() override;
     PortWatcher(const PortWatcher&) = delete;
     PortWatcher& operator=(const PortWatcher&) = delete;
 
     void portOpened(std::intptr_t handle) override;
     void portClosing(std::intptr_t handle) override;
+    void portRead() override;
     /// Switches the watch on and off together with the poll.
     void setActive(bool active);
     /// Whether bytes, or the end of the port, will wake the poll.

@@ -43,7 +43,7 @@ class PortWatcher::Watch {
     bool active_ = true;
 };
 
-PortWatcher::PortWatcher(std::function<void()> onReadable)
+PortWatcher::PortWatcher(std::function<void()> onReadable, const Clock& /*clock*/)
     : watch_(std::make_unique<Watch>(std::move(onReadable))) {}
 PortWatcher::~PortWatcher() = default;
 
@@ -54,6 +54,8 @@ void PortWatcher::portOpened(std::intptr_t handle) {
 void PortWatcher::portClosing(std::intptr_t /*handle*/) {
     watch_->end();
 }
+
+void PortWatcher::portRead() {}
 
 void PortWatcher::setActive(bool active) {
     watch_->setActive(active);

@@ -66,6 +66,9 @@ bool myComm::GetInput(std::size_t maximum, std::string& text) {
         requireOpen("GetInput");
         raiseFailure("GetInput");
     }
+    if (observer_ && !text.empty()) {
+        observer_->portRead();
+    }
     return true;
 }
 

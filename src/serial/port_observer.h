@@ -14,6 +14,8 @@ class PortObserver {
     virtual void portOpened(std::intptr_t handle) = 0;
     /// The port is about to be closed: stop watching `handle` now. Must not call the port.
     virtual void portClosing(std::intptr_t handle) = 0;
+    /// Bytes were read from the open port. Must not call the port.
+    virtual void portRead() {}
 };
 
 }  // namespace velmora

@@ -7,6 +7,7 @@
 #include "event_loop_fixture.h"
 #include "eventloop/port_watcher.h"
 #include "eventloop/qt_timer.h"
+#include "support/fake_timers.h"
 
 namespace velmora {
 namespace {
@@ -34,6 +35,7 @@ class PortWatcherTest : public EventLoopFixture {
         last_.setEnabled(true);
     }
     int port() const { return ends_[0]; }
+    test::FakeTime clock;
 
   private:
     std::array<int, 2> ends_{};
@@ -42,7 +44,7 @@ class PortWatcherTest : public EventLoopFixture {
 
 TEST_F(PortWatcherTest, BytesThatComeWakeItOnceForEachLook) {
     int woken = 0;
-    PortWatcher watcher([&] { ++woken; });
+    PortWatcher watcher([&] { ++woken; }, clock);
     watcher.portOpened(port());
     run([&] {
         bytesCome();
@@ -58,7 +60,7 @@ TEST_F(PortWatcherTest, BytesThatComeWakeItOnceForEachLook) {
 }
 
 TEST_F(PortWatcherTest, RestsWithThePoll) {
-    PortWatcher watcher([] { FAIL() << "the poll is off"; });
+    PortWatcher watcher([] { FAIL() << "the poll is off"; }, clock);
     WatchedTimer<QtTimer> poll(watcher);
     poll.setEnabled(true);
     poll.setEnabled(false);
@@ -71,7 +73,7 @@ TEST_F(PortWatcherTest, RestsWithThePoll) {
 }
 
 TEST_F(PortWatcherTest, WatchesAnOpenPortUntilItHasWokenThePoll) {
-    PortWatcher watcher([] { QCoreApplication::exit(); });
+    PortWatcher watcher([] { QCoreApplication::exit(); }, clock);
     EXPECT_FALSE(watcher.watches()) << "no port";
     watcher.portOpened(port());
     EXPECT_TRUE(watcher.watches());
@@ -85,11 +87,13 @@ TEST_F(PortWatcherTest, WatchesAnOpenPortUntilItHasWokenThePoll) {
 
 TEST_F(PortWatcherTest, ATickOfThePollSwitchesTheWatchOnAgain) {
     int woken = 0;
-    PortWatcher watcher([&] {
-        if (++woken == 3) {
-            QCoreApplication::exit();
-        }
-    });
+    PortWatcher watcher(
+        [&] {
+            if (++woken == 3) {
+                QCoreApplication::exit();
+            }
+        },
+        clock);
     WatchedTimer<QtTimer> poll(watcher);
     int ticks = 0;
     poll.onTick([&] {
@@ -105,7 +109,7 @@ TEST_F(PortWatcherTest, ATickOfThePollSwitchesTheWatchOnAgain) {
 }
 
 TEST_F(PortWatcherTest, AHangUpWakesThePoll) {
-    PortWatcher watcher([] { QCoreApplication::exit(); });
+    PortWatcher watcher([] { QCoreApplication::exit(); }, clock);
     watcher.portOpened(port());
     run([&] { hangUp(); });
     watcher.portClosing(port());
@@ -113,11 +117,13 @@ TEST_F(PortWatcherTest, AHangUpWakesThePoll) {
 
 TEST_F(PortWatcherTest, APortMayBeClosedFromInsideItsOwnEvent) {
     int woken = 0;
-    PortWatcher watcher([&] {
-        ++woken;
-        watcher.portClosing(port());
-        watcher.setActive(true);
-    });
+    PortWatcher watcher(
+        [&] {
+            ++woken;
+            watcher.portClosing(port());
+            watcher.setActive(true);
+        },
+        clock);
     watcher.portOpened(port());
     run([&] {
         bytesCome();

@@ -20,6 +20,7 @@ class RecordingObserver : public PortObserver {
   public:
     void portOpened(std::intptr_t handle) override { events.push_back("opened " + std::to_string(handle)); }
     void portClosing(std::intptr_t handle) override { events.push_back("closing " + std::to_string(handle)); }
+    void portRead() override { events.emplace_back("read"); }
     std::vector<std::string> events;
 };
 
@@ -151,6 +152,16 @@ TEST_F(MyCommTest, TheObserverHearsOfOpeningAndClosing) {
     EXPECT_THAT(observer.events, ElementsAre("opened 42"));
     port.ClosePort();
     EXPECT_THAT(observer.events, ElementsAre("opened 42", "closing 42"));
+}
+
+TEST_F(MyCommTest, TheObserverHearsOfBytesThatWereReadAndOfNoEmptyRead) {
+    port.OpenPort();
+    observer.events.clear();
+    port.GetInput(10, text);
+    EXPECT_TRUE(observer.events.empty());
+    device.input = "abc";
+    port.GetInput(10, text);
+    EXPECT_THAT(observer.events, ElementsAre("read"));
 }
 
 TEST_F(MyCommTest, AnObserverIsOptional) {
