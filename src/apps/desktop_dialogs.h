@@ -6,6 +6,7 @@
 
 #include "base/clock.h"
 #include "link/debug.h"
+#include "serial/adapter_events.h"
 #include "serial/port_names.h"
 #include "serial/serial_port.h"
 #include "server/server_options.h"
@@ -16,6 +17,8 @@
 
 namespace velmora {
 
+class frmSetup;
+
 /// The setup dialog, the folder choice and the debug window. All that it is given must outlive it.
 class DesktopDialogs {
   public:
@@ -23,7 +26,9 @@ class DesktopDialogs {
 
     /// Shows the setup dialog over the window until the user closes it.
     void runSetup(QWidget& window, SerialPort& port, ServerOptions& options, TransferSettings& transfer,
-                  const SetupModel::Probe& probe);
+                  const SetupModel::Probe& probe, const AdapterEvents& adapters);
+    /// An adapter has come or gone: a setup dialog that is open shows it.
+    void adaptersChanged();
     /// Asks for a folder; empty when the user cancels.
     std::string browseForFolder(QWidget& window, const FolderQuestion& question);
 
@@ -36,6 +41,7 @@ class DesktopDialogs {
   private:
     PortNames& portNames_;
     frmDebug debugWindow_;
+    frmSetup* openSetup_ = nullptr;
 };
 
 }  // namespace velmora

@@ -24,7 +24,8 @@ DesktopServer::DesktopServer(const RunOverrides& overrides)
                  [this] { window_.show(); },
                  [this] { placeWindow(); }},
                 {},
-                [this] { return waitFor(); }}),
+                [this] { return waitFor(); },
+                [this] { dialogs_.adaptersChanged(); }}),
       registry_(positions_) {
     controller().setClosingActions(
         {&program_.settingsStore(), [this] { saveWindowPlace(); }, [this] { dialogs_.closeDebugWindow(); }});
@@ -71,8 +72,9 @@ bool DesktopServer::queryUnload(CloseReason reason) {
 }
 
 void DesktopServer::openSetup() {
-    dialogs_.runSetup(window_, platform_.port, program_.core().options, program_.core().transfer,
-                      [this](std::int16_t port) { return controller().checkPort(port, kProbeModem); });
+    dialogs_.runSetup(
+        window_, platform_.port, program_.core().options, program_.core().transfer,
+        [this](std::int16_t port) { return controller().checkPort(port, kProbeModem); }, platform_.adapters);
 }
 
 void DesktopServer::chooseFolder() {

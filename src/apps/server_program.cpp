@@ -40,7 +40,12 @@ ServerProgram::ServerProgram(PlatformParts& platform, RunOverrides overrides, co
               {platform.folders.applicationData(), platform.folders.documents()},
               face.tell},
              overrides_) {
-    platform_.adapters.onEvent([this](AdapterEvent event) { core_.adapterEvent(event); });
+    platform_.adapters.onEvent([this, shown = face.adaptersChanged](AdapterEvent event) {
+        core_.adapterEvent(event);
+        if (shown) {
+            shown();
+        }
+    });
     debug_.showStateOf([this] { return core_.link().linkState(); });
 }
 

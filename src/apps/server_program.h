@@ -31,6 +31,8 @@ struct ServerFace {
     std::function<void(const std::string& line)> tell;
     /// What to do about a port that the server cannot have.
     std::function<WaitFor()> waitFor;
+    /// An adapter has come or gone; may be missing.
+    std::function<void()> adaptersChanged = {};
 };
 
 /// The server with everything that starts it, built once and connected. Needs the toolkit's event loop.

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "base/number_text.h"
+#include "serial/adapter_key.h"
 #include "serial/mode_string.h"
 
 namespace velmora {
@@ -151,7 +152,10 @@ void SetupModel::pbOK_Click() {
     if (probing_ || closed_ || !okEnabled_) {
         return;
     }
-    port_.setCommPort(selected_ == kOtherPort ? otherPortNumber() : static_cast<std::int16_t>(selected_));
+    const std::int16_t number =
+        selected_ == kOtherPort ? otherPortNumber() : static_cast<std::int16_t>(selected_);
+    keepAdapter(number);
+    port_.setCommPort(number);
     if (baud_) {
         port_.setSettings(std::to_string(*baud_) + ",N,8,1");
     }
@@ -160,6 +164,19 @@ void SetupModel::pbOK_Click() {
     transfer_.DataFileType = fileType_;
     transfer_.sheets.wksDialect = wksDialect_;
     close();
+}
+
+/// The adapter behind the number is what counts from now on. A port that stays as it was keeps its adapter,
+/// also while that is not plugged in.
+void SetupModel::keepAdapter(std::int16_t number) {
+    const auto chosen = std::find_if(presentPorts_.begin(), presentPorts_.end(),
+                                     [number](const PortIdentity& port) { return port.number == number; });
+    if (chosen != presentPorts_.end()) {
+        const std::optional<AdapterKey> key = keyOf(*chosen, presentPorts_);
+        options_.PortIdentity = key ? key->text() : std::string();
+    } else if (number != portAtOpening_) {
+        options_.PortIdentity.clear();
+    }
 }
 
 void SetupModel::pbCancel_Click() {

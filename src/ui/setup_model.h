@@ -6,7 +6,10 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <utility>
+#include <vector>
 
+#include "serial/port_identity.h"
 #include "serial/serial_port.h"
 #include "server/port_status.h"
 #include "server/server_options.h"
@@ -47,6 +50,9 @@ class SetupModel {
     /// The port object, options and settings must outlive the model; ok() writes to them.
     SetupModel(SerialPort& port, ServerOptions& options, TransferSettings& transfer, Probe probe,
                DialogCalls dialog);
+
+    /// The ports that are present, as the user sees them: OK keeps the adapter of the chosen one.
+    void setPresentPorts(std::vector<PortIdentity> ports) { presentPorts_ = std::move(ports); }
 
     /// Reads the current values and probes the ports: COM1 to COM4 to mark them, further ones only to find a
     /// free one when none is configured.
@@ -98,6 +104,7 @@ class SetupModel {
     void probePorts(std::int16_t& port);
     void ShowPortStatus(int index, std::int32_t status);
     void showStatusOfSelected();
+    void keepAdapter(std::int16_t number);
     std::int16_t otherPortNumber() const;
     void changed() const;
     void close();
@@ -109,6 +116,7 @@ class SetupModel {
     DialogCalls dialog_;
 
     std::int16_t portAtOpening_ = 0;
+    std::vector<PortIdentity> presentPorts_;
     int selected_ = 1;
     std::array<PortMark, kOtherPort> marks_;
     std::string portText_;

@@ -361,7 +361,32 @@ void frmSetup::showState() {
 }
 
 void frmSetup::fillDevices() {
-    devices_ = listDevices_ ? listDevices_() : std::vector<PortIdentity>();
+    showDevices(listDevices_ ? listDevices_() : std::vector<PortIdentity>());
+}
+
+void frmSetup::refreshDevices() {
+    std::vector<PortIdentity> present = listDevices_ ? listDevices_() : std::vector<PortIdentity>();
+    const auto same = [](const PortIdentity& one, const PortIdentity& other) {
+        return describe(one) == describe(other) && one.mayOpen == other.mayOpen;
+    };
+    if (std::equal(present.begin(), present.end(), devices_.begin(), devices_.end(), same)) {
+        return;
+    }
+    const int row = cboPresentPorts->currentIndex();
+    const QString chosen = row < 0 ? QString() : describe(devices_[static_cast<std::size_t>(row)]);
+    showDevices(std::move(present));
+    const auto found = std::find_if(devices_.begin(), devices_.end(), [&chosen](const PortIdentity& device) {
+        return describe(device) == chosen;
+    });
+    if (found != devices_.end()) {
+        cboPresentPorts->setCurrentIndex(static_cast<int>(found - devices_.begin()));
+        showHint(*found);
+    }
+}
+
+void frmSetup::showDevices(std::vector<PortIdentity> devices) {
+    devices_ = std::move(devices);
+    model_.setPresentPorts(devices_);
     cboPresentPorts->clear();
     cboPresentPorts->setPlaceholderText(devices_.empty() ? QStringLiteral("No serial device is present")
                                                          : QStringLiteral("Devices that are present"));
@@ -397,6 +422,10 @@ void frmSetup::deviceChosen(int row) {
     model_.setPortText(std::to_string(device.number));
     model_.selectPort(SetupModel::kOtherPort);
     keepFocus_ = false;
+    showHint(device);
+}
+
+void frmSetup::showHint(const PortIdentity& device) {
     QString hint;
     if (!device.mayOpen) {
         hint = qtSystemText(device.device) + " may not be opened";

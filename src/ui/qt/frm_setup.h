@@ -35,6 +35,10 @@ class frmSetup : public QDialog {
     frmSetup(SerialPort& port, ServerOptions& options, TransferSettings& transfer, SetupModel::Probe probe,
              ListDevices listDevices, QWidget* parent = nullptr);
 
+    /// Shows the devices that are present now, for when an adapter has come or gone. The selection and all
+    /// else stay; without a change nothing happens.
+    void refreshDevices();
+
     void reject() override;
     /// What sounds when a key is refused or there is no number to check; the desktop's beep at first.
     void setBeep(std::function<void()> beep) { beep_ = std::move(beep); }
@@ -58,6 +62,8 @@ class frmSetup : public QDialog {
     void load();
     void showState();
     void fillDevices();
+    void showDevices(std::vector<PortIdentity> devices);
+    void showHint(const PortIdentity& device);
     void showDeviceTips();
     void deviceChosen(int row);
     void closeNow();

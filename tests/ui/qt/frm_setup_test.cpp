@@ -56,6 +56,48 @@ class FrmSetupTest : public QObject {
         QTRY_VERIFY(text()->hasFocus());
         isForEverybody();
     }
+    void theListFollowsAdaptersAndKeepsTheSelection() {
+        devices = {adapter(6, "/dev/ttyUSB1", "BBBB1234")};
+        open();
+        auto* list = find<QComboBox>("cboPresentPorts");
+        QTest::keyClick(list, Qt::Key_Down);
+        QCOMPARE(text()->text(), QString("6"));
+        devices.insert(devices.begin(), adapter(5, "/dev/ttyUSB0", "AAAA1234"));
+        dialog->refreshDevices();
+        QCOMPARE(list->count(), 2);
+        QCOMPARE(list->currentIndex(), 1);
+        QCOMPARE(text()->text(), QString("6"));
+        devices.erase(devices.begin());
+        dialog->refreshDevices();
+        QCOMPARE(list->currentIndex(), 0);
+        devices.clear();
+        dialog->refreshDevices();
+        QCOMPARE(list->currentIndex(), -1);
+        QCOMPARE(text()->text(), QString("6"));
+    }
+    void okKeepsTheAdapterOfThePort() {
+        devices = {adapter(5, "/dev/ttyUSB0", "AAAA1234"), device(6, "/dev/ttyUSB1")};
+        open();
+        auto* list = find<QComboBox>("cboPresentPorts");
+        QTest::keyClick(list, Qt::Key_Down);
+        ok()->click();
+        QCOMPARE(port.number, std::int16_t{5});
+        QCOMPARE(options.PortIdentity, std::string("0403:6001:AAAA1234"));
+    }
+    void aPortWithoutAnAdapterForgetsTheFormerOne() {
+        options.PortIdentity = "0403:6001:AAAA1234";
+        devices = {device(6, "/dev/ttyUSB1")};
+        open();
+        QTest::keyClick(find<QComboBox>("cboPresentPorts"), Qt::Key_Down);
+        ok()->click();
+        QCOMPARE(options.PortIdentity, std::string());
+    }
+    void aPortThatStaysKeepsItsAdapterWhileThatIsAway() {
+        options.PortIdentity = "0403:6001:AAAA1234";
+        open();
+        ok()->click();
+        QCOMPARE(options.PortIdentity, std::string("0403:6001:AAAA1234"));
+    }
     void noFreePortWaitsForANumber() {
         options.AutoSelectPort = true;
         openProbing();
