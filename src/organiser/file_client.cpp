@@ -14,7 +14,7 @@ constexpr std::size_t kPositionDigits = 8;
 
 }  // namespace
 
-void FileClient::open(std::string_view name, FileMode mode, FileKind kind) {
+void FileClient::open(std::string_view name, FileMode mode, AccessKind kind) {
     written_ = {};
     openService(link_, "FILE");
     requestExpecting(link_, openRequest(mode, static_cast<int>(kind), name), "");
@@ -33,7 +33,7 @@ void FileClient::seekTo(const Seek& seek) {
 }
 
 std::string FileClient::readBytes(std::string_view name, const std::optional<Seek>& seek) {
-    open(name, FileMode::Read, FileKind::Bytes);
+    open(name, FileMode::Read, AccessKind::Bytes);
     if (seek) {
         seekTo(*seek);
     }
@@ -46,18 +46,18 @@ std::string FileClient::readBytes(std::string_view name, const std::optional<See
 }
 
 std::vector<std::string> FileClient::readLines(std::string_view name) {
-    open(name, FileMode::Read, FileKind::Text);
+    open(name, FileMode::Read, AccessKind::Text);
     return readToEnd(link_, progress_, "Reading " + toUtf8(name), kMostData, "lines");
 }
 
 std::vector<std::string> FileClient::list(std::string_view pattern, bool longNames) {
-    open(pattern, FileMode::Read, longNames ? FileKind::LongNames : FileKind::ShortNames);
+    open(pattern, FileMode::Read, longNames ? AccessKind::LongNames : AccessKind::ShortNames);
     return readToEnd(link_, progress_, "Listing " + toUtf8(pattern), kMostName, "names");
 }
 
 void FileClient::writeBytes(std::string_view name, FileMode mode, const std::optional<Seek>& seek,
                             std::string_view bytes) {
-    open(name, mode, FileKind::Bytes);
+    open(name, mode, AccessKind::Bytes);
     if (seek) {
         seekTo(*seek);
     }
@@ -65,7 +65,7 @@ void FileClient::writeBytes(std::string_view name, FileMode mode, const std::opt
 }
 
 void FileClient::writeLines(std::string_view name, FileMode mode, const std::vector<std::string>& lines) {
-    open(name, mode, FileKind::Text);
+    open(name, mode, AccessKind::Text);
     writeAndClose(link_, progress_, "Writing " + toUtf8(name), lines, "lines", written_);
 }
 

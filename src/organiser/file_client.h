@@ -14,7 +14,7 @@
 namespace velmora {
 
 /// What is opened.
-enum class FileKind : std::uint8_t { Bytes = 0, Text = 1, ShortNames = 2, LongNames = 3 };
+enum class AccessKind : std::uint8_t { Bytes = 0, Text = 1, ShortNames = 2, LongNames = 3 };
 
 /// Where a seek counts from, and how far.
 struct Seek {
@@ -47,7 +47,7 @@ class FileClient {
     const WriteState& written() const { return written_; }
 
   private:
-    void open(std::string_view name, FileMode mode, FileKind kind);
+    void open(std::string_view name, FileMode mode, AccessKind kind);
     void seekTo(const Seek& seek);
 
     OrganiserLink& link_;
