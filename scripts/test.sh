@@ -25,7 +25,9 @@ scripts/build-sanitize.sh
 ctest --test-dir build-sanitize --output-on-failure -j "$jobs" -LE e2e --progress
 stage "Programs as they are released"
 scripts/build.sh build -DCMAKE_BUILD_TYPE=Release -DCMAKE_CXX_FLAGS_RELEASE="-O2 -DNDEBUG" -DBUILD_TESTING=ON \
-  -DVELMORA_WERROR=ON -DVELMORA_BENCH=ON -- programs e2e_tests benchmarks
+  -DVELMORA_WERROR=ON -DVELMORA_BENCH=ON -- programs e2e_tests benchmarks velmora-simulate
+stage "Simulation"
+VELMORA_SIMULATION_BUILD=build scripts/simulate.sh --seconds 30
 stage "End-to-end tests"
 ctest --test-dir build --output-on-failure -j "$jobs" -L e2e --progress
 stage "Windows"
