@@ -55,8 +55,14 @@ bool isUtf8(std::string_view bytes) {
 }
 
 bool isUtf16(std::string_view file) {
-    const bool oneOfTwoIsZero = file.size() >= 2 && (file[0] == '\0') != (file[1] == '\0');
-    return oneOfTwoIsZero || file.starts_with("\xFF\xFE") || file.starts_with("\xFE\xFF");
+    if (file.starts_with("\xFF\xFE") || file.starts_with("\xFE\xFF")) {
+        return true;
+    }
+    if (file.size() < 2) {
+        return false;
+    }
+    const bool oneIsZero = (file[0] == '\0') != (file[1] == '\0');
+    return oneIsZero && isAscii(file.substr(0, 2));
 }
 
 ProfileEncoding detectEncoding(std::string_view file) {

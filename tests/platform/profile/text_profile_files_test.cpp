@@ -206,5 +206,10 @@ TEST_F(Profile, AUtf16FileIsNotTakenForAnEmptyOne) {
     }
 }
 
+TEST_F(Profile, AFileThatIsNoTextIsNoUtf16) {
+    given(std::string("\0\xEF\n[S]\r\nKey=value", 17));
+    EXPECT_EQ(profiles_.getString("S", "Key", "", 255, kTextFile), "value");
+}
+
 }  // namespace
 }  // namespace velmora
