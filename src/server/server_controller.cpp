@@ -67,6 +67,7 @@ void ServerController::ShowText(const std::string& text1, const std::string& tex
 
 void ServerController::ShowWarning(const std::string& text2, const std::string& text3) {
     lineDownShown_ = false;
+    ++warnings_;
     messages_.ShowWarning(text2, text3);
     parts_.view.showMessages(messages_);
 }

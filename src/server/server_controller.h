@@ -207,6 +207,7 @@ class ServerController : public ServerWindow {
     void portFails(bool gone = false);
     bool stopWaiting();
     void reportPortError(const CommError& error);
+    std::string whatIsLost() const;
     std::string portName() const;
 
     void enableButton(MainButton button, bool enabled);
@@ -229,6 +230,7 @@ class ServerController : public ServerWindow {
     bool startStopEnabled_ = true;
     bool portFailed_ = false;  // since the last start
     bool pollFailed_ = false;  // the port's input count failed since the last start
+    int warnings_ = 0;         // shown so far
     bool restarting_ = false;  // the port has been looked for
     bool closed_ = false;
 

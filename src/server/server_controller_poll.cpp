@@ -63,9 +63,15 @@ void ServerController::poll() {
 
 void ServerController::receive() {
     std::int32_t next = kNoStateChange;
+    const std::string lost = whatIsLost();
+    const int warnings = warnings_;
     {
         const Scope scope(linkCalls_);
         next = link_->PLP_ReceiveEvent();
+    }
+    if (state_ == LinkFailed && warnings_ == warnings) {
+        // A read that fails is reported as that state and nothing more.
+        ShowWarning(portName() + ": The port failed.", lost);
     }
     if (running()) {
         setState(next);
@@ -81,8 +87,7 @@ void ServerController::afterLinkCall() {
 }
 
 void ServerController::reportPortError(const CommError& error) {
-    const bool transfer = state_ >= FileAccess && state_ <= ServiceBusy;
-    ShowWarning(portName() + ": " + error.description(), transfer ? "The transfer is lost." : "");
+    ShowWarning(portName() + ": " + error.description(), whatIsLost());
     pollFailed_ = true;
     portFails();
     setState(Offline);
@@ -90,6 +95,12 @@ void ServerController::reportPortError(const CommError& error) {
         // The user wants to go on, but there is nothing left to go on with.
         setState(LinkFailed);
     }
+}
+
+/// What a port that fails now takes with it, for the line below the reason.
+std::string ServerController::whatIsLost() const {
+    const bool transfer = state_ >= FileAccess && state_ <= ServiceBusy;
+    return transfer ? "The transfer is lost." : "";
 }
 
 std::string ServerController::portName() const {
@@ -113,8 +124,7 @@ void ServerController::pullPort(const std::string& reason) {
     if (!running() || stopping_ > 0 || closed_) {
         return;
     }
-    const bool transfer = state_ >= FileAccess && state_ <= ServiceBusy;
-    ShowWarning(portName() + ": " + reason, transfer ? "The transfer is lost." : "");
+    ShowWarning(portName() + ": " + reason, whatIsLost());
     pollFailed_ = true;
     portFails(true);
     setState(LinkFailed);

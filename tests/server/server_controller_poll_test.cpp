@@ -126,6 +126,30 @@ TEST_F(Poll, AfterANoTheFailedPortStopsTheServerWithoutAnotherQuestion) {
     EXPECT_EQ(view.messages.lines[2].text, "The transfer is lost.");
 }
 
+TEST_F(Poll, AReadThatFailsInTheLinkIsToldToo) {
+    reach(Downld);
+    link.onReceive = [this] { controller.setState(LinkFailed); };
+    bytesArrive();
+    tick();
+    EXPECT_EQ(view.warning(), "COM1: The port failed.");
+    EXPECT_EQ(view.messages.lines[2].text, "The transfer is lost.");
+    tick();
+    EXPECT_EQ(controller.state(), Offline);
+    EXPECT_TRUE(box.asked.empty());
+    EXPECT_EQ(view.warning(), "COM1: The port failed.");
+}
+
+TEST_F(Poll, AWriteThatFailsWhileReadingHasItsOwnWarning) {
+    reach(Downld);
+    link.onReceive = [this] {
+        controller.ShowWarning("Send error 5", "gone");
+        controller.setState(LinkFailed);
+    };
+    bytesArrive();
+    tick();
+    EXPECT_EQ(view.warning(), "Send error 5");
+}
+
 TEST_F(Poll, AfterANoStartWorksWhenTheDeviceIsBack) {
     reach(Downld);
     portBreaks();
