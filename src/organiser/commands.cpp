@@ -167,9 +167,9 @@ void Commands::write() {
 
 void Commands::formats() {
     SheetClient client(link_, console_.progress);
-    std::vector<SheetFormatEntry> entries;
+    std::vector<OfferedFormat> entries;
     attempts_.run([&] { entries = client.formats(); });
-    for (const SheetFormatEntry& entry : entries) {
+    for (const OfferedFormat& entry : entries) {
         console_.out << entry.code << "  " << toUtf8(entry.name) << '\n';
     }
 }

@@ -64,8 +64,8 @@ SheetCell cellOf(std::string_view message) {
 
 }  // namespace
 
-std::vector<SheetFormatEntry> decodeFormats(std::string_view menu) {
-    std::vector<SheetFormatEntry> entries;
+std::vector<OfferedFormat> decodeFormats(std::string_view menu) {
+    std::vector<OfferedFormat> entries;
     while (!menu.empty() && menu.front() != '\0') {
         const std::size_t length = static_cast<unsigned char>(menu.front());
         if (menu.size() < 1 + length + 2) {  // length byte, name, 0, code
@@ -81,7 +81,7 @@ std::vector<SheetFormatEntry> decodeFormats(std::string_view menu) {
     return entries;
 }
 
-std::vector<SheetFormatEntry> SheetClient::formats() {
+std::vector<OfferedFormat> SheetClient::formats() {
     return decodeFormats(openService(link_, "PLANM"));
 }
 

@@ -29,11 +29,11 @@ struct SheetCell {
 };
 
 /// A worksheet format that the server offers.
-struct SheetFormatEntry {
+struct OfferedFormat {
     std::string name;
     int code = 0;  ///< 1 to 6
 
-    friend bool operator==(const SheetFormatEntry&, const SheetFormatEntry&) = default;
+    friend bool operator==(const OfferedFormat&, const OfferedFormat&) = default;
 };
 
 /// The conversations of the services. Throws LinkFailure and LineError; a refusal whose reason is the number
@@ -44,7 +44,7 @@ class SheetClient {
     SheetClient(OrganiserLink& link, Progress& progress) : link_(link), progress_(progress) {}
 
     /// The formats that the server's menu lists.
-    std::vector<SheetFormatEntry> formats();
+    std::vector<OfferedFormat> formats();
     /// Sends a sheet, as large as its last column and row, into a worksheet file of `format`.
     void save(std::string_view name, int format, const std::vector<SheetCell>& cells);
     /// Fetches the cells of a worksheet file row by row.
@@ -58,6 +58,6 @@ class SheetClient {
 };
 
 /// The entries of a format menu: length, name, 0, code; a 0 after the last. Throws Unexpected.
-std::vector<SheetFormatEntry> decodeFormats(std::string_view menu);
+std::vector<OfferedFormat> decodeFormats(std::string_view menu);
 
 }  // namespace velmora

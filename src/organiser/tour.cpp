@@ -221,10 +221,10 @@ void Tour::folder() {
 }
 
 void Tour::spreadsheet() {
-    std::vector<SheetFormatEntry> formats;
+    std::vector<OfferedFormat> formats;
     attempts_.run([&] { formats = sheet_.formats(); });
     std::string text;
-    for (const SheetFormatEntry& format : formats) {
+    for (const OfferedFormat& format : formats) {
         text += " " + toUtf8(format.name);
     }
     say("The server writes worksheets as" + text + ".");

@@ -11,7 +11,6 @@ namespace {
 
 constexpr std::string_view kNamePrefix = "usb:";
 constexpr char kSocketMark = '@';
-constexpr std::size_t kIdDigits = 4;
 
 bool isId(std::string_view text) {
     constexpr std::string_view kDigits = "0123456789abcdef";

@@ -1,6 +1,7 @@
 // What an adapter is recognised by when its port's number has changed.
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -9,6 +10,9 @@
 #include "serial/port_identity.h"
 
 namespace velmora {
+
+/// How many hexadecimal digits a USB vendor or product number is written with.
+constexpr std::size_t kIdDigits = 4;
 
 /// Recognises one adapter by its USB vendor, product and serial number, as text "0403:6001:A50285BI". One
 /// that has no serial number, or shares it with another (cheap chips all have the same), is recognised by the

@@ -4,11 +4,11 @@
 #include <utility>
 
 #include "base/byte_text.h"
+#include "serial/adapter_key.h"
 
 namespace velmora {
 namespace {
 
-constexpr std::size_t kIdDigits = 4;
 /// The bus driver of the maker who numbers the ports of an adapter by letters.
 constexpr std::string_view kLetteredBus = "FTDIBUS\\";
 

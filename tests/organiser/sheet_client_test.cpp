@@ -26,8 +26,8 @@ class SheetClientTest : public test::ConversationFixture {
 TEST_F(SheetClientTest, MenuOfTheServerIsDecoded) {
     test::ScriptedService menu(test::reply(kMenu));
     server.serve("PLANM", menu);
-    EXPECT_EQ(client.formats(), (std::vector<SheetFormatEntry>{
-                                    {"WKS", 2}, {"DIF", 3}, {"CSV", 4}, {"TXT", 5}, {"TXT(tab)", 6}}));
+    EXPECT_EQ(client.formats(),
+              (std::vector<OfferedFormat>{{"WKS", 2}, {"DIF", 3}, {"CSV", 4}, {"TXT", 5}, {"TXT(tab)", 6}}));
 }
 
 TEST_F(SheetClientTest, EveryCutOfTheMenuIsUnexpected) {

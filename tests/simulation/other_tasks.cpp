@@ -113,7 +113,7 @@ Task askFormats() {
     Task task;
     task.converse = [](OrganiserLink& link) {
         Progress progress;
-        const std::vector<SheetFormatEntry> expected = {
+        const std::vector<OfferedFormat> expected = {
             {"WKS", 2}, {"DIF", 3}, {"CSV", 4}, {"TXT", 5}, {"TXT(tab)", 6}};
         require(SheetClient(link, progress).formats() == expected, "The menu of formats is another.");
     };
