@@ -15,6 +15,20 @@ bool isAscii(std::string_view bytes) {
     return std::all_of(bytes.begin(), bytes.end(), [](char c) { return isAscii(c); });
 }
 
+/// Whether the file begins with ASCII characters of two bytes each, `zero` being the place of the empty one.
+/// So many are looked at that no line which an edit writes can pass for them.
+bool beginsWithWideAscii(std::string_view file, std::size_t zero) {
+    constexpr std::size_t kCharacters = 16;
+    const std::size_t count = std::min(file.size() / 2, kCharacters);
+    for (std::size_t i = 0; i < count; ++i) {
+        const char character = file[2 * i + 1 - zero];
+        if (file[2 * i + zero] != '\0' || character == '\0' || !isAscii(character)) {
+            return false;
+        }
+    }
+    return count > 0;
+}
+
 /// Length of the valid UTF-8 sequence at the start of non-empty bytes, 0 when there is none.
 std::size_t sequenceLength(std::string_view bytes) {
     const auto at = [&](std::size_t i) { return static_cast<unsigned char>(bytes[i]); };
@@ -55,14 +69,8 @@ bool isUtf8(std::string_view bytes) {
 }
 
 bool isUtf16(std::string_view file) {
-    if (file.starts_with("\xFF\xFE") || file.starts_with("\xFE\xFF")) {
-        return true;
-    }
-    if (file.size() < 2) {
-        return false;
-    }
-    const bool oneIsZero = (file[0] == '\0') != (file[1] == '\0');
-    return oneIsZero && isAscii(file.substr(0, 2));
+    return file.starts_with("\xFF\xFE") || file.starts_with("\xFE\xFF") || beginsWithWideAscii(file, 0) ||
+           beginsWithWideAscii(file, 1);
 }
 
 ProfileEncoding detectEncoding(std::string_view file) {

@@ -15,8 +15,7 @@ enum class ProfileEncoding {
 /// EF BB BF at the start of a file (RFC 3629, section 6).
 constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
 
-/// Whether a file is UTF-16: by its mark, or by the zero byte that an ASCII character has there and no text
-/// holds.
+/// Whether a file is UTF-16: by its mark, or by the zero bytes of the ASCII characters at its beginning.
 bool isUtf16(std::string_view file);
 
 ProfileEncoding detectEncoding(std::string_view file);

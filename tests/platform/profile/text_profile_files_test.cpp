@@ -211,5 +211,11 @@ TEST_F(Profile, AFileThatIsNoTextIsNoUtf16) {
     EXPECT_EQ(profiles_.getString("S", "Key", "", 255, kTextFile), "value");
 }
 
+TEST_F(Profile, AnEditDoesNotMakeAFileLookLikeUtf16) {
+    given(std::string("\0", 1));
+    profiles_.writeString("S", "Key", "value", kTextFile);
+    EXPECT_EQ(profiles_.getString("S", "Key", "", 255, kTextFile), "value");
+}
+
 }  // namespace
 }  // namespace velmora
