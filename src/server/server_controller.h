@@ -207,6 +207,7 @@ class ServerController : public ServerWindow {
     void portFails(bool gone = false);
     bool stopWaiting();
     void reportPortError(const CommError& error);
+    void tellOfFailedRead();
     std::string whatIsLost() const;
     std::string portName() const;
 
@@ -231,6 +232,7 @@ class ServerController : public ServerWindow {
     bool portFailed_ = false;  // since the last start
     bool pollFailed_ = false;  // the port's input count failed since the last start
     int warnings_ = 0;         // shown so far
+    int warningsBeforeRead_ = 0;
     bool restarting_ = false;  // the port has been looked for
     bool closed_ = false;
 

@@ -63,15 +63,10 @@ void ServerController::poll() {
 
 void ServerController::receive() {
     std::int32_t next = kNoStateChange;
-    const std::string lost = whatIsLost();
-    const int warnings = warnings_;
+    warningsBeforeRead_ = warnings_;
     {
         const Scope scope(linkCalls_);
         next = link_->PLP_ReceiveEvent();
-    }
-    if (state_ == LinkFailed && warnings_ == warnings) {
-        // A read that fails is reported as that state and nothing more.
-        ShowWarning(portName() + ": The port failed.", lost);
     }
     if (running()) {
         setState(next);
@@ -94,6 +89,13 @@ void ServerController::reportPortError(const CommError& error) {
     if (running()) {
         // The user wants to go on, but there is nothing left to go on with.
         setState(LinkFailed);
+    }
+}
+
+/// A read that fails inside the link is reported as LinkFailed and nothing more.
+void ServerController::tellOfFailedRead() {
+    if (linkCalls_ > 0 && warnings_ == warningsBeforeRead_) {
+        ShowWarning(portName() + ": The port failed.", whatIsLost());
     }
 }
 

@@ -58,6 +58,7 @@ void ServerController::changeState(std::int32_t next) {
     } else {
         enableButton(MainButton::StartStop, true);
         if (next == LinkFailed) {
+            tellOfFailedRead();
             portFails();
         } else if (next < WaitLink) {
             if (!stopServer(next)) {

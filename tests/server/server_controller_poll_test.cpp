@@ -127,8 +127,12 @@ TEST_F(Poll, AfterANoTheFailedPortStopsTheServerWithoutAnotherQuestion) {
 }
 
 TEST_F(Poll, AReadThatFailsInTheLinkIsToldToo) {
-    reach(Downld);
-    link.onReceive = [this] { controller.setState(LinkFailed); };
+    reach(Connect);
+    // The same call reads the request for a file, and the end of the line behind it.
+    link.onReceive = [this] {
+        controller.setState(Downld);
+        controller.setState(LinkFailed);
+    };
     bytesArrive();
     tick();
     EXPECT_EQ(view.warning(), "COM1: The port failed.");
