@@ -92,7 +92,7 @@ std::string ServerProgram::portDevice() const {
 }
 
 std::string ServerProgram::describePortFailure() const {
-    if (const std::string complaint = core_.portComplaint(); !complaint.empty()) {
+    if (std::string complaint = core_.portComplaint(); !complaint.empty()) {
         return complaint;
     }
     return describeOpenFailure(portDevice(), platform_.port.lastErrorNumber());

@@ -48,11 +48,11 @@ class WaitTest : public ServerFixture {
     }
 };
 
-TEST_F(WaitTest, ALinkThatIsPointedElsewhereTwentyTimesAmidTransfersLosesNoNextFile) {
+TEST_F(WaitTest, ALinkThatIsPointedElsewhereAmidTransfersLosesNoNextFile) {
     point();
     startWaiting();
     ASSERT_TRUE(server->waitForNextOutput("Waiting for link")) << server->error();
-    constexpr int kPlugs = 20;
+    constexpr int kPlugs = 5;
     for (int plug = 0; plug < kPlugs; ++plug) {
         SCOPED_TRACE(plug);
         {

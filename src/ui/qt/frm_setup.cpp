@@ -310,30 +310,8 @@ void frmSetup::showState() {
     }
     // What is chosen while the ports are probed would be overwritten by the result.
     grpPort->setEnabled(!loading_);
-    for (int i = 1; i <= SetupModel::kOtherPort; ++i) {
-        const auto index = static_cast<std::size_t>(i - 1);
-        const PortMark& mark = model_.mark(i);
-        const QString tip = qtText(mark.toolTip);
-        QRadioButton* button = obPort[index];
-        button->setChecked(model_.selectedPort() == i);
-        button->setToolTip(tip);
-        const QString words = tip.section(' ', 1);
-        button->setAccessibleDescription(words);
-        portWords[index]->setText(words);
-        QPalette colours = palette();
-        QColor ground = colours.color(QPalette::Window);
-        if (!tip.isEmpty()) {
-            const QColor colour(mark.colour.red, mark.colour.green, mark.colour.blue);
-            ground = groundFor(colour, ground);
-            // Disabled too: the marks appear while the ports are still being tested.
-            colours.setColor(QPalette::WindowText, colour);
-            colours.setColor(QPalette::Window, ground);
-        }
-        QFont weight = font();
-        weight.setBold(!tip.isEmpty());
-        button->setFont(weight);
-        button->setPalette(colours);
-        button->setAutoFillBackground(ground != palette().color(QPalette::Window));
+    for (int port = 1; port <= SetupModel::kOtherPort; ++port) {
+        showPortMark(port);
     }
     if (txtPortNo->text() != qtText(model_.portText())) {
         txtPortNo->setText(qtText(model_.portText()));
@@ -343,6 +321,41 @@ void frmSetup::showState() {
     txtPortNo->setFocusPolicy(model_.portTextEnabled() ? Qt::StrongFocus : Qt::ClickFocus);
     pbCheckPort->setEnabled(model_.portTextEnabled());
     lblStatus->setText(qtText(model_.statusText()));
+    showBaud();
+    cbAutoStart->setChecked(model_.autoStart());
+    cboFileType->setCurrentIndex(model_.fileType());
+    cboWksDialect->setCurrentIndex(static_cast<int>(model_.wksDialect()));
+    pbOK->setEnabled(loaded_ && model_.okEnabled() && !model_.probing());
+    lblBusy->setText(model_.probing() || loading_ ? QStringLiteral("Testing the ports...") : QString());
+}
+
+void frmSetup::showPortMark(int port) {
+    const auto index = static_cast<std::size_t>(port - 1);
+    const PortMark& mark = model_.mark(port);
+    const QString tip = qtText(mark.toolTip);
+    QRadioButton* button = obPort[index];
+    button->setChecked(model_.selectedPort() == port);
+    button->setToolTip(tip);
+    const QString words = tip.section(' ', 1);
+    button->setAccessibleDescription(words);
+    portWords[index]->setText(words);
+    QPalette colours = palette();
+    QColor ground = colours.color(QPalette::Window);
+    if (!tip.isEmpty()) {
+        const QColor colour(mark.colour.red, mark.colour.green, mark.colour.blue);
+        ground = groundFor(colour, ground);
+        // Disabled too: the marks appear while the ports are still being tested.
+        colours.setColor(QPalette::WindowText, colour);
+        colours.setColor(QPalette::Window, ground);
+    }
+    QFont weight = font();
+    weight.setBold(!tip.isEmpty());
+    button->setFont(weight);
+    button->setPalette(colours);
+    button->setAutoFillBackground(ground != palette().color(QPalette::Window));
+}
+
+void frmSetup::showBaud() {
     for (std::size_t i = 0; i < obBaud.size(); ++i) {
         if (model_.baud() == SetupModel::kBaudRates[i]) {
             obBaud[i]->setChecked(true);
@@ -353,11 +366,6 @@ void frmSetup::showState() {
         obBaud_other->setChecked(model_.baud() == rate);
         obBaud_other->show();
     }
-    cbAutoStart->setChecked(model_.autoStart());
-    cboFileType->setCurrentIndex(model_.fileType());
-    cboWksDialect->setCurrentIndex(static_cast<int>(model_.wksDialect()));
-    pbOK->setEnabled(loaded_ && model_.okEnabled() && !model_.probing());
-    lblBusy->setText(model_.probing() || loading_ ? QStringLiteral("Testing the ports...") : QString());
 }
 
 void frmSetup::fillDevices() {

@@ -61,6 +61,8 @@ class frmSetup : public QDialog {
     void connectControls();
     void load();
     void showState();
+    void showPortMark(int port);
+    void showBaud();
     void fillDevices();
     void showDevices(std::vector<PortIdentity> devices);
     void showHint(const PortIdentity& device);
