@@ -11,6 +11,8 @@
 namespace velmora {
 namespace {
 
+using test::usbDevice;
+
 using std::chrono::milliseconds;
 using std::chrono::seconds;
 using ::testing::ElementsAre;
@@ -21,7 +23,7 @@ using ::testing::IsEmpty;
 class PortKeeperTest : public testing::Test {
   protected:
     PortKeeperTest() {
-        port.number = 5;  // /dev/ttyUSB0
+        port.number = 5;  // usbDevice(0)
         adapters.onEvent([this](AdapterEvent event) {
             if (event == AdapterEvent::Sleeps) {
                 lose(true);
@@ -77,13 +79,13 @@ class PortKeeperTest : public testing::Test {
 };
 
 TEST_F(PortKeeperTest, TheSameAdapterStartsTheServerAgain) {
-    adapters.plug("/dev/ttyUSB0", "A");
+    adapters.plug(usbDevice(0), "A");
     start();
-    pullFromServer("/dev/ttyUSB0");
+    pullFromServer(usbDevice(0));
     EXPECT_TRUE(keeper.waiting());
     time.advance(seconds(60));
     EXPECT_EQ(starts, 0);
-    adapters.plug("/dev/ttyUSB0", "A");
+    adapters.plug(usbDevice(0), "A");
     time.advance(Reconnection::kSettle);
     EXPECT_TRUE(running);
     EXPECT_FALSE(keeper.waiting());
@@ -91,10 +93,10 @@ TEST_F(PortKeeperTest, TheSameAdapterStartsTheServerAgain) {
 }
 
 TEST_F(PortKeeperTest, ItIsFollowedToAnotherNumberAndThatIsSaidInOneLine) {
-    adapters.plug("/dev/ttyUSB0", "A");
+    adapters.plug(usbDevice(0), "A");
     start();
-    pullFromServer("/dev/ttyUSB0");
-    adapters.plug("/dev/ttyUSB1", "A");
+    pullFromServer(usbDevice(0));
+    adapters.plug(usbDevice(1), "A");
     time.advance(seconds(1));
     EXPECT_TRUE(running);
     EXPECT_EQ(port.number, 6);
@@ -102,53 +104,53 @@ TEST_F(PortKeeperTest, ItIsFollowedToAnotherNumberAndThatIsSaidInOneLine) {
 }
 
 TEST_F(PortKeeperTest, TheNameThatAnotherDeviceHasGotIsNotTaken) {
-    adapters.plug("/dev/ttyUSB0", "A");
+    adapters.plug(usbDevice(0), "A");
     start();
-    pullFromServer("/dev/ttyUSB0");
-    adapters.plug("/dev/ttyUSB0", "B", "socket-2");
+    pullFromServer(usbDevice(0));
+    adapters.plug(usbDevice(0), "B", "socket-2");
     time.advance(seconds(60));
     EXPECT_EQ(starts, 0);
-    adapters.plug("/dev/ttyUSB1", "A");
+    adapters.plug(usbDevice(1), "A");
     time.advance(seconds(1));
     EXPECT_TRUE(running);
-    EXPECT_EQ(device(), "/dev/ttyUSB1");
+    EXPECT_EQ(device(), usbDevice(1));
 }
 
 TEST_F(PortKeeperTest, TwoAdaptersThatWereSwappedAreToldApart) {
-    adapters.plug("/dev/ttyUSB0", "A");
-    adapters.plug("/dev/ttyUSB1", "B", "socket-2");
+    adapters.plug(usbDevice(0), "A");
+    adapters.plug(usbDevice(1), "B", "socket-2");
     start();
-    adapters.pull("/dev/ttyUSB1");
-    pullFromServer("/dev/ttyUSB0");
-    adapters.plug("/dev/ttyUSB0", "B");
-    adapters.plug("/dev/ttyUSB1", "A", "socket-2");
+    adapters.pull(usbDevice(1));
+    pullFromServer(usbDevice(0));
+    adapters.plug(usbDevice(0), "B");
+    adapters.plug(usbDevice(1), "A", "socket-2");
     time.advance(seconds(1));
     EXPECT_TRUE(running);
-    EXPECT_EQ(device(), "/dev/ttyUSB1");
+    EXPECT_EQ(device(), usbDevice(1));
 }
 
 TEST_F(PortKeeperTest, ManyQuickPlugsLeadToOneStart) {
-    adapters.plug("/dev/ttyUSB0", "A");
+    adapters.plug(usbDevice(0), "A");
     start();
-    pullFromServer("/dev/ttyUSB0");
+    pullFromServer(usbDevice(0));
     const int before = adapters.listings;
     for (int plug = 0; plug < 100; ++plug) {
-        adapters.plug("/dev/ttyUSB0", "A");
+        adapters.plug(usbDevice(0), "A");
         time.advance(milliseconds(1));
-        adapters.pull("/dev/ttyUSB0");
+        adapters.pull(usbDevice(0));
     }
     EXPECT_LE(adapters.listings - before, 2);
-    adapters.plug("/dev/ttyUSB0", "A");
+    adapters.plug(usbDevice(0), "A");
     time.advance(seconds(5));
     EXPECT_TRUE(running);
     EXPECT_EQ(starts, 1);
 }
 
 TEST_F(PortKeeperTest, EventsThatNeverEndDoNotPutTheStartOff) {
-    adapters.plug("/dev/ttyUSB0", "A");
+    adapters.plug(usbDevice(0), "A");
     start();
-    pullFromServer("/dev/ttyUSB0");
-    adapters.plug("/dev/ttyUSB0", "A");
+    pullFromServer(usbDevice(0));
+    adapters.plug(usbDevice(0), "A");
     for (int i = 0; i < 30 && !running; ++i) {
         adapters.event();
         time.advance(milliseconds(10));
@@ -157,59 +159,59 @@ TEST_F(PortKeeperTest, EventsThatNeverEndDoNotPutTheStartOff) {
 }
 
 TEST_F(PortKeeperTest, AnAdapterWithoutASerialNumberIsKnownByItsSocket) {
-    adapters.plug("/dev/ttyUSB0", "", "socket-1");
+    adapters.plug(usbDevice(0), "", "socket-1");
     start();
-    pullFromServer("/dev/ttyUSB0");
-    adapters.plug("/dev/ttyUSB0", "", "socket-2");
+    pullFromServer(usbDevice(0));
+    adapters.plug(usbDevice(0), "", "socket-2");
     time.advance(seconds(60));
     EXPECT_EQ(starts, 0);
-    adapters.plug("/dev/ttyUSB1", "", "socket-1");
+    adapters.plug(usbDevice(1), "", "socket-1");
     time.advance(seconds(1));
     EXPECT_TRUE(running);
-    EXPECT_EQ(device(), "/dev/ttyUSB1");
+    EXPECT_EQ(device(), usbDevice(1));
 }
 
 TEST_F(PortKeeperTest, APermissionThatComesLateIsWaitedForWithoutAnEvent) {
-    adapters.plug("/dev/ttyUSB0", "A");
+    adapters.plug(usbDevice(0), "A");
     start();
-    pullFromServer("/dev/ttyUSB0");
-    adapters.plug("/dev/ttyUSB0", "A");
-    adapters.permit("/dev/ttyUSB0", false);
+    pullFromServer(usbDevice(0));
+    adapters.plug(usbDevice(0), "A");
+    adapters.permit(usbDevice(0), false);
     time.advance(seconds(2));
     EXPECT_EQ(starts, 0);
-    adapters.permit("/dev/ttyUSB0", true);
+    adapters.permit(usbDevice(0), true);
     time.advance(Reconnection::kTick);
     EXPECT_TRUE(running);
 }
 
 TEST_F(PortKeeperTest, WithoutADeviceManagerThePortIsFoundAllTheSame) {
     adapters.manager = false;
-    adapters.plug("/dev/ttyUSB0", "A");
+    adapters.plug(usbDevice(0), "A");
     start();
-    pullFromServer("/dev/ttyUSB0");
+    pullFromServer(usbDevice(0));
     time.advance(seconds(30));
-    adapters.plug("/dev/ttyUSB0", "A");
+    adapters.plug(usbDevice(0), "A");
     time.advance(Reconnection::kTick);
     EXPECT_TRUE(running);
 }
 
 TEST_F(PortKeeperTest, AnEventOfADeviceThatIsGoneWhenAskedChangesNothing) {
-    adapters.plug("/dev/ttyUSB0", "A");
+    adapters.plug(usbDevice(0), "A");
     start();
-    pullFromServer("/dev/ttyUSB0");
-    adapters.plug("/dev/ttyUSB0", "A");
-    adapters.pull("/dev/ttyUSB0");
+    pullFromServer(usbDevice(0));
+    adapters.plug(usbDevice(0), "A");
+    adapters.pull(usbDevice(0));
     time.advance(seconds(5));
     EXPECT_EQ(starts, 0);
     EXPECT_TRUE(keeper.waiting());
 }
 
 TEST_F(PortKeeperTest, APortThatIsHeldByAnotherProgramIsTriedUntilItIsFree) {
-    adapters.plug("/dev/ttyUSB0", "A");
+    adapters.plug(usbDevice(0), "A");
     start();
-    pullFromServer("/dev/ttyUSB0");
+    pullFromServer(usbDevice(0));
     busy = true;
-    adapters.plug("/dev/ttyUSB0", "A");
+    adapters.plug(usbDevice(0), "A");
     time.advance(seconds(5));
     EXPECT_FALSE(running);
     EXPECT_GE(starts, 4);
@@ -220,14 +222,14 @@ TEST_F(PortKeeperTest, APortThatIsHeldByAnotherProgramIsTriedUntilItIsFree) {
 
 TEST_F(PortKeeperTest, ATwinMakesTheAdapterUnknownAndBothAreNamed) {
     options.PortIdentity = "0403:6001:0001";
-    adapters.plug("/dev/ttyUSB0", "0001", "socket-1");
-    adapters.plug("/dev/ttyUSB1", "0001", "socket-2");
+    adapters.plug(usbDevice(0), "0001", "socket-1");
+    adapters.plug(usbDevice(1), "0001", "socket-2");
     start();
     EXPECT_FALSE(running);
-    EXPECT_EQ(keeper.complaint(),
-              "usb:0403:6001:0001 is /dev/ttyUSB0 and /dev/ttyUSB1; none of them is taken. Name the device "
-              "instead.");
-    adapters.pull("/dev/ttyUSB1");
+    EXPECT_EQ(keeper.complaint(), "usb:0403:6001:0001 is " + usbDevice(0) + " and " + usbDevice(1) +
+                                      "; none of them is taken. Name the device "
+                                      "instead.");
+    adapters.pull(usbDevice(1));
     start();
     EXPECT_TRUE(running);
     EXPECT_EQ(keeper.complaint(), "");
@@ -235,7 +237,7 @@ TEST_F(PortKeeperTest, ATwinMakesTheAdapterUnknownAndBothAreNamed) {
 
 TEST_F(PortKeeperTest, AConfiguredAdapterIsFoundUnderAnotherNumberAtTheStart) {
     options.PortIdentity = "0403:6001:A";
-    adapters.plug("/dev/ttyUSB3", "A");
+    adapters.plug(usbDevice(3), "A");
     start();
     EXPECT_TRUE(running);
     EXPECT_EQ(port.number, 8);
@@ -244,19 +246,19 @@ TEST_F(PortKeeperTest, AConfiguredAdapterIsFoundUnderAnotherNumberAtTheStart) {
 
 TEST_F(PortKeeperTest, AConfiguredAdapterThatIsNotThereIsNotReplacedByTheOneThatHasItsNumber) {
     options.PortIdentity = "0403:6001:A";
-    adapters.plug("/dev/ttyUSB0", "B");
+    adapters.plug(usbDevice(0), "B");
     start();
     EXPECT_FALSE(running);
     EXPECT_EQ(device(), "usb:0403:6001:A");
-    adapters.plug("/dev/ttyUSB1", "A", "socket-2");
+    adapters.plug(usbDevice(1), "A", "socket-2");
     start();
     EXPECT_TRUE(running);
-    EXPECT_EQ(device(), "/dev/ttyUSB1");
+    EXPECT_EQ(device(), usbDevice(1));
 }
 
 TEST_F(PortKeeperTest, AnIdentityThatIsNoneIsToldOnceAndTheNumberCounts) {
     options.PortIdentity = "my adapter";
-    adapters.plug("/dev/ttyUSB0", "B");
+    adapters.plug(usbDevice(0), "B");
     start();
     EXPECT_TRUE(running);
     start();
@@ -265,17 +267,18 @@ TEST_F(PortKeeperTest, AnIdentityThatIsNoneIsToldOnceAndTheNumberCounts) {
 
 TEST_F(PortKeeperTest, APortThatIsNamedByItsAdapterIsFoundWhereverItIs) {
     port.number = static_cast<std::int16_t>(names.numberFor("usb:0403:6001:A"));
-    adapters.plug("/dev/ttyUSB4", "A");
+    adapters.plug(usbDevice(4), "A");
     start();
     EXPECT_TRUE(running);
-    EXPECT_EQ(device(), "/dev/ttyUSB4");
+    EXPECT_EQ(device(), usbDevice(4));
     EXPECT_EQ(names.shown(port.number), "usb:0403:6001:A");
-    pullFromServer("/dev/ttyUSB4");
-    adapters.plug("/dev/ttyUSB2", "A");
+    pullFromServer(usbDevice(4));
+    adapters.plug(usbDevice(2), "A");
     time.advance(seconds(1));
     EXPECT_TRUE(running);
-    EXPECT_EQ(device(), "/dev/ttyUSB2");
-    EXPECT_THAT(lines, ElementsAre("usb:0403:6001:A is /dev/ttyUSB2 now; it was /dev/ttyUSB4."));
+    EXPECT_EQ(device(), usbDevice(2));
+    EXPECT_THAT(lines,
+                ElementsAre("usb:0403:6001:A is " + usbDevice(2) + " now; it was " + usbDevice(4) + "."));
 }
 
 TEST_F(PortKeeperTest, APortOnNoUsbIsWhateverHasItsName) {
@@ -290,7 +293,7 @@ TEST_F(PortKeeperTest, APortOnNoUsbIsWhateverHasItsName) {
 }
 
 TEST_F(PortKeeperTest, APortThatFailsWithoutBeingPulledIsTriedAgainLater) {
-    adapters.plug("/dev/ttyUSB0", "A");
+    adapters.plug(usbDevice(0), "A");
     start();
     lose();
     time.advance(Reconnection::kTick * (Reconnection::kTicksOfStayed - 1));
@@ -300,7 +303,7 @@ TEST_F(PortKeeperTest, APortThatFailsWithoutBeingPulledIsTriedAgainLater) {
 }
 
 TEST_F(PortKeeperTest, SleepAndWakingCountAsPullAndPlug) {
-    adapters.plug("/dev/ttyUSB0", "A");
+    adapters.plug(usbDevice(0), "A");
     start();
     adapters.event(AdapterEvent::Sleeps);
     EXPECT_FALSE(running);
@@ -310,20 +313,20 @@ TEST_F(PortKeeperTest, SleepAndWakingCountAsPullAndPlug) {
 }
 
 TEST_F(PortKeeperTest, WhoGaveUpIsNotStarted) {
-    adapters.plug("/dev/ttyUSB0", "A");
+    adapters.plug(usbDevice(0), "A");
     start();
-    pullFromServer("/dev/ttyUSB0");
+    pullFromServer(usbDevice(0));
     keeper.giveUp();
-    adapters.plug("/dev/ttyUSB0", "A");
+    adapters.plug(usbDevice(0), "A");
     time.advance(seconds(60));
     EXPECT_EQ(starts, 0);
 }
 
 TEST_F(PortKeeperTest, AServerThatShallNotReconnectDoesNotWait) {
     waitFor = WaitFor::Nothing;
-    adapters.plug("/dev/ttyUSB0", "A");
+    adapters.plug(usbDevice(0), "A");
     start();
-    pullFromServer("/dev/ttyUSB0");
+    pullFromServer(usbDevice(0));
     EXPECT_FALSE(keeper.waiting());
 }
 
@@ -333,23 +336,23 @@ TEST_F(PortKeeperTest, OnlyWhoWaitsForAnyPortWaitsForOneThatWasNeverThere) {
     waitFor = WaitFor::AnyPort;
     start();
     EXPECT_TRUE(keeper.waiting());
-    adapters.plug("/dev/ttyUSB0", "A");
+    adapters.plug(usbDevice(0), "A");
     time.advance(seconds(1));
     EXPECT_TRUE(running);
 }
 
 TEST_F(PortKeeperTest, ThePortThatTheUserChoseMeanwhileIsNotTheLostAdaptersAnyMore) {
-    adapters.plug("/dev/ttyUSB0", "A");
+    adapters.plug(usbDevice(0), "A");
     start();
-    pullFromServer("/dev/ttyUSB0");
+    pullFromServer(usbDevice(0));
     port.number = 6;
-    adapters.plug("/dev/ttyUSB0", "A");
+    adapters.plug(usbDevice(0), "A");
     time.advance(seconds(5));
     EXPECT_EQ(starts, 0);
-    adapters.plug("/dev/ttyUSB1", "B", "socket-2");
+    adapters.plug(usbDevice(1), "B", "socket-2");
     time.advance(seconds(1));
     EXPECT_TRUE(running);
-    EXPECT_EQ(device(), "/dev/ttyUSB1");
+    EXPECT_EQ(device(), usbDevice(1));
 }
 
 }  // namespace

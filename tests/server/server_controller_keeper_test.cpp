@@ -8,6 +8,8 @@
 namespace velmora {
 namespace {
 
+using test::usbDevice;
+
 using std::chrono::seconds;
 using ::testing::Contains;
 using ::testing::HasSubstr;
@@ -18,19 +20,19 @@ class ControllerKeeperTest : public test::ControllerTest {
   protected:
     ControllerKeeperTest() {
         port.number = 5;
-        adapters.plug("/dev/ttyUSB0", "A");
+        adapters.plug(usbDevice(0), "A");
         controller.attachPortKeeper(keeper);
         adapters.onEvent([this](AdapterEvent) { keeper.adaptersChanged(); });
         reach(Offline);
     }
     void pull() {
-        adapters.pull("/dev/ttyUSB0");
+        adapters.pull(usbDevice(0));
         portBreaks();
         tick();
     }
     void plug() {
         port.countError.reset();
-        adapters.plug("/dev/ttyUSB0", "A");
+        adapters.plug(usbDevice(0), "A");
         time.advance(seconds(2));
     }
 
@@ -85,7 +87,7 @@ TEST_F(ControllerKeeperTest, WhoDoesNotReconnectIsLeftWithStart) {
 TEST_F(ControllerKeeperTest, ATransferThatWasLostIsNotStartedUnderTheQuestionAboutIt) {
     reach(Downld);
     box.whileAsking = [this] {
-        adapters.plug("/dev/ttyUSB0", "A");
+        adapters.plug(usbDevice(0), "A");
         EXPECT_FALSE(controller.restart());
         EXPECT_EQ(controller.state(), Downld);
         port.countError.reset();

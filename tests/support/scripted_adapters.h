@@ -12,6 +12,15 @@
 
 namespace velmora::test {
 
+/// The device of the n-th adapter, from 0 on: that of COM5 and those behind it.
+inline std::string usbDevice(int adapter) {
+#ifdef _WIN32
+    return "COM" + std::to_string(5 + adapter);
+#else
+    return "/dev/ttyUSB" + std::to_string(adapter);
+#endif
+}
+
 /// Plays the device manager. Adapters have the USB numbers 0403:6001.
 class ScriptedAdapters : public AdapterEvents {
   public:
