@@ -19,7 +19,8 @@ stage() { printf '\n== %s (after %d:%02d min)\n' "$1" $((SECONDS / 60)) $((SECON
 stage "Layout of the code"
 scripts/check-format.sh
 stage "Fuzzers"
-scripts/fuzz.sh 5
+scripts/fuzz.sh --corpus
+scripts/fuzz.sh 10
 stage "Unit tests under the address and undefined-behaviour sanitizers"
 scripts/build-sanitize.sh
 ctest --test-dir build-sanitize --output-on-failure -j "$jobs" -LE e2e --progress
