@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <cmath>
 #include <set>
 #include <tuple>
 #include <utility>
@@ -128,7 +129,8 @@ std::vector<std::string> cellLines(const std::vector<SheetCell>& cells) {
         if (cell.type == SheetCell::kLabel) {
             content.insert(0, "'");
         } else if (isNumber(content)) {
-            content = plainText(numericValue(content));
+            const double value = numericValue(content);
+            content = std::isfinite(value) ? plainText(value) : content;
         }
         lines.push_back(reference(cell) + " " + content);
     }

@@ -24,7 +24,8 @@ namespace velmora {
 /// holds, no cell at all.
 std::vector<SheetCell> parseCells(const std::string& path, std::string_view text);
 
-/// The cells as lines of a cells file. Numbers are written plainly: the server's 3.5E0 is 3.5.
+/// The cells as lines of a cells file. Numbers are written plainly: the server's 3.5E0 is 3.5. One that is
+/// too large for that is written as it came.
 std::vector<std::string> cellLines(const std::vector<SheetCell>& cells);
 
 }  // namespace velmora

@@ -73,5 +73,12 @@ TEST(CellsFile, NumbersOfTheServerAreWrittenPlainly) {
               (std::vector<std::string>{"A1 3.5", "B1 1E-05", "C10 =A1*2", "D1 '1.0E0", "E1 ERR"}));
 }
 
+TEST(CellsFile, ANumberThatIsTooLargeIsWrittenAsItCame) {
+    const Cells cells = parseCells("s", "A1 1E999\nB1 -1E400\n");
+    const std::vector<std::string> lines = cellLines(cells);
+    EXPECT_EQ(lines, (std::vector<std::string>{"A1 1E999", "B1 -1E400"}));
+    EXPECT_EQ(parseCells("again", joinLines(lines, false)), cells);
+}
+
 }  // namespace
 }  // namespace velmora
