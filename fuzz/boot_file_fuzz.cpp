@@ -1,21 +1,16 @@
 // Boot files of any content: taken apart, relocated and made again.
 #include <cstdint>
-#include <cstdlib>
 #include <string>
 #include <string_view>
 
 #include "base/run_time_error.h"
+#include "require.h"
 #include "services/boot_file.h"
 
 namespace {
 
 using namespace velmora;
-
-void require(bool holds) {
-    if (!holds) {
-        std::abort();
-    }
-}
+using fuzz::require;
 
 void relocate(BootFile file, std::uint32_t address) {
     const std::size_t length = file.code.size();

@@ -1,219 +1,122 @@
-// Any sequence of events against the dispatcher with all services over files in memory.
+// Any sequence of requests to the services, as an Organiser makes them and as it never would, with faults of
+// the disk and of the link between them.
 //
-// The first byte chooses the form of data files. Then come steps, a kind byte each, some with a payload (a
-// length byte and as many bytes): see Step.
+// Input: a byte for the settings, then steps, each a byte for its kind and what that kind reads. A name is a
+// byte that chooses one, or a text.
 #include <cstdint>
-#include <cstdlib>
-#include <memory>
 #include <string>
-#include <string_view>
-#include <utility>
 
-#include "services/boot_file.h"
-#include "services/boot_service.h"
-#include "services/dispatcher.h"
-#include "services/file_service.h"
-#include "services/ftran_service.h"
-#include "services/open_file.h"
-#include "services/planm_service.h"
-#include "services/stop_request_service.h"
-#include "services/time_services.h"
-#include "support/failing_files.h"
-#include "support/fake_timers.h"
-#include "support/memory_files.h"
-#include "support/recording_sender.h"
-#include "support/recording_trace.h"
-#include "support/recording_window.h"
-#include "support/simple_names.h"
+#include "input.h"
+#include "served_folder.h"
 
 namespace {
 
 using namespace velmora;
+using fuzz::Input;
 using test::FileCall;
 
-constexpr const char* kServices[] = {"FTRAN", "FILE", "BOOT", "EXIT",    "SHUTDOWN",
-                                     "PLANM", "TIME", "GMT",  "TIMEINFO"};
-
-enum Step : int {
-    kData,           ///< a data message with a payload
-    kAcknowledge,    ///< the last reply was acknowledged
-    kLinkDown,       ///< the link went down
-    kReopen,         ///< the link went down and a service is named: a byte chooses it
-    kStopInside,     ///< the next send runs a stop of the server
-    kFailNextWrite,  ///< the next write finds the disk full
-    kFailNextRead,   ///< the next read fails
-    kStepCount,
+enum Step : std::uint8_t {
+    kOpenService,    ///< the link is new; which service
+    kOpenFile,       ///< mode, kind, name
+    kWrite,          ///< text
+    kRead,           ///< maximum
+    kSeek,           ///< mode, offset as text
+    kCloseFile,      ///< nothing
+    kSheet,          ///< format, with 128 for a save; name
+    kSheetSize,      ///< columns, rows
+    kCell,           ///< column, row, type, text
+    kEndOfSheet,     ///< nothing
+    kMessage,        ///< text
+    kUnanswered,     ///< text; the answer is not acknowledged
+    kLinkDown,       ///< nothing
+    kStopInside,     ///< nothing: the user stops the server inside the next send
+    kFailOperation,  ///< kind of file operation, how many succeed before it, error
+    kDeleteFile,     ///< name: another program deletes the file
+    kSteps,
 };
 
-void require(bool holds) {
-    if (!holds) {
-        std::abort();
+/// The names that requests use most: files that are there, others, patterns and folders.
+std::string name(Input& input) {
+    static const std::vector<std::string> others = {"NEW",      "NEW.WKS", "*",         "*.*",
+                                                    "SUB\\NEW", "C>1.OPL", "..\\A.ODB", ""};
+    const auto& files = fuzz::filesOfFolder();
+    const std::size_t choice = input.byte();
+    if (choice < files.size()) {
+        return files[choice].first;
+    }
+    return choice < files.size() + others.size() ? others[choice - files.size()] : input.text();
+}
+
+/// What a service asks of the disk, and how that fails.
+void failOperation(fuzz::SmallDisk& disk, Input& input) {
+    constexpr FileCall kCalls[] = {FileCall::FileSize,     FileCall::Open,    FileCall::Delete,
+                                   FileCall::CreateFolder, FileCall::Replace, FileCall::CreateTemporary,
+                                   FileCall::List,         FileCall::Read,    FileCall::Write,
+                                   FileCall::Flush,        FileCall::Close};
+    constexpr ErrorNumber kErrors[] = {ErrorNumber::DiskFull, ErrorNumber::DeviceIoError,
+                                       ErrorNumber::PermissionDenied, ErrorNumber::FileNotFound};
+    const FileCall call = kCalls[input.below(std::size(kCalls))];
+    const int which = 1 + static_cast<int>(input.below(8));
+    disk.failAtCall(call, which, kErrors[input.below(std::size(kErrors))]);
+}
+
+/// The message of a step that is a request.
+std::string request(Step step, Input& input) {
+    switch (step) {
+        case kOpenFile: {
+            const char mode = input.character();
+            const char kind = input.character();
+            return std::string{0, mode, kind} + name(input);
+        }
+        case kWrite:
+            return '\2' + input.text();
+        case kRead:
+            return {3, input.character()};
+        case kSeek: {
+            const char mode = input.character();
+            return std::string{4, mode} + input.text();
+        }
+        case kCloseFile:
+            return {1};
+        case kSheet: {
+            const char format = input.character();
+            return format + name(input);
+        }
+        case kSheetSize:
+            return input.bytes(2);
+        case kCell:
+            return input.bytes(3) + input.text();
+        case kEndOfSheet:
+            return "\xFE";
+        default:
+            return input.text();
     }
 }
 
-/// A file on a small disk: no seek makes it large.
-class SmallFile : public File {
-  public:
-    explicit SmallFile(std::unique_ptr<File> inner) : inner_(std::move(inner)) {}
-    std::size_t read(char* buffer, std::size_t count) override { return inner_->read(buffer, count); }
-    void write(std::string_view bytes) override {
-        if (inner_->position() + bytes.size() > 200'000) {
-            throw RunTimeError(ErrorNumber::DiskFull);
-        }
-        inner_->write(bytes);
-    }
-    std::uint64_t position() const override { return inner_->position(); }
-    void seek(std::uint64_t position) override { inner_->seek(position); }
-    std::uint64_t size() const override { return inner_->size(); }
-    void flush() override { inner_->flush(); }
-    bool isInPlace() const override { return inner_->isInPlace(); }
-    void close() override { inner_->close(); }
-
-  private:
-    std::unique_ptr<File> inner_;
-};
-
-class SmallDisk : public test::FailingFiles {
-  public:
-    using FailingFiles::FailingFiles;
-    std::unique_ptr<File> open(const std::string& path, OpenMode mode) override {
-        return std::make_unique<SmallFile>(FailingFiles::open(path, mode));
-    }
-};
-
-class FixedZone : public ZoneSource {
-  public:
-    std::int32_t offsetMinutes() const override { return 60; }
-    bool daylight() const override { return true; }
-};
-
-/// The server with everything that it serves.
-class Server {
-  public:
-    explicit Server(int dataFileType) {
-        settings_.DataFileType = dataFileType;
-        memory_.addFile("/psion/A.odb", "one\ttwo\r\nthree");
-        memory_.addFile("/psion/B.csv", "a,\"b,c\",d,,\r\n\"x\"\r\n");
-        memory_.addFile("/psion/C.opl", "c:\r\n\x07print 1\r\n");
-        memory_.addFile("/psion/D.ob3", std::string("ORG\0\x03\x83xyz", 9));
-        memory_.addFile("/psion/E.bin", makeBootFile(std::string(450, 'x'), std::string("\0\x01\0\x10", 4)));
-        ServiceHandler* const handlers[] = {&ftran_, &file_, &boot_, &exit_,    &shutdown_,
-                                            &planm_, &time_, &gmt_,  &timeInfo_};
-        for (std::size_t i = 0; i < std::size(kServices); ++i) {
-            dispatcher_.add(kServices[i], *handlers[i]);
-        }
-    }
-
-    void event(std::int32_t code, std::string payload = {}) {
-        window_.current = 6;
-        sender_.frames.clear();
-        trace_.entries.clear();
-        dispatcher_.Services(code, payload);
-        require(code >= PLP_EV_RESET && code <= kServiceOpened);
-        if (dispatcher_.currentService().empty()) {
-            requireNothingLeft();
-        }
-    }
-    void reopen(std::size_t service) {
-        event(PLP_EV_RESET);
-        event(PLP_EV_DATA, kServices[service % std::size(kServices)]);
-    }
-    void stopInsideNextSend() {
-        sender_.onSend = [this] {
-            sender_.onSend = nullptr;
-            window_.current = 4;
-            std::int32_t code = PLP_EV_RESET;
-            std::string nothing;
-            dispatcher_.Services(code, nothing);
-        };
-    }
-    void failNext(FileCall call, ErrorNumber error) { files_.failAtCall(call, 1, error); }
-
-  private:
-    void requireNothingLeft() {
-        require(!open_.isOpen());
-        require(memory_.openFiles() == 0);
-        for (const std::string& path : memory_.paths()) {
-            require(rules_.parentFolder(path) != memory_.temporaryFolder());
-        }
-    }
-
-    test::MemoryFiles memory_;
-    SmallDisk files_{memory_};
-    test::SimplePathRules rules_;
-    TransferSettings settings_{"/psion", 0};
-    test::FolderMapper names_{files_, rules_, settings_.DownloadPath};
-    test::RecordingWindow window_;
-    test::RecordingSender sender_;
-    test::RecordingTrace trace_;
-    test::FakeTime clock_;
-    FixedZone zone_;
-    StopRequests requests_;
-    TransferLog log_{window_, trace_, rules_};
-    EarlierCopiesSettings copiesSettings_{"/data/copies"};
-    EarlierCopies copies_{files_, rules_, clock_, log_, copiesSettings_};
-    OpenFile open_{files_, rules_, window_, copies_, log_};
-    TimeServices timeServices_{clock_, zone_};
-    FtranService ftran_{sender_, window_, open_, names_, settings_};
-    FileService file_{sender_, window_, open_, names_};
-    BootService boot_{sender_, window_, files_, names_};
-    StopRequestService exit_{sender_, requests_.exit};
-    StopRequestService shutdown_{sender_, requests_.shutdown};
-    PlanmService planm_{sender_, {{2, "WKS"}, {3, "DIF"}}};
-    TimeService time_{sender_, window_, timeServices_, TimeReply::Local};
-    TimeService gmt_{sender_, window_, timeServices_, TimeReply::Universal};
-    TimeService timeInfo_{sender_, window_, timeServices_, TimeReply::LocalWithZone};
-    ServiceDispatcher dispatcher_{sender_, window_, trace_};
-};
-
-/// Takes the input apart; at its end everything is 0 and empty.
-class Input {
-  public:
-    Input(const std::uint8_t* data, std::size_t size) : rest_(reinterpret_cast<const char*>(data), size) {}
-    bool atEnd() const { return rest_.empty(); }
-    std::size_t number() {
-        if (rest_.empty()) {
-            return 0;
-        }
-        const auto value = static_cast<unsigned char>(rest_.front());
-        rest_.remove_prefix(1);
-        return value;
-    }
-    std::string text() {
-        const std::size_t length = number();
-        std::string copy(rest_.substr(0, length));
-        rest_.remove_prefix(copy.size());
-        return copy;
-    }
-
-  private:
-    std::string_view rest_;
-};
-
-void runStep(Server& server, Input& input) {
-    switch (static_cast<Step>(input.number() % kStepCount)) {
-        case kData:
-            server.event(PLP_EV_DATA, input.text());
+void runStep(fuzz::ServedFolder& server, Input& input) {
+    const auto step = static_cast<Step>(input.below(kSteps));
+    switch (step) {
+        case kOpenService:
+            server.event(PLP_EV_RESET);
+            server.message(fuzz::kServices[input.below(fuzz::kServices.size())]);
             break;
-        case kAcknowledge:
-            server.event(PLP_EV_ACKED);
+        case kUnanswered:
+            server.event(PLP_EV_DATA, input.text());
             break;
         case kLinkDown:
             server.event(PLP_EV_RESET);
             break;
-        case kReopen:
-            server.reopen(input.number());
-            break;
         case kStopInside:
             server.stopInsideNextSend();
             break;
-        case kFailNextWrite:
-            server.failNext(FileCall::Write, ErrorNumber::DiskFull);
+        case kFailOperation:
+            failOperation(server.disk(), input);
             break;
-        case kFailNextRead:
-            server.failNext(FileCall::Read, ErrorNumber::DeviceIoError);
+        case kDeleteFile:
+            server.deleteFile(name(input));
             break;
-        case kStepCount:
+        default:
+            server.message(request(step, input));
             break;
     }
 }
@@ -222,7 +125,11 @@ void runStep(Server& server, Input& input) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     Input input(data, size);
-    Server server(static_cast<int>(input.number() % 4));
+    fuzz::ServedFolder server;
+    const std::uint8_t choice = input.byte();
+    server.settings().DataFileType = choice & 3;
+    server.settings().StayInFolder = (choice & 4) != 0;
+    server.settings().sheets.wksDialect = (choice & 8) != 0 ? WksDialect::Common : WksDialect::Own;
     while (!input.atEnd()) {
         runStep(server, input);
     }

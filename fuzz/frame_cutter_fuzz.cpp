@@ -2,7 +2,6 @@
 //
 // Input: a byte for the capacity, a byte for the portions, then the stream.
 #include <cstdint>
-#include <cstdlib>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -10,16 +9,12 @@
 #include "link/crc.h"
 #include "link/frame_cutter.h"
 #include "link/frames.h"
+#include "require.h"
 
 namespace {
 
 using namespace velmora;
-
-void require(bool holds) {
-    if (!holds) {
-        std::abort();
-    }
-}
+using fuzz::require;
 
 /// Header in front; at the end the trailer, whose DLE is the last of an odd run, and two check bytes.
 void requireFrame(std::string_view frame, std::size_t capacity) {

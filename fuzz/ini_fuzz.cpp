@@ -1,6 +1,5 @@
 // Any bytes as a configuration file: reading them never fails, an edit changes one line and no other.
 #include <cstdint>
-#include <cstdlib>
 #include <string>
 #include <vector>
 
@@ -8,6 +7,7 @@
 #include "base/run_time_error.h"
 #include "platform/profile/profile_encoding.h"
 #include "platform/profile/text_profile_files.h"
+#include "require.h"
 #include "startup/ini_file.h"
 #include "startup/messages.h"
 #include "startup/settings.h"
@@ -16,12 +16,7 @@
 namespace {
 
 using namespace velmora;
-
-void require(bool holds) {
-    if (!holds) {
-        std::abort();
-    }
-}
+using fuzz::require;
 
 void readEverything(test::IniRig& rig) {
     Strings strings;

@@ -1,12 +1,12 @@
 // Maps any bytes as a name: the result is empty, or an absolute path whose folder exists. By the rules of
 // this system on a real folder tree and by those of Windows on one in memory.
 #include <cstdint>
-#include <cstdlib>
 #include <string>
 
 #include "platform/posix/posix_files.h"
 #include "platform/posix/posix_paths.h"
 #include "platform/windows_paths.h"
+#include "require.h"
 #include "services/tools.h"
 #include "support/memory_files.h"
 #include "support/temp_folder.h"
@@ -14,11 +14,7 @@
 namespace velmora {
 namespace {
 
-void require(bool holds) {
-    if (!holds) {
-        std::abort();
-    }
-}
+using fuzz::require;
 
 /// A folder tree, the rules of its system and the mapping between.
 struct Setting {

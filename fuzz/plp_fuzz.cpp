@@ -4,45 +4,18 @@
 //
 // Input: a byte for the first state, then events, each a byte for its kind and what that kind reads.
 #include <cstdint>
-#include <cstdlib>
 #include <string>
 
+#include "input.h"
+#include "require.h"
 #include "support/link_rig.h"
 
 namespace {
 
 using namespace velmora;
+using fuzz::Input;
+using fuzz::require;
 using test::milliseconds;
-
-void require(bool holds) {
-    if (!holds) {
-        std::abort();
-    }
-}
-
-class Input {
-  public:
-    Input(const std::uint8_t* data, std::size_t size) : data_(data), size_(size) {}
-    bool empty() const { return size_ == 0; }
-    std::uint8_t byte() {
-        if (size_ == 0) {
-            return 0;
-        }
-        --size_;
-        return *data_++;
-    }
-    std::string bytes(std::size_t count) {
-        std::string text;
-        while (count-- > 0 && size_ > 0) {
-            text += static_cast<char>(byte());
-        }
-        return text;
-    }
-
-  private:
-    const std::uint8_t* data_;
-    std::size_t size_;
-};
 
 class Life : private test::LinkRig {
   public:
@@ -61,7 +34,7 @@ class Life : private test::LinkRig {
         const LinkState first = kStates[input_.byte() % 5];
         bringTo(first);
         require(plp.linkState() == first);
-        while (!input_.empty()) {
+        while (!input_.atEnd()) {
             event();
             require(plp.isConsistent());
             require((window.current > Offline) == port.open);

@@ -1,20 +1,13 @@
 // What holds for every sheet that a reader gives.
 #pragma once
 
-#include <cstdlib>
-
 #include "base/run_time_error.h"
+#include "require.h"
 #include "spreadsheet/sample_file.h"
 #include "spreadsheet/sheet_grid.h"
 #include "spreadsheet/spreadsheet.h"
 
 namespace velmora::fuzz {
-
-inline void require(bool holds) {
-    if (!holds) {
-        std::abort();
-    }
-}
 
 /// Reads bytes and checks the sheet: within the Organiser's size, and fit to be written in every format.
 template <typename Reader>
