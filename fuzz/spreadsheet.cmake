@@ -3,3 +3,4 @@ velmora_fuzz(formula_encoder_fuzz SOURCES formula_encoder_fuzz.cpp LIBS velmora_
 velmora_fuzz(wks_reader_fuzz SOURCES wks_reader_fuzz.cpp LIBS velmora_spreadsheet)
 velmora_fuzz(dif_reader_fuzz SOURCES dif_reader_fuzz.cpp LIBS velmora_spreadsheet)
 velmora_fuzz(text_reader_fuzz SOURCES text_reader_fuzz.cpp LIBS velmora_spreadsheet)
+velmora_fuzz(number_locale_fuzz SOURCES number_locale_fuzz.cpp LIBS velmora_spreadsheet)

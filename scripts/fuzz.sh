@@ -128,19 +128,19 @@ if ((${#names[@]} == 0)); then
   done
 fi
 
-what="${#names[@]} fuzzers"
+what="fuzzers: ${#names[@]}"
 case $command in
   fuzz)
     each fuzz "$argument"
-    echo "$what, $argument s each: no finding"
+    echo "$what, each for $argument s: no finding"
     ;;
   corpus)
     each try_corpus
-    echo "$what tried the inputs of their corpora: no finding"
+    echo "$what, inputs of their corpora: $(find fuzz/corpus -type f | wc -l): no finding"
     ;;
   merge)
     each merge
-    echo "$what: fuzz/corpus has $(find fuzz/corpus -type f | wc -l) inputs, $(du -bs fuzz/corpus | cut -f 1) bytes"
+    echo "$what; fuzz/corpus has $(find fuzz/corpus -type f | wc -l) inputs"
     ;;
   hours)
     touch "$record"
@@ -151,7 +151,7 @@ case $command in
     done
     table
     echo
-    echo "$what: $(used | awk '{ inputs += $3; sum += $1 } END { printf "%.0f inputs in %.2f hours of processor time", inputs, sum / 3600 }'): $result"
+    echo "$what; $(used | awk '{ inputs += $3; sum += $1 } END { printf "%.0f inputs in %.2f hours of processor time", inputs, sum / 3600 }'): $result"
     mv "$record" "$record.last"
     [[ "$result" == "no finding" ]]
     ;;
