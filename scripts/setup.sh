@@ -9,7 +9,7 @@ set -euo pipefail
 packages=(g++ cmake ninja-build qt6-base-dev libcli11-dev nlohmann-json3-dev libudev-dev ccache libwps-tools fonts-dejavu-core)
 if [[ "${1:-}" == tests ]]; then
   packages+=(libgtest-dev libgmock-dev libbenchmark-dev clang clang-format clang-tidy libclang-rt-dev
-    xvfb xauth tzdata gnumeric python3 desktop-file-utils appstream)
+    xvfb xauth dbus-daemon tzdata gnumeric python3 desktop-file-utils appstream)
 fi
 if [[ "${1:-}" == pictures ]]; then
   packages+=(xvfb xauth imagemagick fonts-wine)

@@ -63,8 +63,11 @@ WaitFor DesktopServer::waitFor() {
 }
 
 std::string DesktopServer::portAdvice() {
-    const std::string reason = program_.describePortFailure();
-    return program_.core().waitsForPort() ? reason + " " + kGoesOn : reason;
+    std::string reason = program_.describePortFailure();
+    if (!program_.core().waitsForPort()) {
+        return reason;
+    }
+    return reason.empty() ? program_.describeWait() : reason + " " + program_.describeWait();
 }
 
 bool DesktopServer::queryUnload(CloseReason reason) {

@@ -104,7 +104,7 @@ void HeadlessServer::printWarning(const std::string& line) {
             advice += kWaits;
         }
     } else if (arguments_.wait && line.starts_with(toSystemText(program_.portName()))) {
-        advice = std::string(" ") + kGoesOn;
+        advice = std::string(" ") + program_.describeWait();
     } else if (line == kNoPortSelected) {
         advice = " None of COM1 to COM64 is free; name one with --port.";
         if (arguments_.wait) {

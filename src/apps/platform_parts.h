@@ -10,6 +10,7 @@
 #include "eventloop/port_watcher.h"
 #include "eventloop/qt_event_yield.h"
 #include "eventloop/qt_timer.h"
+#include "eventloop/system_sleep.h"
 #include "platform/native.h"
 #include "serial/comm_device.h"
 #include "serial/my_comm.h"
@@ -44,7 +45,9 @@ struct PlatformParts {
     QtTimer PLPtimer;
     QtTimer DisplayTimer;
     QtTimer KeeperTimer;
+    QtTimer SleepTimer;
     AdapterMonitor adapters;
+    SystemSleep sleep;
 };
 
 }  // namespace velmora

@@ -36,6 +36,12 @@ ServerCore::ServerCore(const ServerCoreParts& parts)
             keeping.timer, keeping.waitFor, [this] { return controller_.restart(); });
         controller_.attachPortKeeper(*keeper_);
     }
+    if (parts.sleepWatching) {
+        sleepWatch_.emplace(
+            parts.sleepWatching->sleep, parts.sleepWatching->timer,
+            SleepActions{[this] { controller_.computerSleeps(); }, [this] { controller_.computerWakes(); }});
+        controller_.attachSleepWatch(*sleepWatch_);
+    }
     link_.setServices(dispatcher_);
     dispatcher_.add("FTRAN", ftran_);
     dispatcher_.add("FILE", file_);
@@ -56,10 +62,8 @@ void ServerCore::applySettings(const Settings& settings) {
     earlierCopies_.removeExpired();
 }
 
-void ServerCore::adapterEvent(AdapterEvent event) {
-    if (event == AdapterEvent::Sleeps) {
-        controller_.pullPort("The computer goes to sleep.");
-    } else if (keeper_) {
+void ServerCore::adaptersChanged() {
+    if (keeper_) {
         keeper_->adaptersChanged();
     }
 }

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "base/clock.h"
+#include "base/computer_sleep.h"
 #include "base/event_yield.h"
 #include "base/files.h"
 #include "base/message_box.h"
@@ -17,7 +18,6 @@
 #include "link/crc.h"
 #include "link/plp.h"
 #include "link/trace.h"
-#include "serial/adapter_events.h"
 #include "serial/device_facts.h"
 #include "serial/port_identity.h"
 #include "serial/port_names.h"
@@ -27,6 +27,7 @@
 #include "server/port_keeper.h"
 #include "server/server_controller.h"
 #include "server/server_options.h"
+#include "server/sleep_watch.h"
 #include "services/boot_service.h"
 #include "services/dispatcher.h"
 #include "services/file_service.h"
@@ -74,6 +75,12 @@ struct ServerCoreParts {
         std::function<WaitFor()> waitFor;
     };
     std::optional<PortKeeping> portKeeping = {};
+    /// What the computer is kept awake by; without it its sleep goes unnoticed.
+    struct SleepWatching {
+        ComputerSleep& sleep;
+        Timer& timer;
+    };
+    std::optional<SleepWatching> sleepWatching = {};
 };
 
 /// One object of each kind, from the settings to the services, connected.
@@ -96,8 +103,9 @@ class ServerCore {
     void applySettings(const Settings& settings);
 
     ServerController& controller() { return controller_; }
-    /// What happens to adapters, for who waits for one.
-    void adapterEvent(AdapterEvent event);
+    const ServerController& controller() const { return controller_; }
+    /// An adapter came, went or changed.
+    void adaptersChanged();
     /// Why the port's adapter cannot be told; empty when it can.
     std::string portComplaint() const { return keeper_ ? keeper_->complaint() : std::string(); }
     /// Whether the server waits for its port.
@@ -122,6 +130,7 @@ class ServerCore {
 
     Tools tools_;
     std::optional<PortKeeper> keeper_;
+    std::optional<SleepWatch> sleepWatch_;
     ServerController controller_;
     PLP link_;
     LinkOfController linkControl_;

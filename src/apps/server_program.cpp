@@ -24,7 +24,8 @@ ServerProgram::ServerProgram(PlatformParts& platform, RunOverrides overrides, co
              ServerCoreParts::PortKeeping{
                  platform.KeeperTimer, platform.portNames,
                  [&platform] { return listPorts(platform.portNames); }, gatherDeviceFacts,
-                 [this](const std::string& line) { tellOfPort(line); }, face.waitFor}}),
+                 [this](const std::string& line) { tellOfPort(line); }, face.waitFor},
+             ServerCoreParts::SleepWatching{platform_.sleep, platform_.SleepTimer}}),
       slowPort_(core_.controller(), debug_),
       form_(core_.controller(), face.view, core_.options, platform.port, platform.portNames, face.window),
       ini_(platform.profiles, platform.rules, face.box, windowsFolder()),
@@ -40,8 +41,8 @@ ServerProgram::ServerProgram(PlatformParts& platform, RunOverrides overrides, co
               {platform.folders.applicationData(), platform.folders.documents()},
               face.tell},
              overrides_) {
-    platform_.adapters.onEvent([this, shown = face.adaptersChanged](AdapterEvent event) {
-        core_.adapterEvent(event);
+    platform_.adapters.onChange([this, shown = face.adaptersChanged] {
+        core_.adaptersChanged();
         if (shown) {
             shown();
         }
@@ -95,7 +96,15 @@ std::string ServerProgram::describePortFailure() const {
     if (std::string complaint = core_.portComplaint(); !complaint.empty()) {
         return complaint;
     }
+    if (core_.controller().asleep()) {
+        return {};
+    }
     return describeOpenFailure(portDevice(), platform_.port.lastErrorNumber());
+}
+
+const char* ServerProgram::describeWait() const {
+    return core_.controller().asleep() ? "Velmora goes on when it is awake again."
+                                       : "Velmora goes on when it is plugged in again.";
 }
 
 }  // namespace velmora

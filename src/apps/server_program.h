@@ -18,9 +18,6 @@
 
 namespace velmora {
 
-/// What is said of a lost port that the server waits for.
-inline constexpr const char* kGoesOn = "Velmora goes on when it is plugged in again.";
-
 /// How a program shows its server; all of it must outlive the server.
 struct ServerFace {
     MainView& view;
@@ -56,7 +53,10 @@ class ServerProgram {
     /// The device of the server's port; its name when it has none.
     std::string portDevice() const;
     /// Why the server's port cannot be opened or failed, and what helps, as one sentence.
+    /// Empty when the reason has been told with the failure.
     std::string describePortFailure() const;
+    /// What is said of a lost port that the server waits for.
+    const char* describeWait() const;
 
     ServerCore& core() { return core_; }
     ServerController& controller() { return core_.controller(); }

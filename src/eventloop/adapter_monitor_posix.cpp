@@ -62,7 +62,7 @@ class AdapterMonitor::Watch {
     std::unique_ptr<QSocketNotifier> notifier_;
 };
 
-AdapterMonitor::AdapterMonitor() : watch_(std::make_unique<Watch>([this] { tell(AdapterEvent::Changed); })) {}
+AdapterMonitor::AdapterMonitor() : watch_(std::make_unique<Watch>([this] { tell(); })) {}
 AdapterMonitor::~AdapterMonitor() = default;
 
 bool AdapterMonitor::live() const {

@@ -6,6 +6,8 @@
 
 #include <functional>
 
+#include "eventloop/hidden_window_win32.h"
+
 namespace velmora {
 
 /// While it lives, the end of the session and a request to close run handlers on the thread that made it,
@@ -20,19 +22,16 @@ class EndOfSession {
     /// The program may be ended as soon as `ends` returns. `close` runs when the window is asked to close, as
     /// all top-level windows of a program are by somebody who wants it to end; the window stays.
     EndOfSession(std::function<void()> ends, std::function<void()> close);
-    ~EndOfSession();
-    EndOfSession(const EndOfSession&) = delete;
-    EndOfSession& operator=(const EndOfSession&) = delete;
 
     /// Whether there is a window that the requests come to.
-    bool hears() const { return window_ != nullptr; }
+    bool hears() const { return window_.handle() != nullptr; }
 
   private:
-    static LRESULT CALLBACK take(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    bool take(UINT message, WPARAM wParam);
 
     std::function<void()> ends_;
     std::function<void()> close_;
-    HWND window_ = nullptr;  // none as well once the system has destroyed it
+    HiddenWindow window_;
 };
 
 }  // namespace velmora

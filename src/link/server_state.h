@@ -24,6 +24,11 @@ enum ServerState : std::int32_t {
     Error = 14,        ///< too many send errors
 };
 
+/// Whether the Organiser has a file under way; what fails now takes it along.
+constexpr bool hasFileOpen(std::int32_t state) {
+    return state >= FileAccess && state <= ServiceBusy;
+}
+
 /// What a state change to this value means: none.
 constexpr std::int32_t kNoStateChange = -1;
 

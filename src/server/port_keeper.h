@@ -54,8 +54,11 @@ class PortKeeper {
     /// As WantedPort::complaint.
     const std::string& complaint() const { return wanted_.complaint(); }
     bool waiting() const { return reconnection_.waiting(); }
-    /// An adapter came, went or changed, or the computer woke up.
+    /// An adapter came, went or changed.
     void adaptersChanged() { reconnection_.adaptersChanged(); }
+    /// As Reconnection has them.
+    void computerSleeps() { reconnection_.computerSleeps(); }
+    void computerWakes() { reconnection_.computerWakes(); }
 
   private:
     WantedPort wanted_;

@@ -32,16 +32,25 @@ void Reconnection::end() {
 
 // The first event of many starts the count-down: those that follow must not put it off for ever.
 void Reconnection::adaptersChanged() {
-    if (waiting_ && !settling_) {
+    if (waiting_ && !settling_ && ticksToSleep_ == 0) {
         settling_ = true;
         timer_.setInterval(kSettle);
     }
+}
+
+void Reconnection::computerWakes() {
+    ticksToSleep_ = 0;
+    adaptersChanged();
 }
 
 void Reconnection::tick() {
     if (settling_) {
         settling_ = false;
         timer_.setInterval(kTick);
+    }
+    if (ticksToSleep_ > 0) {
+        --ticksToSleep_;
+        return;
     }
     const PortPresence presence = look_();
     if (presence != PortPresence::Present && presence != PortPresence::Stayed) {

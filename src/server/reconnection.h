@@ -20,6 +20,9 @@ class Reconnection {
     static constexpr std::chrono::milliseconds kTick{1000};
     /// A port that failed without being pulled is left alone for so many ticks: it may fail for good.
     static constexpr int kTicksOfStayed = 10;
+    /// A computer that is about to sleep takes so many ticks at most until it does; if it is awake longer,
+    /// the word of its waking has been lost.
+    static constexpr int kTicksToSleep = 30;
 
     /// `timer` must outlive it and be for it alone. `look` finds the port; `start` starts the server and says
     /// whether it runs; it may also refuse for now, while the user is busy with a dialog.
@@ -33,8 +36,12 @@ class Reconnection {
     /// Waits no longer: the server runs, or the user has stopped it.
     void end();
     bool waiting() const { return waiting_; }
-    /// An adapter came, went or changed, or the computer woke up.
+    /// An adapter came, went or changed.
     void adaptersChanged();
+    /// The computer is about to sleep: nothing is started before it is awake again.
+    void computerSleeps() { ticksToSleep_ = kTicksToSleep; }
+    /// It is awake.
+    void computerWakes();
 
   private:
     void tick();
@@ -46,6 +53,7 @@ class Reconnection {
     bool settling_ = false;
     bool gone_ = false;
     int stayed_ = 0;
+    int ticksToSleep_ = 0;  // nothing is looked for meanwhile
 };
 
 }  // namespace velmora

@@ -23,6 +23,7 @@
 #include "server/port_keeper.h"
 #include "server/server_options.h"
 #include "server/settings_store.h"
+#include "server/sleep_watch.h"
 #include "services/strings.h"
 #include "services/transfer_settings.h"
 
@@ -102,6 +103,8 @@ class ServerController : public ServerWindow {
     /// Gives who finds the port and waits for it, which must outlive the controller. Without it a lost port
     /// stays lost.
     void attachPortKeeper(PortKeeper& keeper) { keeper_ = &keeper; }
+    /// Gives who is told what the server does, to keep the computer awake; it must outlive the controller.
+    void attachSleepWatch(SleepWatch& watch) { sleepWatch_ = &watch; }
     void setClosingActions(ClosingActions actions) { closing_ = std::move(actions); }
     /// Called once each time the port cannot be opened or fails while the server runs.
     void onPortFailure(std::function<void()> handler) { onPortFailure_ = std::move(handler); }
@@ -147,9 +150,10 @@ class ServerController : public ServerWindow {
     /// Starts a stopped server (state Offline) whose port is back, on the port as it stands. False when it
     /// could not, or not now: while the user is busy with a question or the setup dialog.
     bool restart();
-    /// The port goes, as if it were pulled, for a reason such as "the computer goes to sleep". Asks nothing:
-    /// the transfer is lost in any case.
-    void pullPort(const std::string& reason);
+    /// The computer is about to sleep: the port goes, as if it were pulled, until the computer is awake
+    /// again. Asks nothing: the transfer is lost in any case.
+    void computerSleeps();
+    void computerWakes();
 
     /// Polls the port. Does nothing while ComTimer is disabled, so it may be called at any time when bytes
     /// are known to wait.
@@ -169,6 +173,8 @@ class ServerController : public ServerWindow {
     bool running() const { return state_ >= WaitLink; }
     /// Whether the port failed since the server was last started.
     bool portFailed() const { return portFailed_; }
+    /// Whether the computer is about to sleep, or sleeps.
+    bool asleep() const { return asleep_; }
 
   private:
     /// The questions that must not be on the screen twice.
@@ -220,6 +226,7 @@ class ServerController : public ServerWindow {
     ServerParts parts_;
     LinkControl* link_ = nullptr;
     PortKeeper* keeper_ = nullptr;
+    SleepWatch* sleepWatch_ = nullptr;
     ClosingActions closing_;
     std::function<void()> onPortFailure_;
     DisplayMirror mirror_;
@@ -233,6 +240,7 @@ class ServerController : public ServerWindow {
     bool pollFailed_ = false;  // the port's input count failed since the last start
     int warnings_ = 0;         // shown so far
     int warningsBeforeRead_ = 0;
+    bool asleep_ = false;      // at the latest until the next start
     bool restarting_ = false;  // the port has been looked for
     bool closed_ = false;
 

@@ -64,6 +64,9 @@ void ServerController::poll() {
 void ServerController::receive() {
     std::int32_t next = kNoStateChange;
     warningsBeforeRead_ = warnings_;
+    if (sleepWatch_ != nullptr) {
+        sleepWatch_->heard();
+    }
     {
         const Scope scope(linkCalls_);
         next = link_->PLP_ReceiveEvent();
@@ -101,8 +104,7 @@ void ServerController::tellOfFailedRead() {
 
 /// What a port that fails now takes with it, for the line below the reason.
 std::string ServerController::whatIsLost() const {
-    const bool transfer = state_ >= FileAccess && state_ <= ServiceBusy;
-    return transfer ? "The transfer is lost." : "";
+    return hasFileOpen(state_) ? "The transfer is lost." : "";
 }
 
 std::string ServerController::portName() const {
@@ -122,15 +124,26 @@ void ServerController::portFails(bool gone) {
     }
 }
 
-void ServerController::pullPort(const std::string& reason) {
+void ServerController::computerSleeps() {
+    asleep_ = true;
+    if (keeper_ != nullptr) {
+        keeper_->computerSleeps();
+    }
     if (!running() || stopping_ > 0 || closed_) {
         return;
     }
-    ShowWarning(portName() + ": " + reason, whatIsLost());
+    ShowWarning(portName() + ": The computer goes to sleep.", whatIsLost());
     pollFailed_ = true;
     portFails(true);
     setState(LinkFailed);
     setState(Offline);
+}
+
+void ServerController::computerWakes() {
+    asleep_ = false;
+    if (keeper_ != nullptr) {
+        keeper_->computerWakes();
+    }
 }
 
 bool ServerController::restart() {

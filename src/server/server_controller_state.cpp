@@ -105,6 +105,7 @@ void ServerController::continueServing(std::int32_t next) {
 bool ServerController::startServer() {
     portFailed_ = false;
     pollFailed_ = false;
+    asleep_ = false;
     if (keeper_ != nullptr && !restarting_) {
         keeper_->beforeStart();
     }
@@ -171,6 +172,9 @@ void ServerController::storeState(std::int32_t next) {
         parts_.PLPtimer.setEnabled(false);
     }
     state_ = next;
+    if (sleepWatch_ != nullptr) {
+        sleepWatch_->serverIs(next);
+    }
     pacePoll();
     waitOrNot();
     if (parts_.view.isMinimised()) {

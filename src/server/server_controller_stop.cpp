@@ -116,6 +116,9 @@ bool ServerController::queryUnload(CloseReason reason) {
     }
     closed_ = true;
     stopWaiting();
+    if (sleepWatch_ != nullptr) {
+        sleepWatch_->serverIs(Offline);
+    }
     for (Timer* timer : {&parts_.ComTimer, &parts_.PLPtimer, &parts_.DisplayTimer}) {
         timer->setEnabled(false);
     }

@@ -2,28 +2,13 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
-#include <string_view>
+#include "support/thread_window.h"
 
 namespace velmora {
 namespace {
 
-/// Keeps the window at `found` when it is the one, which ends the search.
-BOOL CALLBACK keepIfSession(HWND window, LPARAM found) {
-    std::array<char, 64> name{};
-    GetClassNameA(window, name.data(), static_cast<int>(name.size()));
-    if (std::string_view(name.data()) != EndOfSession::kWindowClass) {
-        return TRUE;
-    }
-    *reinterpret_cast<HWND*>(found) = window;
-    return FALSE;
-}
-
-/// The window of this thread; other programs that run may have one of the same class.
 HWND sessionWindow() {
-    HWND found = nullptr;
-    EnumThreadWindows(GetCurrentThreadId(), keepIfSession, reinterpret_cast<LPARAM>(&found));
-    return found;
+    return test::threadWindow(EndOfSession::kWindowClass);
 }
 
 class EndOfSessionTest : public testing::Test {

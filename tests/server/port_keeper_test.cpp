@@ -24,13 +24,7 @@ class PortKeeperTest : public testing::Test {
   protected:
     PortKeeperTest() {
         port.number = 5;  // usbDevice(0)
-        adapters.onEvent([this](AdapterEvent event) {
-            if (event == AdapterEvent::Sleeps) {
-                lose(true);
-            } else {
-                keeper.adaptersChanged();
-            }
-        });
+        adapters.onChange([this] { keeper.adaptersChanged(); });
     }
     std::string device() const { return names.device(port.number).value_or("none"); }
     bool open() {
@@ -54,6 +48,11 @@ class PortKeeperTest : public testing::Test {
     void lose(bool gone = false) {
         running = false;
         keeper.lost(gone);
+    }
+    /// The computer is about to sleep while the server runs.
+    void sleep() {
+        keeper.computerSleeps();
+        lose(true);
     }
     void pullFromServer(const std::string& pulled) {
         adapters.pull(pulled);
@@ -305,10 +304,42 @@ TEST_F(PortKeeperTest, APortThatFailsWithoutBeingPulledIsTriedAgainLater) {
 TEST_F(PortKeeperTest, SleepAndWakingCountAsPullAndPlug) {
     adapters.plug(usbDevice(0), "A");
     start();
-    adapters.event(AdapterEvent::Sleeps);
-    EXPECT_FALSE(running);
-    adapters.event(AdapterEvent::Wakes);
+    sleep();
+    keeper.computerWakes();
     time.advance(Reconnection::kSettle);
+    EXPECT_TRUE(running);
+}
+
+TEST_F(PortKeeperTest, NothingIsStartedWhileTheComputerTakesItsTimeToSleep) {
+    adapters.plug(usbDevice(0), "A");
+    start();
+    sleep();
+    adapters.event();
+    time.advance(seconds(20));
+    EXPECT_EQ(starts, 0);
+    keeper.computerWakes();
+    time.advance(Reconnection::kSettle);
+    EXPECT_TRUE(running);
+}
+
+TEST_F(PortKeeperTest, APortThatWasAwayBeforeIsNotTakenOnTheWayToSleepEither) {
+    adapters.plug(usbDevice(0), "A");
+    start();
+    pullFromServer(usbDevice(0));
+    keeper.computerSleeps();
+    adapters.plug(usbDevice(0), "A");
+    time.advance(seconds(5));
+    EXPECT_EQ(starts, 0);
+    keeper.computerWakes();
+    time.advance(Reconnection::kSettle);
+    EXPECT_TRUE(running);
+}
+
+TEST_F(PortKeeperTest, AWakingThatIsNeverToldDoesNotStopTheServerForGood) {
+    adapters.plug(usbDevice(0), "A");
+    start();
+    sleep();
+    time.advance(Reconnection::kTick * (Reconnection::kTicksToSleep + 1));
     EXPECT_TRUE(running);
 }
 

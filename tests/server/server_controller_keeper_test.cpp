@@ -4,6 +4,7 @@
 
 #include "support/controller_fixture.h"
 #include "support/scripted_adapters.h"
+#include "support/scripted_sleep.h"
 
 namespace velmora {
 namespace {
@@ -22,7 +23,8 @@ class ControllerKeeperTest : public test::ControllerTest {
         port.number = 5;
         adapters.plug(usbDevice(0), "A");
         controller.attachPortKeeper(keeper);
-        adapters.onEvent([this](AdapterEvent) { keeper.adaptersChanged(); });
+        adapters.onChange([this] { keeper.adaptersChanged(); });
+        controller.attachSleepWatch(watch);
         reach(Offline);
     }
     void pull() {
@@ -48,6 +50,10 @@ class ControllerKeeperTest : public test::ControllerTest {
                       time.makeTimer(),
                       [this] { return waitFor; },
                       [this] { return controller.restart(); }};
+    test::ScriptedSleep sleep;
+    SleepWatch watch{sleep,
+                     time.makeTimer(),
+                     {[this] { controller.computerSleeps(); }, [this] { controller.computerWakes(); }}};
 };
 
 TEST_F(ControllerKeeperTest, TheServerStartsAgainAndItsWarningGoes) {
@@ -122,20 +128,72 @@ TEST_F(ControllerKeeperTest, AnotherPortThatIsChosenInSetupEndsTheWait) {
 
 TEST_F(ControllerKeeperTest, ThePcsSleepStopsTheServerWithoutAQuestion) {
     reach(Downld);
-    controller.pullPort("The computer goes to sleep.");
+    sleep.sleeps();
     EXPECT_EQ(controller.state(), Offline);
     EXPECT_EQ(view.messages.lines[1].text, "COM5: The computer goes to sleep.");
     EXPECT_EQ(view.messages.lines[2].text, "The transfer is lost.");
     EXPECT_TRUE(box.asked.empty());
-    keeper.adaptersChanged();
+    time.advance(seconds(5));
+    EXPECT_EQ(controller.state(), Offline);
+    sleep.wakes();
     time.advance(seconds(1));
     EXPECT_EQ(controller.state(), WaitLink);
 }
 
 TEST_F(ControllerKeeperTest, AServerThatIsStoppedSleepsAsItIs) {
-    controller.pullPort("The computer goes to sleep.");
+    sleep.sleeps();
     EXPECT_FALSE(view.messages.warning);
     EXPECT_FALSE(keeper.waiting());
+    sleep.wakes();
+    time.advance(seconds(5));
+    EXPECT_EQ(controller.state(), Offline);
+}
+
+TEST_F(ControllerKeeperTest, WithoutAWaitTheServerStaysStoppedAfterTheComputersSleep) {
+    waitFor = WaitFor::Nothing;
+    reach(WaitLink);
+    sleep.sleeps();
+    sleep.wakes();
+    time.advance(seconds(60));
+    EXPECT_EQ(controller.state(), Offline);
+}
+
+TEST_F(ControllerKeeperTest, TheComputerIsKeptAwakeFromAFilesOpeningToItsEnd) {
+    reach(Connect);
+    EXPECT_FALSE(sleep.awake);
+    for (const std::int32_t state : {FileAccess, Upload, Downld, SendDir, SendMenu, ServiceBusy}) {
+        controller.setState(state);
+        EXPECT_TRUE(sleep.awake) << state;
+    }
+    EXPECT_EQ(sleep.changes, 1);
+    controller.setState(WaitLink);
+    EXPECT_FALSE(sleep.awake);
+}
+
+TEST_F(ControllerKeeperTest, AFileThatBreaksOffKeepsTheComputerAwakeNoLonger) {
+    reach(Downld);
+    EXPECT_TRUE(sleep.awake);
+    pull();
+    tick();
+    EXPECT_FALSE(sleep.awake);
+}
+
+TEST_F(ControllerKeeperTest, AClosedProgramKeepsTheComputerAwakeNoLonger) {
+    reach(Downld);
+    controller.queryUnload(CloseReason::Terminated);
+    EXPECT_FALSE(sleep.awake);
+}
+
+TEST_F(ControllerKeeperTest, BytesThatComeKeepTheComputerAwake) {
+    reach(Downld);
+    for (int minute = 0; minute < 10; ++minute) {
+        bytesArrive();
+        time.advance(SleepWatch::kSilence);
+        EXPECT_TRUE(sleep.awake);
+    }
+    port.input.clear();
+    time.advance(SleepWatch::kSilence * 2);
+    EXPECT_FALSE(sleep.awake);
 }
 
 TEST_F(ControllerKeeperTest, AClosedProgramWaitsForNothing) {

@@ -52,9 +52,9 @@ class ScriptedAdapters : public AdapterEvents {
         event();
     }
     void permit(const std::string& device, bool may) { facts_[device].mayOpen = may; }
-    void event(AdapterEvent what = AdapterEvent::Changed) const {
+    void event() const {
         if (manager) {
-            tell(what);
+            tell();
         }
     }
 

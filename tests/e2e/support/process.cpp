@@ -146,13 +146,16 @@ int Process::wait() {
     return status_;
 }
 
-void Process::feed(const std::string& input) {
-    const ssize_t count = ::write(input_, input.data(), input.size());
-    ::close(input_);
-    input_ = -1;
-    if (count != static_cast<ssize_t>(input.size())) {
+void Process::say(const std::string& line) const {
+    if (::write(input_, line.data(), line.size()) != static_cast<ssize_t>(line.size())) {
         throw std::runtime_error("the program takes no input");
     }
+}
+
+void Process::feed(const std::string& input) {
+    say(input);
+    ::close(input_);
+    input_ = -1;
 }
 
 void Process::closeOutput() {

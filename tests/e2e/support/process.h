@@ -37,6 +37,8 @@ class Process {
     bool endsUnread() const;
     /// Writes all of the standard input that the program gets, and ends it. Only for texts that fit a pipe.
     void feed(const std::string& input);
+    /// Writes a line of standard input, which goes on.
+    void say(const std::string& line) const;
     /// Closes our end of the program's output and error output.
     void closeOutput();
     void signal(int number) const;

@@ -37,6 +37,7 @@ class NativePrograms : public ProgramsUnderTest {
                 {"XDG_CONFIG_HOME", (home / "config").string()},
                 {"XDG_DATA_HOME", (home / "data").string()},
                 {"TMPDIR", (home / "tmp").string()},
+                {"DBUS_SYSTEM_BUS_ADDRESS", "unix:path=" + (home / "bus").string()},
                 {"TZ", zone},
                 {"LC_ALL", "C.UTF-8"}};
     }
