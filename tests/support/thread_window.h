@@ -8,8 +8,8 @@
 
 namespace velmora::test {
 
-/// The window of a class that this thread has made, null without one; other programs that run may have windows
-/// of the same class.
+/// The window of a class that this thread has made, null without one; other programs that run may have
+/// windows of the same class.
 inline HWND threadWindow(const char* windowClass) {
     struct Search {
         std::string windowClass;
