@@ -14,14 +14,6 @@ namespace {
 using namespace velmora;
 using fuzz::require;
 
-std::string joined(const std::vector<std::string>& lines) {
-    std::string text;
-    for (const std::string& line : lines) {
-        text.append(line).append("\n");
-    }
-    return text;
-}
-
 void checkCells(const std::vector<SheetCell>& cells) {
     require(!cells.empty());
     for (const SheetCell& cell : cells) {
@@ -30,10 +22,10 @@ void checkCells(const std::vector<SheetCell>& cells) {
         require(cell.text.size() + 3 <= kMostData);
     }
     // Numbers are written plainly; from then on nothing changes.
-    const std::string written = joined(cellLines(cells));
+    const std::string written = joinLines(cellLines(cells), true);
     const std::vector<SheetCell> again = parseCells("again", written);
     require(again.size() == cells.size());
-    require(joined(cellLines(again)) == written);
+    require(joinLines(cellLines(again), true) == written);
 }
 
 }  // namespace

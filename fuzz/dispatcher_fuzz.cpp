@@ -1,54 +1,26 @@
 // Any sequence of requests to the services, as an Organiser makes them and as it never would, with faults of
 // the disk and of the link between them.
-//
-// Input: a byte for the settings, then steps, each a byte for its kind and what that kind reads. A name is a
-// byte that chooses one, or a text.
 #include <cstdint>
 #include <string>
 
+#include "dispatcher_steps.h"
 #include "input.h"
 #include "served_folder.h"
 
 namespace {
 
 using namespace velmora;
-using fuzz::Input;
+using namespace fuzz;
 using test::FileCall;
 
-enum Step : std::uint8_t {
-    kOpenService,    ///< the link is new; which service
-    kOpenFile,       ///< mode, kind, name
-    kWrite,          ///< text
-    kRead,           ///< maximum
-    kSeek,           ///< mode, offset as text
-    kCloseFile,      ///< nothing
-    kSheet,          ///< format, with 128 for a save; name
-    kSheetSize,      ///< columns, rows
-    kCell,           ///< column, row, type, text
-    kEndOfSheet,     ///< nothing
-    kMessage,        ///< text
-    kUnanswered,     ///< text; the answer is not acknowledged
-    kLinkDown,       ///< nothing
-    kStopInside,     ///< nothing: the user stops the server inside the next send
-    kFailOperation,  ///< kind of file operation, how many succeed before it, error
-    kDeleteFile,     ///< name: another program deletes the file
-    kSteps,
-};
-
-/// The names that requests use most: files that are there, others, patterns and folders.
 std::string name(Input& input) {
-    static const std::vector<std::string> others = {"NEW",      "NEW.WKS", "*",         "*.*",
-                                                    "SUB\\NEW", "C>1.OPL", "..\\A.ODB", ""};
-    const auto& files = fuzz::filesOfFolder();
+    const std::vector<std::string>& names = usualNames();
     const std::size_t choice = input.byte();
-    if (choice < files.size()) {
-        return files[choice].first;
-    }
-    return choice < files.size() + others.size() ? others[choice - files.size()] : input.text();
+    return choice < names.size() ? names[choice] : input.text();
 }
 
 /// What a service asks of the disk, and how that fails.
-void failOperation(fuzz::SmallDisk& disk, Input& input) {
+void failOperation(SmallDisk& disk, Input& input) {
     constexpr FileCall kCalls[] = {FileCall::FileSize,     FileCall::Open,    FileCall::Delete,
                                    FileCall::CreateFolder, FileCall::Replace, FileCall::CreateTemporary,
                                    FileCall::List,         FileCall::Read,    FileCall::Write,
@@ -93,12 +65,12 @@ std::string request(Step step, Input& input) {
     }
 }
 
-void runStep(fuzz::ServedFolder& server, Input& input) {
+void runStep(ServedFolder& server, Input& input) {
     const auto step = static_cast<Step>(input.below(kSteps));
     switch (step) {
         case kOpenService:
             server.event(PLP_EV_RESET);
-            server.message(fuzz::kServices[input.below(fuzz::kServices.size())]);
+            server.message(usualServices()[input.below(usualServices().size())]);
             break;
         case kUnanswered:
             server.event(PLP_EV_DATA, input.text());
@@ -125,7 +97,7 @@ void runStep(fuzz::ServedFolder& server, Input& input) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     Input input(data, size);
-    fuzz::ServedFolder server;
+    ServedFolder server;
     const std::uint8_t choice = input.byte();
     server.settings().DataFileType = choice & 3;
     server.settings().StayInFolder = (choice & 4) != 0;

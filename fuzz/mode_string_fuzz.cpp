@@ -26,7 +26,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::string_view text(reinterpret_cast<const char*>(data), size);
     const std::optional<LineSettings> line = parseModeString(text);
     if (line) {
-        fuzz::require(line->baud >= kLowestRate && line->baud <= kHighestRate);
+        fuzz::require(line->baud > 0);
         fuzz::require(line->dataBits >= 5 && line->dataBits <= 8);
         fuzz::require((line->stopBits != StopBits::OneAndHalf) || line->dataBits == 5);
         fuzz::require((line->stopBits != StopBits::Two) || line->dataBits != 5);

@@ -1,7 +1,4 @@
 // The virtual Organiser against a server that answers whatever it likes.
-//
-// Input: a byte for the command, then what the server does about each frame that it gets, a byte for its kind
-// and what that kind reads. At the end of the input the server falls silent.
 #include <cstdint>
 #include <optional>
 #include <sstream>
@@ -15,25 +12,13 @@
 #include "organiser/commands.h"
 #include "organiser/fake_line.h"
 #include "organiser/organiser_link.h"
+#include "organiser_steps.h"
 #include "require.h"
 
 namespace {
 
 using namespace velmora;
-using fuzz::Input;
-using fuzz::require;
-
-enum Step : std::uint8_t {
-    kAnswer,       ///< text: acknowledges, then sends a reply
-    kRefuse,       ///< reason: acknowledges, then ends the link
-    kAcknowledge,  ///< nothing else
-    kTwice,        ///< text: the reply comes twice
-    kFrame,        ///< type and sequence, text
-    kBytes,        ///< text: no frame at all
-    kLater,        ///< tenths of seconds, text: the reply comes late
-    kSilence,      ///< nothing
-    kSteps,
-};
+using namespace fuzz;
 
 /// The server's end of the line.
 class Server {
@@ -57,7 +42,7 @@ class Server {
         step(type, frame->sequence);
     }
     void step(FrameType asked, std::uint8_t sequence) {
-        const auto step = static_cast<Step>(input_.below(kSteps));
+        const auto step = static_cast<ServerStep>(input_.below(kServerSteps));
         if (step <= kTwice || step == kLater) {
             send(FrameType::Ack, sequence, {});
         }
@@ -84,7 +69,7 @@ class Server {
                 break;
         }
     }
-    void reply(Step step) {
+    void reply(ServerStep step) {
         sequence_ = static_cast<std::uint8_t>((sequence_ + 1) % kSequenceModulus);
         const auto delay = std::chrono::milliseconds(step == kLater ? 100 * input_.byte() : 0);
         const std::string text = input_.text();

@@ -1,11 +1,12 @@
 // All services behind the dispatcher, over a folder with a file of each kind, and what must hold of them.
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <string>
 #include <utility>
+#include <vector>
 
+#include "dispatcher_steps.h"
 #include "platform/posix/posix_paths.h"
 #include "require.h"
 #include "services/boot_file.h"
@@ -31,11 +32,6 @@
 namespace velmora::fuzz {
 
 inline const std::string kFolder = "/psion";
-inline const std::string kTemporaryFolder = "/tmp";
-
-/// What the Organiser may ask for, a name that is none among it.
-inline const std::array<std::string, 11> kServices = {
-    "FTRAN", "FILE", "BOOT", "PLAN", "PLANM", "TIME", "GMT", "TIMEINFO", "EXIT", "SHUTDOWN", "NONE"};
 
 /// The files that are there, and their bytes.
 inline const std::vector<std::pair<std::string, std::string>>& filesOfFolder() {
@@ -71,7 +67,7 @@ class ServedFolder {
         ServiceHandler* const handlers[] = {&ftran_, &file_, &boot_,     &plan_, &planm_,
                                             &time_,  &gmt_,  &timeInfo_, &exit_, &shutdown_};
         for (std::size_t i = 0; i < std::size(handlers); ++i) {
-            dispatcher_.add(kServices[i], *handlers[i]);
+            dispatcher_.add(usualServices()[i], *handlers[i]);
         }
     }
 
@@ -84,7 +80,8 @@ class ServedFolder {
         require(code >= PLP_EV_RESET && code <= kServiceOpened);
         require(sender_.frames.size() <= 1);
         for (const test::RecordingSender::Frame& frame : sender_.frames) {
-            require(frame.type == FrameType::Data || !frame.data.empty());
+            // One byte as a rule, a run-time error's number in digits, or none for the end of boot code.
+            require(frame.type == FrameType::Data || frame.data.size() <= 3);
         }
         if (dispatcher_.currentService().empty()) {
             requireNothingLeft();
@@ -127,8 +124,9 @@ class ServedFolder {
         require(!open_.isOpen());
         require(memory_.openFiles() == 0);
         for (const std::string& path : memory_.paths()) {
-            require(rules_.parentFolder(path) != kTemporaryFolder);
-            require(!isTemporaryName(rules_.lastComponent(path)));
+            const bool isTemporary = rules_.parentFolder(path) == memory_.temporaryFolder() ||
+                                     isTemporaryName(rules_.lastComponent(path));
+            require(!isTemporary || disk_.mayStay(path));
         }
     }
 

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <set>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -42,6 +43,16 @@ class SmallDisk : public test::FailingFiles {
     std::unique_ptr<File> open(const std::string& path, OpenMode mode) override {
         return std::make_unique<SmallFile>(FailingFiles::open(path, mode));
     }
+    void deleteFile(const std::string& path) override {
+        undeleted_.insert(path);
+        FailingFiles::deleteFile(path);
+        undeleted_.erase(path);
+    }
+    /// Whether its deletion failed, so that it is still there.
+    bool mayStay(const std::string& path) const { return undeleted_.count(path) != 0; }
+
+  private:
+    std::set<std::string> undeleted_;
 };
 
 }  // namespace velmora::fuzz

@@ -2,6 +2,7 @@
 # Builds the fuzzers and runs them, each with its inputs in fuzz/corpus/NAME and the words in fuzz/NAME.dict:
 #   scripts/fuzz.sh [SECONDS] [NAME …]  each for so long (60), as many at a time as there are processors
 #   scripts/fuzz.sh --corpus [NAME …]   every input in fuzz/corpus once
+#   scripts/fuzz.sh --seeds [NAME …]    makes first inputs from what the tests use, then as --merge
 #   scripts/fuzz.sh --merge [NAME …]    puts new inputs into fuzz/corpus: of all, the fewest and shortest that reach
 #                                       as much as all of them
 #   scripts/fuzz.sh --hours N [NAME …]  one after the other in short turns, until they have used N hours of
@@ -18,6 +19,9 @@ run() {
   [[ ! -e "fuzz/$name.dict" ]] || options+=("-dict=fuzz/$name.dict")
   case $name in
     formula_* | display_value_* | map_filename_* | mode_string_* | number_locale_*) options+=(-max_len=256) ;;
+    ini_*) options+=(-max_len=8192) ;;
+    # Every input reaches many edges; weighing how rare each is would take a third of the time.
+    dispatcher_*) options+=(-max_len=4096 -entropic=0) ;;
     *) options+=(-max_len=4096) ;;
   esac
   mkdir -p "build-sanitize/corpus/$name" "fuzz/corpus/$name"
@@ -115,7 +119,7 @@ each() {
 command=fuzz
 argument=60
 case ${1:-} in
-  --corpus | --merge) command=${1#--} && shift ;;
+  --corpus | --merge | --seeds) command=${1#--} && shift ;;
   --hours) command=hours && argument=${2:?how many hours} && shift 2 ;;
   [0-9]*) argument=$1 && shift ;;
 esac
@@ -138,7 +142,8 @@ case $command in
     each try_corpus
     echo "$what, inputs of their corpora: $(find fuzz/corpus -type f | wc -l): no finding"
     ;;
-  merge)
+  merge | seeds)
+    [[ $command == merge ]] || build-sanitize/fuzz/fuzz_seeds build-sanitize/corpus
     each merge
     echo "$what; fuzz/corpus has $(find fuzz/corpus -type f | wc -l) inputs"
     ;;
