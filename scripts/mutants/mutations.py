@@ -137,13 +137,24 @@ class _Maker:
         return [self.mutant(index + 1, end - 1, f"!({value})", f"turned: {self.source(index, end)}")]
 
     def dropped(self, index, function):
-        """A statement is left out, unless it is the last one and gives the function's value."""
+        """A statement is left out, unless it is the last one and gives the function's value or ends a switch."""
         if not self.begins_statement(index) or self.text_of(index) in KEPT or self.declares(index):
             return []
         end = self.statement_end(index)
         if end is None or (self.text_of(index) == "return" and end + 1 == function.closing):
             return []
+        if self.text_of(index) == "break" and self.closes_switch(end + 1):
+            return []
         return [self.mutant(index, end, ";", f"dropped: {self.source(index, end)}")]
+
+    def closes_switch(self, index):
+        """Whether a brace ends a switch, or a case with braces of its own that is the last one."""
+        if self.text_of(index) != "}":
+            return False
+        before = self.partners[index] - 1
+        if self.text_of(before) == ":":
+            return self.closes_switch(index + 1)
+        return self.text_of(before) == ")" and self.text_of(self.partners[before] - 1) == "switch"
 
     def begins_statement(self, index):
         before = self.text_of(index - 1)

@@ -1,5 +1,6 @@
 """Builds mutants in a copy of the tree and runs the tests over them."""
 
+import itertools
 import os
 import pathlib
 import re
@@ -44,6 +45,7 @@ class Trials:
         self.tree, self.copy, self.build = tree, folder / "tree", folder / "build"
         self.scratch = folder / "scratch"
         self.built = set()  # the programs that are made of the copy as it is
+        self.numbers = itertools.count(1)  # of mutants; none is used twice, so a source may keep its mutants
         self.seconds = {}  # of processor time that each program takes without a mutant, by its name and filter
 
     def prepare(self):
@@ -92,14 +94,12 @@ class Trials:
         stages = [(own, own_suites(self.tree, path)), (own, "*"), (users, "*")]
         for programs, suites in stages[:2]:
             self._measure(programs, suites)
-        together = {n: mutant for n, mutant in enumerate(mutants, 1) if mutant.function}
-        alone = [mutant for mutant in mutants if not mutant.function]
-        try:
-            yield from self._together(path, text, together, stages)
-            for mutant in alone:
+        together = {next(self.numbers): mutant for mutant in mutants if mutant.function}
+        yield from self._together(path, text, together, stages)
+        for mutant in mutants:
+            if not mutant.function:
                 yield self._alone(path, text, mutant, stages)
-        finally:
-            self._write(path, text)
+                self._write(path, text)
 
     def _together(self, path, text, numbered, stages):
         while numbered:
@@ -113,6 +113,8 @@ class Trials:
                     raise
                 for number in named:
                     yield numbered.pop(number), journal.NO_BUILD, ""
+                if not numbered:
+                    self._write(path, text)
         for number, mutant in numbered.items():
             yield mutant, *self._tested(stages, str(number))
 
@@ -154,7 +156,7 @@ class Trials:
         return self._started(program, suites, number, int(10 * known) + 5)
 
     def _started(self, program, suites, number, seconds):
-        """Runs a test program with limits; the processor time is limited in seconds, waiting to many times that."""
+        """Runs a test program with limits; the processor time is limited in seconds, waiting to more."""
         shutil.rmtree(self.scratch, ignore_errors=True)
         self.scratch.mkdir(parents=True)
 
@@ -171,7 +173,7 @@ class Trials:
             env={**os.environ, variants.SWITCH: number, "TMPDIR": str(self.scratch)},
         )  # fmt: skip
         try:
-            said = process.communicate(timeout=60 + 20 * seconds)[0]
+            said = process.communicate(timeout=30 + 4 * seconds)[0]
         except subprocess.TimeoutExpired:
             os.killpg(process.pid, signal.SIGKILL)
             process.communicate()

@@ -27,6 +27,13 @@ TEST_F(BootCommandTest, MakesAFileThatIsRight) {
     expectPrinted("Problem:     none");
 }
 
+TEST_F(BootCommandTest, TheTablesSumIsThatOfItsWords) {
+    memory.addFile("/w/code", std::string(300, 'x'));
+    make("0x102");
+    EXPECT_EQ(run({"boot", "check", "/w/a.bin"}), 0);
+    expectPrinted("Relocations: 1, sum 0x0102, check 0x0102");
+}
+
 TEST_F(BootCommandTest, OffsetsMayBeNoneOrComeFromAFile) {
     make("");
     EXPECT_EQ(readBootFile(memory.content("/w/a.bin")).relocations, "");

@@ -290,6 +290,15 @@ TEST_F(LinkReentryTest, APortClosedUnderAWriteIsNoSendError) {
     EXPECT_EQ(window.current, Offline);
 }
 
+TEST_F(LinkReentryTest, AFrameUnderWhichTheLinkIsStoppedDoesNotCountAsSent) {
+    bringTo(LinkState::Ready);
+    port.onSend = [this](const std::string&) {
+        port.onSend = nullptr;
+        stop();
+    };
+    EXPECT_FALSE(plp.PLP_Send(FrameType::Data, "x"));
+}
+
 TEST_F(LinkReentryTest, APortClosedUnderAReadIsNoReadError) {
     bringTo(LinkState::Ready);
     port.onRead = [this] {

@@ -72,6 +72,12 @@ class Changes(unittest.TestCase):
             "switch (a) { case X: g(); break; default: ; }",
         })  # fmt: skip
 
+    def test_the_break_that_ends_a_switch_stays(self):
+        for end in ("break; } g();", "{ break; } } g();"):
+            body = f"switch (a) {{ case X: break; case Y: {end}"
+            self.assertEqual(changed(body), {body.replace("X: break", "X: "), body.replace("g();", ";")})
+        self.assertIn("while (a) { if (b) { ; } }", changed("while (a) { if (b) { break; } }"))
+
     def test_a_statement_of_a_lambda_is_dropped_alone_and_with_it(self):
         self.assertEqual(changed("each([&] { g(a); });"), {"each([&] { ; });", ";"})
 

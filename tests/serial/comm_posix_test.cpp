@@ -368,6 +368,16 @@ TEST_F(CommPosixTest, EveryCallOnAClosedDeviceIsABadHandle) {
     EXPECT_EQ(device.close(), EBADF);
 }
 
+TEST_F(CommPosixTest, AFailedTransferHasMovedNothing) {
+    char byte = 0;
+    std::size_t transferred = 7;
+    EXPECT_NE(device.read(&byte, 1, transferred), kSuccess);
+    EXPECT_EQ(transferred, 0U);
+    transferred = 7;
+    EXPECT_NE(device.write("x", transferred), kSuccess);
+    EXPECT_EQ(transferred, 0U);
+}
+
 TEST_F(CommPosixTest, DestructionGivesTheDeviceBack) {
     {
         PosixCommDevice shortLived{names};

@@ -42,6 +42,11 @@ TEST_F(FolderListingTest, LongNamesAreListedAsStored) {
     EXPECT_EQ(longNames("*"), "Long name.odb\r\nMemo.odb\r\n");
 }
 
+TEST_F(FolderListingTest, ALongNameInCapitalsIsListedAsStored) {
+    addFile("LONGER WORD.ODB", "LONGER~1.ODB");
+    EXPECT_EQ(longNames("*"), "LONGER WORD.ODB\r\n");
+}
+
 TEST_F(FolderListingTest, PatternsMatchInCapitals) {
     addFile("Memo.odb", "MEMO.ODB");
     addFile("note.txt", "NOTE.TXT");

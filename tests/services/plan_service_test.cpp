@@ -548,6 +548,12 @@ TEST_F(PlanServiceTest, ASaveThatBreaksOffIsTold) {
     EXPECT_EQ(window.lineDowns, 1);
 }
 
+TEST_F(PlanServiceTest, ASaveThatBreaksOffBeforeItsFirstCellIsTold) {
+    save(4, "A");
+    event(PLP_EV_RESET);
+    expectReports({"A.CSV was not saved: 0 bytes arrived."});
+}
+
 TEST_F(PlanServiceTest, ASaveOrLoadThatIsCompleteIsNotTold) {
     save(4, "A");
     announce(1, 1);

@@ -68,6 +68,16 @@ TEST(ByteReader, GivesWhatIsLeftAtTheEnd) {
     });
 }
 
+TEST(ByteReader, AsksTheFileForNoMoreOnceItHasEnough) {
+    test::MemoryFiles memory;
+    memory.addFile("/sample", "abc");
+    test::FailingFiles files(memory);
+    files.failAtCall(test::FileCall::Read, 2, ErrorNumber::DeviceIoError);
+    const auto file = files.open("/sample", OpenMode::Read);
+    ByteReader reader(*file);
+    EXPECT_EQ(reader.read(3), "abc");
+}
+
 TEST(ByteReader, PassesOnWhatTheFileThrows) {
     test::MemoryFiles memory;
     memory.addFile("/sample", "abc");

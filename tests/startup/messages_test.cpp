@@ -32,6 +32,7 @@ INSTANTIATE_TEST_SUITE_P(
                       ValueCase{"BlanksAreKept", R"("  a ", " b ")", {"  a ", " b "}},
                       ValueCase{"OnlyAQuote", "\"", {"", ""}}, ValueCase{"OnlyAComma", ",", {",", ""}},
                       ValueCase{"Line2WithoutQuotes", R"("a",b)", {"a", ""}},
+                      ValueCase{"Line2WithoutQuotesBehindHalfALine1", R"(a",b)", {"a", ""}},
                       ValueCase{"Line2NeverClosed", R"("a","b)", {"a", ""}},
                       ValueCase{"Line1NeverClosed", R"("a)", {"a", ""}},
                       ValueCase{"Line1WithoutQuotes", R"(a,"b")", {"a,", "b"}},
