@@ -1,21 +1,12 @@
 #include "apps/desktop_dialogs.h"
 
-#include <QTimer>
-#include <chrono>
-
+#include "eventloop/qt_timer.h"
 #include "serial/adapter_latency.h"
 #include "serial/port_list.h"
 #include "ui/qt/frm_setup.h"
 #include "ui/qt/native_folder_browser.h"
 
 namespace velmora {
-
-namespace {
-
-constexpr std::chrono::milliseconds kFollow{400};
-constexpr std::chrono::milliseconds kSettle{200};
-
-}  // namespace
 
 DesktopDialogs::DesktopDialogs(const Clock& clock, PortNames& portNames)
     : portNames_(portNames), debugWindow_(clock) {}
@@ -26,21 +17,16 @@ void DesktopDialogs::runSetup(QWidget& window, SerialPort& port, ServerOptions& 
     frmSetup dialog(
         port, options, transfer, probe, [this] { return listPorts(portNames_); }, &window);
     dialog.setDeviceTip([&port](const std::string& device) { return latencyTip(device, port.Settings()); });
-    // Where the system does not tell of adapters, the list is looked up again as often as it must follow.
-    QTimer look;
-    QObject::connect(&look, &QTimer::timeout, &dialog, [&dialog] { dialog.refreshDevices(); });
-    if (!adapters.live()) {
-        look.start(kFollow);
-    }
-    openSetup_ = &dialog;
+    QtTimer timer;
+    AdapterFollower follower(timer, adapters.live(), [&dialog] { dialog.refreshDevices(); });
+    follower_ = &follower;
     dialog.exec();
-    openSetup_ = nullptr;
+    follower_ = nullptr;
 }
 
 void DesktopDialogs::adaptersChanged() {
-    if (openSetup_ != nullptr) {
-        // By then the many events of one plug are over.
-        QTimer::singleShot(kSettle, openSetup_, [setup = openSetup_] { setup->refreshDevices(); });
+    if (follower_ != nullptr) {
+        follower_->adaptersChanged();
     }
 }
 

@@ -11,13 +11,12 @@
 #include "serial/serial_port.h"
 #include "server/server_options.h"
 #include "services/transfer_settings.h"
+#include "ui/adapter_follower.h"
 #include "ui/folder_choice.h"
 #include "ui/qt/frm_debug.h"
 #include "ui/setup_model.h"
 
 namespace velmora {
-
-class frmSetup;
 
 /// The setup dialog, the folder choice and the debug window. All that it is given must outlive it.
 class DesktopDialogs {
@@ -41,7 +40,7 @@ class DesktopDialogs {
   private:
     PortNames& portNames_;
     frmDebug debugWindow_;
-    frmSetup* openSetup_ = nullptr;
+    AdapterFollower* follower_ = nullptr;  // of the setup dialog while it is open
 };
 
 }  // namespace velmora

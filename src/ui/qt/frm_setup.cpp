@@ -156,7 +156,7 @@ void frmSetup::addDevices(QGridLayout& ports) {
     cboPresentPorts->setObjectName("cboPresentPorts");
     cboPresentPorts->setAccessibleName(QStringLiteral("Serial devices that are present"));
     cboPresentPorts->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    cboPresentPorts->setMinimumContentsLength(34);
+    cboPresentPorts->setMinimumContentsLength(38);
     pbRefreshPorts = new QPushButton(QStringLiteral("&Refresh"));
     pbRefreshPorts->setObjectName("pbRefreshPorts");
     pbRefreshPorts->setAutoDefault(false);

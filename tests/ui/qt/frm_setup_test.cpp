@@ -11,7 +11,9 @@
 #include <memory>
 
 #include "support/accessibility_walk.h"
+#include "support/fake_timers.h"
 #include "support/scripted_port.h"
+#include "ui/adapter_follower.h"
 
 namespace velmora {
 
@@ -73,6 +75,21 @@ class FrmSetupTest : public QObject {
         devices.clear();
         dialog->refreshDevices();
         QCOMPARE(list->currentIndex(), -1);
+        QCOMPARE(text()->text(), QString("6"));
+    }
+    void aPlugIsInTheListHalfASecondLaterAndTheSelectionStays() {
+        devices = {adapter(6, "/dev/ttyUSB1", "BBBB1234")};
+        open();
+        test::FakeTime time;
+        AdapterFollower follower(time.makeTimer(), true, [this] { dialog->refreshDevices(); });
+        auto* list = find<QComboBox>("cboPresentPorts");
+        QTest::keyClick(list, Qt::Key_Down);
+        devices.insert(devices.begin(), adapter(5, "/dev/ttyUSB0", "AAAA1234"));
+        follower.adaptersChanged();
+        QCOMPARE(list->count(), 1);
+        time.advance(std::chrono::milliseconds(500));
+        QCOMPARE(list->count(), 2);
+        QCOMPARE(list->currentIndex(), 1);
         QCOMPARE(text()->text(), QString("6"));
     }
     void okKeepsTheAdapterOfThePort() {

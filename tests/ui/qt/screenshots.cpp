@@ -2,9 +2,11 @@
 // bring them about, of the setup dialog and of the protocol monitor. For the documents, and for a look at
 // what a change does.
 #include <QApplication>
+#include <QComboBox>
 #include <QDir>
 #include <QPalette>
 #include <QPixmap>
+#include <QPushButton>
 #include <QStyleFactory>
 #include <cstdio>
 #include <functional>
@@ -107,37 +109,49 @@ bool save(QWidget& window, const QDir& folder, const char* name) {
     return true;
 }
 
-// Four ports in different states and a USB adapter in use as the other port.
-bool saveSetup(const QDir& folder, const char* name) {
+std::vector<PortIdentity> adapter() {
+    PortIdentity adapter;
+    adapter.number = 5;
+    adapter.device = "/dev/ttyUSB0";
+    adapter.vendorId = "0403";
+    adapter.productId = "6001";
+    adapter.serial = "A50285BI";
+    adapter.maker = "FTDI";
+    adapter.product = "FT232R USB UART";
+    adapter.mayOpen = true;
+    return {adapter};
+}
+
+// Four ports in different states, and a USB adapter as the other port, plugged in or not.
+bool saveSetup(const QDir& folder, const char* name, const std::vector<PortIdentity>& present) {
     test::ScriptedPort port;
     port.number = 5;
     ServerOptions options;
     options.AutoSelectPort = false;
     TransferSettings transfer;
     int probes = 0;
-    const auto probe = [&probes](std::int16_t number) -> std::int32_t {
+    const auto probe = [&probes, &present](std::int16_t number) -> std::int32_t {
         static constexpr std::int32_t kAnswers[] = {kStatusInUse, kStatusModem, kStatusNotAccessible,
-                                                    kStatusNotAccessible, kStatusAvailable};
+                                                    kStatusNotAccessible};
+        const auto index = static_cast<std::size_t>(number - 1);
         ++probes;
-        return kAnswers[number - 1];
+        if (index < std::size(kAnswers)) {
+            return kAnswers[index];
+        }
+        return present.empty() ? kStatusNotAccessible : kStatusAvailable;
     };
-    const auto devices = [] {
-        PortIdentity adapter;
-        adapter.number = 5;
-        adapter.device = "/dev/ttyUSB0";
-        adapter.vendorId = "0403";
-        adapter.productId = "6001";
-        adapter.serial = "A50285BI";
-        adapter.maker = "FTDI";
-        adapter.product = "FT232R USB UART";
-        adapter.mayOpen = true;
-        return std::vector<PortIdentity>{adapter};
-    };
-    frmSetup dialog(port, options, transfer, probe, devices);
+    frmSetup dialog(port, options, transfer, probe, [&present] { return present; });
     dialog.show();
     constexpr int kAllPorts = 5;
     while (probes < kAllPorts) {
         QApplication::processEvents();
+    }
+    QApplication::processEvents();
+    if (!present.empty()) {
+        auto* const list = dialog.findChild<QComboBox*>("cboPresentPorts");
+        list->setCurrentIndex(0);
+        list->activated(0);
+        dialog.findChild<QPushButton*>("pbCheckPort")->click();
     }
     QApplication::processEvents();
     return save(dialog, folder, name);
@@ -210,11 +224,14 @@ int main(int argc, char** argv) {
     }
     for (const auto& [name, dark] : {Picture{"setup", false}, Picture{"setup-dark", true}}) {
         QApplication::setPalette(dark ? darkPalette() : light);
-        if (!saveSetup(folder, name)) {
+        if (!saveSetup(folder, name, adapter())) {
             return 1;
         }
     }
     QApplication::setPalette(light);
+    if (!saveSetup(folder, "setup-no-adapter", {})) {
+        return 1;
+    }
     if (!saveMonitor(folder, "protocol-monitor")) {
         return 1;
     }
