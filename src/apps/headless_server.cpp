@@ -1,7 +1,6 @@
 #include "apps/headless_server.h"
 
 #include <QCoreApplication>
-#include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <system_error>
@@ -9,7 +8,7 @@
 #include "apps/non_blocking_output.h"
 #include "arguments/usage_error.h"
 #include "base/system_text.h"
-#include "serial/port_list.h"
+#include "serial/device_facts.h"
 
 namespace velmora {
 namespace {
@@ -60,8 +59,9 @@ HeadlessServer::HeadlessServer(const ServerArguments& arguments)
                 {},
                 [this](const std::string& line) { output_.print(line); },
                 [this] { return arguments_.wait ? WaitFor::AnyPort : WaitFor::Nothing; }}),
+      searched_(platform_.portNames, gatherDeviceFacts),
       search_(
-          searchTimer_, [this] { return lookForNewPort(); },
+          searchTimer_, [this] { return searched_.look(); },
           [this] {
               const bool found = program_.searchPort();
               tellFoundPort();
@@ -106,6 +106,9 @@ void HeadlessServer::printWarning(const std::string& line) {
     } else if (arguments_.wait && line.starts_with(toSystemText(program_.portName()))) {
         advice = std::string(" ") + program_.describeWait();
     } else if (line == kNoPortSelected) {
+        if (search_.waiting()) {
+            return;  // told at the first search
+        }
         advice = " None of COM1 to COM64 is free; name one with --port.";
         if (arguments_.wait) {
             advice += kWaitsForAny;
@@ -138,28 +141,13 @@ void HeadlessServer::stateChanged(std::int32_t state) {
         warned_ = false;
         search_.end();
     } else if (state == NoPort && arguments_.wait) {
-        if (!search_.waiting()) {
-            lookForNewPort();
-            search_.begin(true);
-        }
+        // The first look finds all ports new: one may have come while the start searched.
+        search_.begin(true);
     } else if (state == NoPort) {
         quit(kStatusPort);
     } else if (state == OnExit) {
         quit(0);
     }
-}
-
-/// A search tries every port, so it only begins when there is one more than at the last.
-PortPresence HeadlessServer::lookForNewPort() {
-    std::vector<std::string> devices;
-    for (const PortIdentity& port : listPorts(platform_.portNames)) {
-        devices.push_back(port.device);
-    }
-    const bool more = std::any_of(devices.begin(), devices.end(), [this](const std::string& device) {
-        return std::find(triedDevices_.begin(), triedDevices_.end(), device) == triedDevices_.end();
-    });
-    triedDevices_ = std::move(devices);
-    return more ? PortPresence::Present : PortPresence::Absent;
 }
 
 void HeadlessServer::tellFoundPort() {
@@ -188,8 +176,8 @@ int HeadlessServer::run() {
         return report.portFailed ? kStatusPort : kStatusConfiguration;
     }
     tellFoundPort();
-    if (arguments_.wait && !platform_.adapters.live()) {
-        output_.print("The system tells nothing of adapters: a lost port is looked for once a second.");
+    if (const std::string news = program_.describeAdapterNews(); arguments_.wait && !news.empty()) {
+        output_.print(news);
     }
     if (!quitting_) {
         QCoreApplication::exec();

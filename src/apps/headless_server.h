@@ -13,6 +13,7 @@
 #include "apps/server_arguments.h"
 #include "apps/server_program.h"
 #include "server/reconnection.h"
+#include "server/searched_ports.h"
 #include "ui/console_view.h"
 #include "ui/no_user_box.h"
 
@@ -39,7 +40,6 @@ class HeadlessServer {
     void portFailed();
     void stateChanged(std::int32_t state);
     void tellFoundPort();
-    PortPresence lookForNewPort();
     void quit(int status);
 
     struct FileCloser {
@@ -63,7 +63,7 @@ class HeadlessServer {
     ServerProgram program_;
     // No port is configured, and none was free: waits for one more to be there.
     QtTimer searchTimer_;
-    std::vector<std::string> triedDevices_;
+    SearchedPorts searched_;
     Reconnection search_;
 };
 

@@ -69,6 +69,9 @@ StartupReport ServerProgram::start(const std::string& commandLine) {
     checkFolders();
     StartupReport report = start_.Main(commandLine);
     core_.applySettings(start_.settings());
+    if (const std::string news = describeAdapterNews(); !news.empty()) {
+        debug_.trace("COM", news, {});
+    }
     return report;
 }
 
@@ -81,6 +84,12 @@ void ServerProgram::tellOfPort(const std::string& line) {
     const std::string shown = shownText(line);
     debug_.trace("COM", shown, {});
     controller().ShowText("", shown, "");
+}
+
+std::string ServerProgram::describeAdapterNews() const {
+    return platform_.adapters.live()
+               ? ""
+               : "The system tells nothing of adapters: a lost port is looked for once a second.";
 }
 
 std::string ServerProgram::portName(int number) const {

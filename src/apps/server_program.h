@@ -57,6 +57,8 @@ class ServerProgram {
     std::string describePortFailure() const;
     /// What is said of a lost port that the server waits for.
     const char* describeWait() const;
+    /// What is to be said, once, where the system tells nothing of adapters; empty where it does.
+    std::string describeAdapterNews() const;
 
     ServerCore& core() { return core_; }
     ServerController& controller() { return core_.controller(); }

@@ -12,6 +12,7 @@
 #include "platform/profile/profile_encoding.h"
 #include "platform/profile/replace_contents.h"
 #include "serial/serial_port.h"
+#include "server/searched_ports.h"
 #include "startup/default_ini.h"
 #include "startup/messages.h"
 
@@ -24,7 +25,6 @@ constexpr int kRevision = VELMORA_REVISION;
 
 constexpr const char* kVersion = "beta3";
 constexpr const char* kErrorTitle = "Oops, Velmora Error";
-constexpr std::int16_t kLastSearchedPort = 64;
 constexpr std::int32_t kPortFree = 1;
 
 /// A folder as it is kept: without one final separator. A backslash goes on every system, since the same file

@@ -125,6 +125,56 @@ TEST_F(WaitTest, AServerThatWaitsCanBeStopped) {
     EXPECT_EQ(server->wait(), 0) << server->error();
 }
 
+TEST_F(WaitTest, WithoutADeviceManagerThatIsSaidOnceHereAndInTheTrace) {
+    startWaiting({"--trace-file", home / "trace"});
+    ASSERT_TRUE(server->waitForError("Waiting for it."));
+    stopServer();
+    EXPECT_EQ(server->wait(), 0) << server->error();
+    const bool runs = fs::exists("/run/udev/control");
+    const auto count = [](const std::string& text) {
+        const std::string news = "The system tells nothing of adapters";
+        const std::size_t first = text.find(news);
+        return first == text.npos ? 0 : text.find(news, first + 1) == text.npos ? 1 : 2;
+    };
+    EXPECT_EQ(count(server->output()), runs ? 0 : 1) << server->output();
+    EXPECT_EQ(count(contentsOf(home / "trace")), runs ? 0 : 1) << contentsOf(home / "trace");
+}
+
+TEST_F(WaitTest, WithoutAConfiguredPortTheFirstOneThatComesIsServed) {
+    std::string configuration = "[Ports]\r\nCOM7=" + link().string() + "\r\n";
+    for (int number = 1; number <= 64; ++number) {
+        if (number != 7) {
+            configuration += "COM" + std::to_string(number) + "=" + (home / "none").string() + "\r\n";
+        }
+    }
+    writeFile(home / "none.ini", configuration);
+    server = start("velmorad", {"--wait", "--config", home / "none.ini", "--folder", psion});
+    ASSERT_TRUE(server->waitForError("name one with --port. Waiting for another one.")) << server->output();
+    point();
+    ASSERT_TRUE(server->waitForOutput("Waiting for link")) << server->error();
+    EXPECT_TRUE(server->waitForOutput("Found COM7, " + link().string())) << server->output();
+    EXPECT_EQ(told("Waiting for another one."), 1U) << server->error();
+}
+
+TEST_F(WaitTest, ANumberThatStandsForNoDeviceIsToldOnceAndWaitedFor) {
+    writeFile(home / "number.ini", "[Settings]\r\nPort=99\r\n;" + std::string(200, '-') + "\r\n");
+    server = start("velmorad", {"--wait", "--config", home / "number.ini", "--folder", psion});
+    ASSERT_TRUE(server->waitForError("Waiting for it.")) << server->output();
+    stopServer();
+    EXPECT_EQ(server->wait(), 0) << server->error();
+    EXPECT_EQ(told("Port COM99 is not accessible! "), 1U) << server->error();
+}
+
+TEST_F(WaitTest, AnAdapterThatWasNeverSeenIsWaitedForByItsName) {
+    writeFile(home / "identity.ini", "[Settings]\r\nPort=5\r\nPortIdentity=0403:6001:NEVERSEEN\r\n;" +
+                                         std::string(200, '-') + "\r\n");
+    server = start("velmorad", {"--wait", "--config", home / "identity.ini", "--folder", psion});
+    ASSERT_TRUE(server->waitForError("Waiting for it.")) << server->output();
+    EXPECT_NE(server->error().find("usb:0403:6001:NEVERSEEN"), std::string::npos) << server->error();
+    stopServer();
+    EXPECT_EQ(server->wait(), 0) << server->error();
+}
+
 TEST_F(WaitTest, WithoutTheOptionALostPortEndsTheServerAsBefore) {
     point();
     server = start("velmorad", {"--port", link(), "--folder", psion});
