@@ -1,0 +1,138 @@
+// What passes between a port and its driver, as pseudo-terminals have it not: modem lines, breaks, counted
+// errors, and bytes that take their time to leave.
+#include <gtest/gtest.h>
+
+#include <array>
+#include <chrono>
+#include <cstdint>
+#include <string>
+#include <utility>
+
+#include "serial/comm_posix.h"
+#include "serial/port_names.h"
+#include "support/line_driver.h"
+#include "support/pty_pair.h"
+
+namespace velmora {
+namespace {
+
+using namespace std::chrono_literals;
+
+class CommPosixDriverTest : public ::testing::Test {
+  protected:
+    CommPosixDriverTest() {
+        driver = {};
+        driver.present = true;
+        EXPECT_EQ(device.open("COM7"), kSuccess);
+    }
+    ~CommPosixDriverTest() override {
+        device.close();
+        driver = {};
+    }
+    std::uint32_t modemLines() {
+        std::uint32_t lines = 0xFFFF;
+        EXPECT_EQ(device.modemStatus(lines), kSuccess);
+        return lines;
+    }
+    std::uint32_t errors() {
+        CommStatus status;
+        EXPECT_EQ(device.clearError(status), kSuccess);
+        return status.errorFlags;
+    }
+
+    test::LineDriver& driver = test::lineDriver();
+    test::PtyPair line;
+    PortNames names{PortNames::Overrides{{"COM7", line.slavePath()}}};
+    PosixCommDevice device{names};
+};
+
+TEST_F(CommPosixDriverTest, EachModemLineIsToldByItsBit) {
+    constexpr std::array<std::pair<int, std::uint32_t>, 4> rows = {
+        {{TIOCM_CTS, kCtsOn}, {TIOCM_DSR, kDsrOn}, {TIOCM_RNG, kRingOn}, {TIOCM_CAR, kCarrierOn}}};
+    for (const auto& [raised, told] : rows) {
+        driver.lines = raised;
+        EXPECT_EQ(modemLines(), told);
+    }
+    driver.lines = TIOCM_DTR | TIOCM_RTS;
+    EXPECT_EQ(modemLines(), 0U) << "these are this end's own";
+}
+
+TEST_F(CommPosixDriverTest, TheLinesOfThisEndAreRaisedAndLoweredOneByOne) {
+    driver.lines = 0;
+    EXPECT_EQ(device.escapeFunction(CommFunction::SetDtr), kSuccess);
+    EXPECT_EQ(driver.lines, TIOCM_DTR);
+    EXPECT_EQ(device.escapeFunction(CommFunction::SetRts), kSuccess);
+    EXPECT_EQ(driver.lines, TIOCM_DTR | TIOCM_RTS);
+    EXPECT_EQ(device.escapeFunction(CommFunction::ClearDtr), kSuccess);
+    EXPECT_EQ(driver.lines, TIOCM_RTS);
+    EXPECT_EQ(device.escapeFunction(CommFunction::ClearRts), kSuccess);
+    EXPECT_EQ(driver.lines, 0);
+}
+
+TEST_F(CommPosixDriverTest, TheDtrControlReachesTheLine) {
+    for (const bool raised : {true, false}) {
+        device.getState();
+        device.buildState("9600,N,8,1");
+        device.setDtrControl(raised);
+        EXPECT_EQ(device.setState(), kSuccess);
+        EXPECT_EQ(driver.lines & TIOCM_DTR, raised ? TIOCM_DTR : 0);
+    }
+}
+
+TEST_F(CommPosixDriverTest, ABreakBeginsAndEnds) {
+    EXPECT_EQ(device.escapeFunction(CommFunction::SetBreak), kSuccess);
+    EXPECT_TRUE(driver.breaking);
+    EXPECT_EQ(device.escapeFunction(CommFunction::ClearBreak), kSuccess);
+    EXPECT_FALSE(driver.breaking);
+}
+
+TEST_F(CommPosixDriverTest, EachKindOfErrorIsToldOnce) {
+    constexpr std::array<std::pair<int serial_icounter_struct::*, std::uint32_t>, 5> rows = {
+        {{&serial_icounter_struct::buf_overrun, 1U},
+         {&serial_icounter_struct::overrun, 2U},
+         {&serial_icounter_struct::parity, 4U},
+         {&serial_icounter_struct::frame, 8U},
+         {&serial_icounter_struct::brk, 16U}}};
+    EXPECT_EQ(errors(), 0U);
+    for (const auto& [counter, flag] : rows) {
+        driver.errors.*counter += 3;
+        EXPECT_EQ(errors(), flag);
+        EXPECT_EQ(errors(), 0U) << "after it was told";
+    }
+}
+
+TEST_F(CommPosixDriverTest, WhatWasCountedBeforeThePortWasOpenedIsNoErrorOfThisOne) {
+    device.close();
+    driver.errors.frame = 7;
+    ASSERT_EQ(device.open("COM7"), kSuccess);
+    EXPECT_EQ(errors(), 0U);
+}
+
+TEST_F(CommPosixDriverTest, TheLastBytesLeaveBeforeThePortIsGivenBack) {
+    driver.unsent = {3, 1, 0};
+    EXPECT_EQ(device.close(), kSuccess);
+    EXPECT_EQ(driver.waited, 10ms) << "two looks found bytes";
+    EXPECT_EQ(driver.dropped, 0);
+}
+
+TEST_F(CommPosixDriverTest, BytesThatNeverLeaveAreDroppedAfterASecond) {
+    driver.unsent = {3};
+    EXPECT_EQ(device.close(), kSuccess);
+    EXPECT_EQ(driver.waited, 1s);
+    EXPECT_EQ(driver.dropped, 1);
+}
+
+TEST_F(CommPosixDriverTest, ALineThatTookNoMoreBytesIsNotWaitedForAgain) {
+    CommTimeouts timeouts;
+    timeouts.writeTotalMultiplier = 0;
+    ASSERT_EQ(device.setTimeouts(timeouts), kSuccess);
+    std::size_t transferred = 0;
+    ASSERT_EQ(device.write(std::string(1 << 20, 'x'), transferred), ETIMEDOUT);
+    driver.unsent = {3};
+    EXPECT_EQ(device.close(), kSuccess);
+    EXPECT_EQ(driver.waited, 0ms);
+    EXPECT_EQ(driver.dropped, 1);
+}
+
+}  // namespace
+}  // namespace velmora
