@@ -32,16 +32,30 @@ class Token:
 
 
 def cut(text):
-    """The tokens of a source, without blanks, comments and preprocessor lines."""
-    tokens, at = [], 0
+    """The tokens of a source, without blanks, comments, preprocessor lines and what is for Windows only."""
+    tokens, at, conditions = [], 0, []
     while at < len(text):
         found = TOKEN.match(text, at)
-        # A directive may be indented: its blanks belong to it.
         kind = found.lastgroup if found.lastgroup != "mark" else "string"
-        if kind not in ("space", "comment", "directive"):
+        if kind == "directive":
+            _follow(found.group().split(), conditions)
+        elif kind not in ("space", "comment") and WINDOWS not in conditions:
             tokens.append(Token(kind, found.group(), at))
         at = found.end()
     return tokens
+
+
+WINDOWS, ELSEWHERE = "#ifdef _WIN32", "#ifndef _WIN32"
+
+
+def _follow(directive, conditions):
+    """Keeps the conditions under which the source behind a directive is compiled, the innermost last."""
+    if directive[0] in ("#if", "#ifdef", "#ifndef"):
+        conditions.append(" ".join(directive))
+    elif directive[0] == "#endif":
+        conditions.pop()
+    elif directive[0] in ("#else", "#elif"):
+        conditions.append({WINDOWS: ELSEWHERE, ELSEWHERE: WINDOWS}.get(conditions.pop(), ""))
 
 
 OPENING = {"(": ")", "[": "]", "{": "}"}

@@ -21,7 +21,10 @@ PROGRAMS = {
         ["organiser_tests", "server_tests", "files_tests"],
     ),
     "src/spreadsheet": (["spreadsheet_tests"], ["plan_tests", "files_tests"]),
-    "src/serial": (["serial_tests", "serial_posix_tests"], ["link_tests", "server_tests", "organiser_tests"]),
+    "src/serial": (
+        ["serial_tests", "serial_posix_tests", "serial_port_list_tests"],
+        ["link_tests", "server_tests", "organiser_tests"],
+    ),
     "src/startup": (["startup_tests"], []),
     "src/files": (["files_tests"], []),
 }

@@ -89,6 +89,12 @@ class Changes(unittest.TestCase):
         self.assertEqual(changed(r'return "a < 1 \" && 2";'), set())
         self.assertEqual(changed('return R"x(a" < )" 1)x";'), set())
 
+    def test_what_is_for_windows_only_stays(self):
+        text = "#ifdef _WIN32\n#if A\nint a = 1;\n#endif\nint b = 2;\n#else\nint b = 3;\n#endif\nint c = 4;\n"
+        self.assertEqual(list(made(text)), ["3 becomes (3 + 1)", "4 becomes (4 + 1)"])
+        text = "#ifndef _WIN32\nint a = 1;\n#else\nint a = 2;\n#endif\n"
+        self.assertEqual(list(made(text)), ["1 becomes (1 + 1)"])
+
     def test_the_place_is_told(self):
         names = [m.name for m in mutations.mutants("src/link/a.cpp", "int f() {\n    return a < b;\n}\n")]
         self.assertEqual(names, ["src/link/a.cpp:2:14: < becomes <="])

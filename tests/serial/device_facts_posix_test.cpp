@@ -71,8 +71,13 @@ TEST_F(DeviceFactsTest, TheHolderIsNamedWithItsProcess) {
     const std::string device = makeDevice(0660);
     makeProcess("12", "bash", "/dev/zero");
     makeProcess("4711", "picocom", device);
-    folder.makeFolder("proc/self/fd");
     EXPECT_EQ(findHolder(device, folder.path("proc")), "picocom (process 4711)");
+}
+
+TEST_F(DeviceFactsTest, AFolderThatIsNoProcessHoldsNothing) {
+    const std::string device = makeDevice(0660);
+    makeProcess("self", "picocom", device);
+    EXPECT_EQ(findHolder(device, folder.path("proc")), "");
 }
 
 TEST_F(DeviceFactsTest, ALinkToTheDeviceFindsTheSameHolder) {

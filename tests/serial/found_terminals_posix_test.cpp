@@ -87,7 +87,11 @@ TEST_F(FoundTerminalsTest, ALinkThatTwoDevicesClaimIsTheStableNameOfNeither) {
 }
 
 TEST_F(FoundTerminalsTest, ADeviceThatIsToldTwiceIsOnePort) {
-    EXPECT_THAT(list({adapter("/dev/ttyUSB0"), adapter("/dev/ttyUSB0")}), SizeIs(1));
+    FoundTerminal again = adapter("/dev/ttyUSB0");
+    again.product = "told later";
+    const auto ports = list({adapter("/dev/ttyUSB0"), again});
+    ASSERT_THAT(ports, SizeIs(1));
+    EXPECT_EQ(ports[0].product, "FT232R USB UART");
 }
 
 TEST_F(FoundTerminalsTest, AStandardPortHasNoMakerAndNoNumbersOfUsb) {

@@ -1,6 +1,6 @@
-// The driver of a serial adapter behind a pseudo-terminal, which has no modem lines, counts no errors and takes
-// bytes at once. This header defines functions of the C library anew, so that exactly one source file of a test
-// program may include it.
+// The driver of a serial adapter behind a pseudo-terminal, which has no modem lines, counts no errors and
+// takes bytes at once. This header defines functions of the C library anew, so that exactly one source file
+// of a test program may include it.
 #pragma once
 
 #include <linux/serial.h>
