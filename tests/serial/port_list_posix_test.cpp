@@ -1,6 +1,4 @@
 // What the device manager's library tells of terminals, and which of them are ports.
-#include "serial/port_list.h"
-
 #include <fcntl.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -9,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "serial/port_list.h"
 #include "support/temp_folder.h"
 #include "support/udev_tree.h"
 

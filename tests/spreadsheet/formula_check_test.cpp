@@ -85,6 +85,11 @@ TEST(FormulaChange, WhatCouldNeverBeFetchedAgainIsAnError) {
     EXPECT_EQ(errorOf(nested(102)), 9);
 }
 
+TEST(FormulaChange, WhatIsTooDeepToBeComparedIsTold) {
+    const std::string sums = repeated("SUM(A1,", 102) + "A1" + repeated(")", 102);
+    EXPECT_EQ(change(sums).substr(0, sums.size() + 16), "=" + sums + " comes back as ");
+}
+
 class CheckFormulasTest : public ::testing::Test {
   protected:
     void check(WksDialect dialect = WksDialect::Own) {

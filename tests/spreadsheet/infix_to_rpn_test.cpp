@@ -31,6 +31,11 @@ TEST(InfixToRpn, ParenthesesChangeTheGroupingOfEqualRanks) {
     EXPECT_EQ(InfixToRpn("(A1-B1)-C1"), "A1 B1 - C1 -");
 }
 
+TEST(InfixToRpn, TheCommonDialectMarksParenthesesForTheOperatorBesideThemAlone) {
+    EXPECT_EQ(InfixToRpn("(A1+B1)*C1", WksDialect::Common), "A1 B1 + () C1 *");
+    EXPECT_EQ(InfixToRpn("(A1+B1)--C1", WksDialect::Common), "A1 B1 + C1 _ -") << "not for the sign";
+}
+
 TEST(InfixToRpn, PowersAreTwoStars) {
     EXPECT_EQ(InfixToRpn("A1**2"), "A1 2 ^");
     EXPECT_EQ(InfixToRpn("A1^2"), "A1 2 ^");

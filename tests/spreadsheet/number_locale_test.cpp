@@ -3,6 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <optional>
+#include <utility>
+#include <vector>
 
 namespace velmora {
 namespace {
@@ -76,6 +79,27 @@ TEST(NamedNumberLocale, KnowsTheCommonLanguages) {
     EXPECT_EQ(namedNumberLocale("fr_FR.UTF-8"), kFrench);
     EXPECT_EQ(namedNumberLocale("de_CH"), (NumberLocale{'.', '\''}));
 }
+
+#ifndef _WIN32
+
+// Windows knows every language itself. Here few systems have locales by the name of a language alone.
+TEST(NamedNumberLocale, ReadsWhatTheReadersOfEachLanguageWrite) {
+    const std::pair<const char*, std::vector<const char*>> rows[] = {
+        {"1.234,5", {"da", "de", "el", "es", "id", "is", "it", "nl", "pt", "tr"}},
+        {"1 234,5", {"bg", "cs", "fi", "fr", "hu", "nb", "no", "pl", "ru", "sk", "sv", "uk"}},
+        {"1,234.5", {"en", "ja", "ko", "zh"}},
+        {"1234.5", {"C", "POSIX"}},
+    };
+    for (const auto& [text, names] : rows) {
+        for (const char* name : names) {
+            const std::optional<NumberLocale> locale = namedNumberLocale(name);
+            ASSERT_TRUE(locale) << name;
+            EXPECT_EQ(localeNumber(text, *locale), 1234.5) << name;
+        }
+    }
+}
+
+#endif
 
 TEST(NamedNumberLocale, SaysWhenANameIsUnknown) {
     EXPECT_EQ(namedNumberLocale("qq_QQ"), std::nullopt);

@@ -1,5 +1,6 @@
-// Devices for those who ask the device manager's library, libudev, in the place of this machine's. This header
-// defines the functions of the library anew, so that exactly one source file of a test program may include it.
+// Devices for those who ask the device manager's library, libudev, in the place of this machine's. This
+// header defines the functions of the library anew, so that exactly one source file of a test program may
+// include it.
 #pragma once
 
 #include <libudev.h>
@@ -128,7 +129,8 @@ extern "C" udev_device* udev_device_unref(udev_device* device) {
 extern "C" udev_device* udev_device_get_parent(udev_device* device) {
     return device->parent;
 }
-extern "C" udev_device* udev_device_get_parent_with_subsystem_devtype(udev_device* device, const char* subsystem,
+extern "C" udev_device* udev_device_get_parent_with_subsystem_devtype(udev_device* device,
+                                                                      const char* subsystem,
                                                                       const char* type) {
     do {
         device = device->parent;
