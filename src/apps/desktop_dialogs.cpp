@@ -1,5 +1,7 @@
 #include "apps/desktop_dialogs.h"
 
+#include <utility>
+
 #include "eventloop/qt_timer.h"
 #include "serial/adapter_latency.h"
 #include "serial/port_list.h"
@@ -17,6 +19,10 @@ void DesktopDialogs::runSetup(QWidget& window, SerialPort& port, ServerOptions& 
     frmSetup dialog(
         port, options, transfer, probe, [this] { return listPorts(portNames_); }, &window);
     dialog.setDeviceTip([&port](const std::string& device) { return latencyTip(device, port.Settings()); });
+    if (!adapters.live() && !std::exchange(newsMissed_, true)) {
+        dialog.setDeviceHint(
+            QStringLiteral("The system tells nothing of adapters: the list is looked up twice a second."));
+    }
     QtTimer timer;
     AdapterFollower follower(timer, adapters.live(), [&dialog] { dialog.refreshDevices(); });
     follower_ = &follower;

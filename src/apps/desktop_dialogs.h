@@ -40,6 +40,7 @@ class DesktopDialogs {
   private:
     PortNames& portNames_;
     frmDebug debugWindow_;
+    bool newsMissed_ = false;              // it was told that the system tells nothing of adapters
     AdapterFollower* follower_ = nullptr;  // of the setup dialog while it is open
 };
 

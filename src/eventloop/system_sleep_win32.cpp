@@ -1,4 +1,3 @@
-// The first of these has the types of the others.
 #include <windows.h>
 
 #include <functional>

@@ -441,6 +441,10 @@ void frmSetup::showHint(const PortIdentity& device) {
             hint += ": join the group \"" + qtSystemText(device.groupToJoin) + "\" and log in again";
         }
     }
+    setDeviceHint(hint);
+}
+
+void frmSetup::setDeviceHint(const QString& hint) {
     lblDeviceHint->setText(hint);
     lblDeviceHint->setVisible(!hint.isEmpty());
     // A wrapped hint does not make the window grow by itself.

@@ -44,6 +44,8 @@ class frmSetup : public QDialog {
     void setBeep(std::function<void()> beep) { beep_ = std::move(beep); }
     /// What is said beside a device of the list; empty for nothing. Without it nothing is.
     void setDeviceTip(DeviceTip tip);
+    /// What is said below the list until a device is chosen or the list changes.
+    void setDeviceHint(const QString& hint);
 
   protected:
     void showEvent(QShowEvent* event) override;

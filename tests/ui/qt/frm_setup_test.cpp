@@ -77,6 +77,17 @@ class FrmSetupTest : public QObject {
         QCOMPARE(list->currentIndex(), -1);
         QCOMPARE(text()->text(), QString("6"));
     }
+    void aHintStandsBelowTheListUntilADeviceIsChosen() {
+        devices = {adapter(6, "/dev/ttyUSB1", "BBBB1234")};
+        open();
+        auto* hint = find<QLabel>("lblDeviceHint");
+        QVERIFY(!hint->isVisible());
+        dialog->setDeviceHint("a hint");
+        QCOMPARE(hint->text(), QString("a hint"));
+        QVERIFY(hint->isVisible());
+        QTest::keyClick(find<QComboBox>("cboPresentPorts"), Qt::Key_Down);
+        QVERIFY(!hint->isVisible());
+    }
     void aPlugIsInTheListHalfASecondLaterAndTheSelectionStays() {
         devices = {adapter(6, "/dev/ttyUSB1", "BBBB1234")};
         open();
