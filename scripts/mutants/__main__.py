@@ -47,18 +47,19 @@ def sources(folders):
     ]
 
 
-def chosen(options):
-    """The mutants to try, by their place."""
+def chosen(options, written):
+    """The mutants to try, by their place. Survivors of the journal whose place is not what it was are told there."""
     found = []
     paths = options.file or sources(options.folder)
     for path in paths:
         found += mutations.mutants(path, (TREE / path).read_text(encoding="utf-8"))
     if options.again:
-        names = journal.Journal(options.again).names(journal.SURVIVED)
-        survivors = {name for name in names if name.partition(":")[0] in paths}
+        survivors = {name for name in written.names(journal.SURVIVED) if name.partition(":")[0] in paths}
         found = [mutant for mutant in found if mutant.name in survivors]
         for name in sorted(survivors - {mutant.name for mutant in found}):
-            print(f"not there any more: {name}")
+            print(f"gone: {name}")
+            if not options.list:
+                written.add(name, journal.GONE)
     if options.sample is not None and options.sample < len(found):
         kept = set(random.Random(options.seed).sample(range(len(found)), options.sample))
         found = [mutant for index, mutant in enumerate(found) if index in kept]
@@ -71,7 +72,7 @@ def try_all(mutants, written):
     place.prepare()
     for path, group in itertools.groupby(mutants, key=lambda mutant: mutant.path):
         for mutant, result, how in place.run(path, list(group)):
-            written.add(mutant, result, how)
+            written.add(mutant.name, result, how)
             if result == journal.SURVIVED:
                 print(f"survived: {mutant.name}", flush=True)
 
@@ -83,17 +84,16 @@ def told(counts):
 
 def main():
     options = arguments()
-    mutants = chosen(options)
+    path = options.again or options.journal or FOLDER / "journal"
+    if not (options.again or options.journal or options.list):
+        path.unlink(missing_ok=True)
+    written = journal.Journal(path)
+    mutants = chosen(options, written)
     if options.list:
         for mutant in mutants:
             print(mutant.name)
         print(f"{len(mutants)} mutants")
         return 0
-    path = options.again or options.journal
-    if path is None:
-        path = FOLDER / "journal"
-        path.unlink(missing_ok=True)
-    written = journal.Journal(path)
     try:
         try_all([m for m in mutants if options.again or m.name not in written.results], written)
     except trials.BuildFailure as failure:

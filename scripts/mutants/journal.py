@@ -2,7 +2,8 @@
 
 import collections
 
-KILLED, SURVIVED, NO_BUILD = "killed", "survived", "does not compile"
+# A mutant is gone when its place in the sources has changed since.
+KILLED, SURVIVED, NO_BUILD, GONE = "killed", "survived", "does not compile", "gone"
 
 
 class Journal:
@@ -16,11 +17,11 @@ class Journal:
                 result, _, name = line.split("\t")
                 self.results[name] = result
 
-    def add(self, mutant, result, how):
-        self.results[mutant.name] = result
+    def add(self, name, result, how=""):
+        self.results[name] = result
         self.path.parent.mkdir(parents=True, exist_ok=True)
         with self.path.open("a", encoding="utf-8") as out:
-            print(result, how, mutant.name, sep="\t", file=out)
+            print(result, how, name, sep="\t", file=out)
 
     def names(self, result):
         return [name for name, found in self.results.items() if found == result]

@@ -143,7 +143,7 @@ class Trials:
         for program in programs:
             if (program, suites) not in self.seconds:
                 before = resource.getrusage(resource.RUSAGE_CHILDREN)
-                how = self._started(program, suites, "0", 600)
+                how = self.outcome(program, suites, "0", 600)
                 if how:
                     raise BuildFailure(f"{program} does not pass without a mutant: {how}")
                 after = resource.getrusage(resource.RUSAGE_CHILDREN)
@@ -156,10 +156,11 @@ class Trials:
         if not suites:
             return ""
         known = self.seconds.get((program, suites), 5)
-        return self._started(program, suites, number, int(10 * known) + 5)
+        return self.outcome(program, suites, number, int(10 * known) + 5)
 
-    def _started(self, program, suites, number, seconds):
-        """Runs a test program with limits; the processor time is limited in seconds, waiting to more."""
+    def outcome(self, program, suites, number, seconds):
+        """Runs a test program with limits: so many seconds of processor time, and more of waiting. An empty text if
+        it passes, and how it failed otherwise."""
         shutil.rmtree(self.scratch, ignore_errors=True)
         self.scratch.mkdir(parents=True)
 

@@ -166,17 +166,42 @@ class Variants(unittest.TestCase):
 
 class Results(unittest.TestCase):
     def test_the_last_result_of_a_mutant_counts(self):
-        first, second = mutations.mutants("src/link/a.cpp", "int f() { return a < b + c; }")
         with tempfile.TemporaryDirectory() as folder:
             path = pathlib.Path(folder) / "new/journal"
             written = journal.Journal(path)
-            written.add(first, journal.SURVIVED, "")
-            written.add(second, journal.SURVIVED, "")
-            written.add(first, journal.KILLED, "link_tests: Crc.KnownValues")
+            written.add("src/link/a.cpp:1:1: first", journal.SURVIVED)
+            written.add("src/link/a.cpp:1:2: second", journal.SURVIVED)
+            written.add("src/link/a.cpp:1:1: first", journal.KILLED, "link_tests: Crc.KnownValues")
             read = journal.Journal(path)
-        self.assertEqual(read.names(journal.SURVIVED), [second.name])
+        self.assertEqual(read.names(journal.SURVIVED), ["src/link/a.cpp:1:2: second"])
         self.assertEqual(read.counts("src/link/"), {journal.KILLED: 1, journal.SURVIVED: 1})
         self.assertEqual(read.counts("src/files/"), {})
+
+
+class Outcomes(unittest.TestCase):
+    def outcome(self, script, number="7"):
+        """What is told of a test program that does this."""
+        with tempfile.TemporaryDirectory() as folder:
+            program = pathlib.Path(folder) / "build/tests/link_tests"
+            program.parent.mkdir(parents=True)
+            program.write_text(f"#!/bin/sh\n{script}\n")
+            program.chmod(0o755)
+            return trials.Trials(pathlib.Path(folder), pathlib.Path(folder)).outcome("link_tests", "*", number, 5)
+
+    def test_a_program_that_passes_tells_nothing(self):
+        self.assertEqual(self.outcome("true"), "")
+
+    def test_the_test_that_failed_is_named(self):
+        self.assertEqual(self.outcome('echo "[  FAILED  ] Crc.Known, where x (0 ms)"; exit 1'), "link_tests: Crc.Known")
+
+    def test_a_crash_is_told_by_its_number(self):
+        self.assertEqual(self.outcome("kill -6 $$"), "link_tests: ended with -6")
+
+    def test_the_mutant_is_named_to_the_program(self):
+        self.assertEqual(self.outcome(f'exit "${variants.SWITCH}"', "3"), "link_tests: ended with 3")
+
+    def test_what_a_program_writes_is_its_own(self):
+        self.assertEqual(self.outcome('test "$TMPDIR" = "$PWD" && touch left'), "")
 
 
 class Programs(unittest.TestCase):
