@@ -28,17 +28,19 @@ TEST_F(DesktopTest, SavesAndLoadsAFileAndEndsOnRequestWithItsSettingsSaved) {
     expectStoredWindowPosition();
 }
 
-TEST_F(DesktopTest, SignalEndsItAtOnceAndChangesNoSetting) {
+TEST_F(DesktopTest, ASignalEndsItInOrderGivesThePortBackAndChangesNoSetting) {
     if (serverSide->windows()) {
         GTEST_SKIP() << "a program with windows gets no signals there";
     }
-    writeIni();
-    startDesktop();
-    save("NAMES", "one\r\n");
-    const std::string before = contentsOf(ini());
-    server->signal(SIGTERM);
-    EXPECT_EQ(server->wait(), 0);
-    EXPECT_EQ(contentsOf(ini()), before);
+    for (const int number : {SIGINT, SIGTERM, SIGHUP}) {
+        writeIni();
+        startDesktop();
+        save("NAMES", "one\r\n");
+        const std::string before = contentsOf(ini());
+        server->signal(number);
+        EXPECT_EQ(server->wait(), 0) << "signal " << number;
+        EXPECT_EQ(contentsOf(ini()), before);
+    }
 }
 
 TEST_F(DesktopTest, DebugSwitchInAnyCaseStartsToo) {

@@ -13,16 +13,28 @@
 
 namespace velmora::e2e {
 
-/// Its configuration file names the cable's port and starts the server with the program.
+/// Its configuration file names the cable's port and starts the server with the program, on a display of the
+/// test's own. The Windows program has the display of whoever runs the tests.
 class DesktopFixture : public ServerFixture {
   protected:
     void SetUp() override {
+        if (!serverSide->windows() && !XServer::installed()) {
+            GTEST_SKIP() << "Xvfb is not installed";
+        }
         ServerFixture::SetUp();
         if (serverSide->windows()) {
             port = serverPort.substr(std::string("COM").size());
         } else {
             ports = "[Ports]\r\nCOM" + port + "=" + serverDevice + "\r\n";
+            display = std::make_unique<XServer>();
         }
+    }
+    /// The program goes before its display.
+    void TearDown() override {
+        if (!serverSide->windows()) {
+            ServerFixture::TearDown();
+        }
+        server.reset();
     }
 
     void writeIni(const std::string& more = {}) {
@@ -32,14 +44,10 @@ class DesktopFixture : public ServerFixture {
     }
     std::filesystem::path ini() const { return serverSide->configuration(home); }
 
-    /// Starts the program without a display, or on one. The Windows program has the display of whoever runs
-    /// the tests.
-    void startDesktop(const std::vector<std::string>& options = {}, const XServer* display = nullptr) {
+    void startDesktop(const std::vector<std::string>& options = {}) {
         std::map<std::string, std::string> variables = serverSide->environment(home, zone);
-        if (!serverSide->windows()) {
-            variables["QT_QPA_PLATFORM"] = display == nullptr ? "offscreen" : "xcb";
-        }
-        if (display != nullptr) {
+        if (display) {
+            variables["QT_QPA_PLATFORM"] = "xcb";
             variables["DISPLAY"] = display->name();
         }
         server = std::make_unique<Process>(serverSide->command("velmora", options), variables);
@@ -71,6 +79,7 @@ class DesktopFixture : public ServerFixture {
         EXPECT_NE(query.output.find("XPos"), std::string::npos) << query.output;
     }
 
+    std::unique_ptr<XServer> display;
     std::string port = "40";  // as the configuration names it
     std::string ports;        // the section that says which device it is
 };

@@ -52,6 +52,13 @@ class ServerFixture : public testing::Test {
     }
 
     void SetUp() override { connectCable({}); }
+    /// A server that still serves ends as its user would end it.
+    void TearDown() override {
+        if (server && server->running()) {
+            stopServer();
+            EXPECT_EQ(server->wait(), 0) << server->error();
+        }
+    }
 
     void connectCable(const std::vector<std::string>& options) {
         std::vector<std::string> arguments = {VELMORA_TOOLS_DIR "/velmora-cable"};
