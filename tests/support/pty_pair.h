@@ -21,7 +21,7 @@ namespace velmora::test {
 class PtyPair {
   public:
     /// Longest wait of the members that wait; they return as soon as there is something.
-    static constexpr int kPatienceMs = 5000;
+    static constexpr int kPatienceMs = 60'000;
 
     PtyPair() : master_(posix_openpt(O_RDWR | O_NOCTTY | O_CLOEXEC)) {
         std::array<char, 128> name{};
