@@ -2,14 +2,18 @@
 # Installs what is missing on a Debian or Ubuntu machine.
 #   scripts/setup.sh          what it takes to build and run the programs
 #   scripts/setup.sh tests    that, and what the tests and checks need
+#   scripts/setup.sh valgrind both, and what looks for errors of memory in the running programs
 #   scripts/setup.sh pictures that, and what takes pictures of a display
 #   scripts/setup.sh bare     that, and what makes a minimal system to try all this in
 set -euo pipefail
 
 packages=(g++ cmake ninja-build qt6-base-dev libcli11-dev nlohmann-json3-dev libudev-dev ccache libwps-tools fonts-dejavu-core)
-if [[ "${1:-}" == tests ]]; then
+if [[ "${1:-}" == tests || "${1:-}" == valgrind ]]; then
   packages+=(libgtest-dev libgmock-dev libbenchmark-dev clang clang-format clang-tidy libclang-rt-dev
     xvfb xauth dbus-daemon tzdata gnumeric python3 desktop-file-utils appstream)
+fi
+if [[ "${1:-}" == valgrind ]]; then
+  packages+=(valgrind)
 fi
 if [[ "${1:-}" == pictures ]]; then
   packages+=(xvfb xauth imagemagick fonts-wine)

@@ -1,9 +1,24 @@
 #!/usr/bin/env bash
-# Builds and runs every test. With CI=true in the environment warnings are errors, the layout of the code, the
-# linter and a short run of each fuzzer come first, the unit tests run under the sanitizers, and the Windows
-# programs that need no window toolkit are built and tested too.
+# Builds and runs every test. With --valgrind instead the end-to-end tests of transfers, the programs under valgrind.
+# With CI=true in the environment warnings are errors, the layout of the code, the linter and a short run of each
+# fuzzer come first, the unit tests run under the sanitizers, and the Windows programs that need no window toolkit
+# are built and tested too.
 set -euo pipefail
 cd "$(dirname "$0")/.."
+if [[ "${1:-}" == --valgrind ]]; then
+  scripts/setup.sh valgrind
+  scripts/build.sh build -DCMAKE_BUILD_TYPE=RelWithDebInfo -DBUILD_TESTING=ON -- e2e_tests
+  logs=$PWD/build/valgrind
+  rm -rf "$logs"
+  mkdir "$logs"
+  passed=true
+  VELMORA_E2E_VALGRIND=$logs build/tests/e2e_tests --gtest_brief=1 \
+    --gtest_filter='TransferTest.*:FileServiceTest.*:ServicesTest.*:SavedFilesTest.*:EarlierCopiesTest.*' || passed=false
+  find "$logs" -size +0 -exec cat {} +
+  echo "valgrind: $(find "$logs" -type f | wc -l) programs run, $(find "$logs" -size +0 | wc -l) with errors"
+  $passed
+  exit
+fi
 scripts/setup.sh tests
 jobs=$(nproc)
 

@@ -25,7 +25,19 @@ class NativePrograms : public ProgramsUnderTest {
 
     std::vector<std::string> command(const std::string& program,
                                      const std::vector<std::string>& arguments) const override {
-        std::vector<std::string> words = {std::string(VELMORA_BIN_DIR) + "/" + program};
+        std::vector<std::string> words;
+        if (!valgrindLogs_.empty()) {
+            // The controls of a port's exclusive use pass no memory, which valgrind does not know.
+            words = {"valgrind",
+                     "--quiet",
+                     "--sim-hints=lax-ioctls",
+                     "--leak-check=full",
+                     "--errors-for-leak-kinds=definite",
+                     "--show-leak-kinds=definite",
+                     "--error-exitcode=99",
+                     "--log-file=" + valgrindLogs_ + "/" + program + "-%p.log"};
+        }
+        words.push_back(std::string(VELMORA_BIN_DIR) + "/" + program);
         words.insert(words.end(), arguments.begin(), arguments.end());
         return words;
     }
@@ -50,6 +62,9 @@ class NativePrograms : public ProgramsUnderTest {
     }
     void stop(const Process& process) const override { process.signal(SIGTERM); }
     bool lost(const Finished& /*done*/) const override { return false; }
+
+  private:
+    std::string valgrindLogs_ = variable("VELMORA_E2E_VALGRIND");
 };
 
 class WinePrograms : public ProgramsUnderTest {

@@ -15,6 +15,8 @@ namespace velmora::e2e {
 ///   VELMORA_E2E_WINDOWS    folder of the Windows programs; without it both sides are native
 ///   VELMORA_E2E_SERVER     "native" takes the native server all the same
 ///   VELMORA_E2E_ORGANISER  "native" takes the native Organiser all the same
+///   VELMORA_E2E_VALGRIND   folder for the reports of valgrind, under which the native programs run then; one
+///                          with an error ends with status 99
 /// choose; Windows programs live in the prefix that WINEPREFIX names, whose wineserver must be running.
 class ProgramsUnderTest {
   public:
