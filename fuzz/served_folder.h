@@ -73,6 +73,7 @@ class ServedFolder {
 
     /// One event, as the link tells of it.
     void event(std::int32_t code, std::string payload = {}) {
+        const bool served = !dispatcher_.currentService().empty();
         window_.current = 6;
         sender_.frames.clear();
         trace_.entries.clear();
@@ -83,7 +84,7 @@ class ServedFolder {
             // One byte as a rule, a run-time error's number in digits, or none for the end of boot code.
             require(frame.type == FrameType::Data || frame.data.size() <= 3);
         }
-        if (dispatcher_.currentService().empty()) {
+        if (served && dispatcher_.currentService().empty()) {
             requireNothingLeft();
         }
     }
