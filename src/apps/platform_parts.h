@@ -7,6 +7,7 @@
 
 #include "apps/system_zone.h"
 #include "eventloop/adapter_monitor.h"
+#include "eventloop/lazy_timer.h"
 #include "eventloop/port_watcher.h"
 #include "eventloop/qt_event_yield.h"
 #include "eventloop/qt_timer.h"
@@ -28,7 +29,8 @@ struct PlatformParts {
           device(makeCommDevice(portNames)),
           watcher(std::move(poll), clock),
           port(*device, yield, &watcher),
-          ComTimer(watcher) {}
+          ComTimer(watcher, comTicks, clock),
+          PLPtimer(plpTicks, clock) {}
 
     NativeFolders folders;
     NativeFiles files;
@@ -41,8 +43,10 @@ struct PlatformParts {
     std::unique_ptr<CommDevice> device;
     PortWatcher watcher;
     myComm port;
-    WatchedTimer<QtTimer> ComTimer;
-    QtTimer PLPtimer;
+    QtTimer comTicks;  // what the next two are made of
+    QtTimer plpTicks;
+    WatchedTimer<LazyTimer> ComTimer;
+    LazyTimer PLPtimer;
     QtTimer DisplayTimer;
     QtTimer KeeperTimer;
     QtTimer SleepTimer;

@@ -6,6 +6,9 @@
 
 #include "eventloop/high_resolution_timer_win32.h"
 
+#include <QAbstractEventDispatcher>
+#include <chrono>
+
 namespace velmora {
 namespace {
 
@@ -46,22 +49,11 @@ HighResolutionTimer::HighResolutionTimer(Source source) {
         waitable_ =
             CreateWaitableTimerExW(nullptr, nullptr, CREATE_WAITABLE_TIMER_HIGH_RESOLUTION, TIMER_ALL_ACCESS);
     }
-    const auto pass = [this] {
-        if (enabled_) {
-            tick();
-        }
-    };
-    ticks_.onTick(pass);
-    if (waitable_ != nullptr) {
-        notifier_ = std::make_unique<QWinEventNotifier>();
-        notifier_->setHandle(waitable_);
-        QObject::connect(notifier_.get(), &QWinEventNotifier::activated, notifier_.get(), pass);
-    }
+    ticks_.onTick([this] { tick(); });
 }
 
 HighResolutionTimer::~HighResolutionTimer() {
     rest();
-    notifier_.reset();
     if (waitable_ != nullptr) {
         CloseHandle(waitable_);
     }
@@ -91,7 +83,8 @@ void HighResolutionTimer::run() {
         LARGE_INTEGER due{};
         due.QuadPart = -interval_.count() * kHundredNanosecondsInOne;  // below 0: from now on
         SetWaitableTimer(waitable_, &due, static_cast<LONG>(interval_.count()), nullptr, nullptr, FALSE);
-        notifier_->setEnabled(true);
+        loop_ = QObject::connect(QAbstractEventDispatcher::instance(),
+                                 &QAbstractEventDispatcher::aboutToBlock, [this] { waitForTicks(); });
     } else {
         timeBeginPeriod(kFinestPeriod);
         ticks_.setInterval(interval_);
@@ -105,13 +98,30 @@ void HighResolutionTimer::rest() {
     }
     running_ = false;
     if (waitable_ != nullptr) {
-        notifier_->setEnabled(false);
+        QObject::disconnect(loop_);
         CancelWaitableTimer(waitable_);
     } else {
         ticks_.setEnabled(false);
         timeEndPeriod(kFinestPeriod);
     }
     keepResolution(false);
+}
+
+void HighResolutionTimer::waitForTicks() {
+    while (running_) {
+        const DWORD came = MsgWaitForMultipleObjectsEx(1, &waitable_, INFINITE, QS_ALLINPUT,
+                                                       MWMO_ALERTABLE | MWMO_INPUTAVAILABLE);
+        if (came != WAIT_OBJECT_0) {
+            return;
+        }
+        const auto begin = std::chrono::steady_clock::now();
+        tick();
+        if (std::chrono::steady_clock::now() - begin >= interval_) {
+            // The next tick is due already and would be found before any message.
+            QAbstractEventDispatcher::instance()->wakeUp();
+            return;
+        }
+    }
 }
 
 }  // namespace velmora

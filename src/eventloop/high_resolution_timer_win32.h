@@ -3,8 +3,7 @@
 
 #include <windows.h>
 
-#include <QWinEventNotifier>
-#include <memory>
+#include <QObject>
 
 #include "base/timer.h"
 #include "eventloop/qt_timer.h"
@@ -15,6 +14,10 @@ namespace velmora {
 /// the system's clock, which is 15 ms as a rule. This one is a high-resolution waitable timer, which leaves
 /// that clock alone; where the system has none (before Windows 10, version 1803) the clock is made finer for
 /// as long as the timer is enabled.
+///
+/// The waitable timer is waited for in the event loop's stead: whenever the loop is about to wait for
+/// messages, this waits for them and for the timer, and hands back at the first message. The toolkit's own
+/// way to watch a handle takes a second thread, which would be woken for each tick only to wake this one.
 ///
 /// While it is enabled, a program whose windows are all hidden keeps its resolution, which Windows 11 takes
 /// away otherwise.
@@ -35,9 +38,10 @@ class HighResolutionTimer : public Timer {
   private:
     void run();
     void rest();
+    void waitForTicks();
 
     HANDLE waitable_ = nullptr;  // none: ticks_ does it
-    std::unique_ptr<QWinEventNotifier> notifier_;
+    QMetaObject::Connection loop_;
     QtTimer ticks_;
     std::chrono::milliseconds interval_{0};
     bool enabled_ = false;

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <utility>
 
 #include "base/clock.h"
 #include "serial/port_observer.h"
@@ -45,7 +46,10 @@ class PortWatcher : public PortObserver {
 template <typename TimerBase>
 class WatchedTimer : public TimerBase {
   public:
-    explicit WatchedTimer(PortWatcher& watcher) : watcher_(watcher) {}
+    /// `watcher` must outlive it; the rest is the timer's own.
+    template <typename... Arguments>
+    explicit WatchedTimer(PortWatcher& watcher, Arguments&&... rest)
+        : TimerBase(std::forward<Arguments>(rest)...), watcher_(watcher) {}
     void setEnabled(bool enabled) override {
         TimerBase::setEnabled(enabled);
         watcher_.setActive(enabled);
