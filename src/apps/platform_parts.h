@@ -8,6 +8,7 @@
 #include "apps/system_zone.h"
 #include "eventloop/adapter_monitor.h"
 #include "eventloop/lazy_timer.h"
+#include "eventloop/paced_yield.h"
 #include "eventloop/port_watcher.h"
 #include "eventloop/qt_event_yield.h"
 #include "eventloop/qt_timer.h"
@@ -38,7 +39,8 @@ struct PlatformParts {
     NativeProfileFiles profiles;
     NativeClock clock;
     SystemZone zone;
-    QtEventYield yield;
+    QtEventYield events;
+    PacedYield yield{events, clock};
     PortNames portNames;
     std::unique_ptr<CommDevice> device;
     PortWatcher watcher;

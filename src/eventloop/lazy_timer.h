@@ -8,9 +8,9 @@
 
 namespace velmora {
 
-/// A timer made of another one, for a user who stops and starts it with every byte of a conversation. To make and
-/// to end a timer of the system is dear on Windows, so stopping only marks it here, and starting anew only notes
-/// when it is due; the other timer runs on and finds out at its own tick whether it is time.
+/// A timer made of another one, for a user who stops and starts it with every byte of a conversation. To make
+/// and to end a timer of the system is dear on Windows, so stopping only marks it here, and starting anew
+/// only notes when it is due; the other timer runs on and finds out at its own tick whether it is time.
 ///
 /// A timer that was stopped for good therefore costs one more wake-up, and none after it.
 class LazyTimer : public Timer {

@@ -63,6 +63,23 @@ TEST_P(HighResolutionTimerTest, MayBeDisabledInItsOwnTick) {
     EXPECT_EQ(count, 1);
 }
 
+TEST_P(HighResolutionTimerTest, TicksThatTakeTooLongKeepNoEventWaiting) {
+    HighResolutionTimer timer(GetParam());
+    timer.setInterval(1ms);
+    timer.onTick([] {
+        const auto begin = std::chrono::steady_clock::now();
+        while (std::chrono::steady_clock::now() - begin < 3ms) {
+        }
+    });
+    QTimer event;
+    QObject::connect(&event, &QTimer::timeout, &event, [] { QCoreApplication::exit(); });
+    run([&] {
+        timer.setEnabled(true);
+        event.start(20ms);
+    });
+    timer.setEnabled(false);
+}
+
 INSTANTIATE_TEST_SUITE_P(Sources, HighResolutionTimerTest,
                          testing::Values(HighResolutionTimer::Source::Best,
                                          HighResolutionTimer::Source::SystemClock));
