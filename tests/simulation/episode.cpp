@@ -1,8 +1,10 @@
 #include "episode.h"
 
+#include <algorithm>
 #include <set>
 
 #include "organiser/conversation.h"
+#include "heap_use.h"
 #include "organiser_end.h"
 #include "serial/mode_string.h"
 #include "task.h"
@@ -12,6 +14,8 @@ namespace velmora::simulation {
 namespace {
 
 constexpr std::size_t kCrowd = 10'000;
+/// More than everything that serves the files of an episode.
+constexpr std::size_t kMostHeap = 2 * 1024 * 1024;
 
 /// How a conversation ended.
 struct Ending {
@@ -38,6 +42,7 @@ class Episode {
     void requireListedCode(const LinkFailure& failure) const;
     void requireAsAlways(const Task& task, const Ending& ending) const;
     void requireStatistics(const Task& task, bool told);
+    void requireBoundedHeap();
     void letThingsSettle();
     bool serves();
     void requireServes();
@@ -49,6 +54,7 @@ class Episode {
     OrganiserEnd end_;
     OrganiserLink link_;
     EpisodeResult result_;
+    std::size_t heapAtFirst_ = 0;
 };
 
 ServerSettings anySettings(Random& random) {
@@ -63,11 +69,13 @@ ServerSettings anySettings(Random& random) {
 
 EpisodeResult Episode::run() {
     crowdFolder();
+    heapAtFirst_ = heapInUse();
     std::size_t number = 0;
     try {
         for (const Step& step : plan_.steps) {
             ++number;
             runStep(step);
+            requireBoundedHeap();
         }
     } catch (const Violation& violation) {
         result_.violation = "Step " + std::to_string(number) + ", " +
@@ -192,6 +200,13 @@ void Episode::requireStatistics(const Task& task, bool told) {
     require(shown.bytesReceived <= most.bytesReceived && shown.bytesSent <= most.bytesSent &&
                 shown.filesReceived <= most.filesReceived && shown.filesSent <= most.filesSent,
             "The counters tell more than went over the line.");
+}
+
+void Episode::requireBoundedHeap() {
+    const std::size_t known = heapAtFirst_ + journal_.text().capacity() + world_.disk().heldBytes();
+    const std::size_t now = heapInUse();
+    result_.heap = std::max(result_.heap, now - std::min(now, known));
+    require(result_.heap <= kMostHeap, "The server holds more and more memory.");
 }
 
 /// Copies of frames that a bad line held back arrive; a user is slower than that.

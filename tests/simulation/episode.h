@@ -15,6 +15,7 @@ struct EpisodeResult {
     std::uint64_t transfers = 0;           ///< files and sheets sent or asked for
     std::uint64_t completed = 0;           ///< of which the Organiser was told the good end
     FaultCounts faults{};
+    std::size_t heap = 0;        ///< the most bytes that a step left held, beside those of the beginning
     std::uint64_t checkSum = 0;  ///< of the journal
     std::string journal;         ///< its text, if it is kept
 };

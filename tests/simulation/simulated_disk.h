@@ -45,6 +45,9 @@ class SimulatedDisk : public Files {
     /// The paths of all files of a folder, in order.
     std::vector<std::string> paths(const std::string& folder) const;
 
+    /// What all files take in memory, about.
+    std::size_t heldBytes() const;
+
     /// The file on which other programs act.
     void setTarget(const std::string& path) { target_ = path; }
     /// The faults of the step are over: there is room again.

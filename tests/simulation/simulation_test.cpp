@@ -39,6 +39,33 @@ TEST(Simulation, EveryPromiseIsKeptAndEveryFaultComesToPass) {
     }
 }
 
+/// A plan without faults, the server never stopped.
+Plan quietPlan(std::size_t steps) {
+    Plan plan = Plan::ofSeed(3);
+    while (plan.steps.size() < steps) {
+        const Plan more = Plan::ofSeed(1'000 + plan.steps.size());
+        plan.steps.insert(plan.steps.end(), more.steps.begin(), more.steps.end());
+    }
+    plan.crowded = false;
+    for (Step& step : plan.steps) {
+        step.faults.clear();
+    }
+    plan.steps.erase(std::remove_if(plan.steps.begin(), plan.steps.end(),
+                                    [](const Step& step) {
+                                        return step.action == Action::Exit || step.action == Action::Shutdown;
+                                    }),
+                     plan.steps.end());
+    return plan;
+}
+
+TEST(Simulation, AServerThatServesForLongHoldsNoMoreMemory) {
+    const EpisodeResult one = runEpisode(quietPlan(300));
+    const EpisodeResult ten = runEpisode(quietPlan(3000));
+    EXPECT_EQ(ten.violation, std::nullopt);
+    EXPECT_GT(one.heap, 0U);
+    EXPECT_LE(ten.heap, one.heap + 200'000) << "some 70 bytes for each request would be more";
+}
+
 bool has(const Plan& plan, FaultKind kind) {
     return std::any_of(plan.steps.begin(), plan.steps.end(), [&](const Step& step) {
         return std::any_of(step.faults.begin(), step.faults.end(),
