@@ -9,9 +9,9 @@
 
 namespace velmora {
 
-/// Passes a call on when the last one that it passed on is twenty milliseconds past. A conversation yields several times
-/// for each byte, a look at the event loop is some ten calls of the system on Windows, and the loop itself runs
-/// between two bytes anyway.
+/// Passes a call on when the last one that it passed on is twenty milliseconds past. A conversation yields
+/// several times for each byte, a look at the event loop is some ten calls of the system on Windows, and the
+/// loop itself runs between two bytes anyway.
 class PacedYield : public EventYield {
   public:
     static constexpr std::chrono::milliseconds kInterval{20};

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <set>
 
-#include "organiser/conversation.h"
 #include "heap_use.h"
+#include "organiser/conversation.h"
 #include "organiser_end.h"
 #include "serial/mode_string.h"
 #include "task.h"
