@@ -31,17 +31,25 @@ void Inhibitor::ask(qsizetype wish) {
     request.setAutoStartService(false);
     request.setArguments({wishes_[wish], QStringLiteral("Velmora"), why_, mode_});
     call_ = std::make_unique<QDBusPendingCallWatcher>(bus_.asyncCall(request));
-    QObject::connect(call_.get(), &QDBusPendingCallWatcher::finished, call_.get(), [this, wish] {
-        // It is in the middle of telling this.
-        QDBusPendingCallWatcher* const answered = call_.release();
-        answered->deleteLater();
-        const QDBusPendingReply<QDBusUnixFileDescriptor> reply = *answered;
-        if (reply.isError()) {
-            ask(wish + 1);
-        } else {
-            held_ = reply.value();
-        }
-    });
+    // Queued, so that the call can be done away with there: an answer that came before the event loop ran
+    // would outlive its deleteLater, and its copy of the descriptor would hold on.
+    QObject::connect(
+        call_.get(), &QDBusPendingCallWatcher::finished, &context_,
+        [this, wish, asked = ++asked_] {
+            if (asked == asked_ && call_ != nullptr) {
+                answered(wish);
+            }
+        },
+        Qt::QueuedConnection);
+}
+
+void Inhibitor::answered(qsizetype wish) {
+    const QDBusPendingReply<QDBusUnixFileDescriptor> reply = *std::exchange(call_, nullptr);
+    if (reply.isError()) {
+        ask(wish + 1);
+    } else {
+        held_ = reply.value();
+    }
 }
 
 }  // namespace velmora

@@ -4,8 +4,10 @@
 #include <QDBusConnection>
 #include <QDBusPendingCallWatcher>
 #include <QDBusUnixFileDescriptor>
+#include <QObject>
 #include <QString>
 #include <QStringList>
+#include <cstdint>
 #include <memory>
 
 namespace velmora {
@@ -26,13 +28,16 @@ class Inhibitor {
 
   private:
     void ask(qsizetype wish);
+    void answered(qsizetype wish);
 
     QDBusConnection bus_;
     QStringList wishes_;
     QString why_;
     QString mode_;
     std::unique_ptr<QDBusPendingCallWatcher> call_;  // while there is no answer
+    std::uint64_t asked_ = 0;                        // so often: an answer may be to an earlier question
     QDBusUnixFileDescriptor held_;
+    QObject context_;  // what the answers are for
 };
 
 }  // namespace velmora
