@@ -29,7 +29,7 @@ struct PlatformParts {
           profiles(files, rules),
           device(makeCommDevice(portNames)),
           watcher(std::move(poll), clock),
-          port(*device, yield, &watcher),
+          port(*device, readYield, &watcher),
           ComTimer(watcher, comTicks, clock),
           PLPtimer(plpTicks, clock) {}
 
@@ -39,8 +39,8 @@ struct PlatformParts {
     NativeProfileFiles profiles;
     NativeClock clock;
     SystemZone zone;
-    QtEventYield events;
-    PacedYield yield{events, clock};
+    QtEventYield yield;
+    PacedYield readYield{yield, clock};  // for each byte of a conversation
     PortNames portNames;
     std::unique_ptr<CommDevice> device;
     PortWatcher watcher;

@@ -10,7 +10,7 @@ ServerCore::ServerCore(const ServerCoreParts& parts)
                    parts.PLPtimer, parts.DisplayTimer, parts.clock, parts.yield,
                    [this](const std::string& path) { return tools_.displayName(path); }, parts.portName,
                    parts.portWatched, parts.started}),
-      link_(crc, controller_, parts.ComTimer, parts.trace, parts.yield, parts.clock),
+      link_(crc, controller_, parts.ComTimer, parts.trace, parts.readYield, parts.clock),
       linkControl_(link_),
       dispatcher_(link_, controller_, parts.trace),
       transferLog_(controller_, parts.trace, parts.rules),

@@ -61,6 +61,7 @@ struct ServerCoreParts {
     const Clock& clock;
     const ZoneSource& zone;
     EventYield& yield;
+    EventYield& readYield;                            ///< what the link uses between two reads
     std::string programData;                          ///< KnownFolders::programData()
     std::function<std::string(int number)> portName;  ///< as ServerParts has it
     std::function<bool()> portWatched;                ///< as ServerParts has it

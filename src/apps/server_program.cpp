@@ -16,7 +16,8 @@ ServerProgram::ServerProgram(PlatformParts& platform, RunOverrides overrides, co
       debug_(face.trace),
       core_({face.view, face.box, platform.files, platform.rules, platform.port, debug_, platform.ComTimer,
              platform.PLPtimer, platform.DisplayTimer, platform.clock, platform.zone, platform.yield,
-             platform.folders.programData(), [this](int number) { return portName(number); },
+             platform.readYield, platform.folders.programData(),
+             [this](int number) { return portName(number); },
              [&platform] { return platform.watcher.watches(); },
              [this] {
                  slowPort_.opened(portDevice(), platform_.device->heldBack(), platform_.port.Settings());

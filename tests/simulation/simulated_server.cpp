@@ -105,6 +105,7 @@ struct SimulatedServer::Parts {
                                                             time,
                                                             zone,
                                                             yield,
+                                                            yield,
                                                             kProgramData,
                                                             {},
                                                             {},
