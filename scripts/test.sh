@@ -14,8 +14,8 @@ if [[ "${1:-}" == --valgrind ]]; then
   passed=true
   VELMORA_E2E_VALGRIND=$logs build/tests/e2e_tests --gtest_brief=1 \
     --gtest_filter='TransferTest.*:FileServiceTest.*:ServicesTest.*:SavedFilesTest.*:EarlierCopiesTest.*' || passed=false
-  find "$logs" -size +0 -exec cat {} +
-  echo "valgrind: $(find "$logs" -type f | wc -l) programs run, $(find "$logs" -size +0 | wc -l) with errors"
+  find "$logs" -type f -size +0 -exec cat {} +
+  echo "valgrind: $(find "$logs" -type f | wc -l) programs run, $(find "$logs" -type f -size +0 | wc -l) with errors"
   $passed
   exit
 fi
