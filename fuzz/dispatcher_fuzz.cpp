@@ -13,6 +13,7 @@ using namespace velmora;
 using namespace fuzz;
 using test::FileCall;
 
+/// One of the usual names, or any text.
 std::string name(Input& input) {
     const std::vector<std::string>& names = usualNames();
     const std::size_t choice = input.byte();

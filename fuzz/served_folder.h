@@ -106,7 +106,7 @@ class ServedFolder {
         };
     }
     SmallDisk& disk() { return disk_; }
-    /// Another program deletes a file, if it is there, or writes it.
+    /// Another program deletes a file, if it is there.
     void deleteFile(const std::string& name) {
         if (memory_.fileExists(kFolder + "/" + name)) {
             memory_.deleteFile(kFolder + "/" + name);
