@@ -322,6 +322,25 @@ TEST_F(LinkReentryTest, AStopInsideAStopIsDoneOnce) {
     EXPECT_EQ(countTraced("COM", "PLP_STOPPED"), 1U);
 }
 
+TEST_F(LinkReentryTest, EveryStopIsTraced) {
+    for (int run = 1; run <= 2; ++run) {
+        bringTo(LinkState::Ready);
+        stop();
+        EXPECT_EQ(countTraced("PLP", "PLP stopping"), 1U) << run;
+    }
+}
+
+TEST_F(LinkReentryTest, AFrameWhoseServiceStopsTheLinkLeavesNoStateToTrace) {
+    bringTo(LinkState::Ready);
+    services.onEvent = [this](std::int32_t&, std::string&) {
+        services.onEvent = nullptr;
+        stop();
+        trace.entries.clear();
+    };
+    arrive(FrameType::Data, 2, "x");
+    EXPECT_EQ(countTraced("STATE", ""), 1U) << "that of the receive event";
+}
+
 TEST_F(LinkReentryTest, AStartInsideAStartIsTheSameLink) {
     port.onSend = [this](const std::string&) {
         port.onSend = nullptr;

@@ -53,6 +53,12 @@ TEST_F(BootServiceTest, TheNameIsAnsweredWithTheLengthOfTheCode) {
     EXPECT_EQ(memory.openFiles(), 0);
 }
 
+TEST_F(BootServiceTest, TheFileIsShownAsItIsStored) {
+    memory.addFile("/psion/PROG.BIN", makeBootFile("code", {}));
+    message("PROG");
+    EXPECT_EQ(window.currentFile, "/psion/PROG.BIN");
+}
+
 TEST_F(BootServiceTest, CodeIsSentInChunksWithTheirAddresses) {
     const std::string code = codeOf(450);
     addBootFile(code);

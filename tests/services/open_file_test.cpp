@@ -498,6 +498,14 @@ TEST_F(OpenFileTest, ANewFileInWhichNothingArrivedIsIncomplete) {
     EXPECT_EQ(window.reports, std::vector<std::string>{"f is incomplete: 0 bytes arrived."});
 }
 
+TEST_F(OpenFileTest, AnObjectThatGoesTellsOfTheSaveThatItLeaves) {
+    {
+        OpenFile leaving(files, rules, window, copies, log);
+        ASSERT_EQ(leaving.open_File("/psion/f", kModeCreate, kKindText), kOpenForWriting);
+    }
+    EXPECT_EQ(window.reports, std::vector<std::string>{"f is incomplete: 0 bytes arrived."});
+}
+
 TEST_F(OpenFileTest, AppendingNothingAndReadingLeaveNothingIncomplete) {
     add("old");
     for (const int mode : {0, 4}) {
