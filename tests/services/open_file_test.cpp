@@ -181,6 +181,13 @@ TEST_F(OpenFileTest, TextIsAppendedOnANewLine) {
     EXPECT_EQ(window.stats[StatsBytesReceived], 5 + 7);
 }
 
+TEST_F(OpenFileTest, AFileOfOneCharacterIsALineToo) {
+    add("x");
+    open(kModeAppend, kKindText);
+    file.writeRecord("two");
+    EXPECT_EQ(content(), "x\r\ntwo\r\n");
+}
+
 TEST_F(OpenFileTest, OpeningForAppendingAloneChangesNothing) {
     add("one");
     open(4, kKindText);
