@@ -28,7 +28,7 @@ endif()
 function(velmora_library name)
   cmake_parse_arguments(ARG "" "" "SOURCES;LIBS" ${ARGN})
   add_library(velmora_${name} STATIC ${ARG_SOURCES})
-  target_link_libraries(velmora_${name} PUBLIC velmora_flags ${ARG_LIBS} PRIVATE velmora_hardening)
+  target_link_libraries(velmora_${name} PUBLIC velmora_flags ${ARG_LIBS} PRIVATE velmora_hardening velmora_coverage)
 endfunction()
 
 # velmora_test(NAME SOURCES a_test.cpp … [LIBS layer …] [LABELS label …] [TOOLKIT])

@@ -36,9 +36,8 @@ scripts/check-format.sh
 stage "Fuzzers"
 scripts/fuzz.sh --corpus
 scripts/fuzz.sh 10
-stage "Unit tests under the address and undefined-behaviour sanitizers"
-scripts/build-sanitize.sh
-ctest --test-dir build-sanitize --output-on-failure -j "$jobs" -LE e2e --progress
+stage "Unit tests under the address and undefined-behaviour sanitizers, and what they reach"
+scripts/coverage.sh
 stage "Programs as they are released"
 scripts/build.sh build -DCMAKE_BUILD_TYPE=Release -DCMAKE_CXX_FLAGS_RELEASE="-O2 -DNDEBUG" -DBUILD_TESTING=ON \
   -DVELMORA_WERROR=ON -DVELMORA_BENCH=ON -- programs e2e_tests benchmarks velmora-simulate
