@@ -74,7 +74,7 @@ std::string linkStateName(LinkState state) {
         case LinkState::WaitAck:
             return "wait_ack  ";
     }
-    return std::string(10, ' ');
+    return std::string(10, ' ');  // unreachable: every state is above
 }
 
 void Debug::trace(std::string_view categories, std::string_view label, std::string_view data) {

@@ -82,21 +82,17 @@ PLP::Verdict PLP::takeConnect(std::uint8_t sequence) {
             return answerLinkRequest(sequence);
         }
     }
-    return Verdict::Reject;
+    return Verdict::Reject;  // unreachable: every state is above
 }
 
 PLP::Verdict PLP::answerLinkRequest(std::uint8_t sequence) {
-    const Run run(*this);
     receiveSequence_ = sequence;
     sendSequence_ = kFirstSequence;
-    const bool sent = sendFrame(FrameType::Ack, {});
-    if (run.over()) {
+    if (!sendFrame(FrameType::Ack, {})) {  // a failed write has its own state to show
         return Verdict::Ignore;
     }
     state_ = LinkState::Linking;
-    if (sent) {  // a failed write has its own state to show
-        window_.setState(Connect);
-    }
+    window_.setState(Connect);
     return Verdict::Accept;
 }
 
@@ -133,8 +129,7 @@ PLP::Verdict PLP::takeFirstData(ParsedFrame& frame) {
     state_ = LinkState::Ready;
     receiveSequence_ = kFirstSequence;
     sendSequence_ = kFirstSequence;
-    const bool sent = sendFrame(FrameType::Ack, {});
-    if (sent && !run.over()) {
+    if (sendFrame(FrameType::Ack, {})) {
         window_.setState(Connect);
     }
     if (!run.over() && !frame.data.empty()) {

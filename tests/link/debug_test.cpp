@@ -167,7 +167,10 @@ TEST_F(DebugTest, AStateEntryShowsTheStateAlone) {
     EXPECT_EQ(lineOf("STATE", {}, {}), "\tStatus=idle      ") << "before a link is there to ask";
     debug.showStateOf([] { return LinkState::Linking; });
     EXPECT_EQ(lineOf("STATE", {}, {}), "\tStatus=linking   ");
+    EXPECT_EQ(lineOf("PLP,STATE,COM", {}, {}), "\tStatus=linking   ") << "wherever the category stands";
     EXPECT_EQ(lineOf("STATE", "labelled", {}), "labelled \t");
+    EXPECT_EQ(lineOf("STATE", {}, "data"), " \tdata");
+    EXPECT_EQ(lineOf("COM", {}, {}), " \t");
 }
 
 }  // namespace

@@ -8,6 +8,7 @@ namespace velmora {
 namespace {
 
 using namespace std::chrono_literals;
+using testing::Contains;
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::Pair;
@@ -112,6 +113,18 @@ TEST_F(FailedPortTest, AfterAFailedReadNothingIsWritten) {
     plp.PLP_Timeout();
     EXPECT_FALSE(plp.PLP_Send(FrameType::Data, "x"));
     EXPECT_THAT(sent(), IsEmpty());
+}
+
+TEST_F(FailedPortTest, APortThatDoesNotCloseIsTracedAndGivenUp) {
+    class Stuck : public test::ScriptedPort {
+        bool ClosePort() override { throw CommError(kCommFailed, "Error (5): CommClose", "ClosePort"); }
+    } stuck;
+    plp.PLP_Start(stuck, plpTimer);
+    plp.PLP_Stop();
+    EXPECT_THAT(traced(), Contains("COM,ERROR|ERROR|Error (5): CommClose"));
+    EXPECT_FALSE(plpTimer.enabled());
+    EXPECT_TRUE(plp.isConsistent());
+    EXPECT_EQ(start(), 1) << "another port can be used";
 }
 
 TEST_F(FailedPortTest, TheNextStartFindsAWholeLink) {

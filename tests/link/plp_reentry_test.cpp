@@ -279,6 +279,36 @@ INSTANTIATE_TEST_SUITE_P(Everywhere, LinkInterrupted, testing::ValuesIn(allCases
 
 class LinkReentryTest : public testing::Test, protected test::LinkRig {};
 
+TEST_F(LinkReentryTest, AStopUnderAnOpeningThatFailsIsNotUndone) {
+    class Slow : public test::ScriptedPort {
+      public:
+        explicit Slow(PLP& plp) : plp_(plp) {}
+        bool OpenPort() override {
+            plp_.PLP_Stop();
+            throw CommError(kCommInvalidPort, "No such port", "OpenPort");
+        }
+
+      private:
+        PLP& plp_;
+    } slow(plp);
+    EXPECT_EQ(plp.PLP_Start(slow, plpTimer), kStartPortNotAccessible);
+    EXPECT_TRUE(plp.isConsistent());
+    EXPECT_EQ(countTraced("COM", "PLP_STOPPED"), 1U);
+}
+
+TEST_F(LinkReentryTest, AStopUnderTheWordOfTooManyErrorsSendsNothingMore) {
+    bringTo(LinkState::WaitAck);
+    window.onErrorMsg = [this] {
+        forget();
+        stop();
+    };
+    spendTheBudget(*this);
+    EXPECT_THAT(window.errors, ElementsAre("Too many send errors!"));
+    EXPECT_THAT(sent(), IsEmpty());
+    EXPECT_FALSE(port.open);
+    EXPECT_TRUE(plp.isConsistent());
+}
+
 TEST_F(LinkReentryTest, APortClosedUnderAWriteIsNoSendError) {
     bringTo(LinkState::Ready);
     port.onSend = [this](const std::string&) {

@@ -31,6 +31,12 @@ INSTANTIATE_TEST_SUITE_P(Rows, MapErrorTest,
                                          MapRow{"DeviceIoError", ErrorNumber::DeviceIoError, 188},
                                          MapRow{"TooManyFiles", ErrorNumber::TooManyFiles, 188},
                                          MapRow{"OutOfMemory", ErrorNumber::OutOfMemory, 188},
+                                         MapRow{"InvalidProcedureCall", ErrorNumber::InvalidProcedureCall,
+                                                188},
+                                         MapRow{"Overflow", ErrorNumber::Overflow, 188},
+                                         MapRow{"SubscriptOutOfRange", ErrorNumber::SubscriptOutOfRange, 188},
+                                         MapRow{"TypeMismatch", ErrorNumber::TypeMismatch, 188},
+                                         MapRow{"DeviceUnavailable", ErrorNumber::DeviceUnavailable, 188},
                                          MapRow{"DiskNotReady", ErrorNumber::DiskNotReady, 188}),
                          [](const auto& row) { return row.param.name; });
 

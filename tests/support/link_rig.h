@@ -50,8 +50,15 @@ class BusyWindow : public RecordingWindow {
             onWarning();
         }
     }
+    void setErrorMsg(const std::string& text) override {
+        RecordingWindow::setErrorMsg(text);
+        if (onErrorMsg) {
+            onErrorMsg();
+        }
+    }
     std::function<void(std::int32_t)> onState;
     std::function<void()> onWarning;
+    std::function<void()> onErrorMsg;
 };
 
 /// A port in which other handlers run during a read.
