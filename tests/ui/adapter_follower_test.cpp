@@ -10,7 +10,6 @@ namespace velmora {
 namespace {
 
 using std::chrono::milliseconds;
-using std::chrono::seconds;
 
 constexpr milliseconds kHalfASecond{500};
 
@@ -28,12 +27,12 @@ class AdapterFollowerTest : public testing::Test {
 
 TEST_F(AdapterFollowerTest, APlugIsSeenWithinHalfASecondAndNothingElseIsLookedFor) {
     follow(true);
-    time.advance(seconds(60));
+    time.advance(std::chrono::seconds(60));
     EXPECT_EQ(looks, 0);
     follower->adaptersChanged();
     time.advance(kHalfASecond);
     EXPECT_EQ(looks, 1);
-    time.advance(seconds(60));
+    time.advance(std::chrono::seconds(60));
     EXPECT_EQ(looks, 1);
 }
 
@@ -68,7 +67,7 @@ TEST_F(AdapterFollowerTest, AListThatIsGoneIsNotLookedUp) {
     follow(true);
     follower->adaptersChanged();
     follower.reset();
-    time.advance(seconds(1));
+    time.advance(std::chrono::seconds(1));
     EXPECT_EQ(looks, 0);
 }
 
