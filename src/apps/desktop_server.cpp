@@ -9,7 +9,7 @@
 namespace velmora {
 
 DesktopServer::DesktopServer(const RunOverrides& overrides)
-    : platform_([this] { controller().ComTimer_Tick(); }),
+    : platform_([this] { controller().ComTimer_Tick(); }, [this] { return program_.core().soonestFrame(); }),
       dialogs_(platform_.clock, platform_.portNames),
       box_(&window_),
       program_(platform_, overrides,

@@ -22,13 +22,19 @@ namespace velmora {
 
 /// One object of each kind, for a program with an event loop.
 struct PlatformParts {
-    /// `poll` reads what waits at the port; it runs on the event loop as soon as bytes come.
-    explicit PlatformParts(std::function<void()> poll)
+    /// `poll` reads what waits at the port; it runs on the event loop as soon as bytes come. `soonestFrame`
+    /// is the link's.
+    PlatformParts(std::function<void()> poll, std::function<std::chrono::nanoseconds()> soonestFrame)
         : files(folders.temporary()),
           rules(currentFolder()),
           profiles(files, rules),
           device(makeCommDevice(portNames)),
-          watcher(std::move(poll), clock),
+          watcher(
+              [this, poll = std::move(poll)] {
+                  readYield.loopRuns();
+                  poll();
+              },
+              std::move(soonestFrame), clock),
           port(*device, readYield, &watcher),
           ComTimer(watcher, comTicks, clock),
           PLPtimer(plpTicks, clock) {}

@@ -103,6 +103,8 @@ class ServerCore {
     /// over; call it when start-up has read them.
     void applySettings(const Settings& settings);
 
+    /// As PLP has it.
+    std::chrono::nanoseconds soonestFrame() const { return link_.soonestFrame(); }
     ServerController& controller() { return controller_; }
     const ServerController& controller() const { return controller_; }
     /// An adapter came, went or changed.

@@ -61,8 +61,12 @@ HighResolutionTimer::~HighResolutionTimer() {
 
 void HighResolutionTimer::setInterval(std::chrono::milliseconds interval) {
     interval_ = interval;
-    rest();
-    run();
+    if (running_ && waitable_ != nullptr && interval_.count() > 0) {
+        arm();
+    } else {
+        rest();
+        run();
+    }
 }
 
 void HighResolutionTimer::setEnabled(bool enabled) {
@@ -80,9 +84,7 @@ void HighResolutionTimer::run() {
     running_ = true;
     keepResolution(true);
     if (waitable_ != nullptr) {
-        LARGE_INTEGER due{};
-        due.QuadPart = -interval_.count() * kHundredNanosecondsInOne;  // below 0: from now on
-        SetWaitableTimer(waitable_, &due, static_cast<LONG>(interval_.count()), nullptr, nullptr, FALSE);
+        arm();
         loop_ = QObject::connect(QAbstractEventDispatcher::instance(),
                                  &QAbstractEventDispatcher::aboutToBlock, [this] { waitForTicks(); });
     } else {
@@ -90,6 +92,13 @@ void HighResolutionTimer::run() {
         ticks_.setInterval(interval_);
         ticks_.setEnabled(true);
     }
+}
+
+/// Starts the count-down of the waitable timer.
+void HighResolutionTimer::arm() {
+    LARGE_INTEGER due{};
+    due.QuadPart = -interval_.count() * kHundredNanosecondsInOne;  // below 0: from now on
+    SetWaitableTimer(waitable_, &due, static_cast<LONG>(interval_.count()), nullptr, nullptr, FALSE);
 }
 
 void HighResolutionTimer::rest() {

@@ -37,6 +37,7 @@ class HighResolutionTimer : public Timer {
 
   private:
     void run();
+    void arm();
     void rest();
     void waitForTicks();
 

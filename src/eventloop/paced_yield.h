@@ -9,9 +9,9 @@
 
 namespace velmora {
 
-/// Passes a call on when the last one that it passed on is twenty milliseconds past. A conversation yields
-/// several times for each byte, a look at the event loop is some ten calls of the system on Windows, and the
-/// loop itself runs between two bytes anyway.
+/// Passes a call on when the event loop has not run for twenty milliseconds. A conversation yields several
+/// times for each byte, a look at the event loop is some ten calls of the system on Windows, and the loop
+/// itself runs between two bytes anyway.
 class PacedYield : public EventYield {
   public:
     static constexpr std::chrono::milliseconds kInterval{20};
@@ -20,12 +20,13 @@ class PacedYield : public EventYield {
     PacedYield(EventYield& yield, const Clock& clock) : yield_(yield), clock_(clock) {}
 
     void processEvents() override {
-        const auto now = clock_.monotonic();
-        if (!last_ || now - *last_ >= kInterval) {
-            last_ = now;
+        if (!last_ || clock_.monotonic() - *last_ >= kInterval) {
+            loopRuns();
             yield_.processEvents();
         }
     }
+    /// The event loop runs, and has called whatever yields next.
+    void loopRuns() { last_ = clock_.monotonic(); }
 
   private:
     EventYield& yield_;

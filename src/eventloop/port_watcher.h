@@ -1,6 +1,7 @@
 // Waking up when bytes come.
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -13,16 +14,18 @@ namespace velmora {
 
 /// Watches the open port, so that the poll runs as soon as bytes wait instead of at its next tick. On Windows
 /// nothing tells of them: a COM port that is not overlapped has no handle to wait on. There the port is
-/// looked at every millisecond for as long as bytes keep coming (QueueWatch), and the first of them are found
-/// by the poll.
+/// looked at up to every millisecond for as long as bytes keep coming (QueueWatch), and the first of them are
+/// found by the poll.
 ///
 /// The poll may be switched off while the link works; the watch then rests with it, since a descriptor that
 /// stays readable would otherwise keep the event loop busy. For the same reason it rests once it has woken
 /// the poll, until that is switched on again, as a poll that reads is, or ticks.
 class PortWatcher : public PortObserver {
   public:
-    /// `onReadable` runs on the event loop when the port has bytes or has hung up. `clock` must outlive it.
-    PortWatcher(std::function<void()> onReadable, const Clock& clock);
+    /// `onReadable` runs on the event loop when the port has bytes or has hung up. `soonestFrame`: how long
+    /// it takes at least until bytes make a frame whole. `clock` must outlive it.
+    PortWatcher(std::function<void()> onReadable, std::function<std::chrono::nanoseconds()> soonestFrame,
+                const Clock& clock);
     ~PortWatcher() override;
     PortWatcher(const PortWatcher&) = delete;
     PortWatcher& operator=(const PortWatcher&) = delete;

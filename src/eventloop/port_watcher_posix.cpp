@@ -43,7 +43,8 @@ class PortWatcher::Watch {
     bool active_ = true;
 };
 
-PortWatcher::PortWatcher(std::function<void()> onReadable, const Clock& /*clock*/)
+PortWatcher::PortWatcher(std::function<void()> onReadable,
+                         std::function<std::chrono::nanoseconds()> /*soonestFrame*/, const Clock& /*clock*/)
     : watch_(std::make_unique<Watch>(std::move(onReadable))) {}
 PortWatcher::~PortWatcher() = default;
 

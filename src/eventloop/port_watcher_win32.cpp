@@ -22,8 +22,9 @@ bool bytesWait(std::intptr_t handle) {
 
 class PortWatcher::Watch {
   public:
-    Watch(std::function<void()> onReadable, const Clock& clock)
-        : queue_(timer_, clock, bytesWait, std::move(onReadable)) {}
+    Watch(std::function<void()> onReadable, std::function<std::chrono::nanoseconds()> soonestFrame,
+          const Clock& clock)
+        : queue_(timer_, clock, bytesWait, std::move(soonestFrame), std::move(onReadable)) {}
     QueueWatch& queue() { return queue_; }
 
   private:
@@ -31,8 +32,9 @@ class PortWatcher::Watch {
     QueueWatch queue_;
 };
 
-PortWatcher::PortWatcher(std::function<void()> onReadable, const Clock& clock)
-    : watch_(std::make_unique<Watch>(std::move(onReadable), clock)) {}
+PortWatcher::PortWatcher(std::function<void()> onReadable,
+                         std::function<std::chrono::nanoseconds()> soonestFrame, const Clock& clock)
+    : watch_(std::make_unique<Watch>(std::move(onReadable), std::move(soonestFrame), clock)) {}
 PortWatcher::~PortWatcher() = default;
 
 void PortWatcher::portOpened(std::intptr_t handle) {

@@ -1,13 +1,18 @@
 #include "eventloop/queue_watch.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace velmora {
 
 QueueWatch::QueueWatch(Timer& timer, const Clock& clock, std::function<bool(std::intptr_t)> bytesWait,
-                       std::function<void()> poll)
-    : timer_(timer), clock_(clock), bytesWait_(std::move(bytesWait)), poll_(std::move(poll)) {
-    timer_.setInterval(kInterval);
+                       std::function<std::chrono::nanoseconds()> soonestFrame, std::function<void()> poll)
+    : timer_(timer),
+      clock_(clock),
+      bytesWait_(std::move(bytesWait)),
+      soonestFrame_(std::move(soonestFrame)),
+      poll_(std::move(poll)) {
+    timer_.setInterval(kShortest);
     timer_.onTick([this] { look(); });
 }
 
@@ -32,8 +37,20 @@ void QueueWatch::portRead() {
 void QueueWatch::look() {
     if (clock_.monotonic() - lastRead_ >= kWarmFor) {
         timer_.setEnabled(false);
-    } else if (active_ && bytesWait_(handle_)) {
+        return;
+    }
+    if (active_ && bytesWait_(handle_)) {
         poll_();
+    }
+    pace();
+}
+
+/// Sets the interval only when it changes, which costs more than a look.
+void QueueWatch::pace() {
+    const auto wanted =
+        std::clamp(std::chrono::floor<std::chrono::milliseconds>(soonestFrame_()), kShortest, kLongest);
+    if (timer_.interval() != wanted) {
+        timer_.setInterval(wanted);
     }
 }
 

@@ -53,6 +53,15 @@ bool FrameCutter::skipHeader() {
     return seekHeader();
 }
 
+std::size_t FrameCutter::leastToCome() const {
+    constexpr std::size_t kEnd = 4;  // DLE ETX and the check
+    if (!inFrame_) {
+        return kHeaderLength + kEnd - std::min(heldBytes(), kHeaderLength - 1);
+    }
+    // The search stands at a DLE that may begin the end, or behind all that came.
+    return kEnd - std::min(buffer_.size() - scan_, kEnd - 1);
+}
+
 std::optional<std::string_view> FrameCutter::next() {
     if (!inFrame_ && !seekHeader()) {
         return std::nullopt;

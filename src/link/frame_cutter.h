@@ -30,6 +30,10 @@ class FrameCutter {
     /// Forgets everything received.
     void clear();
 
+    /// How many bytes must come at least until a frame is complete: 1 to 7. Counts once next() has returned
+    /// nothing.
+    std::size_t leastToCome() const;
+
     /// Bytes that wait for the rest of their frame: at most the capacity once next() has returned nothing.
     std::size_t heldBytes() const { return buffer_.size() - begin_; }
     /// Bytes dropped so far because they belonged to no frame.

@@ -82,6 +82,10 @@ class PLP : public FrameSender {
     /// and when the event that is being answered belongs to a run of the link that has ended meanwhile.
     bool PLP_Send(FrameType type, std::string_view data) override;
 
+    /// How long it takes at least, from now on, until a frame can have come whole: a byte may be here all but
+    /// its end, those that its frame lacks beside it are not. To look at the port before is of no use.
+    std::chrono::nanoseconds soonestFrame() const { return wire_.of(cutter_.leastToCome() - 1); }
+
     /// Flags for the services that ask the server to stop.
     StopRequests& stopRequests() { return stopRequests_; }
     LinkState linkState() const { return state_; }

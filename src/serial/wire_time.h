@@ -24,6 +24,10 @@ class WireTime {
     /// An idle line with these settings.
     explicit WireTime(const LineSettings& settings) : byteTime_(byteTime(settings)) {}
 
+    /// The time that so many bytes take.
+    std::chrono::nanoseconds of(std::size_t bytes) const {
+        return byteTime_ * static_cast<std::int64_t>(bytes);
+    }
     /// So many bytes are handed to the port; they leave behind those that are still on their way.
     void handOver(std::size_t bytes, Time now);
     /// The other side has answered the last of the bytes, so all have left. Without this, what is reckoned

@@ -41,6 +41,19 @@ TEST_F(PacedYieldTest, OfManyCallsOneEveryTwentyMillisecondsIs) {
     EXPECT_EQ(passed, 51);
 }
 
+TEST_F(PacedYieldTest, WhileTheLoopRunsByItselfNoneIs) {
+    for (int look = 0; look < 1'000; ++look) {
+        yield.loopRuns();
+        yield.processEvents();
+        time.advance(5ms);
+        yield.processEvents();
+    }
+    EXPECT_EQ(passed, 0);
+    time.advance(20ms);
+    yield.processEvents();
+    EXPECT_EQ(passed, 1) << "inside a long call";
+}
+
 TEST_F(PacedYieldTest, AnEventThatYieldsDoesNotYieldAgain) {
     yieldsInside = true;
     yield.processEvents();

@@ -36,6 +36,7 @@ class PortWatcherTest : public EventLoopFixture {
     }
     int port() const { return ends_[0]; }
     test::FakeTime clock;
+    std::function<std::chrono::nanoseconds()> soonest = [] { return 0ns; };
 
   private:
     std::array<int, 2> ends_{};
@@ -44,7 +45,7 @@ class PortWatcherTest : public EventLoopFixture {
 
 TEST_F(PortWatcherTest, BytesThatComeWakeItOnceForEachLook) {
     int woken = 0;
-    PortWatcher watcher([&] { ++woken; }, clock);
+    PortWatcher watcher([&] { ++woken; }, soonest, clock);
     watcher.portOpened(port());
     run([&] {
         bytesCome();
@@ -60,7 +61,7 @@ TEST_F(PortWatcherTest, BytesThatComeWakeItOnceForEachLook) {
 }
 
 TEST_F(PortWatcherTest, RestsWithThePoll) {
-    PortWatcher watcher([] { FAIL() << "the poll is off"; }, clock);
+    PortWatcher watcher([] { FAIL() << "the poll is off"; }, soonest, clock);
     WatchedTimer<QtTimer> poll(watcher);
     poll.setEnabled(true);
     poll.setEnabled(false);
@@ -73,7 +74,7 @@ TEST_F(PortWatcherTest, RestsWithThePoll) {
 }
 
 TEST_F(PortWatcherTest, WatchesAnOpenPortUntilItHasWokenThePoll) {
-    PortWatcher watcher([] { QCoreApplication::exit(); }, clock);
+    PortWatcher watcher([] { QCoreApplication::exit(); }, soonest, clock);
     EXPECT_FALSE(watcher.watches()) << "no port";
     watcher.portOpened(port());
     EXPECT_TRUE(watcher.watches());
@@ -93,7 +94,7 @@ TEST_F(PortWatcherTest, ATickOfThePollSwitchesTheWatchOnAgain) {
                 QCoreApplication::exit();
             }
         },
-        clock);
+        soonest, clock);
     WatchedTimer<QtTimer> poll(watcher);
     int ticks = 0;
     poll.onTick([&] {
@@ -109,7 +110,7 @@ TEST_F(PortWatcherTest, ATickOfThePollSwitchesTheWatchOnAgain) {
 }
 
 TEST_F(PortWatcherTest, AHangUpWakesThePoll) {
-    PortWatcher watcher([] { QCoreApplication::exit(); }, clock);
+    PortWatcher watcher([] { QCoreApplication::exit(); }, soonest, clock);
     watcher.portOpened(port());
     run([&] { hangUp(); });
     watcher.portClosing(port());
@@ -123,7 +124,7 @@ TEST_F(PortWatcherTest, APortMayBeClosedFromInsideItsOwnEvent) {
             watcher.portClosing(port());
             watcher.setActive(true);
         },
-        clock);
+        soonest, clock);
     watcher.portOpened(port());
     run([&] {
         bytesCome();

@@ -24,12 +24,14 @@ class QueueWatchTest : public ::testing::Test {
     int looks = 0;
     int polls = 0;
     bool waiting = false;
+    std::chrono::nanoseconds soonest{0};
     QueueWatch watch{time.makeTimer(), time,
                      [this](std::intptr_t handle) {
                          EXPECT_EQ(handle, kHandle);
                          ++looks;
                          return waiting;
                      },
+                     [this] { return soonest; },
                      [this] {
                          ++polls;
                          waiting = false;
@@ -67,6 +69,20 @@ TEST_F(QueueWatchTest, BytesThatWaitRunThePollOnce) {
     EXPECT_EQ(polls, 1);
     EXPECT_EQ(looksIn(1'999ms), 1'999) << "and keep the conversation warm";
     EXPECT_EQ(polls, 1);
+}
+
+TEST_F(QueueWatchTest, WhileNoFrameCanBeWholeItLooksLessOften) {
+    watch.portRead();
+    time.advance(1ms);
+    soonest = 3'125us;
+    time.advance(1ms);
+    EXPECT_EQ(looksIn(30ms), 10);
+    soonest = 1'041us;
+    time.advance(3ms);
+    EXPECT_EQ(looksIn(30ms), 30);
+    soonest = 1h;
+    time.advance(1ms);
+    EXPECT_EQ(looksIn(100ms), 5) << "a line may be faster than it says";
 }
 
 TEST_F(QueueWatchTest, LooksAtNothingWhileThePollIsOff) {

@@ -50,6 +50,40 @@ TEST_F(FrameCutterTest, CutsOneFrame) {
     EXPECT_EQ(feed(frame("hello")), Payloads{"hello"});
 }
 
+TEST_F(FrameCutterTest, NoFrameComesSoonerThanItSays) {
+    for (const std::string& payload :
+         {std::string(), std::string("\x10\x10\x03"), std::string(300, '\x10')}) {
+        SCOPED_TRACE(payload.size());
+        const std::string bytes = "noise\x16\x10" + frame(payload);
+        for (std::size_t come = 0; come < bytes.size(); ++come) {
+            cutter.clear();
+            EXPECT_TRUE(feed(bytes.substr(0, come)).empty());
+            EXPECT_GE(cutter.leastToCome(), 1U);
+            EXPECT_LE(cutter.leastToCome(), bytes.size() - come) << come;
+        }
+    }
+}
+
+TEST_F(FrameCutterTest, AtItsEndAFrameLacksWhatItSays) {
+    EXPECT_EQ(cutter.leastToCome(), 7U) << "header, end and check";
+    feed("\x16");
+    EXPECT_EQ(cutter.leastToCome(), 6U);
+    feed("\x10\x02");
+    EXPECT_EQ(cutter.leastToCome(), 4U);
+    feed("data");
+    EXPECT_EQ(cutter.leastToCome(), 4U);
+    feed("\x10");
+    EXPECT_EQ(cutter.leastToCome(), 3U);
+    feed("\x10");
+    EXPECT_EQ(cutter.leastToCome(), 4U) << "an escaped one";
+    feed("\x10\x03");
+    EXPECT_EQ(cutter.leastToCome(), 2U);
+    feed("c");
+    EXPECT_EQ(cutter.leastToCome(), 1U);
+    feed("k");
+    EXPECT_EQ(cutter.leastToCome(), 7U);
+}
+
 TEST_F(FrameCutterTest, CutsTwoFramesOfOneReadInOrder) {
     EXPECT_EQ(feed(frame("one", 1) + frame("two", 2)), (Payloads{"one", "two"}));
 }

@@ -36,6 +36,16 @@ class SlowLinkTest : public testing::Test, protected test::LinkRig {
     }
 };
 
+TEST_F(SlowLinkTest, TheSoonestFrameIsTheBytesThatItLacksButOne) {
+    bringToOnAnIdleLine(LinkState::Ready);
+    EXPECT_EQ(plp.soonestFrame(), 60ms);
+    const std::string bytes = frame(FrameType::Data, 2, "x");
+    arrive(bytes.substr(0, 5));
+    EXPECT_EQ(plp.soonestFrame(), 30ms);
+    arrive(bytes.substr(5));
+    EXPECT_EQ(plp.soonestFrame(), 60ms);
+}
+
 TEST_F(SlowLinkTest, ALongFrameIsNotRepeatedBeforeItCanHaveBeenAnswered) {
     bringToOnAnIdleLine(LinkState::Ready);
     plp.PLP_Send(FrameType::Data, std::string(255, 'x'));
