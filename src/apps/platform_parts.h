@@ -24,7 +24,7 @@ namespace velmora {
 struct PlatformParts {
     /// `poll` reads what waits at the port; it runs on the event loop as soon as bytes come. `soonestFrame`
     /// is the link's.
-    PlatformParts(std::function<void()> poll, std::function<std::chrono::nanoseconds()> soonestFrame)
+    PlatformParts(std::function<void()> poll, const std::function<std::chrono::nanoseconds()>& soonestFrame)
         : files(folders.temporary()),
           rules(currentFolder()),
           profiles(files, rules),
@@ -34,7 +34,7 @@ struct PlatformParts {
                   readYield.loopRuns();
                   poll();
               },
-              std::move(soonestFrame), clock),
+              soonestFrame, clock),
           port(*device, readYield, &watcher),
           ComTimer(watcher, comTicks, clock),
           PLPtimer(plpTicks, clock) {}

@@ -24,8 +24,8 @@ class PortWatcher : public PortObserver {
   public:
     /// `onReadable` runs on the event loop when the port has bytes or has hung up. `soonestFrame`: how long
     /// it takes at least until bytes make a frame whole. `clock` must outlive it.
-    PortWatcher(std::function<void()> onReadable, std::function<std::chrono::nanoseconds()> soonestFrame,
-                const Clock& clock);
+    PortWatcher(std::function<void()> onReadable,
+                const std::function<std::chrono::nanoseconds()>& soonestFrame, const Clock& clock);
     ~PortWatcher() override;
     PortWatcher(const PortWatcher&) = delete;
     PortWatcher& operator=(const PortWatcher&) = delete;

@@ -44,7 +44,8 @@ class PortWatcher::Watch {
 };
 
 PortWatcher::PortWatcher(std::function<void()> onReadable,
-                         std::function<std::chrono::nanoseconds()> /*soonestFrame*/, const Clock& /*clock*/)
+                         const std::function<std::chrono::nanoseconds()>& /*soonestFrame*/,
+                         const Clock& /*clock*/)
     : watch_(std::make_unique<Watch>(std::move(onReadable))) {}
 PortWatcher::~PortWatcher() = default;
 

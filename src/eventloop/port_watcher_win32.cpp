@@ -22,9 +22,9 @@ bool bytesWait(std::intptr_t handle) {
 
 class PortWatcher::Watch {
   public:
-    Watch(std::function<void()> onReadable, std::function<std::chrono::nanoseconds()> soonestFrame,
+    Watch(std::function<void()> onReadable, const std::function<std::chrono::nanoseconds()>& soonestFrame,
           const Clock& clock)
-        : queue_(timer_, clock, bytesWait, std::move(soonestFrame), std::move(onReadable)) {}
+        : queue_(timer_, clock, bytesWait, soonestFrame, std::move(onReadable)) {}
     QueueWatch& queue() { return queue_; }
 
   private:
@@ -33,8 +33,8 @@ class PortWatcher::Watch {
 };
 
 PortWatcher::PortWatcher(std::function<void()> onReadable,
-                         std::function<std::chrono::nanoseconds()> soonestFrame, const Clock& clock)
-    : watch_(std::make_unique<Watch>(std::move(onReadable), std::move(soonestFrame), clock)) {}
+                         const std::function<std::chrono::nanoseconds()>& soonestFrame, const Clock& clock)
+    : watch_(std::make_unique<Watch>(std::move(onReadable), soonestFrame, clock)) {}
 PortWatcher::~PortWatcher() = default;
 
 void PortWatcher::portOpened(std::intptr_t handle) {
