@@ -78,7 +78,8 @@ void PLP::PLP_Stop() {
         trace_.trace("PLP", "PLP stopping", {});
     }
     giveEvent(PLP_EV_RESET, {});
-    if (run.over()) {
+    // A write that failed under the event ends the run as well, but closes nothing.
+    if (port_ == nullptr || (run.over() && !portFailed_)) {
         return;
     }
     if (port_->PortOpen()) {

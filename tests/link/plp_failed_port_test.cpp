@@ -127,6 +127,35 @@ TEST_F(FailedPortTest, APortThatDoesNotCloseIsTracedAndGivenUp) {
     EXPECT_EQ(start(), 1) << "another port can be used";
 }
 
+TEST_F(FailedPortTest, AWriteThatFailsUnderAStopDoesNotKeepThePortOpen) {
+    bringTo(LinkState::Ready);
+    services.onEvent = [this](std::int32_t& code, std::string&) {
+        if (code == PLP_EV_RESET) {
+            plp.PLP_Send(FrameType::Data, "a last word");
+        }
+    };
+    failSends();
+    stop();
+    EXPECT_FALSE(port.open);
+    EXPECT_FALSE(plpTimer.enabled());
+    EXPECT_TRUE(plp.isConsistent());
+    port.sendError.reset();
+    EXPECT_EQ(start(), kLinkStarted);
+}
+
+TEST_F(FailedPortTest, AStopUnderAStopAfterAFailedWriteClosesThePortOnce) {
+    bringTo(LinkState::Ready);
+    services.onEvent = [this](std::int32_t&, std::string&) {
+        services.onEvent = nullptr;
+        plp.PLP_Send(FrameType::Data, "a last word");
+        plp.PLP_Stop();
+    };
+    failSends();
+    stop();
+    EXPECT_EQ(port.closed, 1);
+    EXPECT_TRUE(plp.isConsistent());
+}
+
 TEST_F(FailedPortTest, TheNextStartFindsAWholeLink) {
     bringTo(LinkState::Ready);
     failSends();
