@@ -38,6 +38,7 @@ class Episode {
   private:
     void crowdFolder();
     void runStep(const Step& step);
+    std::vector<Fault> possibleFaults(const Step& step, const Task& task) const;
     Ending converse(const Task& task);
     void requireListedCode(const LinkFailure& failure) const;
     void requireAsAlways(const Task& task, const Ending& ending) const;
@@ -104,7 +105,7 @@ void Episode::runStep(const Step& step) {
         return;
     }
     const Task task = makeTask(step.action, context);
-    world_.beginStep(step.faults, settings, task.path);
+    world_.beginStep(possibleFaults(step, task), settings, task.path);
     const Ending ending = converse(task);
     result_.transfers += isTransfer(step.action) ? 1 : 0;
     result_.completed += isTransfer(step.action) && ending.told ? 1 : 0;
@@ -124,6 +125,20 @@ void Episode::runStep(const Step& step) {
         }
     }
     files_.settle(task.refusal && !hadFaults ? std::nullopt : task.saving, ending.told, task.path);
+}
+
+/// What a power failure leaves of a file whose last save broke off is not known beforehand, and so neither is
+/// what a step then loads from it or adds to it.
+std::vector<Fault> Episode::possibleFaults(const Step& step, const Task& task) const {
+    std::vector<Fault> faults = step.faults;
+    const KnownFile* file = files_.find(task.path);
+    const bool replaces = task.saving && task.saving->replaces;
+    if (file != nullptr && !replaces && (!file->others.empty() || file->mayVanish)) {
+        std::erase_if(faults, [](const Fault& fault) {
+            return fault.kind == FaultKind::PowerFails || fault.kind == FaultKind::PowerFailsMeanwhile;
+        });
+    }
+    return faults;
 }
 
 Ending Episode::converse(const Task& task) {

@@ -116,7 +116,7 @@ Task saveRecords(TaskContext& context) {
 }
 
 Task appendRecords(TaskContext& context) {
-    Lines paths = context.files.certainOfForm(Form::Records);
+    Lines paths = context.files.ofForm(Form::Records);
     std::erase_if(paths,
                   [&](const std::string& path) { return !context.files.find(path)->now.ownExtension; });
     if (paths.empty()) {
@@ -217,7 +217,7 @@ Task writeBytes(TaskContext& context) {
 }
 
 Task overwriteBytes(TaskContext& context) {
-    const Lines paths = context.files.certainOfForm(Form::Bytes);
+    const Lines paths = context.files.ofForm(Form::Bytes);
     if (paths.empty()) {
         return writeBytes(context);
     }
@@ -266,7 +266,7 @@ FileContent linesContent(const Lines& lines, std::size_t count) {
 
 Task writeLines(TaskContext& context, bool appends) {
     Random& random = context.random;
-    const Lines paths = context.files.certainOfForm(Form::Lines);
+    const Lines paths = context.files.ofForm(Form::Lines);
     appends = appends && !paths.empty();
     Task task;
     task.path = appends ? random.pick(paths) : pathOf("T" + number(random) + ".LST");

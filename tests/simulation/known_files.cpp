@@ -30,10 +30,10 @@ const KnownFile* KnownFiles::find(const std::string& path) const {
     return file == files_.end() ? nullptr : &file->second;
 }
 
-std::vector<std::string> KnownFiles::certainOfForm(Form form) const {
+std::vector<std::string> KnownFiles::ofForm(Form form) const {
     std::vector<std::string> paths;
     for (const auto& [path, file] : files_) {
-        if (file.now.form == form && file.others.empty() && !file.mayVanish) {
+        if (file.now.form == form) {
             paths.push_back(path);
         }
     }

@@ -41,9 +41,8 @@ class KnownFiles {
     void settle(const std::optional<Saving>& saving, bool told, const std::string& target);
 
     const KnownFile* find(const std::string& path) const;
-    /// The files of a form that can be added to: those of which a power failure leaves nothing else. What it
-    /// leaves of another is not known beforehand.
-    std::vector<std::string> certainOfForm(Form form) const;
+    /// The paths of all known files of a form.
+    std::vector<std::string> ofForm(Form form) const;
     const std::map<std::string, KnownFile>& all() const { return files_; }
 
   private:
