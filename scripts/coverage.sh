@@ -22,13 +22,13 @@ else
 fi
 
 # The tools of the compiler that built it.
-tools=$(clang++ -print-prog-name=llvm-cov | xargs dirname)
-"$tools/llvm-profdata" merge -sparse "$counts"/*.profraw -o "$counts/all.profdata"
+tool() { "$(clang++ -print-prog-name="$1")" "${@:2}"; }
+tool llvm-profdata merge -sparse "$counts"/*.profraw -o "$counts/all.profdata"
 objects=()
 for program in "$build"/tests/*; do
   if [[ -f $program && -x $program ]]; then
     objects+=(-object "$program")
   fi
 done
-"$tools/llvm-cov" export -format=lcov -instr-profile="$counts/all.profdata" "${objects[@]:1}" src > "$counts/all.info"
+tool llvm-cov export -format=lcov -instr-profile="$counts/all.profdata" "${objects[@]:1}" src > "$counts/all.info"
 scripts/coverage-report.py "$counts/all.info" tests/coverage-limits.txt "$@"

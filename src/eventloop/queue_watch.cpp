@@ -37,6 +37,7 @@ void QueueWatch::portRead() {
 void QueueWatch::look() {
     if (clock_.monotonic() - lastRead_ >= kWarmFor) {
         timer_.setEnabled(false);
+        timer_.setInterval(kShortest);  // for the next conversation
         return;
     }
     if (active_ && bytesWait_(handle_)) {

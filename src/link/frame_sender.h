@@ -14,8 +14,8 @@ class FrameSender {
 
     /// Sends one frame. A DATA frame is numbered and repeated until it is acknowledged; a DISCON frame (one
     /// reason byte, 0x00 when `data` is empty) takes the link to idle. Returns false when the port refused
-    /// the bytes. Pending events of the user interface may run inside the call, so the link may have been
-    /// stopped when it returns.
+    /// the bytes, and when the link was stopped inside the call, where pending events of the user interface
+    /// may run.
     virtual bool PLP_Send(FrameType type, std::string_view data) = 0;
 };
 

@@ -85,6 +85,14 @@ TEST_F(QueueWatchTest, WhileNoFrameCanBeWholeItLooksLessOften) {
     EXPECT_EQ(looksIn(100ms), 5) << "a line may be faster than it says";
 }
 
+TEST_F(QueueWatchTest, ANewConversationIsLookedAfterAtOnce) {
+    watch.portRead();
+    soonest = 10ms;
+    time.advance(1h);
+    watch.portRead();
+    EXPECT_EQ(looksIn(1ms), 1);
+}
+
 TEST_F(QueueWatchTest, LooksAtNothingWhileThePollIsOff) {
     watch.portRead();
     watch.setActive(false);

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "serial/port_names.h"
+#include "support/example_adapter.h"
 
 namespace velmora {
 namespace {
@@ -17,17 +18,10 @@ PortIdentity standardPort() {
 }
 
 PortIdentity adapter() {
-    PortIdentity port;
-    port.number = 5;
-    port.device = "/dev/ttyUSB0";
-    port.vendorId = "0403";
-    port.productId = "6001";
+    PortIdentity port = test::exampleAdapter();
     port.serial = "A5";
-    port.maker = "FTDI";
-    port.product = "FT232R USB UART";
     port.chip = "FT232R";
     port.holder = "minicom (process 12)";
-    port.mayOpen = true;
     return port;
 }
 

@@ -19,6 +19,7 @@
 #include "link/frames.h"
 #include "serial/device_facts.h"
 #include "serial/open_diagnosis.h"
+#include "support/example_adapter.h"
 #include "support/scripted_port.h"
 #include "support/window_rig.h"
 #include "ui/qt/frm_debug.h"
@@ -107,19 +108,6 @@ bool save(QWidget& window, const QDir& folder, const char* name) {
         return false;
     }
     return true;
-}
-
-std::vector<PortIdentity> adapter() {
-    PortIdentity adapter;
-    adapter.number = 5;
-    adapter.device = "/dev/ttyUSB0";
-    adapter.vendorId = "0403";
-    adapter.productId = "6001";
-    adapter.serial = "A50285BI";
-    adapter.maker = "FTDI";
-    adapter.product = "FT232R USB UART";
-    adapter.mayOpen = true;
-    return {adapter};
 }
 
 // Four ports in different states, and a USB adapter as the other port, plugged in or not.
@@ -224,7 +212,7 @@ int main(int argc, char** argv) {
     }
     for (const auto& [name, dark] : {Picture{"setup", false}, Picture{"setup-dark", true}}) {
         QApplication::setPalette(dark ? darkPalette() : light);
-        if (!saveSetup(folder, name, adapter())) {
+        if (!saveSetup(folder, name, {test::exampleAdapter()})) {
             return 1;
         }
     }
