@@ -1,5 +1,6 @@
 # Flags that every target of the project is compiled with.
 add_library(velmora_flags INTERFACE)
+target_link_libraries(velmora_flags INTERFACE velmora_counts)
 target_include_directories(velmora_flags INTERFACE ${CMAKE_SOURCE_DIR}/src)
 target_compile_options(velmora_flags INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wcast-qual -Wnon-virtual-dtor -Woverloaded-virtual

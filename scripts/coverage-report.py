@@ -9,6 +9,7 @@ folders that want all, or of those that are named.
 """
 
 import collections
+import os
 import pathlib
 import sys
 
@@ -27,13 +28,14 @@ def read_limits(text):
     return limits
 
 
-def read_coverage(text):
+def read_coverage(text, root=ROOT):
     """For each file of src/: how often each line ran, and each branch of it was taken."""
+    source = os.path.join(root, "")
     files = {}
     for record in text.splitlines():
         kind, _, value = record.partition(":")
         if kind == "SF":
-            name = "src/" + value.rpartition("/src/")[2] if "/src/" in value else value
+            name = os.path.normpath(value).removeprefix(source)
             lines, branches = files.setdefault(name, ({}, {}))
         elif kind == "DA":
             line, count = value.split(",")[:2]

@@ -10,7 +10,7 @@ import unittest
 SCRIPT = runpy.run_path(str(pathlib.Path(__file__).resolve().parents[2] / "scripts/coverage-report.py"))
 
 INFO = """\
-SF:/somewhere/src/link/plp.cpp
+SF:/checkout/src/link/plp.cpp
 DA:1,5
 DA:2,0
 DA:3,1
@@ -22,7 +22,7 @@ end_of_record
 SF:/usr/include/c++/12/vector
 DA:1,0
 end_of_record
-SF:../src/ui/qt/frm.cpp
+SF:/checkout/build/../src/ui/qt/frm.cpp
 DA:7,1
 end_of_record
 """
@@ -39,7 +39,7 @@ class CoverageReport(unittest.TestCase):
         printed = io.StringIO()
         with contextlib.redirect_stdout(printed):
             good = SCRIPT["report"](
-                SCRIPT["read_coverage"](info), SCRIPT["read_limits"](limits), named, self.root
+                SCRIPT["read_coverage"](info, "/checkout"), SCRIPT["read_limits"](limits), named, self.root
             )
         return good, printed.getvalue()
 
@@ -83,12 +83,12 @@ class CoverageReport(unittest.TestCase):
         self.assertIn("2 of 2 branches", self.report(INFO, "")[1])
 
     def test_a_line_that_one_program_reaches_is_reached(self):
-        again = "SF:/somewhere/src/link/plp.cpp\nDA:2,1\nBRDA:1,0,1,1\nend_of_record\n"
+        again = "SF:/checkout/src/link/plp.cpp\nDA:2,1\nBRDA:1,0,1,1\nend_of_record\n"
         self.assertTrue(self.report(INFO + again, "src/link 100 100\n")[0])
 
     def test_nothing_is_rounded_up(self):
         lines = "".join(f"DA:{number},{min(number, 2) - 1}\n" for number in range(1, 30001))
-        self.assertFalse(self.report("SF:/a/src/link/b.cpp\n" + lines, "src/link 100 100\n")[0])
+        self.assertFalse(self.report("SF:/checkout/src/link/b.cpp\n" + lines, "src/link 100 100\n")[0])
 
 
 if __name__ == "__main__":
