@@ -1,7 +1,10 @@
 #include "platform/posix/xdg_folders.h"
 
 #include <gtest/gtest.h>
+#include <pwd.h>
+#include <unistd.h>
 
+#include <cstdlib>
 #include <map>
 
 #include "support/temp_folder.h"
@@ -69,6 +72,18 @@ TEST(XdgFolders, TheProcessAlwaysHasAHome) {
     ASSERT_TRUE(home.has_value());
     EXPECT_EQ(home->front(), '/');
     EXPECT_FALSE(processEnvironment()("VELMORA_NO_SUCH_VARIABLE").has_value());
+}
+
+TEST(XdgFolders, TheHomeOfALoginWithoutTheVariableIsTheUserDataBases) {
+    const passwd* login = getpwuid(getuid());
+    if (login == nullptr) {
+        GTEST_SKIP() << "this login is in no user data base";
+    }
+    const std::optional<std::string> before = processEnvironment()("HOME");
+    unsetenv("HOME");
+    const std::optional<std::string> home = processEnvironment()("HOME");
+    setenv("HOME", before.value_or("/").c_str(), 1);
+    EXPECT_EQ(home, login->pw_dir);
 }
 
 TEST(XdgFolders, TheCurrentFolderIsAbsolute) {

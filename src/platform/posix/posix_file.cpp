@@ -61,14 +61,18 @@ void PosixFile::write(std::string_view bytes) {
     while (done < bytes.size()) {
         const ssize_t written = pwrite(descriptor_, bytes.data() + done, bytes.size() - done,
                                        static_cast<off_t>(position_ + done));
-        if (written < 0 && errno != EINTR) {
-            const int error = errno;
+        if (written < 0 && errno == EINTR) {
+            continue;
+        }
+        if (written <= 0) {
+            // A file system that takes nothing now would be asked for ever.
+            const int error = written < 0 ? errno : ENOSPC;
             if (position_ + done > oldSize) {
                 cutBack(descriptor_, oldSize);
             }
             throw openFileError(error, path_);
         }
-        done += written > 0 ? static_cast<std::size_t>(written) : 0;
+        done += static_cast<std::size_t>(written);
     }
     position_ += done;
 }

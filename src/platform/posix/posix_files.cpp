@@ -248,7 +248,9 @@ std::string PosixFiles::createTemporaryFile(const std::string& folder) {
         const mode_t mask = umask(0);
         umask(mask);
         if (fchmod(file.number(), 0666 & ~mask) != 0) {
-            throw systemError(errno, path);
+            const int error = errno;
+            unlink(path.c_str());
+            throw systemError(error, path);
         }
     }
     return path;
