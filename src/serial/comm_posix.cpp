@@ -82,11 +82,16 @@ void makeRaw(termios& block) {
 bool applyBaud(termios& block, std::uint32_t baud) {
     const auto* const rate =
         std::find_if(kRates.begin(), kRates.end(), [baud](const auto& entry) { return entry.first == baud; });
-    return rate != kRates.end() && cfsetispeed(&block, rate->second) == 0 &&
-           cfsetospeed(&block, rate->second) == 0;
+    if (rate == kRates.end()) {
+        return false;
+    }
+    // Neither refuses a rate that has a name.
+    cfsetispeed(&block, rate->second);
+    cfsetospeed(&block, rate->second);
+    return true;
 }
 
-bool applyParity(termios& block, Parity parity) {
+void applyParity(termios& block, Parity parity) {
     tcflag_t flags = 0;
     switch (parity) {
         case Parity::None:
@@ -106,24 +111,21 @@ bool applyParity(termios& block, Parity parity) {
     }
     block.c_cflag &= ~static_cast<tcflag_t>(PARENB | PARODD | CMSPAR);
     block.c_cflag |= flags;
-    return true;
 }
 
-bool applyDataBits(termios& block, int dataBits) {
+void applyDataBits(termios& block, int dataBits) {
     constexpr std::array<tcflag_t, 4> sizes = {CS5, CS6, CS7, CS8};
     block.c_cflag &= ~static_cast<tcflag_t>(CSIZE);
     block.c_cflag |= sizes.at(static_cast<std::size_t>(dataBits - 5));
-    return true;
 }
 
 /// With five data bits the hardware makes one and a half stop bits of CSTOPB.
-bool applyStopBits(termios& block, StopBits stopBits) {
+void applyStopBits(termios& block, StopBits stopBits) {
     if (stopBits == StopBits::One) {
         block.c_cflag &= ~static_cast<tcflag_t>(CSTOPB);
     } else {
         block.c_cflag |= CSTOPB;
     }
-    return true;
 }
 
 }  // namespace
@@ -207,9 +209,10 @@ SystemError PosixCommDevice::buildState(const std::string& settings) {
     if (!applyBaud(block_, line->baud)) {
         unlistedRate_ = line->baud;
     }
-    const bool possible = applyParity(block_, line->parity) && applyDataBits(block_, line->dataBits) &&
-                          applyStopBits(block_, line->stopBits);
-    return possible ? kSuccess : kInvalidParameter;
+    applyParity(block_, line->parity);
+    applyDataBits(block_, line->dataBits);
+    applyStopBits(block_, line->stopBits);
+    return kSuccess;
 }
 
 SystemError PosixCommDevice::setState() {
@@ -345,7 +348,7 @@ SystemError PosixCommDevice::escapeFunction(CommFunction function) {
         case CommFunction::ClearBreak:
             return result(ioctl(fd_, TIOCCBRK));
     }
-    return kInvalidParameter;
+    return kInvalidParameter;  // unreachable: every function is above
 }
 
 std::string PosixCommDevice::errorMessage(SystemError number) const {

@@ -83,7 +83,7 @@ bool goTogether(int dataBits, StopBits stopBits) {
         case StopBits::Two:
             return dataBits != 5;
     }
-    return false;
+    return false;  // unreachable: every number of stop bits is above
 }
 
 std::optional<Fields> fieldsByPosition(std::string_view text) {

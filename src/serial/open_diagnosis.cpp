@@ -137,7 +137,7 @@ std::string describeOpenFailure(const std::string& device, std::int32_t code, co
         case Cause::Failed:
             return failedSentence(device, code);
     }
-    return {};
+    return {};  // unreachable: every cause is above
 }
 
 std::string describeOpenFailure(const std::string& device, std::int32_t code) {

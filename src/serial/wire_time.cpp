@@ -14,7 +14,7 @@ int stopHalves(StopBits stopBits) {
         case StopBits::Two:
             return 4;
     }
-    return 2;
+    return 2;  // unreachable: every number of stop bits is above
 }
 
 }  // namespace

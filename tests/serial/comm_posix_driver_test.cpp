@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <cerrno>
 #include <chrono>
 #include <cstdint>
 #include <string>
@@ -10,6 +11,7 @@
 
 #include "serial/comm_posix.h"
 #include "serial/port_names.h"
+#include "support/failing_call.h"
 #include "support/line_driver.h"
 #include "support/pty_pair.h"
 
@@ -106,6 +108,76 @@ TEST_F(CommPosixDriverTest, WhatWasCountedBeforeThePortWasOpenedIsNoErrorOfThisO
     driver.errors.frame = 7;
     ASSERT_EQ(device.open("COM7"), kSuccess);
     EXPECT_EQ(errors(), 0U);
+}
+
+// The request that sets any rate, whose header does not go together with <termios.h>.
+constexpr unsigned long kSetAnyRate = _IOC(_IOC_WRITE, 'T', 0x2B, 44);
+constexpr unsigned long kReadAnyRate = _IOC(_IOC_READ, 'T', 0x2A, 44);
+
+TEST_F(CommPosixDriverTest, ADriverThatTakesNoRateWithoutANameIsToldAsInvalidSettings) {
+    device.getState();
+    ASSERT_EQ(device.buildState("31250,N,8,1"), kSuccess);
+    for (const auto& [request, error] :
+         {std::pair{kSetAnyRate, EINVAL}, {kReadAnyRate, EIO}, {kSetAnyRate, 0}}) {
+        driver.refused = {{request, error}};
+        EXPECT_EQ(device.setState(), kInvalidParameter) << error;
+    }
+    driver.refused.clear();
+    EXPECT_EQ(device.setState(), kSuccess);
+}
+
+TEST_F(CommPosixDriverTest, ADriverWithoutTheExclusiveMarkOpens) {
+    device.close();
+    driver.refused = {{TIOCGEXCL, ENOTTY}};
+    EXPECT_EQ(device.open("COM7"), kSuccess);
+}
+
+TEST_F(CommPosixDriverTest, ADriverThatCannotTellWhatWaitsHasFailed) {
+    driver.refused = {{FIONREAD, EIO}};
+    CommStatus status;
+    EXPECT_EQ(device.clearError(status), kDeviceFailed);
+}
+
+TEST_F(CommPosixDriverTest, APortWhoseCounterFailsReportsNoErrors) {
+    driver.refused = {{TIOCGICOUNT, EIO}};
+    driver.errors.frame += 1;
+    EXPECT_EQ(errors(), 0U);
+}
+
+TEST_F(CommPosixDriverTest, AWaitingReadThatASignalInterruptsLooksAtOnce) {
+    CommTimeouts timeouts;
+    timeouts.readInterval = 0;
+    timeouts.readTotalConstant = test::PtyPair::kPatienceMs;
+    ASSERT_EQ(device.setTimeouts(timeouts), kSuccess);
+    char byte = 0;
+    std::size_t transferred = 7;
+    {
+        const test::FailingCall interrupted("poll", EINTR);
+        EXPECT_EQ(device.read(&byte, 1, transferred), kSuccess);
+        EXPECT_EQ(transferred, 0U);
+    }
+    const test::FailingCall fails("poll", ENOMEM);
+    EXPECT_EQ(device.read(&byte, 1, transferred), ENOMEM);
+}
+
+TEST_F(CommPosixDriverTest, AWriteThatWaitsForRoomGoesOnAfterASignalAndEndsAtAFailure) {
+    std::size_t transferred = 0;
+    {
+        const test::FailingCall busy("write", EAGAIN);
+        const test::FailingCall interrupted("poll", EINTR);
+        EXPECT_EQ(device.write("hello", transferred), kSuccess);
+        EXPECT_EQ(line.read(5), "hello");
+    }
+    const test::FailingCall busy("write", EAGAIN);
+    const test::FailingCall fails("poll", ENOMEM);
+    EXPECT_EQ(device.write("hello", transferred), ENOMEM);
+    EXPECT_EQ(transferred, 0U);
+}
+
+TEST_F(CommPosixDriverTest, ALineOfWhichNothingIsKnownIsNotCut) {
+    const test::FailingCall fails("poll", ENOMEM);
+    CommStatus status;
+    EXPECT_EQ(device.clearError(status), kSuccess);
 }
 
 TEST_F(CommPosixDriverTest, TheLastBytesLeaveBeforeThePortIsGivenBack) {

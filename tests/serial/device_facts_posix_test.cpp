@@ -6,6 +6,7 @@
 #include <string>
 
 #include "serial/device_facts.h"
+#include "support/login_records.h"
 #include "support/ordinary_login.h"
 #include "support/pty_pair.h"
 #include "support/temp_folder.h"
@@ -31,6 +32,9 @@ class DeviceFactsTest : public ::testing::Test {
         std::filesystem::create_symlink(file, folder.path("proc/" + id + "/fd/7"));
     }
 
+    ~DeviceFactsTest() override { logins = {}; }
+
+    test::LoginRecords& logins = test::loginRecords();
     test::TempFolder folder;
 };
 
@@ -53,6 +57,39 @@ TEST_F(DeviceFactsTest, TheGroupNeedsBothRights) {
     EXPECT_FALSE(gatherDeviceFacts(makeDevice(0640)).groupMayOpen);
     EXPECT_FALSE(gatherDeviceFacts(makeDevice(0620)).groupMayOpen);
     EXPECT_TRUE(gatherDeviceFacts(makeDevice(0660)).groupMayOpen);
+}
+
+TEST_F(DeviceFactsTest, WhoHasNoNameIsToldByNumber) {
+    const std::string path = makeDevice(0660);
+    struct stat status {};
+    ASSERT_EQ(stat(path.c_str(), &status), 0);
+    logins.known = false;
+    const DeviceFacts facts = gatherDeviceFacts(path);
+    EXPECT_EQ(facts.owner, std::to_string(status.st_uid));
+    EXPECT_EQ(facts.group, std::to_string(status.st_gid));
+    EXPECT_FALSE(facts.loginIsMember);
+}
+
+TEST_F(DeviceFactsTest, AMemberOfTheGroupIsToldFromAnybodyElse) {
+    const std::string path = makeDevice(0660);
+    const std::string login = gatherDeviceFacts(path).login;
+    logins.members = {"somebody", login, "another"};
+    EXPECT_TRUE(gatherDeviceFacts(path).loginIsMember);
+    logins.members = {"somebody", "another"};
+    EXPECT_FALSE(gatherDeviceFacts(path).loginIsMember);
+}
+
+TEST_F(DeviceFactsTest, ASessionHasItsOwnGroupAndThoseOfItsLogin) {
+    const std::string path = makeDevice(0660);
+    struct stat status {};
+    ASSERT_EQ(stat(path.c_str(), &status), 0);
+    const gid_t other = status.st_gid + 1;
+    logins.groups = {status.st_gid, other};
+    EXPECT_TRUE(gatherDeviceFacts(path).sessionIsMember);
+    logins.groups = {other, status.st_gid};
+    EXPECT_TRUE(gatherDeviceFacts(path).sessionIsMember);
+    logins.groups = {other};
+    EXPECT_FALSE(gatherDeviceFacts(path).sessionIsMember);
 }
 
 TEST_F(DeviceFactsTest, WithoutTheRightsALoginMayNotOpenIt) {

@@ -23,6 +23,8 @@ TEST(DeviceInstanceTest, ALetteredSerialNumberLosesItsLetter) {
     EXPECT_EQ(partsOf(R"(FTDIBUS\VID_0403+PID_6001+A50285BIA\0000)"), "0403|6001|A50285BI");
     EXPECT_EQ(partsOf(R"(FTDIBUS\VID_0403+PID_6001+5&2eb35f7c&0&7\0000)"), "0403|6001|");
     EXPECT_EQ(partsOf(R"(FTDIBUS\VID_0403+PID_6001\0000)"), "0403|6001|");
+    EXPECT_EQ(partsOf(R"(FTDIBUS\VID_0403+PID_6001+A\0000)"), "0403|6001|");
+    EXPECT_EQ(partsOf(R"(FTDIBUS\VID_0403&PID_6001\0000)"), "0403|6001|");
 }
 
 TEST(DeviceInstanceTest, OtherInstancesHaveNothing) {

@@ -56,6 +56,15 @@ TEST_F(LowLatencyTest, IsSetWhileTheDeviceIsOpenAndGivenBack) {
     EXPECT_FALSE(latency.taken());
 }
 
+TEST_F(LowLatencyTest, ADeviceThatIsGoneIsNotGivenBackTo) {
+    latency.take(driver.control());
+    const int writes = driver.writes;
+    driver.hasSettings = false;
+    latency.giveBack(driver.control());
+    EXPECT_EQ(driver.writes, writes);
+    EXPECT_FALSE(latency.taken());
+}
+
 TEST_F(LowLatencyTest, WhatWasSetBeforeStaysSet) {
     driver.flags |= ASYNC_LOW_LATENCY;
     latency.take(driver.control());

@@ -4,10 +4,12 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <string>
 #include <vector>
 
 #include "serial/port_list.h"
+#include "support/failing_call.h"
 #include "support/temp_folder.h"
 #include "support/udev_tree.h"
 
@@ -108,6 +110,17 @@ TEST_F(PortListPosixTest, WhatIsPulledWhileItIsListedIsLeftOut) {
     const auto ports = list();
     ASSERT_THAT(ports, SizeIs(1));
     EXPECT_EQ(ports[0].device, folder.path("ttyUSB2"));
+}
+
+TEST_F(PortListPosixTest, WhereTheDeviceManagersLibraryFailsNoPortIsListedAndNothingStaysOpen) {
+    addTerminal("ttyUSB0", addAdapter());
+    for (const char* step : {"udev_new", "udev_enumerate_new", "udev_enumerate_add_match_subsystem",
+                             "udev_enumerate_scan_devices"}) {
+        const test::FailingCall fails(step, ENOMEM);
+        EXPECT_THAT(list(), IsEmpty()) << step;
+        EXPECT_EQ(tree.held, 0) << step;
+    }
+    EXPECT_THAT(list(), SizeIs(1)) << "once it works";
 }
 
 TEST_F(PortListPosixTest, WhoHoldsAPortIsOnlyLookedUpWhenAsked) {

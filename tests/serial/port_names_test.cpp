@@ -81,6 +81,16 @@ TEST(PortNamesTest, AnUnknownDeviceGetsTheFirstFreeNumberAndKeepsIt) {
     EXPECT_EQ(names.numberFor("third"), first + 1);
 }
 
+TEST(PortNamesTest, WhenEveryNumberIsTakenADeviceGetsNone) {
+    PortNames::Overrides all;
+    for (int number = 1; number <= 32767; ++number) {
+        all["COM" + std::to_string(number)] = "adapter " + std::to_string(number);
+    }
+    PortNames names(all);
+    EXPECT_EQ(names.numberFor("one more"), 0);
+    EXPECT_EQ(names.device(32767), "adapter 32767");
+}
+
 TEST(PortNamesTest, MessagesCallAPortAsItWasGiven) {
     PortNames names(PortNames::Overrides{{"COM50", "adapter"}});
     EXPECT_EQ(names.shown(50), "COM50");

@@ -50,6 +50,21 @@ TEST(PortReportTest, ADeviceWithoutALastingNumberIsNamedByItself) {
               "      /dev/ttyAMA0  serial   free   /dev/ttyAMA0\n");
 }
 
+TEST(PortReportTest, ADeviceWithoutANumberHasNone) {
+    PortIdentity port = standardPort();
+    port.number = 0;
+    EXPECT_NE(portsAsJson({port}).find("\"port\": \"\",\n    \"number\": 0,"), std::string::npos);
+}
+
+TEST(PortReportTest, AChipThatTheAdapterDoesNotNameStandsBehindIt) {
+    PortIdentity port = adapter();
+    port.product = "UART";
+    EXPECT_NE(portTable({port}).find("FTDI UART, FT232R"), std::string::npos);
+    port.maker.clear();
+    port.product.clear();
+    EXPECT_NE(portTable({port}).find("/dev/ttyUSB0  FT232R "), std::string::npos);
+}
+
 TEST(PortReportTest, WhatAnAdapterTellsOfItselfCannotBreakALine) {
     PortIdentity port = adapter();
     port.product = "evil\nCOM9  free";

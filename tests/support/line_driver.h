@@ -1,6 +1,6 @@
 // The driver of a serial adapter behind a pseudo-terminal, which has no modem lines, counts no errors and
-// takes bytes at once. This header defines functions of the C library anew, so that exactly one source file
-// of a test program may include it.
+// takes bytes at once. poll() fails by FailingCall. This header defines functions of the C library anew, so
+// that exactly one source file of a test program may include it.
 #pragma once
 
 #include <linux/serial.h>
@@ -10,9 +10,13 @@
 #include <termios.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <chrono>
 #include <cstdarg>
 #include <deque>
+#include <map>
+
+#include "support/failing_call.h"
 
 namespace velmora::test {
 
@@ -25,7 +29,8 @@ struct LineDriver {
     serial_icounter_struct errors{};
     std::deque<int> unsent;               ///< answers about bytes that are still to leave; the last one stays
     std::chrono::milliseconds waited{0};  ///< for nothing but time, which passes at once
-    int dropped = 0;                      ///< how often bytes that were still to leave were dropped
+    std::map<unsigned long, int> refused;  ///< requests by the errno of their failure; 0: nothing is done
+    int dropped = 0;                       ///< how often bytes that were still to leave were dropped
 
     int takeUnsent() {
         const int count = unsent.empty() ? 0 : unsent.front();
@@ -34,7 +39,7 @@ struct LineDriver {
         }
         return count;
     }
-    /// Whether it answered the request itself.
+    /// Whether it answered the request itself, without a failure.
     bool answers(unsigned long request, void* argument) {
         switch (request) {
             case TIOCMGET:
@@ -75,6 +80,10 @@ extern "C" int ioctl(int descriptor, unsigned long request, ...) noexcept {
     void* const argument = va_arg(arguments, void*);
     va_end(arguments);
     velmora::test::LineDriver& driver = velmora::test::lineDriver();
+    if (driver.present && driver.refused.contains(request)) {
+        errno = driver.refused[request];
+        return errno == 0 ? 0 : -1;
+    }
     if (driver.present && driver.answers(request, argument)) {
         return 0;
     }
@@ -86,6 +95,10 @@ extern "C" int poll(pollfd* watched, nfds_t count, int timeout) {
     if (driver.present && count == 0) {
         driver.waited += std::chrono::milliseconds(timeout);
         return 0;
+    }
+    if (const std::optional<int> error = velmora::test::FailingCall::reason("poll")) {
+        errno = *error;
+        return -1;
     }
     const timespec limit{timeout / 1000, timeout % 1000 * 1'000'000L};
     return ppoll(watched, count, timeout < 0 ? nullptr : &limit, nullptr);

@@ -1,6 +1,6 @@
 // Devices for those who ask the device manager's library, libudev, in the place of this machine's. This
 // header defines the functions of the library anew, so that exactly one source file of a test program may
-// include it.
+// include it. Those that begin a listing fail by FailingCall.
 #pragma once
 
 #include <libudev.h>
@@ -10,6 +10,8 @@
 #include <optional>
 #include <string>
 #include <vector>
+
+#include "support/failing_call.h"
 
 struct udev {};
 struct udev_enumerate {};
@@ -79,7 +81,7 @@ using velmora::test::udevTree;
 
 extern "C" udev* udev_new() {
     static udev library;
-    return velmora::test::lend(&library);
+    return velmora::test::FailingCall::reason("udev_new") ? nullptr : velmora::test::lend(&library);
 }
 extern "C" udev* udev_unref(udev* library) {
     return velmora::test::takeBack(library);
@@ -87,7 +89,7 @@ extern "C" udev* udev_unref(udev* library) {
 extern "C" udev_enumerate* udev_enumerate_new(udev*) {
     static udev_enumerate listing;
     udevTree().listed.clear();
-    return velmora::test::lend(&listing);
+    return velmora::test::FailingCall::reason("udev_enumerate_new") ? nullptr : velmora::test::lend(&listing);
 }
 extern "C" udev_enumerate* udev_enumerate_unref(udev_enumerate* listing) {
     return velmora::test::takeBack(listing);
@@ -101,10 +103,10 @@ extern "C" int udev_enumerate_add_match_subsystem(udev_enumerate*, const char* s
     for (const std::string& path : udevTree().pulled) {
         velmora::test::append(udevTree().listed, path);
     }
-    return 0;
+    return -velmora::test::FailingCall::reason("udev_enumerate_add_match_subsystem").value_or(0);
 }
 extern "C" int udev_enumerate_scan_devices(udev_enumerate*) {
-    return 0;
+    return -velmora::test::FailingCall::reason("udev_enumerate_scan_devices").value_or(0);
 }
 extern "C" udev_list_entry* udev_enumerate_get_list_entry(udev_enumerate*) {
     return udevTree().listed.empty() ? nullptr : &udevTree().listed.front();
