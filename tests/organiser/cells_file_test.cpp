@@ -50,12 +50,12 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(
         BadCell{"Nothing", "", "holds no cell"}, BadCell{"OnlyComments", "# x\n", "holds no cell"},
         BadCell{"RowZero", "A0 1", "\"A0\" is no cell"}, BadCell{"RowHundred", "A100 1", "is no cell"},
-        BadCell{"TwoLetters", "AA1 1", "is no cell"}, BadCell{"NoReference", "1 1", "is no cell"},
-        BadCell{"NoRow", "A 1", "is no cell"}, BadCell{"LeadingBlank", " A1 1", "is no cell"},
-        BadCell{"NoContent", "A1", "is no number"}, BadCell{"Word", "A1 word", "is no number"},
-        BadCell{"Hexadecimal", "A1 0x10", "is no number"}, BadCell{"Infinity", "A1 inf", "is no number"},
-        BadCell{"TwoPoints", "A1 1.2.3", "is no number"}, BadCell{"BareExponent", "A1 1E", "is no number"},
-        BadCell{"OnlyASign", "A1 -", "is no number"},
+        BadCell{"BehindZ", "[1 1", "\"[1\" is no cell"}, BadCell{"TwoLetters", "AA1 1", "is no cell"},
+        BadCell{"NoReference", "1 1", "is no cell"}, BadCell{"NoRow", "A 1", "is no cell"},
+        BadCell{"LeadingBlank", " A1 1", "is no cell"}, BadCell{"NoContent", "A1", "is no number"},
+        BadCell{"Word", "A1 word", "is no number"}, BadCell{"Hexadecimal", "A1 0x10", "is no number"},
+        BadCell{"Infinity", "A1 inf", "is no number"}, BadCell{"TwoPoints", "A1 1.2.3", "is no number"},
+        BadCell{"BareExponent", "A1 1E", "is no number"}, BadCell{"OnlyASign", "A1 -", "is no number"},
         BadCell{"Twice", "A1 1\nB1 2\na1 3", "line 3: A1 was given before"},
         BadCell{"TooLong", "A1 '" + std::string(248, 'x'), "longer than the 247"}),
     [](const auto& row) { return std::string(row.param.name); });

@@ -72,6 +72,7 @@ TEST(OrganiserCommandLine, ModeOfAWriteThatSeeksKeepsTheFile) {
 TEST(OrganiserCommandLine, AddressesAndFormats) {
     EXPECT_EQ(command({"boot", "N", "--address", "2000"}).address, 0x2000);
     EXPECT_EQ(command({"boot", "N", "--address", "0xfFfF"}).address, 0xFFFF);
+    EXPECT_EQ(command({"boot", "N", "--address", "0Xff"}).address, 0xFF);
     EXPECT_EQ(command({"sheet-load", "N", "--format", "wks"}).sheetFormat, 2);
     EXPECT_EQ(command({"sheet-save", "f", "--as", "N", "--format", "TAB"}).sheetFormat, 6);
 }
@@ -146,6 +147,9 @@ INSTANTIATE_TEST_SUITE_P(
         BadArguments{"ModeFive", {"save", "f", "--mode", "5"}, "0 to 4"},
         BadArguments{"SeekModeThree", {"read", "N", "--seek", "3:0"}, "MODE:OFFSET"},
         BadArguments{"SeekWithoutOffset", {"read", "N", "--seek", "2:"}, "MODE:OFFSET"},
+        BadArguments{"SeekBelowZero", {"read", "N", "--seek", "/:0"}, "MODE:OFFSET"},
+        BadArguments{"SeekWithoutColon", {"read", "N", "--seek", "0-10"}, "MODE:OFFSET"},
+        BadArguments{"JsonForACommand", {"time", "--json"}, "--json goes with --list-ports"},
         BadArguments{"SeekInText", {"read", "N", "--seek", "0:1", "--text"}, "does not go with --text"},
         BadArguments{"AddressTooLarge", {"boot", "N", "--address", "10000"}, "address in hexadecimal"},
         BadArguments{"BootWithoutAddress", {"boot", "N"}, "--address is required"},

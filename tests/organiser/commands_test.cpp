@@ -192,6 +192,135 @@ TEST_F(CommandsTest, BrokenAppendIsNotDoneAgain) {
     EXPECT_NE(error.str().find("Not tried again"), std::string::npos);
 }
 
+/// Breaks the link once, when the n-th block or line has been written.
+class BreakingFile : public test::ModelFile {
+  public:
+    BreakingFile(test::ModelFolder& files, int n) : ModelFile(files), left_(n) {}
+    test::Answer message(const std::string& payload) override {
+        test::Answer answer = ModelFile::message(payload);
+        return !payload.empty() && payload[0] == 2 && --left_ == 0 ? test::refuse(192) : answer;
+    }
+
+  private:
+    int left_;
+};
+
+TEST_F(CommandsTest, BrokenWriteIsDoneAgainAlsoWhenItMadeTheFileItself) {
+    const std::string lines = local("lines", "one\ntwo\nthree\n");
+    const std::string bytes = local("bytes", std::string(600, 'x'));
+    for (const char* mode : {"1", "3"}) {
+        folder.clear();
+        BreakingFile breaksLines(folder, 2);
+        server.serve("FILE", breaksLines);
+        EXPECT_EQ(run({"write", "B.TXT", lines, "--text", "--mode", mode}), kDone) << error.str();
+        EXPECT_EQ(folder["B.TXT"], "one\r\ntwo\r\nthree\r\n");
+        BreakingFile breaksBytes(folder, 2);
+        server.serve("FILE", breaksBytes);
+        EXPECT_EQ(run({"write", "A.DAT", bytes, "--mode", mode}), kDone) << error.str();
+        EXPECT_EQ(folder["A.DAT"], std::string(600, 'x'));
+        EXPECT_NE(error.str().find("Trying again (2 of 3)."), std::string::npos);
+    }
+}
+
+TEST_F(CommandsTest, BrokenWriteOverBytesFromTheStartIsDoneAgain) {
+    folder["A.DAT"] = std::string(700, 'o');
+    BreakingFile breaking(folder, 2);
+    server.serve("FILE", breaking);
+    const std::string bytes = local("bytes", std::string(600, 'x'));
+    EXPECT_EQ(run({"write", "A.DAT", bytes, "--seek", "0:50"}), kDone) << error.str();
+    EXPECT_EQ(folder["A.DAT"], std::string(50, 'o') + std::string(600, 'x') + std::string(50, 'o'));
+}
+
+TEST_F(CommandsTest, BrokenWriteThatAddsIsNotDoneAgain) {
+    folder["B.TXT"] = "old\r\n";
+    BreakingFile breaksLines(folder, 2);
+    server.serve("FILE", breaksLines);
+    EXPECT_EQ(run({"write", "B.TXT", local("lines", "one\ntwo\nthree\n"), "--text", "--mode", "4"}),
+              kRefused);
+    EXPECT_EQ(folder["B.TXT"], "old\r\none\r\ntwo\r\n");
+    EXPECT_NE(error.str().find("Not tried again"), std::string::npos);
+    folder["A.DAT"] = "old";
+    BreakingFile breaksBytes(folder, 2);
+    server.serve("FILE", breaksBytes);
+    const std::string bytes = local("bytes", std::string(600, 'x'));
+    EXPECT_EQ(run({"write", "A.DAT", bytes, "--seek", "2:0"}), kRefused);
+    EXPECT_NE(error.str().find("Not tried again"), std::string::npos);
+    EXPECT_EQ(folder["A.DAT"].substr(0, 4), "oldx");
+}
+
+TEST_F(CommandsTest, BrokenBlockThatIsWrittenOverAnotherIsDoneAgain) {
+    folder["B.OB3"] = std::string(600, 'o');
+    BreakingFtran breaking(folder, 2);
+    server.serve("FTRAN", breaking);
+    const std::string bytes = local("b", std::string(600, 'x'));
+    EXPECT_EQ(run({"save", bytes, "--type", "block:3", "--mode", "4"}), kDone) << error.str();
+    EXPECT_EQ(folder["B.OB3"], std::string(600, 'x'));
+}
+
+TEST_F(CommandsTest, AServerThatAnswersSomethingElseIsNoLink) {
+    test::ScriptedService odd(test::reply(""), {test::reply("?")});
+    server.serve("FILE", odd);
+    EXPECT_EQ(run({"read", "A.DAT"}), kNoLink);
+    EXPECT_EQ(error.str(), "The server answered something else than expected: \"?\".\n");
+}
+
+TEST_F(CommandsTest, FormatsOfWorksheetsAreListedWithTheirNumbers) {
+    test::ScriptedService menu(test::reply("\3WKS\0\2\0"s));
+    server.serve("PLANM", menu);
+    EXPECT_EQ(run({"formats"}), kDone) << error.str();
+    EXPECT_EQ(out.str(), "2  WKS\n");
+}
+
+TEST_F(CommandsTest, UniversalTimeAndTheZoneAreAskedForByTheirOwnServices) {
+    test::ScriptedService gmt(test::reply("2010-03-28 13:05:09"));
+    test::ScriptedService zone(test::reply("2010-03-28 14:05:09*+60"));
+    server.serve("GMT", gmt);
+    server.serve("TIMEINFO", zone);
+    EXPECT_EQ(run({"gmt"}), kDone);
+    EXPECT_EQ(out.str(), "2010-03-28 13:05:09\n");
+    EXPECT_EQ(run({"timeinfo"}), kDone);
+    EXPECT_EQ(out.str(), "2010-03-28 14:05:09*+60\n");
+}
+
+TEST_F(CommandsTest, AServiceThatAnswersNothingIsSaidSo) {
+    EXPECT_EQ(run({"service", "EXIT"}), kDone);
+    EXPECT_EQ(out.str(), "EXIT answered 0 bytes.\n");
+}
+
+TEST_F(CommandsTest, ShutdownOpensItsService) {
+    test::ScriptedService shutdown(test::reply(""));
+    server.serve("SHUTDOWN", shutdown);
+    EXPECT_EQ(run({"shutdown"}), kDone);
+    EXPECT_EQ(out.str(), "The server's program was asked to end.\n");
+    EXPECT_EQ(shutdown.timesClosed, 1);
+}
+
+TEST_F(CommandsTest, EmptyBootCodeHasNoPieces) {
+    test::ModelBoot boot("");
+    server.serve("BOOT", boot);
+    EXPECT_EQ(run({"boot", "LOADER", "--address", "2000", "-o", path("code")}), kDone) << error.str();
+    EXPECT_EQ(out.str(), "Loaded LOADER, 0 bytes of code in 0 pieces.\n");
+    EXPECT_EQ(readLocalFile(path("code")), "");
+}
+
+TEST_F(CommandsTest, TourTellsOfAServerThatKnowsWhatItShouldNot) {
+    test::ScriptedService teapot(test::reply("short and stout"));
+    server.serve("TEAPOT", teapot);
+    EXPECT_EQ(run({"tour"}), kLocalProblem);
+    EXPECT_NE(out.str().find("The server claims to know a service TEAPOT."), std::string::npos);
+}
+
+TEST_F(CommandsTest, TourTellsOfAServiceThatIsThereAndRefuses) {
+    test::ScriptedService teapot(test::refuse(188));
+    server.serve("TEAPOT", teapot);
+    server.serve("GMT", timeService);
+    test::ScriptedService zone(test::refuse(188));
+    server.serve("TIMEINFO", zone);
+    EXPECT_EQ(run({"tour"}), kRefused) << out.str();
+    EXPECT_EQ(out.str().find("The server answers 190, as it should."), std::string::npos);
+    EXPECT_NE(out.str().find("Not all of it worked."), std::string::npos);
+}
+
 TEST_F(CommandsTest, TourTriesEverythingAndLeavesItsFiles) {
     test::ScriptedService menu(test::reply("\3WKS\0\2\0"s));
     test::ModelBoot boot(std::string(450, 'x'));

@@ -113,6 +113,16 @@ TEST_F(FaultInjectorTest, DamageIsOneBitOfEachFrame) {
     }
 }
 
+TEST_F(FaultInjectorTest, NothingIsNotDamaged) {
+    FaultOptions options;
+    options.corrupt = 1;
+    test::FakeLine line;
+    FaultInjector injector(line, options);
+    injector.write("");
+    ASSERT_EQ(line.sent.size(), 1U);
+    EXPECT_EQ(line.sent[0].bytes, "");
+}
+
 TEST_F(FaultInjectorTest, ProbabilityIsAboutWhatWasAskedFor) {
     const std::size_t left = sendFrames({.drop = 0.25}).size();
     EXPECT_GT(left, 130U);

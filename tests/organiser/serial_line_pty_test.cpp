@@ -6,10 +6,12 @@
 #include <unistd.h>
 
 #include <array>
+#include <deque>
 #include <string>
 #include <thread>
 
 #include "organiser/serial_line.h"
+#include "support/udev_tree.h"
 
 namespace velmora {
 namespace {
@@ -26,7 +28,18 @@ class SerialLineTest : public testing::Test {
         ASSERT_EQ(unlockpt(other), 0);
         path = ptsname(other);
     }
-    void TearDown() override { hangUp(); }
+    void TearDown() override {
+        hangUp();
+        test::udevTree() = {};
+    }
+    /// Plugs an adapter in whose device file is this one.
+    static void addAdapter(const std::string& name, const std::string& node) {
+        std::deque<udev_device>& devices = test::udevTree().devices;
+        devices.push_back({"/sys/usb-" + name, "usb-" + name, "usb", "usb_device"});
+        udev_device* adapter = &devices.back();
+        adapter->attributes = {{"idVendor", "0403"}, {"idProduct", "6001"}, {"serial", "A50285BI"}};
+        devices.push_back({"/sys/" + name, name, "tty", {}, adapter, node});
+    }
 
     void hangUp() {
         if (other >= 0) {
@@ -149,6 +162,26 @@ TEST_F(SerialLineTest, WhatCannotBeOpenedIsToldInOneSentence) {
     EXPECT_EQ(problemWith("/dev/null"), "/dev/null is not a serial port.");
     const SerialLine held(path, 9600);
     EXPECT_NE(problemWith(path).find(path + " is in use by "), std::string::npos);
+}
+
+TEST_F(SerialLineTest, AnAdapterIsFoundByWhatItIs) {
+    addAdapter("ttyUSB0", path);
+    SerialLine line("usb:0403:6001:A50285BI", 9600);
+    line.write("x");
+    EXPECT_EQ(otherReads(1), "x");
+}
+
+TEST_F(SerialLineTest, AnAdapterThatIsNotPluggedInDoesNotExist) {
+    EXPECT_EQ(problemWith("usb:0403:6001:A50285BI"),
+              "usb:0403:6001:A50285BI does not exist; is the adapter plugged in, and is it the right port?");
+}
+
+TEST_F(SerialLineTest, OfSeveralAdaptersThatFitNoneIsOpened) {
+    addAdapter("ttyUSB0", path);
+    addAdapter("ttyUSB1", "/dev/null");
+    const std::string problem = problemWith("usb:0403:6001:A50285BI");
+    EXPECT_NE(problem.find(path), std::string::npos) << problem;
+    EXPECT_NE(problem.find("/dev/null"), std::string::npos) << problem;
 }
 
 TEST_F(SerialLineTest, ASpeedWithoutANameIsTaken) {

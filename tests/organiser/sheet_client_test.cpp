@@ -61,6 +61,16 @@ TEST_F(SheetClientTest, FailedReadingIsToldInDecimalDigits) {
                  "Refused by the server: its file operation failed with error 53, File not found.");
 }
 
+TEST_F(SheetClientTest, AReasonThatIsNoErrorNumberIsToldAsItCame) {
+    for (const char* reason : {"", "5x", "12345"}) {
+        test::ScriptedService odd(test::reply(""), {test::Answer{true, reason}});
+        server.serve("PLAN", odd);
+        const auto failure = failureOf([&] { client.load("A", 2); });
+        EXPECT_EQ(failure.kind(), Kind::Refused) << reason;
+        EXPECT_EQ(std::string(failure.what()).find("file operation"), std::string::npos) << failure.what();
+    }
+}
+
 TEST_F(SheetClientTest, FailedWritingIsToldAsOneByte) {
     test::ScriptedService full(test::reply(""), {test::reply("\0"s), test::reply("\0"s), test::reply("\0"s),
                                                  test::reply("\0"s), test::refuse(61)});

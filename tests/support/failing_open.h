@@ -1,5 +1,5 @@
-// Lets open() fail by FailingCall. This header defines it anew, so that exactly one source file of a test program may
-// include it.
+// Lets open() fail by FailingCall. This header defines it anew, so that exactly one source file of a test
+// program may include it.
 #pragma once
 
 #include <fcntl.h>
