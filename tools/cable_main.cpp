@@ -1,11 +1,8 @@
 // velmora-cable: joins two pseudo-terminals like a null-modem cable, so that the server and the virtual
 // Organiser can talk on one machine.
 //
-// Prints the two devices, one a line, and carries bytes until its standard input closes or it is told to
-// stop. With --baud the bytes take the time that they take on a real line. With --link LINK1 LINK2 symbolic
-// links are made to the devices. With --held the devices are in use by the cable itself, as far as other
-// programs can tell, so that opening them fails. On exit it prints how many bytes went each way, and how soon
-// the first device answered: the time from a last byte's arrival there to the first one from there.
+// On exit it prints how many bytes went each way, and how soon the first device answered: the time from a
+// last byte's arrival there to the first one from there.
 
 #include <poll.h>
 #include <signal.h>
@@ -14,17 +11,18 @@
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
 #include <chrono>
+#include <cmath>
 #include <cstddef>
-#include <cstdio>
-#include <cstdlib>
-#include <cstring>
-#include <exception>
+#include <iostream>
 #include <string>
 #include <system_error>
 #include <vector>
 
+#include "arguments/program.h"
 #include "cable.h"
+#include "cable_arguments.h"
 
 namespace {
 
@@ -36,11 +34,6 @@ volatile sig_atomic_t stopRequested = 0;
 
 void requestStop(int /*signal*/) {
     stopRequested = 1;
-}
-
-int usage() {
-    std::fputs("usage: velmora-cable [--baud N] [--held] [--link PATH1 PATH2]\n", stderr);
-    return 2;
 }
 
 /// Time to wait for the next byte, in the form of ppoll; null waits for ever.
@@ -96,24 +89,32 @@ std::vector<Clock::duration> carry(CableDirection& forth, CableDirection& back) 
     return answers;
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
-    unsigned baud = 0;
-    bool held = false;
-    const char* links[2] = {nullptr, nullptr};
-    for (int i = 1; i < argc; ++i) {
-        if (std::strcmp(argv[i], "--baud") == 0 && i + 1 < argc) {
-            baud = static_cast<unsigned>(std::strtoul(argv[++i], nullptr, 10));
-        } else if (std::strcmp(argv[i], "--held") == 0) {
-            held = true;
-        } else if (std::strcmp(argv[i], "--link") == 0 && i + 2 < argc) {
-            links[0] = argv[++i];
-            links[1] = argv[++i];
-        } else {
-            return usage();
+/// Symbolic links to the two devices, for as long as the cable lasts.
+class DeviceLinks {
+  public:
+    DeviceLinks(const std::vector<std::string>& paths, const CableEnd& first, const CableEnd& second) {
+        const std::array<const std::string*, 2> devices = {&first.device(), &second.device()};
+        for (std::size_t i = 0; i < paths.size(); ++i) {
+            ::unlink(paths[i].c_str());
+            if (::symlink(devices[i]->c_str(), paths[i].c_str()) != 0) {
+                throw std::system_error(errno, std::generic_category(), paths[i]);
+            }
+            made_.push_back(paths[i]);
         }
     }
+    ~DeviceLinks() {
+        for (const std::string& path : made_) {
+            ::unlink(path.c_str());
+        }
+    }
+    DeviceLinks(const DeviceLinks&) = delete;
+    DeviceLinks& operator=(const DeviceLinks&) = delete;
+
+  private:
+    std::vector<std::string> made_;
+};
+
+int join(const velmora::tools::CableArguments& arguments) {
     // Bytes are to arrive on time, not when the system finds it convenient to wake a sleeper (50 µs by
     // default).
     ::prctl(PR_SET_TIMERSLACK, 1UL);
@@ -121,40 +122,30 @@ int main(int argc, char** argv) {
     action.sa_handler = requestStop;
     ::sigaction(SIGINT, &action, nullptr);
     ::sigaction(SIGTERM, &action, nullptr);
-    try {
-        CableEnd first;
-        CableEnd second;
-        if (held) {
-            first.hold();
-            second.hold();
-        }
-        const CableEnd* ends[2] = {&first, &second};
-        for (int i = 0; i < 2; ++i) {
-            if (links[i] != nullptr) {
-                ::unlink(links[i]);
-                if (::symlink(ends[i]->device().c_str(), links[i]) != 0) {
-                    std::perror(links[i]);
-                    return 1;
-                }
-            }
-        }
-        if (std::printf("%s\n%s\n", first.device().c_str(), second.device().c_str()) < 0 ||
-            std::fflush(stdout) != 0) {
-            throw std::system_error(errno, std::generic_category(), "standard output");
-        }
-        CableDirection forth(first, second, baud);
-        CableDirection back(second, first, baud);
-        const auto answers = carry(forth, back);
-        std::printf("carried %zu %zu\n", forth.carried(), back.carried());
-        std::printf("answers %zu, median %.0f us\n", answers.size(), medianMicroseconds(answers));
-        for (const char* link : links) {
-            if (link != nullptr) {
-                ::unlink(link);
-            }
-        }
-    } catch (const std::exception& error) {
-        std::fprintf(stderr, "velmora-cable: %s\n", error.what());
-        return 1;
+    CableEnd first;
+    CableEnd second;
+    if (arguments.held) {
+        first.hold();
+        second.hold();
     }
+    const DeviceLinks links(arguments.links, first, second);
+    std::cout << first.device() << '\n' << second.device() << '\n' << std::flush;
+    if (!std::cout) {
+        return 0;  // told by runProgram
+    }
+    CableDirection forth(first, second, arguments.baud);
+    CableDirection back(second, first, arguments.baud);
+    const auto answers = carry(forth, back);
+    std::cout << "carried " << forth.carried() << ' ' << back.carried() << '\n'
+              << "answers " << answers.size() << ", median " << std::llround(medianMicroseconds(answers))
+              << " us\n";
     return 0;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    return velmora::runProgram("velmora-cable", std::cout, std::cerr, [argc, argv] {
+        return join(velmora::tools::readCableArguments({argv + 1, argv + argc}));
+    });
 }

@@ -16,6 +16,8 @@ function(velmora_unit name configuration folder description)
   install(FILES ${made} DESTINATION lib/systemd/system COMPONENT server)
 endfunction()
 
+include(${here}/manual/manual.cmake)
+
 install(TARGETS velmora-organiser velmora-files velmora-cable COMPONENT server)
 install(FILES ${here}/70-velmora.rules DESTINATION lib/udev/rules.d COMPONENT server)
 install(FILES ${here}/sysusers.conf DESTINATION lib/sysusers.d RENAME velmora.conf COMPONENT server)

@@ -6,26 +6,33 @@
 namespace velmora {
 namespace {
 
-void read(const std::vector<std::string>& arguments, ProgramSyntax::Unknown unknown) {
-    ProgramSyntax syntax("velmora", "Serves a Psion Organiser II on a serial port, with a window.");
-    syntax.note(
-        "velmora -debug, in any case and with nothing else, offers the protocol monitor. The toolkit's own\n"
-        "options, such as -platform and -style, are understood too.");
-    syntax.read(arguments, unknown);
-}
+class DesktopSyntax : public ProgramSyntax {
+  public:
+    DesktopSyntax()
+        : ProgramSyntax("velmora", "Serves a Psion Organiser II on a serial port, with a window.") {
+        note(
+            "velmora -debug, in any case and with nothing else, offers the protocol monitor. The toolkit's "
+            "own\n"
+            "options, such as -platform and -style, are understood too.");
+    }
+};
 
 }  // namespace
 
 void answerWithoutDisplay(const std::vector<std::string>& arguments) {
-    read(arguments, ProgramSyntax::Unknown::Ignored);
+    DesktopSyntax().read(arguments, ProgramSyntax::Unknown::Ignored);
 }
 
 std::string desktopCommandLine(const std::vector<std::string>& arguments) {
     if (arguments.size() == 1 && lowerCase(arguments.front()) == "-debug") {
         return arguments.front();
     }
-    read(arguments, ProgramSyntax::Unknown::Refused);
+    DesktopSyntax().read(arguments, ProgramSyntax::Unknown::Refused);
     return {};
+}
+
+ProgramOutline desktopOutline() {
+    return DesktopSyntax().outline();
 }
 
 }  // namespace velmora

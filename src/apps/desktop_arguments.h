@@ -4,6 +4,8 @@
 #include <string>
 #include <vector>
 
+#include "arguments/outline.h"
+
 namespace velmora {
 
 /// Throws RequestedText when the arguments behind the program's name ask for help or for the version, which
@@ -13,5 +15,8 @@ void answerWithoutDisplay(const std::vector<std::string>& arguments);
 /// The command line as start-up wants it, from the arguments that the toolkit has left: empty, or the debug
 /// switch when that is all. UsageError for anything else.
 std::string desktopCommandLine(const std::vector<std::string>& arguments);
+
+/// What both of them take.
+ProgramOutline desktopOutline();
 
 }  // namespace velmora

@@ -1,5 +1,5 @@
 # The server without a window.
-add_executable(velmorad velmorad_main.cpp headless_server.cpp)
+add_executable(velmorad velmorad_main.cpp headless_server.cpp printed_configuration.cpp)
 target_link_libraries(velmorad PRIVATE
   velmora_server_program velmora_server_arguments velmora_console velmora_hardening)
 target_compile_definitions(velmorad PRIVATE QT_NO_KEYWORDS)

@@ -6,6 +6,7 @@
 #include <system_error>
 
 #include "apps/non_blocking_output.h"
+#include "apps/server_overrides.h"
 #include "arguments/usage_error.h"
 #include "base/system_text.h"
 #include "serial/device_facts.h"
@@ -13,26 +14,10 @@
 namespace velmora {
 namespace {
 
-// Exit statuses besides those that all programs have.
 constexpr int kStatusPort = 1;
-constexpr int kStatusConfiguration = 3;
 
 constexpr const char* kWaits = " Waiting for it.";
 constexpr const char* kWaitsForAny = " Waiting for another one.";
-
-RunOverrides overridesOf(const ServerArguments& arguments) {
-    RunOverrides overrides;
-    overrides.configPath = arguments.config;
-    overrides.port = arguments.port;
-    overrides.baud = arguments.baud;
-    overrides.folder = arguments.folder;
-    overrides.fileType = arguments.fileType;
-    if (arguments.stayInFolder) {
-        overrides.stayInFolder = true;
-    }
-    overrides.autoStart = true;  // this program exists to serve
-    return overrides;
-}
 
 }  // namespace
 

@@ -43,7 +43,7 @@ void addServingOptions(CommandSyntax& syntax, ServerArguments& result) {
                   "Configuration file (default: Velmora.ini in\nthe user's configuration folder)",
                   into(result.config));
     syntax.option(
-        "--port", "<name>",
+        "--port", "<port>",
         "Serial port, for example COM5, /dev/ttyUSB0 or\nusb:0403:6001:A50285BI (default: the file's "
         "Port)",
         [&result](const std::string& value) {
@@ -85,29 +85,44 @@ void addTraceOptions(CommandSyntax& syntax, ServerArguments& result) {
 
 void addListing(CommandSyntax& syntax, ServerArguments& result) {
     syntax.flag("--list-ports", "Print the serial ports that are present, and end", result.listPorts);
+    syntax.flag("--print-config",
+                "Print the settings that this command line starts\nwith, and where each comes from",
+                result.printConfig);
     syntax.flag("--json", "With --list-ports: as JSON", result.json);
 }
+
+/// The syntax of the whole command line. What is read goes into the result.
+class ServerSyntax : public ProgramSyntax {
+  public:
+    explicit ServerSyntax(ServerArguments& result)
+        : ProgramSyntax("velmorad",
+                        "Serves a Psion Organiser II on a serial port, without a window, until it is told "
+                        "to stop.") {
+        addServingOptions(*this, result);
+        addTraceOptions(*this, result);
+        addListing(*this, result);
+        note("Options hold for this run and are not saved.");
+        exitStatuses({{0, "stopped (by a signal or by the Organiser)"},
+                      {1, "the port cannot be opened or failed (without --wait)"},
+                      {2, "the command line makes no sense"},
+                      {3, "the configuration file cannot be used"}});
+    }
+};
 
 }  // namespace
 
 ServerArguments readServerArguments(const std::vector<std::string>& arguments) {
     ServerArguments result;
-    ProgramSyntax syntax("velmorad",
-                         "Serves a Psion Organiser II on a serial port, without a window, until it is told "
-                         "to stop.");
-    addServingOptions(syntax, result);
-    addTraceOptions(syntax, result);
-    addListing(syntax, result);
-    syntax.note(
-        "Options hold for this run and are not saved. Exit status: 0 stopped (by a signal or by the\n"
-        "Organiser), 1 the port cannot be opened or failed (without --wait), 2 the command line makes no "
-        "sense,\n"
-        "3 the configuration file cannot be used.");
-    syntax.read(arguments);
+    ServerSyntax(result).read(arguments);
     if (result.json && !result.listPorts) {
         throw UsageError("--json goes with --list-ports");
     }
     return result;
+}
+
+ProgramOutline serverOutline() {
+    ServerArguments result;
+    return ServerSyntax(result).outline();
 }
 
 }  // namespace velmora

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "arguments/outline.h"
 namespace velmora {
 
 /// What `velmorad` was asked to do. Everything that is not set is taken from the configuration file.
@@ -18,6 +19,7 @@ struct ServerArguments {
     bool stayInFolder = false;             ///< refuse names that lead outside the download folder
     bool wait = false;                     ///< wait for a port that is missing or lost
     bool listPorts = false;                ///< print the ports and end
+    bool printConfig = false;              ///< print the settings and end
     bool json = false;                     ///< them as JSON
     bool trace = false;
     std::vector<std::string> traceCategories;  ///< in capitals; empty means all
@@ -27,5 +29,8 @@ struct ServerArguments {
 /// Reads the arguments behind the program's name. Throws UsageError, and RequestedText for --help and
 /// --version.
 ServerArguments readServerArguments(const std::vector<std::string>& arguments);
+
+/// What readServerArguments takes.
+ProgramOutline serverOutline();
 
 }  // namespace velmora

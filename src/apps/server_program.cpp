@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "arguments/usage_error.h"
+#include "apps/named_folders.h"
 #include "base/system_text.h"
 #include "platform/known_folders.h"
 #include "serial/open_diagnosis.h"
@@ -51,23 +51,8 @@ ServerProgram::ServerProgram(PlatformParts& platform, RunOverrides overrides, co
     debug_.showStateOf([this] { return core_.link().linkState(); });
 }
 
-void ServerProgram::checkFolders() const {
-    const NativePaths& rules = platform_.rules;
-    const auto require = [&](const char* option, const std::string& folder) {
-        if (!platform_.files.folderExists(folder)) {
-            throw UsageError(std::string(option) + ": " + folder + " is no folder");
-        }
-    };
-    if (overrides_.configPath) {
-        require("--config", rules.parentFolder(rules.absolute(*overrides_.configPath)));
-    }
-    if (overrides_.folder) {
-        require("--folder", rules.absolute(*overrides_.folder));
-    }
-}
-
 StartupReport ServerProgram::start(const std::string& commandLine) {
-    checkFolders();
+    requireNamedFolders(platform_.files, platform_.rules, overrides_);
     StartupReport report = start_.Main(commandLine);
     core_.applySettings(start_.settings());
     if (const std::string news = describeAdapterNews(); !news.empty()) {

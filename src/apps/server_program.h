@@ -66,7 +66,6 @@ class ServerProgram {
     IniSettingsStore& settingsStore() { return settingsStore_; }
 
   private:
-    void checkFolders() const;
     void tellOfPort(const std::string& line);
     std::string portName(int number) const;
 

@@ -6,6 +6,7 @@
 #include "apps/console.h"
 #include "apps/headless_server.h"
 #include "apps/listed_ports.h"
+#include "apps/printed_configuration.h"
 #include "apps/server_arguments.h"
 #include "arguments/program.h"
 #include "arguments/syntax.h"
@@ -39,6 +40,9 @@ int main(int argc, char** argv) {
         const ServerArguments arguments = readServerArguments(systemArguments(argc, argv));
         if (arguments.listPorts) {
             throw RequestedText{listedPorts(arguments.json)};
+        }
+        if (arguments.printConfig) {
+            return printConfiguration(arguments, std::cout, std::cerr);
         }
         return serve(arguments, argc, argv);
     });

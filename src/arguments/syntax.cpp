@@ -2,6 +2,7 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <sstream>
 #include <utility>
 
 #include "arguments/nearest_word.h"
@@ -114,6 +115,12 @@ std::string valueMismatch(const CLI::App& program, const std::vector<std::string
             return name + " takes no value";
         }
     }
+    for (const std::string& word : arguments) {
+        const CLI::Option* option = findOption(program, word);
+        if (option != nullptr && option->get_type_size() == 2) {
+            return word + " needs two values";
+        }
+    }
     const bool missing = !arguments.empty() && takesValue(program, arguments.back());
     return missing ? arguments.back() + " needs a value" : "";
 }
@@ -156,6 +163,49 @@ std::vector<std::string> prepared(const CLI::App& app, const std::vector<std::st
     return words;
 }
 
+std::vector<std::string> namesOf(const CLI::Option& option) {
+    if (option.get_positional()) {
+        return {option.get_single_name()};
+    }
+    std::vector<std::string> names;
+    for (const std::string& name : option.get_snames()) {
+        names.push_back("-" + name);
+    }
+    for (const std::string& name : option.get_lnames()) {
+        names.push_back("--" + name);
+    }
+    return names;
+}
+
+void fillOutline(CommandOutline& outline, const CLI::App& app) {
+    outline.name = app.get_name();
+    outline.purpose = app.get_description();
+    for (const CLI::Option* option : app.get_options()) {
+        if (option == app.get_help_ptr() && app.get_parent() != nullptr) {
+            continue;  // the program has it
+        }
+        auto& arguments = option->get_positional() ? outline.operands : outline.options;
+        arguments.push_back({namesOf(*option), option->get_option_text(), option->get_description()});
+    }
+    for (const CLI::App* command : app.get_subcommands({})) {
+        fillOutline(outline.commands.emplace_back(), *command);
+    }
+}
+
+/// A text broken into lines for the help.
+std::string wrapped(const std::string& text) {
+    constexpr std::size_t kHelpWidth = 100;
+    std::istringstream words(text);
+    std::string result;
+    std::size_t width = 0;
+    for (std::string word; words >> word;) {
+        const bool fits = width + 1 + word.size() <= kHelpWidth;
+        result += (result.empty() ? "" : fits ? " " : "\n") + word;
+        width = fits && width > 0 ? width + 1 + word.size() : word.size();
+    }
+    return result;
+}
+
 }  // namespace
 
 void CommandSyntax::valueOption(const std::string& name, const std::string& value, const std::string& help,
@@ -185,6 +235,16 @@ void CommandSyntax::optionOrEmpty(const std::string& name, const std::string& va
     valueOption(name, value, help, std::move(take), presence);
 }
 
+void CommandSyntax::pairOption(
+    const std::string& name, const std::string& value, const std::string& help,
+    std::function<void(const std::string& first, const std::string& second)> take) {
+    const CLI::callback_t callback = [take = std::move(take)](const CLI::results_t& results) {
+        take(results.front(), results.back());
+        return true;
+    };
+    app_->add_option(name, callback, help)->option_text(value)->type_size(2);
+}
+
 void CommandSyntax::optionalValue(const std::string& name, const std::string& value, const std::string& help,
                                   Take take) {
     // What the library says for a flag without a value.
@@ -210,10 +270,6 @@ CommandSyntax CommandSyntax::command(const std::string& name, const std::string&
     command.group("Commands");
     command.final_callback(std::move(chosen));
     return CommandSyntax(command);
-}
-
-void CommandSyntax::note(const std::string& text) {
-    app_->footer(text);
 }
 
 ProgramSyntax::ProgramSyntax(const std::string& name, const std::string& purpose, Repeated repeated)
@@ -242,6 +298,34 @@ ProgramSyntax::~ProgramSyntax() = default;
 void ProgramSyntax::standAloneFlag(const std::string& name, const std::string& help, bool& given) {
     flag(name, help, given);
     standAlone_.push_back(name);
+}
+
+void ProgramSyntax::note(const std::string& text) {
+    note_ = text;
+    writeFooter();
+}
+
+void ProgramSyntax::exitStatuses(const std::vector<std::pair<int, std::string>>& statuses) {
+    statuses_ = statuses;
+    writeFooter();
+}
+
+void ProgramSyntax::writeFooter() {
+    std::string text;
+    for (const auto& [status, meaning] : statuses_) {
+        text += (text.empty() ? "Exit status: " : ", ") + std::to_string(status) + " " + meaning;
+    }
+    const std::string between = note_.empty() || text.empty() ? "" : "\n";
+    app().footer(note_ + between + (text.empty() ? "" : wrapped(text + ".")));
+}
+
+ProgramOutline ProgramSyntax::outline() const {
+    ProgramOutline outline;
+    fillOutline(outline, app());
+    outline.version = VELMORA_VERSION;
+    outline.note = note_;
+    outline.statuses = statuses_;
+    return outline;
 }
 
 void ProgramSyntax::requireNothing() {

@@ -4,7 +4,10 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
+
+#include "arguments/outline.h"
 
 namespace CLI {
 class App;
@@ -31,6 +34,9 @@ class CommandSyntax {
     /// The same, where an empty value says something.
     void optionOrEmpty(const std::string& name, const std::string& value, const std::string& help, Take take,
                        Presence presence = Presence::Optional);
+    /// An option with two values, one behind the other; `value` names both.
+    void pairOption(const std::string& name, const std::string& value, const std::string& help,
+                    std::function<void(const std::string& first, const std::string& second)> take);
     /// An option whose value may only stand behind "="; `take` gets an empty text when there is none.
     void optionalValue(const std::string& name, const std::string& value, const std::string& help, Take take);
     /// An option without a value; `given` is set to true when it is there. It must live until the line is
@@ -42,8 +48,6 @@ class CommandSyntax {
     /// A command; once a program or a command has some, one of them must be given. `chosen` is called when it
     /// was and the whole line is understood.
     CommandSyntax command(const std::string& name, const std::string& help, std::function<void()> chosen);
-    /// A text behind the help.
-    void note(const std::string& text);
 
   protected:
     explicit CommandSyntax(CLI::App& app) : app_(&app) {}
@@ -73,6 +77,14 @@ class ProgramSyntax : public CommandSyntax {
     /// A flag that may stand without anything that must be given otherwise.
     void standAloneFlag(const std::string& name, const std::string& help, bool& given);
 
+    /// A text behind the help.
+    void note(const std::string& text);
+    /// What the program's exit statuses mean; the help tells them behind its note.
+    void exitStatuses(const std::vector<std::pair<int, std::string>>& statuses);
+
+    /// All that may stand on the command line.
+    ProgramOutline outline() const;
+
     /// Reads the arguments behind the program's name, once. Throws UsageError, and RequestedText when
     /// --help or --version asks for one.
     void read(const std::vector<std::string>& arguments, Unknown unknown = Unknown::Refused);
@@ -81,9 +93,12 @@ class ProgramSyntax : public CommandSyntax {
     explicit ProgramSyntax(std::unique_ptr<CLI::App> app);
 
     void requireNothing();
+    void writeFooter();
 
     std::unique_ptr<CLI::App> owned_;
     std::vector<std::string> standAlone_;
+    std::string note_;
+    std::vector<std::pair<int, std::string>> statuses_;
 };
 
 /// The user asks for a text and for nothing else: thrown by ProgramSyntax::read.

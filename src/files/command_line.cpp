@@ -71,16 +71,19 @@ class Syntax {
         addData();
         addBoot();
         addShow();
-        program_.note(
-            "velmora-files COMMAND --help tells about a command.\n"
-            "Exit status: 0 done, 1 a file failed or is damaged, 2 wrong usage,\n"
-            "3 something was left out and --strict was given.");
+        program_.note("velmora-files COMMAND --help tells about a command.");
+        program_.exitStatuses({{0, "done"},
+                               {1, "a file failed or is damaged"},
+                               {2, "wrong usage"},
+                               {3, "something was left out and --strict was given"}});
     }
 
     FilesCommandLine read(const std::vector<std::string>& arguments) {
         program_.read(arguments);
         return {chosen_, strict_};
     }
+
+    ProgramOutline outline() const { return program_.outline(); }
 
   private:
     void addCommon();
@@ -189,7 +192,7 @@ void Syntax::addBoot() {
     CommandSyntax check = boot.command("check", "Tell what a boot file holds and what is wrong", [this] {
         chosen_ = [name = bootFile_](const FileAccess& access) { return runBootCheckCommand(name, access); };
     });
-    check.operand("NAME", "The boot file", into(bootFile_));
+    check.operand("FILE", "The boot file", into(bootFile_));
 }
 
 void Syntax::addShow() {
@@ -212,6 +215,10 @@ void Syntax::addShow() {
 
 FilesCommandLine readFilesCommandLine(const std::vector<std::string>& arguments) {
     return Syntax().read(arguments);
+}
+
+ProgramOutline filesOutline() {
+    return Syntax().outline();
 }
 
 }  // namespace velmora

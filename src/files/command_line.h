@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "arguments/outline.h"
 #include "files/file_access.h"
 
 namespace velmora {
@@ -21,5 +22,8 @@ struct FilesCommandLine {
 /// Reads the arguments behind the program's name. Throws UsageError, and RequestedText for --help and
 /// --version.
 FilesCommandLine readFilesCommandLine(const std::vector<std::string>& arguments);
+
+/// What readFilesCommandLine takes.
+ProgramOutline filesOutline();
 
 }  // namespace velmora

@@ -8,6 +8,7 @@
 #include "arguments/argument_values.h"
 #include "arguments/syntax.h"
 #include "base/byte_text.h"
+#include "organiser/commands.h"
 #include "organiser/local_files.h"
 #include "serial/mode_string.h"
 
@@ -101,9 +102,12 @@ class Syntax {
         addSheetCommands();
         addServices();
         addTour();
-        program_.note(
-            "velmora-organiser COMMAND --help tells about a command.\n"
-            "Exit status: 0 done, 1 a file on this side, 2 wrong usage, 3 refused by the server, 4 no link.");
+        program_.note("velmora-organiser COMMAND --help tells about a command.");
+        program_.exitStatuses({{kDone, "done"},
+                               {kLocalProblem, "a file on this side"},
+                               {kWrongUsage, "wrong usage"},
+                               {kRefused, "refused by the server"},
+                               {kNoLink, "no link"}});
     }
 
     void read(const std::vector<std::string>& arguments) {
@@ -114,6 +118,8 @@ class Syntax {
         }
         finish();
     }
+
+    ProgramOutline outline() const { return program_.outline(); }
 
   private:
     void addLine();
@@ -153,7 +159,7 @@ class Syntax {
 
 void Syntax::addLine() {
     program_.option(
-        "--device", "<path>",
+        "--device", "<port>",
         "Serial device that leads to the server, or a name\nthat --list-ports prints (needed)",
         [this](const std::string& value) { line_.device = value; }, Presence::Required);
     program_.option("--baud", "<rate>", "Line speed (default: 9600)",
@@ -290,7 +296,7 @@ void Syntax::addServices() {
     addAddress(boot, "Load address of the code (needed)", Presence::Required);
     addOutput(boot);
     CommandSyntax service = command("service", CommandKind::Service, "Open any service and print its answer");
-    service.operand("NAME", "Name of the service", name("NAME"));
+    service.operand("SERVICE", "Name of the service", name("SERVICE"));
     command("exit", CommandKind::Exit, "Ask the server to stop serving");
     command("shutdown", CommandKind::Shutdown, "Ask the server's program to end");
 }
@@ -329,6 +335,11 @@ CommandLine readCommandLine(const std::vector<std::string>& arguments) {
     CommandLine line;
     Syntax(line).read(arguments);
     return line;
+}
+
+ProgramOutline commandLineOutline() {
+    CommandLine line;
+    return Syntax(line).outline();
 }
 
 }  // namespace velmora

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "arguments/outline.h"
 #include "organiser/fault_injector.h"
 #include "organiser/file_client.h"
 #include "organiser/ftran_client.h"
@@ -62,5 +63,8 @@ struct CommandLine {
 /// Reads the arguments behind the program's name. Throws UsageError, and RequestedText for --help and
 /// --version.
 CommandLine readCommandLine(const std::vector<std::string>& arguments);
+
+/// What readCommandLine takes.
+ProgramOutline commandLineOutline();
 
 }  // namespace velmora

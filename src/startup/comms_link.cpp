@@ -15,6 +15,7 @@
 #include "server/searched_ports.h"
 #include "startup/default_ini.h"
 #include "startup/messages.h"
+#include "startup/start_paths.h"
 
 namespace velmora {
 namespace {
@@ -26,15 +27,6 @@ constexpr int kRevision = VELMORA_REVISION;
 constexpr const char* kVersion = "beta3";
 constexpr const char* kErrorTitle = "Oops, Velmora Error";
 constexpr std::int32_t kPortFree = 1;
-
-/// A folder as it is kept: without one final separator. A backslash goes on every system, since the same file
-/// may be used on several.
-std::string withoutFinalSeparator(std::string path, char separator) {
-    if (path.size() > 1 && (path.back() == '\\' || path.back() == separator)) {
-        path.pop_back();
-    }
-    return path;
-}
 
 /// Whether a small file has a line "key=value".
 bool holdsEntry(const std::string& contents) {
@@ -104,13 +96,12 @@ void CommsLink::runSteps() {
 
 void CommsLink::load_INIfile() {
     Files& files = *parts_.files;
-    const std::string usual = parts_.rules.join(parts_.folders.applicationData, "Velmora.ini");
-    iniPath_ = parts_.rules.absolute(overrides_.configPath.value_or(usual));
+    iniPath_ = configurationPath(parts_.rules, parts_.folders.applicationData, overrides_);
     if (!files.fileExists(iniPath_)) {
         // On a fresh account even the application-data folder may be missing.
         files.createFolder(parts_.rules.parentFolder(iniPath_));
         writeDefaultFile();
-    } else if (files.fileSize(iniPath_) < kSmallestIni) {
+    } else if (!isConfiguration(files, iniPath_)) {
         keepOldFile();
         writeDefaultFile();
     }
@@ -161,23 +152,18 @@ bool CommsLink::get_Settings() {
 
 void CommsLink::chooseDownloadFolder() {
     Files& files = *parts_.files;
-    const PathRules& rules = parts_.rules;
-    std::string folder = withoutFinalSeparator(settings_.DownloadPath, rules.separator());
-    if (overrides_.folder) {
-        folder = withoutFinalSeparator(rules.absolute(*overrides_.folder), rules.separator());
+    const DownloadFolder folder =
+        downloadFolder(files, parts_.rules, parts_.folders.documents, settings_.DownloadPath, overrides_);
+    if (!folder.missing.empty()) {
+        parts_.box.inform(BoxIcon::Exclamation, "Velmora Warning",
+                          std::string(Strings::kDLPathNotFound1) + "\n   " + shownText(folder.missing) +
+                              "\n" + Strings::kDLPathNotFound2 + "\n   " + shownText(folder.path));
     }
-    if (folder.empty() || !files.folderExists(folder)) {
-        const std::string usual = rules.join(parts_.folders.documents, "Psion Files");
-        if (!folder.empty()) {
-            parts_.box.inform(BoxIcon::Exclamation, "Velmora Warning",
-                              std::string(Strings::kDLPathNotFound1) + "\n   " + shownText(folder) + "\n" +
-                                  Strings::kDLPathNotFound2 + "\n   " + shownText(usual));
-        }
-        folder = usual;
-        files.createFolder(folder);
+    if (folder.isUsual) {
+        files.createFolder(folder.path);
     }
-    files.removeLeftovers(folder);
-    parts_.transfer.DownloadPath = folder;
+    files.removeLeftovers(folder.path);
+    parts_.transfer.DownloadPath = folder.path;
 }
 
 std::int32_t CommsLink::init_Ports() {

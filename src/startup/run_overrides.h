@@ -20,6 +20,16 @@ struct RunOverrides {
     std::optional<bool> autoStart;          ///< AutoStart: whether the server starts with the program
 };
 
+/// What takes the place of a key of the file.
+struct GivenValue {
+    std::string option;  ///< the option of the command line; "program" for what the program itself sets
+    std::string value;   ///< as the file would have it
+};
+
+/// The one for a key, in any case; nothing when the file counts.
+std::optional<GivenValue> givenValue(const RunOverrides& overrides, std::string_view section,
+                                     std::string_view key);
+
 /// Whether one of them takes the place of a key of the file, in any case.
 bool isOverridden(const RunOverrides& overrides, std::string_view section, std::string_view key);
 

@@ -43,6 +43,7 @@ TEST(ServerArguments, ListsPortsWaitsAndTakesTheNamesOfAdapters) {
     EXPECT_FALSE(readServerArguments({}).listPorts);
     EXPECT_TRUE(readServerArguments({"--wait"}).wait);
     EXPECT_TRUE(readServerArguments({"--list-ports", "--json"}).json);
+    EXPECT_TRUE(readServerArguments({"--print-config"}).printConfig);
     EXPECT_EQ(readServerArguments({"--port", "usb:0403:6001:A5"}).port, "usb:0403:6001:A5");
 }
 

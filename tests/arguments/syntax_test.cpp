@@ -164,6 +164,75 @@ TEST_F(SyntaxTest, TheVersionIsOneLine) {
     EXPECT_EQ(text({"copy", "--version"}), version);
 }
 
+TEST(ProgramSyntax, AnOptionMayHaveTwoValues) {
+    std::string taken;
+    ProgramSyntax syntax("tool", "Does this and that.");
+    syntax.pairOption(
+        "--link", "<file1> <file2>", "Links",
+        [&taken](const std::string& first, const std::string& second) { taken = first + " and " + second; });
+    syntax.read({"--link", "a", "--b"});
+    EXPECT_EQ(taken, "a and --b");
+}
+
+TEST(ProgramSyntax, OneOfTwoValuesIsToldByTheOptionsName) {
+    ProgramSyntax syntax("tool", "Does this and that.");
+    syntax.pairOption("--link", "<file1> <file2>", "Links", [](const std::string&, const std::string&) {});
+    try {
+        syntax.read({"--link", "a"});
+        FAIL();
+    } catch (const UsageError& error) {
+        EXPECT_STREQ(error.what(), "--link needs two values");
+    }
+}
+
+TEST(ProgramSyntax, TheHelpTellsTheExitStatusesBehindTheNote) {
+    ProgramSyntax syntax("tool", "Does this and that.");
+    syntax.exitStatuses({{0, "done"}, {1, "a file failed"}});
+    syntax.note("Nothing is saved.");
+    try {
+        syntax.read({"--help"});
+        FAIL();
+    } catch (const RequestedText& help) {
+        EXPECT_NE(help.text.find("Nothing is saved.\nExit status: 0 done, 1 a file failed.\n"),
+                  std::string::npos)
+            << help.text;
+    }
+}
+
+TEST(ProgramSyntax, ItsOutlineHasAllThatMayBeTyped) {
+    ProgramSyntax syntax("tool", "Does this and that.");
+    bool flag = false;
+    syntax.flag("--wait", "Waits", flag);
+    syntax.optionalValue("--trace", "<list>", "Traces", [](const std::string&) {});
+    syntax.note("Nothing is saved.");
+    syntax.exitStatuses({{0, "done"}});
+    CommandSyntax boot = syntax.command("boot", "Boot files", {});
+    CommandSyntax make = boot.command("make", "Makes one", {});
+    make.option(
+        "-o", "<file>", "File to write\n(needed)", [](const std::string&) {}, Presence::Required);
+    make.operand("CODE", "Machine code", [](const std::string&) {});
+
+    const ProgramOutline outline = syntax.outline();
+    EXPECT_EQ(outline.name, "tool");
+    EXPECT_EQ(outline.purpose, "Does this and that.");
+    EXPECT_EQ(outline.note, "Nothing is saved.");
+    EXPECT_EQ(outline.statuses, (std::vector<std::pair<int, std::string>>{{0, "done"}}));
+    ASSERT_EQ(outline.options.size(), 4U);
+    EXPECT_EQ(outline.options[0].names, (Words{"-h", "--help"}));
+    EXPECT_EQ(outline.options[2].names, (Words{"--wait"}));
+    EXPECT_EQ(outline.options[2].value, "");
+    EXPECT_EQ(outline.options[3].value, "[=<list>]");
+    ASSERT_EQ(outline.commands.size(), 1U);
+    ASSERT_EQ(outline.commands[0].commands.size(), 1U);
+    const CommandOutline& makeOutline = outline.commands[0].commands[0];
+    EXPECT_EQ(makeOutline.name, "make");
+    ASSERT_EQ(makeOutline.options.size(), 1U) << "--help stands with the program";
+    EXPECT_EQ(makeOutline.options[0].value, "<file>");
+    EXPECT_EQ(makeOutline.options[0].help, "File to write\n(needed)");
+    ASSERT_EQ(makeOutline.operands.size(), 1U);
+    EXPECT_EQ(makeOutline.operands[0].names, (Words{"CODE"}));
+}
+
 TEST(ProgramSyntax, WhatIsUnknownMayBeLeftToSomebodyElse) {
     ProgramSyntax syntax("tool", "Does this and that.");
     EXPECT_NO_THROW(syntax.read({"-platform", "offscreen", "x"}, ProgramSyntax::Unknown::Ignored));

@@ -136,6 +136,33 @@ TEST_F(ConfigurationTest, WhatTheCommandLineSetsCannotFailTheStart) {
     EXPECT_TRUE(server->waitForOutput("Waiting for link")) << server->error();
 }
 
+TEST_F(ConfigurationTest, TheEffectiveSettingsArePrintedAndNothingIsMade) {
+    const std::vector<std::string> arguments = {"--config", serverPath(iniPath()), "--folder",
+                                                serverPath(psion), "--print-config"};
+    const Finished first = finish("velmorad", arguments);
+    EXPECT_EQ(first.status, 0) << first.error;
+    EXPECT_NE(first.output.find(" (not there yet: a start writes it)\n"), std::string::npos) << first.output;
+    EXPECT_NE(first.output.find("--folder  [Settings] DownloadPath=" + serverPath(psion) + "\n"),
+              std::string::npos)
+        << first.output;
+    EXPECT_NE(first.output.find("default   [Settings] Baud=9600\n"), std::string::npos) << first.output;
+    EXPECT_FALSE(std::filesystem::exists(iniPath()));
+    writeFile(iniPath(), "[Settings]\r\nBaud=1200\r\n; " + std::string(100, '.') + "\r\n");
+    const Finished second = finish("velmorad", arguments);
+    EXPECT_EQ(second.status, 0) << second.error;
+    EXPECT_NE(second.output.find("file      [Settings] Baud=1200\n"), std::string::npos) << second.output;
+}
+
+TEST_F(ConfigurationTest, SettingsThatFailAStartAreNotPrinted) {
+    writeFile(iniPath(), "[Settings]\r\nAutoHide=perhaps\r\n; " + std::string(100, '.') + "\r\n");
+    const Finished done = finish("velmorad", {"--config", serverPath(iniPath()), "--print-config"});
+    EXPECT_EQ(done.status, 3);
+    EXPECT_EQ(done.output, "");
+    EXPECT_NE(done.error.find("[Settings] AutoHide=perhaps"), std::string::npos) << done.error;
+    const Finished mistyped = finish("velmorad", {"--folder", serverPath(home / "gone"), "--print-config"});
+    EXPECT_EQ(mistyped.status, 2);
+}
+
 TEST_F(ConfigurationTest, AFileThatIsWrittenIsTold) {
     startServer({"--config", serverPath(iniPath())});
     EXPECT_NE(server->output().find("Wrote the default settings to " + serverPath(iniPath())),

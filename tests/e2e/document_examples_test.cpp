@@ -1,5 +1,6 @@
 // What the documents show to be typed or written, tried as it stands there.
 #include <gtest/gtest.h>
+#include <signal.h>
 
 #include <algorithm>
 #include <filesystem>
@@ -106,7 +107,7 @@ class DocumentExamples : public ServerFixture {
         typed = replaced(typed, "~/psion", psion.string());
         typed = replaced(typed, "build/bin/", "");
         std::map<std::string, std::string> environment = organiserSide->environment(home, zone);
-        environment["PATH"] = VELMORA_BIN_DIR ":/usr/bin:/bin";
+        environment["PATH"] = VELMORA_BIN_DIR ":" VELMORA_TOOLS_DIR ":/usr/bin:/bin";
         return std::make_unique<Process>(
             std::vector<std::string>{"sh", "-c", "cd \"$HOME\" && exec " + typed}, environment);
     }
@@ -140,7 +141,15 @@ TEST_F(DocumentExamples, EveryCommandDoesItsWork) {
         for (const std::string& line : block.lines) {
             const std::string program = programOf(line);
             SCOPED_TRACE(block.document + ": " + line);
-            if (program == "velmorad") {
+            if (program == "velmorad" && line.find("--print-config") != std::string::npos) {
+                const Finished done = finished(*type(line));
+                EXPECT_EQ(done.status, 0) << done.error;
+            } else if (program == "velmora-cable") {
+                const auto joined = type(line);
+                EXPECT_TRUE(joined->waitForOutput("/dev/pts/")) << joined->error();
+                joined->signal(SIGTERM);
+                EXPECT_EQ(joined->wait(), 0) << joined->error();
+            } else if (program == "velmorad") {
                 server = type(line);
                 EXPECT_TRUE(server->waitForOutput("Waiting for link")) << server->output() << server->error();
                 stopServer();
@@ -160,7 +169,8 @@ TEST_F(DocumentExamples, EveryCommandDoesItsWork) {
             tried.insert(program);
         }
     }
-    EXPECT_EQ(tried, (std::set<std::string>{"velmorad", "velmora-files", "velmora-organiser"}));
+    EXPECT_EQ(tried,
+              (std::set<std::string>{"velmora-cable", "velmora-files", "velmora-organiser", "velmorad"}));
 }
 
 TEST_F(DocumentExamples, EveryScriptThatIsNamedIsThere) {
