@@ -62,12 +62,6 @@ class CSHFolderTest : public QObject {
         QCOMPARE(folder.DisplayName(), std::string());
         QVERIFY(!folder.hWnd());
     }
-    void aClosedDialogIsACancelledOne() {
-        cSHFolder folder;
-        whenOpen(folder, [&] { folder.hWnd()->close(); });
-        QCOMPARE(folder.BrowseForFolder(nullptr), std::string());
-        QVERIFY(!folder.hWnd());
-    }
     void captionPromptAndStatusAreShown() {
         cSHFolder folder;
         folder.setCaption("Folder \xFC");

@@ -52,8 +52,6 @@ class FrmMainTest : public QObject {
     void hideButtonMinimises();
     void captionCarriesTheStateWhileMinimised();
     void shutDownButtonEndsTheProgram();
-    void closeKeyAsksAndIsRefusedDuringATransfer();
-    void closeKeyStopsTheServer();
     void requestedShutdownEndsTheProgramAfterHalfASecond();
     void portThatFailsStopsTheServerUntilStartIsPressedAgain();
     void debugSwitchAppearsAndWorksByMouseAndKey();
@@ -332,26 +330,6 @@ void FrmMainTest::shutDownButtonEndsTheProgram() {
     QVERIFY(rig->closed);
     QCOMPARE(rig->lastReason, CloseReason::Program);
     QVERIFY(!rig->store.entries.empty());
-}
-
-void FrmMainTest::closeKeyAsksAndIsRefusedDuringATransfer() {
-    rig->reach(Downld);
-    rig->box.answer = false;
-    QVERIFY(!rig->window.QWidget::close());
-    QVERIFY(rig->window.isVisible());
-    QVERIFY(!rig->closed);
-    QCOMPARE(rig->lastReason, CloseReason::User);
-    QCOMPARE(rig->box.asked.size(), std::size_t{1});
-    rig->box.answer = true;
-    QVERIFY(rig->window.QWidget::close());
-    QVERIFY(rig->closed);
-}
-
-void FrmMainTest::closeKeyStopsTheServer() {
-    rig->reach(WaitLink);
-    QVERIFY(rig->window.QWidget::close());
-    QCOMPARE(rig->link.count("stop"), 1);
-    QVERIFY(rig->box.asked.empty());
 }
 
 void FrmMainTest::requestedShutdownEndsTheProgramAfterHalfASecond() {

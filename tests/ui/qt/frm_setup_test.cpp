@@ -366,19 +366,13 @@ class FrmSetupTest : public QObject {
         QCOMPARE(list->count(), 1);
         QCOMPARE(list->currentIndex(), -1);
     }
-    void closingWhileProbingEndsTheProbes() {
-        port.number = 3;
-        bool focusWaitsAtCancel = false;
+    void thePortsAreProbedUnderTheEyesOfEverybody() {
         whileProbing = [&] {
-            focusWaitsAtCancel = dialog->focusWidget() == find<QPushButton>("pbCancel") && !ok()->isEnabled();
-            QCOMPARE(test::accessibilityFaults(*dialog), QStringList());
-            find<QPushButton>("pbCancel")->click();
+            QVERIFY(!ok()->isEnabled());
+            isForEverybody();
         };
-        make();
-        QTRY_VERIFY(!dialog->isVisible());
-        QVERIFY(focusWaitsAtCancel);
-        QCOMPARE(probed, std::vector<int>{1});
-        QCOMPARE(port.number, std::int16_t(3));
+        open();
+        QVERIFY(!probed.empty());
     }
 
   private:
