@@ -60,9 +60,9 @@ function(velmora_test name)
 endfunction()
 
 # Fails the configuration when a *_test.cpp below the folder belongs to no test program. Those of the systems
-# that are not built for are told by their names; a build without the toolkit is not checked.
+# that are not built for are told by their names; a build without the desktop is not checked.
 function(velmora_check_every_test_is_built folder)
-  if(NOT VELMORA_TOOLKIT)
+  if(NOT VELMORA_DESKTOP)
     return()
   endif()
   file(GLOB_RECURSE found ${folder}/*_test.cpp)

@@ -4,6 +4,7 @@
 #   scripts/setup.sh tests    that, and what the tests and checks need
 #   scripts/setup.sh valgrind both, and what looks for errors of memory in the running programs
 #   scripts/setup.sh pictures that, and what takes pictures of a display
+#   scripts/setup.sh packages what it takes to make Debian packages
 #   scripts/setup.sh bare     that, and what makes a minimal system to try all this in
 set -euo pipefail
 
@@ -17,6 +18,9 @@ if [[ "${1:-}" == valgrind ]]; then
 fi
 if [[ "${1:-}" == pictures ]]; then
   packages+=(xvfb xauth imagemagick fonts-wine)
+fi
+if [[ "${1:-}" == packages ]]; then
+  packages+=(pandoc dpkg-dev lintian)
 fi
 if [[ "${1:-}" == bare ]]; then
   packages+=(debootstrap)

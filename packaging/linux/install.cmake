@@ -27,6 +27,8 @@ if(VELMORA_TOOLKIT)
   velmora_unit(velmorad /etc/velmora/Velmora.ini /var/lib/velmora/psion "")
   # For several handhelds: an instance for each, called as its configuration file is.
   velmora_unit(velmorad@ /etc/velmora/%i.ini /var/lib/velmora/%i " (%i)")
+endif()
+if(VELMORA_DESKTOP)
   install(TARGETS velmora COMPONENT desktop)
   install(FILES ${here}/../velmora.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications COMPONENT desktop)
   install(FILES ${PROJECT_BINARY_DIR}/packaging/org.velmora.Velmora.metainfo.xml
@@ -39,6 +41,8 @@ if(VELMORA_TOOLKIT)
   install(FILES ${here}/../artwork/velmora.svg DESTINATION ${icons}/scalable/apps COMPONENT desktop)
 endif()
 
-install(FILES ${PROJECT_SOURCE_DIR}/CHANGELOG.md ${PROJECT_SOURCE_DIR}/LICENSE DESTINATION ${documents} COMPONENT doc)
+install(FILES ${PROJECT_SOURCE_DIR}/CHANGELOG.md DESTINATION ${documents} COMPONENT doc)
+# Part of no package: packages have the licence in their own form.
+install(FILES ${PROJECT_SOURCE_DIR}/LICENSE DESTINATION ${documents} COMPONENT licence)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs/ DESTINATION ${documents}/docs COMPONENT doc
   PATTERN development EXCLUDE)

@@ -138,6 +138,9 @@ TEST_F(DocumentExamples, EveryConfigurationStartsTheServerAndIsLeftAsItIs) {
 TEST_F(DocumentExamples, EveryCommandDoesItsWork) {
     std::set<std::string> tried;
     for (const CodeBlock& block : codeBlocks()) {
+        if (std::ranges::any_of(block.lines, [](const std::string& line) { return line.ends_with('&'); })) {
+            continue;  // lines that work together; scripts/test-packages.sh runs them
+        }
         for (const std::string& line : block.lines) {
             const std::string program = programOf(line);
             SCOPED_TRACE(block.document + ": " + line);

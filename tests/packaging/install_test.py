@@ -45,6 +45,18 @@ class Install(unittest.TestCase):
             status, said = tool(self.find("bin/" + name), "--version")
             self.assertEqual((status, said.split()[0]), (0, name))
 
+    def test_manual_pages_and_completions_lie_where_they_are_looked_for(self):
+        for name in ("velmora", "velmorad", "velmora-organiser", "velmora-files", "velmora-cable"):
+            self.find(f"share/man/man1/{name}.1")
+            self.find(f"share/bash-completion/completions/{name}")
+            self.find(f"share/zsh/vendor-completions/_{name}")
+            self.find(f"share/fish/vendor_completions.d/{name}.fish")
+        self.find("share/man/man5/Velmora.ini.5")
+
+    def test_the_licence_goes_along_once(self):
+        self.find("share/doc/velmora/LICENSE")
+        self.assertEqual(list(self.tree.rglob("copyright")), [], "packages have it in their own form")
+
     def test_the_desktop_starts_what_is_installed(self):
         entry = self.find("share/applications/velmora.desktop")
         self.assertEqual(tool("desktop-file-validate", entry), (0, ""))

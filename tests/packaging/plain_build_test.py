@@ -1,0 +1,50 @@
+"""Configures as packagers do, on a machine with less than a developer's.
+
+plain_build_test.py SOURCE_FOLDER
+"""
+
+import pathlib
+import subprocess
+import sys
+import tempfile
+import unittest
+
+SOURCES = sys.argv[1]
+# What a machine does not have, as CMake is told.
+WITHOUT_TESTS = [f"-DCMAKE_DISABLE_FIND_PACKAGE_{name}=ON" for name in ("GTest", "benchmark", "Python3")]
+WITHOUT_WINDOWS = [f"-DCMAKE_DISABLE_FIND_PACKAGE_Qt6{name}=ON" for name in ("Widgets", "Gui")]
+
+
+class PlainBuild(unittest.TestCase):
+    def configure(self, *options):
+        """The rules that the build is made by; too long to be shown where one is not as it should be."""
+        folder = tempfile.TemporaryDirectory()
+        self.addCleanup(folder.cleanup)
+        done = subprocess.run(["cmake", "-S", SOURCES, "-B", folder.name, "-G", "Ninja", *options],
+                              capture_output=True, text=True)
+        self.assertEqual(done.returncode, 0, done.stderr)
+        build = pathlib.Path(folder.name)
+        return (build / "build.ninja").read_text() + (build / "CMakeFiles/rules.ninja").read_text()
+
+    def test_the_programs_need_nothing_of_the_tests(self):
+        self.assertTrue("build bin/velmora:" in self.configure(*WITHOUT_TESTS), "build bin/velmora:")
+
+    def test_the_server_without_a_window_needs_no_widgets(self):
+        rules = self.configure("-DVELMORA_DESKTOP=OFF", *WITHOUT_TESTS, *WITHOUT_WINDOWS)
+        self.assertTrue("build bin/velmorad:" in rules, "build bin/velmorad:")
+        self.assertFalse("build bin/velmora:" in rules, "build bin/velmora:")
+        self.assertFalse("Widgets" in rules, "Widgets")
+
+    def test_pages_of_other_tools_can_be_left_out(self):
+        rules = self.configure("-DVELMORA_MANUALS=OFF", *WITHOUT_TESTS)
+        self.assertFalse("Velmora.ini.5" in rules, "Velmora.ini.5")
+        self.assertTrue("manual/velmorad.1" in rules, "manual/velmorad.1")
+
+    def test_the_packagers_launcher_is_left_alone(self):
+        rules = self.configure("-DCMAKE_CXX_COMPILER_LAUNCHER=/usr/bin/nice", *WITHOUT_TESTS)
+        self.assertTrue("/usr/bin/nice" in rules, "/usr/bin/nice")
+        self.assertFalse("ccache" in rules, "ccache")
+
+
+if __name__ == "__main__":
+    unittest.main(argv=sys.argv[:1])
