@@ -278,7 +278,7 @@ ProgramSyntax::ProgramSyntax(const std::string& name, const std::string& purpose
     // A path may begin with "/".
     program.allow_windows_style_options(false);
     program.set_help_flag("-h,--help", "Show this text");
-    program.set_version_flag("--version", name + " " VELMORA_VERSION, "Show the version");
+    program.set_version_flag("--version", name + " " VELMORA_VERSION VELMORA_COMMIT, "Show the version");
     if (repeated == Repeated::LastCounts) {
         program.option_defaults()->take_last();
     }
