@@ -63,6 +63,10 @@ class Install(unittest.TestCase):
         desktop = configparser.ConfigParser(interpolation=None)
         desktop.read(entry)
         self.find("bin/" + desktop["Desktop Entry"]["Exec"])
+        actions = desktop["Desktop Entry"]["Actions"].rstrip(";").split(";")
+        self.assertEqual(desktop.sections(), ["Desktop Entry", *("Desktop Action " + action for action in actions)])
+        for action in actions:
+            self.find("bin/" + desktop["Desktop Action " + action]["Exec"].split()[0])
         icon = desktop["Desktop Entry"]["Icon"]
         for size in (16, 24, 32, 48, 64, 128, 256):
             self.find(f"share/icons/hicolor/{size}x{size}/apps/{icon}.png")
@@ -82,7 +86,7 @@ class Install(unittest.TestCase):
             program, *arguments = re.search(r"^ExecStart=(.*)$", unit, re.M)[1].split()
             self.assertEqual(program, PREFIX + "/bin/velmorad")
             self.assertIn("--stay-in-folder", arguments)
-            documentation = re.search(r"^Documentation=file://(.*)$", unit, re.M)[1]
+            documentation = re.search(r"^Documentation=man:velmorad\(1\) file://(.*)$", unit, re.M)[1]
             self.assertTrue((self.root / documentation.lstrip("/")).is_file(), documentation)
 
     def test_units_give_the_server_little_to_harm(self):
