@@ -11,7 +11,7 @@ set -euo pipefail
 packages=(g++ cmake ninja-build qt6-base-dev libcli11-dev nlohmann-json3-dev libudev-dev ccache libwps-tools fonts-dejavu-core)
 if [[ "${1:-}" == tests || "${1:-}" == valgrind ]]; then
   packages+=(libgtest-dev libgmock-dev libbenchmark-dev clang clang-format clang-tidy libclang-rt-dev llvm
-    xvfb xauth libxcb1-dev dbus-daemon tzdata gnumeric python3 desktop-file-utils appstream pandoc man-db zsh fish reuse)
+    xvfb xauth libxcb1-dev dbus-daemon tzdata gnumeric python3 desktop-file-utils appstream pandoc cmark-gfm man-db zsh fish reuse)
 fi
 if [[ "${1:-}" == valgrind ]]; then
   packages+=(valgrind)
@@ -20,7 +20,7 @@ if [[ "${1:-}" == pictures ]]; then
   packages+=(xvfb xauth imagemagick fonts-wine)
 fi
 if [[ "${1:-}" == packages ]]; then
-  packages+=(pandoc dpkg-dev lintian)
+  packages+=(pandoc cmark-gfm dpkg-dev lintian)
 fi
 if [[ "${1:-}" == bare ]]; then
   packages+=(debootstrap)

@@ -4,13 +4,19 @@ include(GNUInstallDirs)
 set(here ${CMAKE_CURRENT_LIST_DIR})
 # Debian's folder of documents is called as the package is, in small letters.
 set(documents ${CMAKE_INSTALL_DATAROOTDIR}/doc/velmora)
+# The documents for owners, which link to each other only.
+set(documented user-guide configuration messages formats headless organiser-tool reliability windows)
 
 # velmora_unit(NAME CONFIGURATION FOLDER DESCRIPTION): a unit of the server without a window.
 function(velmora_unit name configuration folder description)
   set(VELMORA_UNIT_CONFIG ${configuration})
   set(VELMORA_UNIT_FOLDER ${folder})
   set(VELMORA_UNIT_NAME "${description}")
-  set(VELMORA_UNIT_DOCUMENTS ${CMAKE_INSTALL_PREFIX}/${documents})
+  set(page headless.md)
+  if(VELMORA_MANUALS)
+    set(page headless.html)
+  endif()
+  set(VELMORA_UNIT_DOCUMENT ${CMAKE_INSTALL_PREFIX}/${documents}/docs/${page})
   set(made ${PROJECT_BINARY_DIR}/packaging/${name}.service)
   configure_file(${here}/velmorad.service.in ${made} @ONLY)
   install(FILES ${made} DESTINATION lib/systemd/system COMPONENT server)
@@ -44,5 +50,14 @@ endif()
 install(FILES ${PROJECT_SOURCE_DIR}/CHANGELOG.md DESTINATION ${documents} COMPONENT doc)
 # Part of no package: packages have the licence in their own form.
 install(FILES ${PROJECT_SOURCE_DIR}/LICENSE DESTINATION ${documents} COMPONENT licence)
-install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs/ DESTINATION ${documents}/docs COMPONENT doc
-  PATTERN development EXCLUDE)
+if(VELMORA_MANUALS)
+  include(packaging/documents.cmake)
+  velmora_pages(pages ${documented})
+  add_dependencies(programs velmora-documents)
+else()
+  list(TRANSFORM documented APPEND .md OUTPUT_VARIABLE pages)
+  list(TRANSFORM pages PREPEND ${PROJECT_SOURCE_DIR}/docs/)
+endif()
+install(FILES ${pages} DESTINATION ${documents}/docs COMPONENT doc)
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs/images DESTINATION ${documents}/docs COMPONENT doc FILES_MATCHING
+  PATTERN "*.png")

@@ -8,22 +8,9 @@ endif()
 install(TARGETS ${programs} RUNTIME DESTINATION .)
 
 # A double click opens a page in the browser; Windows has nothing that opens Markdown.
-find_program(VELMORA_CMARK cmark-gfm REQUIRED)
-set(pages user-guide windows configuration messages formats headless organiser-tool)
-list(JOIN pages " " page_names)
-set(made "")
-foreach(page ${pages})
-  set(input ${PROJECT_SOURCE_DIR}/docs/${page}.md)
-  set(output ${PROJECT_BINARY_DIR}/documents/${page}.html)
-  add_custom_command(OUTPUT ${output}
-    COMMAND ${CMAKE_COMMAND} -DCMARK=${VELMORA_CMARK} -DINPUT=${input} -DOUTPUT=${output} "-DPAGES=${page_names}"
-      -P ${CMAKE_CURRENT_LIST_DIR}/document.cmake
-    DEPENDS ${input} ${CMAKE_CURRENT_LIST_DIR}/document.cmake
-    VERBATIM)
-  list(APPEND made ${output})
-endforeach()
-add_custom_target(velmora-documents ALL DEPENDS ${made})
-install(FILES ${made} DESTINATION docs)
+include(packaging/documents.cmake)
+velmora_pages(pages user-guide windows configuration messages formats headless organiser-tool)
+install(FILES ${pages} DESTINATION docs)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs/images DESTINATION docs FILES_MATCHING PATTERN "*.png")
 
 # Plain texts get the line ends and the ending that the Notepad goes by.

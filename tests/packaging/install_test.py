@@ -107,11 +107,15 @@ class Install(unittest.TestCase):
         self.assertIn('TAG+="uaccess"', self.find("lib/udev/rules.d/70-velmora.rules").read_text())
 
     def test_documents_link_to_what_is_there(self):
-        pages = list((self.tree / "share/doc/velmora").rglob("*.md"))
+        pages = list((self.tree / "share/doc/velmora/docs").glob("*.html"))
         self.assertGreater(len(pages), 5)
+        anchors = {page: set(re.findall(r'id="([^"]+)"', page.read_text())) for page in pages}
         for page in pages:
-            for link in re.findall(r"\]\(([^)#:]+)(?:#[^)]*)?\)", page.read_text()):
-                self.assertTrue((page.parent / link).exists(), f"{page.name} links to {link}")
+            for link, anchor in re.findall(r'(?:href|src)="([^":#]*)(?:#([^"]*))?"', page.read_text()):
+                target = page.parent / link if link else page
+                self.assertTrue(target.exists(), f"{page.name} links to {link}")
+                if anchor:
+                    self.assertIn(anchor, anchors[target], f"{page.name} links to {link}#{anchor}")
 
 
 if __name__ == "__main__":
