@@ -14,20 +14,21 @@ ServerCore::ServerCore(const ServerCoreParts& parts)
       linkControl_(link_),
       dispatcher_(link_, controller_, parts.trace),
       transferLog_(controller_, parts.trace, parts.rules),
+      transfers_(parts.clock),
       earlierCopies_(parts.files, parts.rules, parts.clock, transferLog_, copies),
       openFile_(parts.files, parts.rules, controller_, earlierCopies_, transferLog_),
       spreadsheet_(parts.files, parts.rules, transfer.sheets),
       timeServices_(parts.clock, parts.zone),
-      ftran_(link_, controller_, openFile_, tools_, transfer),
-      file_(link_, controller_, openFile_, tools_),
-      boot_(link_, controller_, parts.files, tools_),
+      ftran_(link_, controller_, openFile_, transfers_, tools_, transfer),
+      file_(link_, controller_, openFile_, transfers_, tools_),
+      boot_(link_, controller_, parts.files, transfers_, tools_),
       exit_(link_, link_.stopRequests().exit),
       shutdown_(link_, link_.stopRequests().shutdown),
-      plan_(link_, controller_, tools_, spreadsheet_, earlierCopies_, transferLog_),
+      plan_(link_, controller_, tools_, spreadsheet_, earlierCopies_, transferLog_, transfers_),
       planm_(link_, offeredFormats()),
-      time_(link_, controller_, timeServices_, TimeReply::Local),
-      gmt_(link_, controller_, timeServices_, TimeReply::Universal),
-      timeInfo_(link_, controller_, timeServices_, TimeReply::LocalWithZone) {
+      time_(link_, controller_, transfers_, timeServices_, TimeReply::Local),
+      gmt_(link_, controller_, transfers_, timeServices_, TimeReply::Universal),
+      timeInfo_(link_, controller_, transfers_, timeServices_, TimeReply::LocalWithZone) {
     controller_.attachLink(linkControl_);
     if (parts.portKeeping) {
         const ServerCoreParts::PortKeeping& keeping = *parts.portKeeping;

@@ -44,6 +44,7 @@
 #include "startup/settings.h"
 #include "transfers/earlier_copies.h"
 #include "transfers/transfer_log.h"
+#include "transfers/transfers.h"
 
 namespace velmora {
 
@@ -105,6 +106,8 @@ class ServerCore {
 
     /// As PLP has it.
     std::chrono::nanoseconds soonestFrame() const { return link_.soonestFrame(); }
+    /// Adds somebody who hears of all transfers; it must outlive the server.
+    void observe(TransferObserver& observer) { transfers_.observe(observer); }
     ServerController& controller() { return controller_; }
     const ServerController& controller() const { return controller_; }
     /// An adapter came, went or changed.
@@ -139,6 +142,7 @@ class ServerCore {
     LinkOfController linkControl_;
     ServiceDispatcher dispatcher_;
     TransferLog transferLog_;
+    Transfers transfers_;
     EarlierCopies earlierCopies_;
     OpenFile openFile_;
     Spreadsheet spreadsheet_;

@@ -6,6 +6,7 @@
 
 #include "base/byte_text.h"
 #include "services/boot_file.h"
+#include "services/named_transfer.h"
 #include "services/running_server.h"
 #include "services/service_codes.h"
 #include "services/two_byte_number.h"
@@ -39,6 +40,7 @@ void BootService::handle(std::int32_t& code, std::string& payload) {
         code_.clear();
         relocations_.clear();
         window_.setCurrentFile({});
+        transfers_.leave();
         code = PLP_EV_RESET;
     }
 }
@@ -62,7 +64,9 @@ void BootService::takeMessage(std::string_view payload) {
 
 void BootService::loadFile(std::string_view name) {
     addToStats(window_, StatsBytesReceived, name.size());
-    const std::string path = names_.map_FileName(trimBlanks(name) + ".bin", true, false);
+    const std::string fileName = trimBlanks(name) + ".bin";
+    const std::string path = names_.map_FileName(fileName, true, false);
+    transfers_.ask(namedTransfer(names_, fileName, path, TransferDirection::Load, TransferKind::Boot));
     if (path.empty() || !files_.fileExists(path)) {
         finish(kCodeFileNotFound);
         return;
@@ -76,6 +80,7 @@ void BootService::loadFile(std::string_view name) {
     }
     code_ = std::move(file.code);
     relocations_ = std::move(file.relocations);
+    transfers_.begin(code_.size());
     sender_.PLP_Send(FrameType::Data, twoBytes(code_.size()));
     state_ = State::AwaitAddress;
 }
@@ -99,12 +104,18 @@ void BootService::sendChunk() {
     const std::string chunk = code_.substr(0, kChunk);
     sender_.PLP_Send(FrameType::Data, twoBytes(address_) + chunk);
     window_.SetStats(StatsBytesSent, static_cast<std::int16_t>(chunk.size()));
+    transfers_.moved(chunk.size());
     code_.erase(0, chunk.size());
     address_ += chunk.size();
 }
 
 void BootService::finish(int reason) {
     sender_.PLP_Send(FrameType::Discon, reason == kCodeNone ? std::string() : codePayload(reason));
+    if (reason == kCodeNone) {
+        transfers_.complete();
+    } else {
+        transfers_.refuse(reason, reasonOf(reason));
+    }
     ended_ = true;
 }
 

@@ -10,6 +10,7 @@
 #include "link/server_window.h"
 #include "services/file_name_mapper.h"
 #include "services/service_handler.h"
+#include "transfers/transfers.h"
 
 namespace velmora {
 
@@ -18,8 +19,9 @@ namespace velmora {
 /// code is left, a DISCON frame of reason 0 ends the service. All must outlive this object.
 class BootService : public ServiceHandler {
   public:
-    BootService(FrameSender& sender, ServerWindow& window, Files& files, const FileNameMapper& names)
-        : sender_(sender), window_(window), files_(files), names_(names) {}
+    BootService(FrameSender& sender, ServerWindow& window, Files& files, Transfers& transfers,
+                const FileNameMapper& names)
+        : sender_(sender), window_(window), files_(files), transfers_(transfers), names_(names) {}
 
     void handle(std::int32_t& code, std::string& payload) override;
 
@@ -36,6 +38,7 @@ class BootService : public ServiceHandler {
     FrameSender& sender_;
     ServerWindow& window_;
     Files& files_;
+    Transfers& transfers_;
     const FileNameMapper& names_;
 
     State state_ = State::Idle;

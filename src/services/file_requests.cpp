@@ -3,6 +3,7 @@
 #include <optional>
 #include <utility>
 
+#include "base/run_time_error.h"
 #include "services/running_server.h"
 
 namespace velmora {
@@ -60,13 +61,24 @@ bool FileRequests::reply(std::string_view data) {
 
 void FileRequests::refuse(int code) {
     sender_.PLP_Send(FrameType::Discon, codePayload(code));
+    if (code == kCodeEndOfFile && transfers_.underWay()) {
+        transfers_.complete();
+    } else {
+        transfers_.refuse(code, reasonOf(code));
+    }
     end();
 }
 
 void FileRequests::replyOpened(std::string_view header, ServerState state, const std::string& path) {
+    std::optional<std::uint64_t> size = bytesLeft();
+    if (size) {
+        *size += header.size();
+    }
     if (reply(header) && setStateWhileRunning(window_, state)) {
         window_.setCurrentFile(path);
     }
+    transfers_.begin(size);
+    transfers_.moved(header.size());
 }
 
 void FileRequests::closeFile() {
@@ -74,6 +86,18 @@ void FileRequests::closeFile() {
         window_.setCurrentFile({});
     }
     file_.close();
+    transfers_.leave();
+}
+
+std::optional<std::uint64_t> FileRequests::bytesLeft() const {
+    if (file_.status() != kOpenForReading) {
+        return std::nullopt;
+    }
+    try {
+        return file_.size() - file_.position();
+    } catch (const RunTimeError&) {
+        return std::nullopt;  // the file is read as far as it goes
+    }
 }
 
 bool FileRequests::saveAndReply() {
@@ -82,6 +106,7 @@ bool FileRequests::saveAndReply() {
         return false;
     }
     reply({});
+    transfers_.complete();
     return true;
 }
 
@@ -93,6 +118,7 @@ bool FileRequests::writeAndReply(std::string_view record) {
         return false;
     }
     reply({});
+    transfers_.moved(countOf(record));
     return true;
 }
 
@@ -101,6 +127,7 @@ ServiceCode FileRequests::readAndReply(std::string_view argument) {
     const ServiceCode refusal = readRecord(argument, record);
     if (refusal == kCodeNone) {
         reply(record);
+        transfers_.moved(countOf(record));
     } else {
         refuse(refusal);
     }

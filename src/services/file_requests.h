@@ -1,7 +1,9 @@
 // What FTRAN and FILE have in common: the events, the requests' form, reading and writing.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -11,6 +13,7 @@
 #include "services/open_file.h"
 #include "services/service_codes.h"
 #include "services/service_handler.h"
+#include "transfers/transfers.h"
 
 namespace velmora {
 
@@ -23,8 +26,8 @@ class FileRequests : public ServiceHandler {
 
   protected:
     /// All must outlive this object; the file may be shared with other services.
-    FileRequests(FrameSender& sender, ServerWindow& window, OpenFile& file)
-        : sender_(sender), window_(window), file_(file) {}
+    FileRequests(FrameSender& sender, ServerWindow& window, OpenFile& file, Transfers& transfers)
+        : sender_(sender), window_(window), file_(file), transfers_(transfers) {}
 
     /// The service was opened; the empty reply has not been sent yet.
     virtual void begin() {}
@@ -43,6 +46,8 @@ class FileRequests : public ServiceHandler {
     void refuse(int code);
     void end() { ended_ = true; }
 
+    /// Tells of the file that is asked for, before it is opened.
+    void announce(const Transfer& transfer) { transfers_.ask(transfer); }
     /// Replies to a successful open, then shows the file and what is done to it.
     void replyOpened(std::string_view header, ServerState state, const std::string& path);
     /// Closes the file and forgets its name.
@@ -64,10 +69,15 @@ class FileRequests : public ServiceHandler {
     /// Hands a request to its function; an operation that is none is refused.
     void request(std::uint8_t operation, std::string_view argument);
     ServiceCode readRecord(std::string_view argument, std::string& record);
+    /// Bytes that are still to be read behind the position; nothing where that cannot be told.
+    std::optional<std::uint64_t> bytesLeft() const;
+    /// As the statistics count a record: a line has an end of two bytes.
+    std::size_t countOf(std::string_view record) const { return record.size() + (file_.textMode() ? 2 : 0); }
 
     FrameSender& sender_;
     ServerWindow& window_;
     OpenFile& file_;
+    Transfers& transfers_;
     bool ended_ = false;
 };
 

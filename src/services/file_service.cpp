@@ -1,11 +1,23 @@
 #include "services/file_service.h"
 
 #include "base/number_text.h"
+#include "services/named_transfer.h"
 
 namespace velmora {
 namespace {
 
 enum SeekMode : int { FromStart = 0, FromPosition = 1, FromEnd = 2 };
+
+TransferKind transferKind(int kind) {
+    switch (kind) {
+        case kKindBinary:
+            return TransferKind::Bytes;
+        case kKindText:
+            return TransferKind::Text;
+        default:
+            return TransferKind::Listing;
+    }
+}
 
 /// The number with at least eight digits.
 std::string eightDigits(std::int32_t number) {
@@ -32,7 +44,11 @@ void FileService::open(std::string_view argument) {
     const int kind = byteAt(argument, 1);
     const bool listing = kind == kKindShortListing || kind == kKindLongListing;
     const bool mustExist = mode == kModeRead || mode == kModeAppend;
-    const std::string path = names_.map_FileName(argument.substr(2), mustExist, listing);
+    const std::string_view name = argument.substr(2);
+    const std::string path = names_.map_FileName(name, mustExist, listing);
+    announce(namedTransfer(names_, name, path,
+                           mode == kModeRead || listing ? TransferDirection::Load : TransferDirection::Save,
+                           transferKind(kind)));
     const int status = file().open_File(path, mode, kind);
     if (status > 0) {
         refuse(status);

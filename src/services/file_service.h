@@ -14,8 +14,9 @@ namespace velmora {
 class FileService : public FileRequests {
   public:
     /// All must outlive this object. `file` is shared with the FTRAN service.
-    FileService(FrameSender& sender, ServerWindow& window, OpenFile& file, const FileNameMapper& names)
-        : FileRequests(sender, window, file), names_(names) {}
+    FileService(FrameSender& sender, ServerWindow& window, OpenFile& file, Transfers& transfers,
+                const FileNameMapper& names)
+        : FileRequests(sender, window, file, transfers), names_(names) {}
 
   private:
     void open(std::string_view argument) override;

@@ -6,6 +6,7 @@
 #include "base/byte_text.h"
 #include "services/block_file.h"
 #include "services/name_extension.h"
+#include "services/named_transfer.h"
 #include "services/procedure_image.h"
 
 namespace velmora {
@@ -27,6 +28,13 @@ constexpr std::array<DataFileForm, 4> kDataFileForms = {
 DataFileForm dataFileForm(std::int32_t dataFileType) {
     const auto index = static_cast<std::size_t>(dataFileType);
     return kDataFileForms[index < kDataFileForms.size() ? index : 0];
+}
+
+TransferKind kindOfType(int type) {
+    if (type == kTypeData) {
+        return TransferKind::Data;
+    }
+    return type == kTypeProcedure ? TransferKind::Procedure : TransferKind::Block;
 }
 
 std::string blockExtension(int type) {
@@ -51,7 +59,11 @@ void FtranService::open(std::string_view argument) {
     openMode_ = byteAt(argument, 0);
     fileType_ = byteAt(argument, 1);
     const bool mustExist = openMode_ == kModeRead || openMode_ == kModeAppend;
-    const std::string path = names_.map_FileName(withExtension(argument.substr(2)), mustExist, false);
+    const std::string name = withExtension(argument.substr(2));
+    const std::string path = names_.map_FileName(name, mustExist, false);
+    announce(namedTransfer(names_, name, path,
+                           openMode_ == kModeRead ? TransferDirection::Load : TransferDirection::Save,
+                           kindOfType(fileType_)));
     const int kind = fileType_ == kTypeData ? static_cast<int>(kKindText) : -fileType_;
     const int status = file().open_File(path, openMode_, kind);
     if (status > 0) {

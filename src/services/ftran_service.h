@@ -16,9 +16,9 @@ namespace velmora {
 class FtranService : public FileRequests {
   public:
     /// All must outlive this object. `file` is shared with the FILE service.
-    FtranService(FrameSender& sender, ServerWindow& window, OpenFile& file, const FileNameMapper& names,
-                 const TransferSettings& settings)
-        : FileRequests(sender, window, file), names_(names), settings_(settings) {}
+    FtranService(FrameSender& sender, ServerWindow& window, OpenFile& file, Transfers& transfers,
+                 const FileNameMapper& names, const TransferSettings& settings)
+        : FileRequests(sender, window, file, transfers), names_(names), settings_(settings) {}
 
   private:
     void begin() override { dataWritten_ = false; }

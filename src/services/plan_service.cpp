@@ -6,6 +6,7 @@
 #include "link/server_state.h"
 #include "services/map_error.h"
 #include "services/name_extension.h"
+#include "services/named_transfer.h"
 #include "services/plan_cells.h"
 #include "spreadsheet/sheet_format.h"
 
@@ -30,13 +31,15 @@ const std::string kEndReply = {kEndOfSheet, '\0'};
 }  // namespace
 
 PlanService::PlanService(FrameSender& sender, ServerWindow& window, const FileNameMapper& mapper,
-                         Spreadsheet& spreadsheet, EarlierCopies& copies, TransferLog& log)
+                         Spreadsheet& spreadsheet, EarlierCopies& copies, TransferLog& log,
+                         Transfers& transfers)
     : sender_(sender),
       window_(window),
       mapper_(mapper),
       spreadsheet_(spreadsheet),
       copies_(copies),
-      log_(log) {}
+      log_(log),
+      transfers_(transfers) {}
 
 void PlanService::handle(std::int32_t& code, std::string& payload) {
     switch (code) {
@@ -53,6 +56,7 @@ void PlanService::handle(std::int32_t& code, std::string& payload) {
     }
     if (code == PLP_EV_RESET) {
         tellOfBrokenSave();
+        transfers_.leave();
         reset();
     }
 }
@@ -100,8 +104,10 @@ CellRemark PlanService::remarks() {
     return [this](const std::string& line) { report(", " + line); };
 }
 
-void PlanService::reportFailure(const char* what, int error) {
-    report(std::string(" ") + what + ": " + errorText(static_cast<ErrorNumber>(error)));
+void PlanService::reportFailure(const char* what, int error, int told) {
+    const std::string reason = errorText(static_cast<ErrorNumber>(error));
+    report(std::string(" ") + what + ": " + reason);
+    transfers_.refuse(told, reason);
 }
 
 void PlanService::handleHeader(std::int32_t& code, std::string_view message) {
@@ -116,13 +122,16 @@ void PlanService::handleHeader(std::int32_t& code, std::string_view message) {
         name += "." + FormatName(format_, false);
     }
     path_ = mapper_.map_FileName(name, pcSends_, false);
+    transfers_.ask(namedTransfer(mapper_, name, path_,
+                                 pcSends_ ? TransferDirection::Load : TransferDirection::Save,
+                                 TransferKind::Sheet));
     pcSends_ ? beginSending(code) : beginReceiving(code);
 }
 
 void PlanService::beginSending(std::int32_t& code) {
     const int error = spreadsheet_.ImportSheet(sheet_, path_, format_, remarks());
     if (error != 0) {
-        reportFailure("was not read", error);
+        reportFailure("was not read", error, error);
         refuse(code, std::to_string(error));
         return;
     }
@@ -130,6 +139,7 @@ void PlanService::beginSending(std::int32_t& code) {
     phase_ = Phase::HeaderDone;
     window_.setState(Upload);
     window_.setCurrentFile(path_);
+    transfers_.begin();
     reply(kAccepted);
 }
 
@@ -137,14 +147,16 @@ void PlanService::beginReceiving(std::int32_t& code) {
     try {
         spreadsheet_.checkWritable(path_);
     } catch (const RunTimeError& error) {
-        reportFailure("cannot be written", error.number());
-        refuse(code, codePayload(map_Error(error)));
+        const ServiceCode told = map_Error(error);
+        reportFailure("cannot be written", error.number(), told);
+        refuse(code, codePayload(told));
         return;
     }
     phase_ = Phase::HeaderDone;
     unsaved_ = true;
     window_.setState(Downld);
     window_.setCurrentFile(path_);
+    transfers_.begin();
     reply(kAccepted);
 }
 
@@ -171,6 +183,7 @@ void PlanService::sendNextCell() {
         if (!sheetDone_) {
             sheetDone_ = true;
             window_.SetStats(StatsFilesSent, 1);
+            transfers_.complete();
         }
         reply(kEndReply);
         return;
@@ -181,6 +194,7 @@ void PlanService::sendNextCell() {
     message += cell.text;
     reply(message);
     addToStats(window_, StatsBytesSent, message.size());
+    transfers_.moved(message.size());
 }
 
 void PlanService::handleSize(std::string_view message) {
@@ -194,6 +208,7 @@ void PlanService::handleSize(std::string_view message) {
     phase_ = Phase::Receiving;
     window_.SetStats(StatsBytesReceived, static_cast<std::int16_t>(kSizeLength));
     arrived_ += kSizeLength;
+    transfers_.moved(kSizeLength);
     reply(kAccepted);
 }
 
@@ -210,6 +225,7 @@ void PlanService::handleCell(std::int32_t& code, std::string_view message) {
     addToStats(window_, StatsBytesReceived, message.size());
     unsaved_ = true;
     arrived_ += message.size();
+    transfers_.moved(message.size());
     reply(kAccepted);
 }
 
@@ -232,10 +248,11 @@ void PlanService::finishReceiving(std::int32_t& code) {
     const int error = writeSheet();
     unsaved_ = false;
     if (error != 0) {
-        reportFailure("was not saved", error);
+        reportFailure("was not saved", error, error);
         refuse(code, codePayload(error));
     } else {
         reply(kEndReply);
+        transfers_.complete();
     }
 }
 

@@ -23,6 +23,7 @@
 #include "spreadsheet/spreadsheet.h"
 #include "transfers/earlier_copies.h"
 #include "transfers/transfer_log.h"
+#include "transfers/transfers.h"
 
 namespace velmora {
 
@@ -38,7 +39,7 @@ namespace velmora {
 class PlanService : public ServiceHandler {
   public:
     PlanService(FrameSender& sender, ServerWindow& window, const FileNameMapper& mapper,
-                Spreadsheet& spreadsheet, EarlierCopies& copies, TransferLog& log);
+                Spreadsheet& spreadsheet, EarlierCopies& copies, TransferLog& log, Transfers& transfers);
 
     void handle(std::int32_t& code, std::string& payload) override;
 
@@ -70,7 +71,8 @@ class PlanService : public ServiceHandler {
     void report(const std::string& line);
     /// Passes the remarks of a conversion on.
     CellRemark remarks();
-    void reportFailure(const char* what, int error);
+    /// Tells of the run-time error with which a transfer ends; `told` is the code that the Organiser gets.
+    void reportFailure(const char* what, int error, int told);
 
     void reply(std::string_view data) { sender_.PLP_Send(FrameType::Data, data); }
     void refuse(std::int32_t& code, std::string_view reason);
@@ -81,6 +83,7 @@ class PlanService : public ServiceHandler {
     Spreadsheet& spreadsheet_;
     EarlierCopies& copies_;
     TransferLog& log_;
+    Transfers& transfers_;
 
     Phase phase_ = Phase::Idle;
     bool pcSends_ = false;

@@ -18,6 +18,9 @@ enum ServiceCode : std::uint8_t {
     kCodeEndOfFile = 238,       ///< end of file on a read
 };
 
+/// Why the Organiser was refused, in a few words.
+const char* reasonOf(int code);
+
 /// The payload of a DISCON frame with this code.
 inline std::string codePayload(int code) {
     return {static_cast<char>(code)};

@@ -3,6 +3,7 @@
 #include <cstdlib>
 #include <string_view>
 
+#include "base/byte_text.h"
 #include "base/number_text.h"
 
 namespace velmora {
@@ -35,14 +36,19 @@ bool TimeServices::zoneInformation(std::string& offset) const {
     return zone_.daylight();
 }
 
-void TimeService::handle(std::int32_t& code, std::string& /*payload*/) {
+void TimeService::handle(std::int32_t& code, std::string& payload) {
     if (code != kServiceOpened) {
+        transfers_.leave();
         code = PLP_EV_RESET;
         return;
     }
+    transfers_.ask({upperCase(payload), {}, TransferDirection::Load, TransferKind::Clock});
     const std::string reply = replyText();
+    transfers_.begin(reply.size());
     sender_.PLP_Send(FrameType::Data, reply);
     window_.SetStats(StatsBytesSent, static_cast<std::int16_t>(reply.size()));
+    transfers_.moved(reply.size());
+    transfers_.complete();
 }
 
 std::string TimeService::replyText() const {

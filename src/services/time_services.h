@@ -8,6 +8,7 @@
 #include "link/frame_sender.h"
 #include "link/server_window.h"
 #include "services/service_handler.h"
+#include "transfers/transfers.h"
 
 namespace velmora {
 
@@ -52,8 +53,9 @@ enum class TimeReply {
 /// services; all it is given must outlive it.
 class TimeService : public ServiceHandler {
   public:
-    TimeService(FrameSender& sender, ServerWindow& window, const TimeServices& time, TimeReply reply)
-        : sender_(sender), window_(window), time_(time), reply_(reply) {}
+    TimeService(FrameSender& sender, ServerWindow& window, Transfers& transfers, const TimeServices& time,
+                TimeReply reply)
+        : sender_(sender), window_(window), transfers_(transfers), time_(time), reply_(reply) {}
 
     void handle(std::int32_t& code, std::string& payload) override;
 
@@ -62,6 +64,7 @@ class TimeService : public ServiceHandler {
 
     FrameSender& sender_;
     ServerWindow& window_;
+    Transfers& transfers_;
     const TimeServices& time_;
     TimeReply reply_;
 };

@@ -208,5 +208,34 @@ TEST_F(BootServiceTest, ALostLineStartsTheNextTransferAnew) {
     expectReply("\x40\x00"s + codeOf(200));
 }
 
+// Who observes the transfers.
+
+using Lines = std::vector<std::string>;
+
+TEST_F(BootServiceTest, CodeIsToldAsALoad) {
+    addBootFile(codeOf(250));
+    load();
+    EXPECT_EQ(told.running.size, 250U);
+    EXPECT_EQ(told.running.kind, TransferKind::Boot);
+    address(0x2000);
+    next();
+    EXPECT_EQ(told.running.bytes, 250U);
+    next();
+    EXPECT_EQ(told.lines(), Lines{"loaded Prog.bin 250 bytes in 0.0 s"});
+}
+
+TEST_F(BootServiceTest, CodeThatIsNotFetchedToItsEndIsIncomplete) {
+    addBootFile(codeOf(250));
+    load();
+    address(0x2000);
+    dropLink();
+    EXPECT_EQ(told.lines(), Lines{"load of Prog.bin incomplete: 200 bytes in 0.0 s, the link ended"});
+}
+
+TEST_F(BootServiceTest, CodeThatIsNotThereIsToldAsRefused) {
+    message("NONE");
+    EXPECT_EQ(told.lines(), Lines{"load of None.bin refused: no such file (189)"});
+}
+
 }  // namespace
 }  // namespace velmora

@@ -191,5 +191,67 @@ TEST_P(FileRequestsTest, AReplyThatThePortRefusedLeavesItsStateAlone) {
     EXPECT_EQ(window.current, 13);
 }
 
+// Who observes the transfers.
+
+using Lines = std::vector<std::string>;
+
+TEST_P(FileRequestsTest, ASavedFileIsToldWithItsBytes) {
+    open();
+    openText(1, "MEMO.TXT");
+    EXPECT_EQ(told.began, 1);
+    EXPECT_EQ(told.running.path, "/psion/Memo.txt");
+    EXPECT_FALSE(told.running.size);
+    write("one");
+    write("two");
+    time.advance(milliseconds{2'000});
+    closeRequest();
+    EXPECT_EQ(told.lines(), Lines{"saved Memo.txt 10 bytes in 2.0 s (5 bytes/s)"});
+    dropLink();
+    EXPECT_TRUE(told.ended.empty());
+}
+
+TEST_P(FileRequestsTest, AFileThatIsLoadedToItsEndIsComplete) {
+    memory.addFile("/psion/Memo.txt", "one\r\ntwo\r\n");
+    open();
+    openText(0, "MEMO.TXT");
+    EXPECT_EQ(told.running.size, 10U);
+    EXPECT_EQ(told.running.direction, TransferDirection::Load);
+    read();
+    EXPECT_EQ(told.running.bytes, 5U);
+    read();
+    EXPECT_TRUE(told.ended.empty());
+    read();
+    EXPECT_EQ(told.lines(), Lines{"loaded Memo.txt 10 bytes in 0.0 s"});
+}
+
+TEST_P(FileRequestsTest, ATransferThatTheLinkEndsIsIncomplete) {
+    open();
+    openText(1, "MEMO.TXT");
+    write("one");
+    dropLink();
+    EXPECT_EQ(told.lines(), Lines{"save of Memo.txt incomplete: 5 bytes in 0.0 s, the link ended"});
+}
+
+TEST_P(FileRequestsTest, AFullDiskIsTheReasonOfAnIncompleteTransfer) {
+    open();
+    openText(1, "MEMO.TXT");
+    files.failAfterBytes(0, ErrorNumber::DiskFull);
+    write("one");
+    EXPECT_EQ(told.lines(), Lines{"save of Memo.txt incomplete: 0 bytes in 0.0 s, disk full (186)"});
+}
+
+TEST_P(FileRequestsTest, ARefusedOpenIsToldWithItsReason) {
+    open();
+    openText(0, "MISSING.TXT");
+    EXPECT_EQ(told.began, 0);
+    EXPECT_EQ(told.lines(), Lines{"load of Missing.txt refused: no such file (189)"});
+}
+
+TEST_P(FileRequestsTest, ARequestWithoutAFileIsToldAsRefused) {
+    open();
+    write("one");
+    EXPECT_EQ(told.lines(), Lines{"request refused: not possible (188)"});
+}
+
 }  // namespace
 }  // namespace velmora

@@ -298,5 +298,28 @@ TEST_F(FileServiceTest, WildcardsAreForListingsOnly) {
     expectRefused(189);
 }
 
+// Who observes the transfers.
+
+TEST_F(FileServiceTest, TheKindOfATransferIsWhatItIsOpenedAs) {
+    memory.addFile("/psion/Memo.txt", "x");
+    const std::vector<std::pair<int, TransferKind>> kinds = {{0, TransferKind::Bytes},
+                                                             {1, TransferKind::Text},
+                                                             {2, TransferKind::Listing},
+                                                             {3, TransferKind::Listing}};
+    for (const auto& [kind, told_kind] : kinds) {
+        openRequest(0, kind, "MEMO.TXT");
+        EXPECT_EQ(told.running.kind, told_kind);
+        EXPECT_EQ(told.running.direction, TransferDirection::Load);
+        closeRequest();
+        openService("FILE");
+    }
+}
+
+TEST_F(FileServiceTest, AListingIsALoadInEveryMode) {
+    openRequest(4, 3, "*.*");
+    EXPECT_EQ(told.running.direction, TransferDirection::Load);
+    EXPECT_EQ(told.running.name, "*.*");
+}
+
 }  // namespace
 }  // namespace velmora

@@ -389,5 +389,57 @@ TEST_F(FtranTest, OnlyProceduresHaveTheirZerosReplaced) {
     EXPECT_EQ(content("Memo.odb"), "a\0b\r\n"s);
 }
 
+// Who observes the transfers.
+
+using Lines = std::vector<std::string>;
+
+TEST_F(FtranTest, TheKindOfATransferIsThatOfTheFile) {
+    const std::vector<std::pair<int, TransferKind>> kinds = {
+        {0, TransferKind::Data}, {1, TransferKind::Procedure}, {2, TransferKind::Block}};
+    for (const auto& [type, kind] : kinds) {
+        openRequest(1, type, "MEMO");
+        EXPECT_EQ(told.running.kind, kind);
+    }
+}
+
+TEST_F(FtranTest, AnotherOpenEndsTheTransferBefore) {
+    openRequest(1, 0, "MEMO");
+    openRequest(1, 0, "OTHER");
+    EXPECT_EQ(told.lines(), Lines{"save of Memo.odb incomplete: 0 bytes in 0.0 s, the link ended"});
+    EXPECT_TRUE(transfers.underWay());
+}
+
+TEST_F(FtranTest, WhatIsWrittenAfterTheCloseIsAnotherTransfer) {
+    openRequest(1, 0, "MEMO");
+    write("one");
+    closeRequest();
+    write("three");
+    closeRequest();
+    EXPECT_EQ(told.lines(), (Lines{"saved Memo.odb 5 bytes in 0.0 s", "saved Memo.odb 7 bytes in 0.0 s"}));
+}
+
+TEST_F(FtranTest, AnImageThatWasReadWholeIsCompleteWithoutAClose) {
+    add("Block.ob3", "ORG"s + "\x00\x04"s + "\x83" + "code");
+    openRequest(0, 3, "BLOCK");
+    EXPECT_EQ(told.running.size, 7U);
+    EXPECT_EQ(told.running.bytes, 3U);
+    read();
+    EXPECT_EQ(told.running.bytes, 7U);
+    dropLink();
+    EXPECT_EQ(told.lines(), Lines{"loaded Block.ob3 7 bytes in 0.0 s"});
+}
+
+TEST_F(FtranTest, AnImageOfAnotherTypeIsToldAsRefused) {
+    add("Block.ob3", "ORG"s + "\x00\x04"s + "\x84" + "code");
+    openRequest(0, 3, "BLOCK");
+    EXPECT_EQ(told.lines(), Lines{"load of Block.ob3 refused: invalid request (190)"});
+}
+
+TEST_F(FtranTest, AProcedureThatIsTooLargeForItsImageIsToldAsRefused) {
+    add("Big.opl", std::string(70'000, 'x'));
+    openRequest(0, 1, "BIG");
+    EXPECT_EQ(told.lines(), Lines{"load of Big.opl refused: it failed"});
+}
+
 }  // namespace
 }  // namespace velmora

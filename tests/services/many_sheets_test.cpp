@@ -133,7 +133,7 @@ class Server : public ServiceFixture {
 
     SpreadsheetSettings sheets;
     Spreadsheet spreadsheet{files, rules, sheets};
-    PlanService plan{sender, window, names, spreadsheet, copies, log};
+    PlanService plan{sender, window, names, spreadsheet, copies, log, transfers};
 };
 
 TEST(ManySheets, EachIsTransferredAfterEveryOtherAsItIsAlone) {

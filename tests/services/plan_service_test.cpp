@@ -13,6 +13,7 @@
 #include "support/memory_files.h"
 #include "support/recording_sender.h"
 #include "support/recording_trace.h"
+#include "support/recording_transfers.h"
 #include "support/recording_window.h"
 #include "support/slash_path_rules.h"
 
@@ -57,7 +58,10 @@ const std::string kOk = "\0"s;
 
 class PlanServiceTest : public ::testing::Test {
   protected:
-    PlanServiceTest() { memory.addFolder("/folder"); }
+    PlanServiceTest() {
+        memory.addFolder("/folder");
+        transfers.observe(told);
+    }
 
     /// Gives the service one event; its code afterwards.
     std::int32_t event(std::int32_t code, const std::string& payload = {}) {
@@ -128,7 +132,9 @@ class PlanServiceTest : public ::testing::Test {
     TransferLog log{window, trace, rules};
     EarlierCopiesSettings copiesSettings{"/copies"};
     EarlierCopies copies{files, rules, time, log, copiesSettings};
-    PlanService service{sender, window, names, spreadsheet, copies, log};
+    Transfers transfers{time};
+    test::RecordingTransfers told;  // of all transfers
+    PlanService service{sender, window, names, spreadsheet, copies, log, transfers};
 };
 
 // Opening and header.
@@ -593,6 +599,56 @@ TEST_F(PlanServiceTest, WhatIsSavedLoadsBackTheSame) {
         EXPECT_EQ(ask(""), cell);
     }
     EXPECT_EQ(ask(""), kEnd);
+}
+
+// Who observes the transfers.
+
+using Lines = std::vector<std::string>;
+
+TEST_F(PlanServiceTest, ASavedSheetIsToldWithItsBytes) {
+    save(2, "PLAN");
+    announce(1, 1);
+    put(label(0, 0, "one"));
+    EXPECT_EQ(told.running.kind, TransferKind::Sheet);
+    EXPECT_EQ(told.running.bytes, 8U);
+    EXPECT_EQ(ask("\xFE"), kEnd);
+    event(PLP_EV_RESET);
+    EXPECT_EQ(told.lines(), Lines{"saved PLAN.WKS 8 bytes in 0.0 s"});
+}
+
+TEST_F(PlanServiceTest, ALoadedSheetIsToldWithItsBytes) {
+    memory.addFile("/folder/PLAN.csv", "x;7\r\n");
+    load(4, "PLAN");
+    while (ask("next") != kEnd) {
+    }
+    EXPECT_EQ(ask("next"), kEnd);
+    event(PLP_EV_RESET);
+    EXPECT_EQ(told.lines(), Lines{"loaded PLAN.csv 8 bytes in 0.0 s"});
+}
+
+TEST_F(PlanServiceTest, ASheetThatBreaksOffIsToldAsIncomplete) {
+    save(2, "PLAN");
+    announce(1, 1);
+    event(PLP_EV_RESET);
+    EXPECT_EQ(told.lines(), Lines{"save of PLAN.WKS incomplete: 2 bytes in 0.0 s, the link ended"});
+}
+
+TEST_F(PlanServiceTest, WhyASheetIsRefusedIsToldInWords) {
+    open();
+    refusal("\x02NONE");
+    EXPECT_EQ(told.lines(), Lines{"load of NONE.WKS refused: File not found (53)"});
+    files.failAtCall(test::FileCall::Open, 1, ErrorNumber::PathFileAccess);
+    open();
+    refusal("\x82NONE");
+    EXPECT_EQ(told.lines(), Lines{"save of NONE.WKS refused: Path/file access error (189)"});
+}
+
+TEST_F(PlanServiceTest, ASheetThatCannotBeWrittenInTheEndIsIncomplete) {
+    save(2, "PLAN");
+    announce(1, 1);
+    files.failAfterBytes(0, ErrorNumber::DiskFull);
+    refusal("\xFE");
+    EXPECT_EQ(told.lines(), Lines{"save of PLAN.WKS incomplete: 2 bytes in 0.0 s, Disk full (61)"});
 }
 
 }  // namespace

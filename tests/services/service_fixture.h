@@ -15,6 +15,7 @@
 #include "support/memory_files.h"
 #include "support/recording_sender.h"
 #include "support/recording_trace.h"
+#include "support/recording_transfers.h"
 #include "support/recording_window.h"
 #include "support/simple_names.h"
 
@@ -37,6 +38,7 @@ class ServiceFixture : public testing::Test {
         dispatcher.add("FTRAN", ftran);
         dispatcher.add("FILE", fileService);
         dispatcher.add("BOOT", boot);
+        transfers.observe(told);
     }
 
     /// Opens a service and forgets its reply.
@@ -103,9 +105,11 @@ class ServiceFixture : public testing::Test {
     EarlierCopiesSettings copiesSettings{settings.DownloadPath + "/copies"};
     EarlierCopies copies{files, rules, time, log, copiesSettings};
     OpenFile file{files, rules, window, copies, log};
-    FtranService ftran{sender, window, file, names, settings};
-    FileService fileService{sender, window, file, names};
-    BootService boot{sender, window, files, names};
+    Transfers transfers{time};
+    RecordingTransfers told;  ///< of all transfers
+    FtranService ftran{sender, window, file, transfers, names, settings};
+    FileService fileService{sender, window, file, transfers, names};
+    BootService boot{sender, window, files, transfers, names};
     ServiceDispatcher dispatcher{sender, window, trace};
 };
 

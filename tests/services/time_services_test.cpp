@@ -5,6 +5,7 @@
 #include "base/run_time_error.h"
 #include "support/fake_timers.h"
 #include "support/recording_sender.h"
+#include "support/recording_transfers.h"
 #include "support/recording_window.h"
 
 namespace velmora {
@@ -92,7 +93,8 @@ class TimeServiceTest : public testing::TestWithParam<ReplyRow> {
     test::RecordingSender sender;
     test::RecordingWindow window;
     TimeServices time{clock, zone};
-    TimeService service{sender, window, time, GetParam().reply};
+    Transfers transfers{clock};
+    TimeService service{sender, window, transfers, time, GetParam().reply};
 };
 
 TEST_P(TimeServiceTest, TheOpeningIsAnsweredWithTheTime) {
@@ -119,6 +121,18 @@ INSTANTIATE_TEST_SUITE_P(
         ReplyRow{"TimeInfoInSummer", TimeReply::LocalWithZone, true, "2010-03-28 14:05:09 +0200 *"},
         ReplyRow{"TimeInfoInWinter", TimeReply::LocalWithZone, false, "2010-03-28 14:05:09 +0200  "}),
     [](const auto& row) { return row.param.name; });
+
+TEST_P(TimeServiceTest, TheAnswerIsToldWithTheNameOfTheService) {
+    test::RecordingTransfers told;
+    transfers.observe(told);
+    std::int32_t code = kServiceOpened;
+    std::string payload = "Time";
+    service.handle(code, payload);
+    EXPECT_EQ(told.running.bytes, sender.frames[0].data.size());
+    EXPECT_EQ(told.lines(), std::vector<std::string>{"told TIME"});
+    EXPECT_EQ(event(PLP_EV_RESET), PLP_EV_RESET);
+    EXPECT_TRUE(told.ended.empty());
+}
 
 }  // namespace
 }  // namespace velmora

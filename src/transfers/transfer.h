@@ -1,0 +1,71 @@
+// What a transfer is, and who hears of it.
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include "base/clock.h"
+
+namespace velmora {
+
+/// As the Organiser's user says it.
+enum class TransferDirection {
+    Save,  ///< from the Organiser to this machine
+    Load,  ///< from this machine to the Organiser
+};
+
+/// What moves.
+enum class TransferKind {
+    Data,       ///< a data file, record by record
+    Procedure,  ///< a procedure
+    Block,      ///< another file of the Organiser, as an image
+    Text,       ///< lines of any file
+    Bytes,      ///< bytes of any file
+    Listing,    ///< the names of a folder's files
+    Sheet,      ///< a spreadsheet, cell by cell
+    Boot,       ///< machine code
+    Clock,      ///< the date and time
+};
+
+/// One transfer, from the request on. Texts are Windows-1252 bytes.
+struct Transfer {
+    std::string name;  ///< as the PC calls the file; as the Organiser did where that leads nowhere
+    std::string path;  ///< of the file, in the system's encoding; empty when there is none
+    TransferDirection direction = TransferDirection::Save;
+    TransferKind kind = TransferKind::Data;
+    std::optional<std::uint64_t> size = {};  ///< bytes that are to move, where that is known beforehand
+    std::uint64_t bytes = 0;                 ///< that have moved
+    DateTime began = {};                     ///< universal time
+    std::chrono::microseconds duration{0};   ///< from the beginning to the last news
+};
+
+/// How a transfer may end.
+enum class TransferResult {
+    Complete,    ///< all of it arrived, and a saved file is on the disk
+    Incomplete,  ///< it broke off on the way
+    Refused,     ///< nothing of it moved
+};
+
+/// The end of a transfer.
+struct TransferEnd {
+    TransferResult result = TransferResult::Complete;
+    int code = 0;             ///< what the Organiser was told; 0 when it was not told of a failure
+    std::string reason = {};  ///< why it is not complete, in words
+};
+
+/// Hears of every transfer, in the order of its life, between two messages of the link. Must neither throw
+/// nor wait, and not touch the server.
+class TransferObserver {
+  public:
+    virtual ~TransferObserver() = default;
+
+    virtual void transferBegan(const Transfer& transfer) = 0;
+    /// More bytes have moved. Called for every message.
+    virtual void transferMoved(const Transfer& transfer) = 0;
+    /// A refused transfer has not begun before.
+    virtual void transferEnded(const Transfer& transfer, const TransferEnd& end) = 0;
+};
+
+}  // namespace velmora
