@@ -27,8 +27,11 @@ HeadlessServer::HeadlessServer(const ServerArguments& arguments)
       arguments_(arguments),
       platform_([this] { program_.controller().ComTimer_Tick(); },
                 [this] { return program_.core().soonestFrame(); }),
+      log_([this](const std::string& line) { output_.print(line); },
+           [this](const std::string& line) { errors_.print(line); }, platform_.clock, arguments.logFormat,
+           arguments.quiet),
       traceSink_(platform_.clock, arguments.traceCategories, traceOutput()),
-      view_([this](const std::string& line) { output_.print(line); },
+      view_([this](const std::string& line) { log_.message(line); },
             [this](const std::string& line) { printWarning(line); },
             {[this] {
                  if (program_.controller().queryUnload(CloseReason::Program)) {
@@ -43,7 +46,7 @@ HeadlessServer::HeadlessServer(const ServerArguments& arguments)
                 box_,
                 traceSink_,
                 {},
-                [this](const std::string& line) { output_.print(line); },
+                [this](const std::string& line) { log_.message(line); },
                 [this] { return arguments_.wait ? WaitFor::AnyPort : WaitFor::Nothing; }}),
       searched_(platform_.portNames, gatherDeviceFacts),
       search_(
@@ -55,6 +58,7 @@ HeadlessServer::HeadlessServer(const ServerArguments& arguments)
           }) {
     program_.controller().setClosingActions({&program_.settingsStore(), {}, {}});
     program_.controller().onPortFailure([this] { portFailed(); });
+    program_.core().observe(log_);
 }
 
 /// Where trace lines go; throws UsageError when the trace file cannot be made.
@@ -77,7 +81,7 @@ std::function<void(const std::string&)> HeadlessServer::traceOutput() {
 /// A server whose port failed ends, and says so in one line.
 void HeadlessServer::printError(const std::string& line) {
     if (!failed_) {
-        errors_.print("velmorad: " + line);
+        log_.error(line);
     }
 }
 
@@ -138,7 +142,7 @@ void HeadlessServer::stateChanged(std::int32_t state) {
 
 void HeadlessServer::tellFoundPort() {
     if (program_.core().options.AutoSelectPort && program_.controller().running()) {
-        output_.print("Found " + toSystemText(program_.portName()) + ", " + program_.portDevice());
+        log_.message("Found " + toSystemText(program_.portName()) + ", " + program_.portDevice());
     }
 }
 
@@ -163,7 +167,7 @@ int HeadlessServer::run() {
     }
     tellFoundPort();
     if (const std::string news = program_.describeAdapterNews(); arguments_.wait && !news.empty()) {
-        output_.print(news);
+        log_.message(news);
     }
     if (!quitting_) {
         QCoreApplication::exec();

@@ -16,11 +16,12 @@
 #include "server/searched_ports.h"
 #include "ui/console_view.h"
 #include "ui/no_user_box.h"
+#include "ui/server_log.h"
 
 namespace velmora {
 
-/// Serves until it is told to stop; needs a QCoreApplication. It prints the display on standard output, and
-/// on standard error warnings and the trace.
+/// Serves until it is told to stop; needs a QCoreApplication. It prints the display and the transfers
+/// on standard output, and on standard error warnings and the trace.
 class HeadlessServer {
   public:
     explicit HeadlessServer(const ServerArguments& arguments);
@@ -57,6 +58,7 @@ class HeadlessServer {
 
     ServerArguments arguments_;
     PlatformParts platform_;
+    ServerLog log_;
     ConsoleTrace traceSink_;
     ConsoleView view_;
     NoUserBox box_;

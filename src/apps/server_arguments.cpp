@@ -69,6 +69,17 @@ void addServingOptions(CommandSyntax& syntax, ServerArguments& result) {
                   });
 }
 
+void addLogOptions(CommandSyntax& syntax, ServerArguments& result) {
+    syntax.option("--log-format", "<format>", "What is printed: text, or json for programs",
+                  [&result](const std::string& value) {
+                      if (value != "text" && value != "json") {
+                          wrongValue("--log-format", value, "text or json");
+                      }
+                      result.logFormat = value == "json" ? LogFormat::Json : LogFormat::Text;
+                  });
+    syntax.flag("--quiet", "Print errors only", result.quiet);
+}
+
 void addTraceOptions(CommandSyntax& syntax, ServerArguments& result) {
     syntax.optionalValue("--trace", "<list>",
                          "Protocol trace on standard error: all categories,\n"
@@ -99,6 +110,7 @@ class ServerSyntax : public ProgramSyntax {
                         "Serves a Psion Organiser II on a serial port, without a window, until it is told "
                         "to stop.") {
         addServingOptions(*this, result);
+        addLogOptions(*this, result);
         addTraceOptions(*this, result);
         addListing(*this, result);
         note("Options hold for this run and are not saved.");

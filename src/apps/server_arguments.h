@@ -7,6 +7,8 @@
 #include <vector>
 
 #include "arguments/outline.h"
+#include "ui/server_log.h"
+
 namespace velmora {
 
 /// What `velmorad` was asked to do. Everything that is not set is taken from the configuration file.
@@ -21,6 +23,8 @@ struct ServerArguments {
     bool listPorts = false;                ///< print the ports and end
     bool printConfig = false;              ///< print the settings and end
     bool json = false;                     ///< them as JSON
+    LogFormat logFormat = LogFormat::Text;
+    bool quiet = false;  ///< print errors only
     bool trace = false;
     std::vector<std::string> traceCategories;  ///< in capitals; empty means all
     std::optional<std::string> traceFile;

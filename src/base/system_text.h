@@ -15,5 +15,7 @@ std::optional<std::string> fromSystemText(std::string_view text);
 /// A text of the system as Windows-1252, to be looked at: where it has no such form, "?" stands for every
 /// byte that is not ASCII.
 std::string shownText(std::string_view text);
+/// A text of the system in UTF-8, for formats that want that; what is not valid stays as it is.
+std::string utf8OfSystemText(std::string_view text);
 
 }  // namespace velmora

@@ -11,4 +11,8 @@ std::optional<std::string> fromSystemText(std::string_view text) {
     return fromUtf8(text);
 }
 
+std::string utf8OfSystemText(std::string_view text) {
+    return std::string(text);
+}
+
 }  // namespace velmora

@@ -11,4 +11,8 @@ std::optional<std::string> fromSystemText(std::string_view text) {
     return toUtf8Exact(text) ? std::optional(std::string(text)) : std::nullopt;
 }
 
+std::string utf8OfSystemText(std::string_view text) {
+    return toUtf8(text);
+}
+
 }  // namespace velmora

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "base/byte_text.h"
+#include "base/system_text.h"
 #include "serial/adapter_key.h"
 #include "serial/port_names.h"
 
@@ -60,15 +61,6 @@ std::size_t widthOf(const std::string& text) {
     }));
 }
 
-/// The system's text in UTF-8.
-std::string utf8(const std::string& text) {
-#ifdef _WIN32
-    return toUtf8(text);
-#else
-    return text;
-#endif
-}
-
 }  // namespace
 
 std::string portTable(const std::vector<PortIdentity>& ports) {
@@ -105,7 +97,7 @@ std::string portsAsJson(const std::vector<PortIdentity>& ports) {
         Json object;
         object["port"] = comName(port);
         object["number"] = hasLastingNumber(port) ? port.number : 0;
-        object["name"] = utf8(lastingName(port, ports));
+        object["name"] = utf8OfSystemText(lastingName(port, ports));
         const std::array<std::pair<const char*, const std::string*>, 12> texts = {
             {{"device", &port.device},
              {"stableName", &port.stableName},
@@ -120,7 +112,7 @@ std::string portsAsJson(const std::vector<PortIdentity>& ports) {
              {"holder", &port.holder},
              {"groupToJoin", &port.groupToJoin}}};
         for (const auto& [key, text] : texts) {
-            object[key] = utf8(*text);
+            object[key] = utf8OfSystemText(*text);
         }
         object["mayOpen"] = port.mayOpen;
         array.push_back(std::move(object));

@@ -62,11 +62,11 @@ std::string describe(const Transfer& transfer, const TransferEnd& end) {
     const Words words = wordsFor(transfer);
     if (end.result == TransferResult::Complete) {
         const std::string what = std::string(words.done) + ' ' + transfer.name;
-        return transfer.kind == TransferKind::Clock
-                   ? what
-                   : what + ' ' + amountText(transfer) + rateText(transfer);
+        return transfer.kind == TransferKind::Clock ? what
+                                                    : what + ' ' + amountText(transfer) + rateText(transfer);
     }
-    const std::string what = transfer.name.empty() ? "request" : std::string(words.deed) + ' ' + transfer.name;
+    const std::string what =
+        transfer.name.empty() ? "request" : std::string(words.deed) + ' ' + transfer.name;
     return end.result == TransferResult::Refused
                ? what + " refused: " + reasonText(end)
                : what + " incomplete: " + amountText(transfer) + ", " + reasonText(end);

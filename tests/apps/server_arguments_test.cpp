@@ -47,6 +47,14 @@ TEST(ServerArguments, ListsPortsWaitsAndTakesTheNamesOfAdapters) {
     EXPECT_EQ(readServerArguments({"--port", "usb:0403:6001:A5"}).port, "usb:0403:6001:A5");
 }
 
+TEST(ServerArguments, PrintsForPeopleUnlessToldOtherwise) {
+    EXPECT_EQ(readServerArguments({}).logFormat, LogFormat::Text);
+    EXPECT_FALSE(readServerArguments({}).quiet);
+    EXPECT_EQ(readServerArguments({"--log-format=text"}).logFormat, LogFormat::Text);
+    EXPECT_EQ(readServerArguments({"--log-format", "json"}).logFormat, LogFormat::Json);
+    EXPECT_TRUE(readServerArguments({"--quiet"}).quiet);
+}
+
 TEST(ServerArguments, ATraceFileTurnsTheTraceOn) {
     EXPECT_TRUE(readServerArguments({"--trace-file=t"}).trace);
 }
@@ -65,6 +73,7 @@ TEST(ServerArguments, SaysWhatIsWrong) {
     EXPECT_EQ(complaint({"--port=usb:0403"}),
               "--port: \"usb:0403\" is not usb:VENDOR:PRODUCT:SERIAL, as --list-ports prints it");
     EXPECT_EQ(complaint({"--folder="}), "--folder needs a value");
+    EXPECT_EQ(complaint({"--log-format=xml"}), "--log-format: \"xml\" is not text or json");
     EXPECT_EQ(complaint({"--baud", "fast"}), "--baud: \"fast\" is not a number from 1 to 4000000");
     EXPECT_EQ(complaint({"--baud", "0"}), "--baud: \"0\" is not a number from 1 to 4000000");
     EXPECT_EQ(complaint({"--file-type", "4"}), "--file-type: \"4\" is not a number from 0 to 3");

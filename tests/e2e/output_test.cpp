@@ -2,7 +2,10 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <nlohmann/json.hpp>
+#include <sstream>
 #include <string>
+#include <vector>
 
 #include "e2e/support/server_fixture.h"
 
@@ -38,6 +41,53 @@ TEST_F(OutputTest, AServerWhoseOutputNobodyReadsEndsOnASignal) {
     stopServer();
     ASSERT_TRUE(server->endsUnread());
     EXPECT_EQ(server->wait(), 0);
+}
+
+TEST_F(OutputTest, EachTransferIsALine) {
+    startServer();
+    writeFile(home / "local", "one\r\ntwo\r\n");
+    EXPECT_EQ(organiser({"save", organiserPath(home / "local"), "--as", "MEMO"}).status, 0);
+    EXPECT_TRUE(server->waitForOutput(" saved Memo.odb 10 bytes in ")) << server->output();
+    EXPECT_EQ(organiser({"load", "MEMO", "-o", organiserPath(home / "copy")}).status, 0);
+    EXPECT_TRUE(server->waitForOutput(" loaded Memo.odb 10 bytes in ")) << server->output();
+    EXPECT_NE(organiser({"load", "NONE", "-o", organiserPath(home / "none")}).status, 0);
+    EXPECT_TRUE(server->waitForOutput(" load of None.odb refused: no such file (189)")) << server->output();
+    EXPECT_EQ(organiser({"time"}).status, 0);
+    EXPECT_TRUE(server->waitForOutput(" told TIME")) << server->output();
+    stopServer();
+    EXPECT_EQ(server->wait(), 0);
+}
+
+TEST_F(OutputTest, ProgramsReadOneObjectALine) {
+    startServer({"--log-format=json"});
+    writeFile(home / "local", "one\r\ntwo\r\n");
+    EXPECT_EQ(organiser({"save", organiserPath(home / "local"), "--as", "MEMO"}).status, 0);
+    EXPECT_TRUE(server->waitForOutput("\"event\":\"transfer-end\""));
+    stopServer();
+    EXPECT_EQ(server->wait(), 0);
+    std::istringstream lines(server->output());
+    std::vector<std::string> events;
+    for (std::string line; std::getline(lines, line);) {
+        const nlohmann::json object = nlohmann::json::parse(line);
+        EXPECT_EQ(object.at("time").get<std::string>().size(), std::string("2026-11-22T19:39:35Z").size());
+        const std::string event = object.at("event");
+        if (event == "transfer-end") {
+            EXPECT_EQ(object.at("name"), "Memo.odb");
+            EXPECT_EQ(object.at("bytes"), 10);
+            EXPECT_EQ(object.at("result"), "complete");
+        }
+        if (event != "message") {
+            events.push_back(event);
+        }
+    }
+    EXPECT_EQ(events, (std::vector<std::string>{"transfer-begin", "transfer-end"}));
+}
+
+TEST_F(OutputTest, AQuietServerPrintsErrorsOnly) {
+    server = start("velmorad", {"--port", "COM37", "--folder", serverPath(psion), "--quiet"});
+    EXPECT_EQ(server->wait(), 1);
+    EXPECT_EQ(server->output(), "");
+    EXPECT_NE(server->error(), "");
 }
 
 TEST_F(OutputTest, AServerWithoutStandardStreamsKeepsItsLinesFromTheSerialLine) {
