@@ -59,6 +59,12 @@ HeadlessServer::HeadlessServer(const ServerArguments& arguments)
     program_.controller().setClosingActions({&program_.settingsStore(), {}, {}});
     program_.controller().onPortFailure([this] { portFailed(); });
     program_.core().observe(log_);
+    if (arguments_.onTransfer) {
+        programQueue_.emplace(
+            *arguments_.onTransfer, [this](const std::string& line) { log_.message(line); },
+            [this](const std::string& line) { log_.error(line); });
+        program_.core().observe(transferProgram_.emplace(*programQueue_));
+    }
 }
 
 /// Where trace lines go; throws UsageError when the trace file cannot be made.

@@ -12,6 +12,8 @@
 #include "apps/platform_parts.h"
 #include "apps/server_arguments.h"
 #include "apps/server_program.h"
+#include "apps/transfer_program.h"
+#include "eventloop/program_queue.h"
 #include "server/reconnection.h"
 #include "server/searched_ports.h"
 #include "ui/console_view.h"
@@ -63,6 +65,8 @@ class HeadlessServer {
     ConsoleView view_;
     NoUserBox box_;
     ServerProgram program_;
+    std::optional<ProgramQueue> programQueue_;
+    std::optional<TransferProgram> transferProgram_;
     // No port is configured, and none was free: waits for one more to be there.
     QtTimer searchTimer_;
     SearchedPorts searched_;

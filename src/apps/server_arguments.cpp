@@ -77,6 +77,10 @@ void addLogOptions(CommandSyntax& syntax, ServerArguments& result) {
                       }
                       result.logFormat = value == "json" ? LogFormat::Json : LogFormat::Text;
                   });
+    syntax.option("--on-transfer", "<program>",
+                  "Run a program after each complete file, with its\n"
+                  "name, path, save or load, and size",
+                  into(result.onTransfer));
     syntax.flag("--quiet", "Print errors only", result.quiet);
 }
 

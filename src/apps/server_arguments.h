@@ -24,7 +24,8 @@ struct ServerArguments {
     bool printConfig = false;              ///< print the settings and end
     bool json = false;                     ///< them as JSON
     LogFormat logFormat = LogFormat::Text;
-    bool quiet = false;  ///< print errors only
+    bool quiet = false;                     ///< print errors only
+    std::optional<std::string> onTransfer;  ///< program to run after each complete file
     bool trace = false;
     std::vector<std::string> traceCategories;  ///< in capitals; empty means all
     std::optional<std::string> traceFile;

@@ -86,9 +86,8 @@ void ServerLog::message(const std::string& text) {
 }
 
 void ServerLog::error(const std::string& text) {
-    errors_(format_ == LogFormat::Text
-                ? "velmorad: " + text
-                : Event(clock_, "error").with("text", utf8OfSystemText(text)).line());
+    errors_(format_ == LogFormat::Text ? "velmorad: " + text
+                                       : Event(clock_, "error").with("text", utf8OfSystemText(text)).line());
 }
 
 void ServerLog::transferBegan(const Transfer& transfer) {
@@ -107,8 +106,7 @@ void ServerLog::transferMoved(const Transfer& transfer) {
 
 void ServerLog::transferEnded(const Transfer& transfer, const TransferEnd& end) {
     if (format_ == LogFormat::Text) {
-        output_(timeOfDay(clock_.localTime()) + ' ' +
-                toSystemText(showControls(describe(transfer, end))));
+        output_(timeOfDay(clock_.localTime()) + ' ' + toSystemText(showControls(describe(transfer, end))));
         return;
     }
     print(Event(clock_, "transfer-end")

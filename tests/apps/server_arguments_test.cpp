@@ -53,6 +53,7 @@ TEST(ServerArguments, PrintsForPeopleUnlessToldOtherwise) {
     EXPECT_EQ(readServerArguments({"--log-format=text"}).logFormat, LogFormat::Text);
     EXPECT_EQ(readServerArguments({"--log-format", "json"}).logFormat, LogFormat::Json);
     EXPECT_TRUE(readServerArguments({"--quiet"}).quiet);
+    EXPECT_EQ(readServerArguments({"--on-transfer", "/usr/bin/sort-it"}).onTransfer, "/usr/bin/sort-it");
 }
 
 TEST(ServerArguments, ATraceFileTurnsTheTraceOn) {

@@ -83,6 +83,26 @@ TEST_F(OutputTest, ProgramsReadOneObjectALine) {
     EXPECT_EQ(events, (std::vector<std::string>{"transfer-begin", "transfer-end"}));
 }
 
+TEST_F(OutputTest, AProgramRunsAfterEachCompleteFile) {
+    if (serverSide->windows()) {
+        GTEST_SKIP() << "the program is a shell script";
+    }
+    const std::filesystem::path script = home / "after";
+    writeFile(script, "#!/bin/sh\necho \"after:$1,$2,$3,$4,$VELMORA_NAME\"\n");
+    std::filesystem::permissions(script, std::filesystem::perms::owner_all);
+    startServer({"--on-transfer", script.string()});
+    writeFile(home / "local", "one\r\ntwo\r\n");
+    EXPECT_NE(organiser({"load", "NONE", "-o", organiserPath(home / "none")}).status, 0);
+    EXPECT_EQ(organiser({"dir"}).status, 0);
+    EXPECT_EQ(organiser({"save", organiserPath(home / "local"), "--as", "MEMO"}).status, 0);
+    EXPECT_TRUE(
+        server->waitForOutput("after:Memo.odb," + (psion / "Memo.odb").string() + ",save,10,Memo.odb\n"))
+        << server->output() << server->error();
+    EXPECT_EQ(server->output().find("after:"), server->output().rfind("after:"));
+    stopServer();
+    EXPECT_EQ(server->wait(), 0);
+}
+
 TEST_F(OutputTest, AQuietServerPrintsErrorsOnly) {
     server = start("velmorad", {"--port", "COM37", "--folder", serverPath(psion), "--quiet"});
     EXPECT_EQ(server->wait(), 1);
