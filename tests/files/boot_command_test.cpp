@@ -76,7 +76,7 @@ TEST_F(BootCommandTest, SaysWhatIsMissing) {
     expectUsage({"boot", "make"}, "CODE");
     expectUsage({"boot", "make", "/w/code", "--relocations", ""}, "-o");
     expectUsage({"boot", "make", "/w/code", "-o", "/w/a.bin"}, "--relocations");
-    expectUsage({"boot", "check"}, "NAME is required");
+    expectUsage({"boot", "check"}, "FILE is required");
     expectUsage({"boot", "check", "/w/a.bin", "-o", "x"}, "-o does not go with check");
 }
 
