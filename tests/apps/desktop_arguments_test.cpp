@@ -29,5 +29,11 @@ TEST(DesktopArguments, AnythingElseIsWrongUsage) {
     EXPECT_THROW(desktopCommandLine({"Velmora.ini"}), UsageError);
 }
 
+TEST(DesktopArguments, ItsOutlineTellsOfTheDebugSwitch) {
+    const ProgramOutline outline = desktopOutline();
+    EXPECT_EQ(outline.name, "velmora");
+    EXPECT_NE(outline.note.find("-debug"), std::string::npos);
+}
+
 }  // namespace
 }  // namespace velmora

@@ -98,5 +98,12 @@ TEST(ServerArguments, TheHelpNamesEveryOption) {
     }
 }
 
+TEST(ServerArguments, ItsOutlineHasEveryStatusThatItEndsWith) {
+    const ProgramOutline outline = serverOutline();
+    EXPECT_EQ(outline.name, "velmorad");
+    ASSERT_EQ(outline.statuses.size(), 4U);
+    EXPECT_EQ(outline.statuses.back().first, 3);
+}
+
 }  // namespace
 }  // namespace velmora

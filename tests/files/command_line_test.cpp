@@ -34,5 +34,12 @@ TEST_F(FilesCommandLineTest, FilesMayBeCalledLikeCommandsAndOptions) {
     EXPECT_EQ(complaint, "velmora-files: File not found: --as\n");
 }
 
+TEST_F(FilesCommandLineTest, ItsOutlineHasEveryCommandAndStatus) {
+    const ProgramOutline outline = filesOutline();
+    EXPECT_EQ(outline.name, "velmora-files");
+    EXPECT_EQ(outline.commands.size(), 4U);
+    EXPECT_EQ(outline.statuses.size(), 4U);
+}
+
 }  // namespace
 }  // namespace velmora

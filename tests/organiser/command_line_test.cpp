@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -166,6 +167,15 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(OrganiserCommandLine, DeviceIsNeeded) {
     EXPECT_THROW(readCommandLine({"time"}), UsageError);
+}
+
+TEST(OrganiserCommandLine, ItsOutlineHasTheLineEveryCommandAndEveryStatus) {
+    const ProgramOutline outline = commandLineOutline();
+    EXPECT_EQ(outline.name, "velmora-organiser");
+    EXPECT_EQ(outline.commands.size(), 16U);
+    EXPECT_EQ(outline.statuses.size(), 5U);
+    // Shells offer ports for this word.
+    EXPECT_NE(std::ranges::find(outline.options, "<port>", &ArgumentOutline::value), outline.options.end());
 }
 
 }  // namespace

@@ -60,6 +60,14 @@ TEST_F(EffectiveSettingsTest, AnEntryOfTheFileCountsAsItIsRead) {
     EXPECT_EQ(of("AutoSave"), "True (default)");
 }
 
+TEST_F(EffectiveSettingsTest, SettingsThatNoWindowHasAreShownToo) {
+    givenLine("StayInFolder=on\r\nPortIdentity=0403:6001:A\r\nWksDialect=\r\nEarlierCopies=7");
+    EXPECT_EQ(of("StayInFolder"), "True (file)");
+    EXPECT_EQ(of("PortIdentity"), "0403:6001:A (file)");
+    EXPECT_EQ(of("WksDialect"), " (file)");
+    EXPECT_EQ(of("EarlierCopies"), "7 (file)");
+}
+
 TEST_F(EffectiveSettingsTest, AFolderThatIsNotThereGivesWayToTheUsualOne) {
     givenLine("DownloadPath=/gone");
     EXPECT_EQ(of("DownloadPath"), "/home/Documents/Psion Files (default)");
