@@ -53,6 +53,14 @@ TEST_F(Console, TellsATransferLineByLine) {
     EXPECT_EQ(states, (std::vector<std::int32_t>{5, 6, 9, 5}));
 }
 
+TEST_F(Console, OfAProgramThatAsksForNothingTellsTheDisplay) {
+    ConsoleView plain([this](const std::string& line) { output.push_back(line); }, {}, {});
+    plain.showStatus("Waiting for link");
+    plain.showState(WaitLink);
+    plain.close();
+    EXPECT_EQ(output, Lines{"Waiting for link"});
+}
+
 TEST_F(Console, LeavesOutTheDisplayWhileItIsNotWantedButNoReport) {
     statusWanted = false;
     controller.setState(WaitLink);

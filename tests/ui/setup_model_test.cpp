@@ -188,6 +188,14 @@ TEST_F(Setup, WithoutARateNoneIsSelectedAndTheSettingsStay) {
     EXPECT_EQ(port.settings, "no rate");
 }
 
+TEST_F(Setup, ARateThatNoPortHasIsNotSelected) {
+    for (const char* settings : {"-1,N,8,1", "99999999999,N,8,1"}) {
+        port.settings = settings;
+        open();
+        EXPECT_EQ(model.baud(), std::nullopt) << settings;
+    }
+}
+
 TEST_F(Setup, SelectingTheOtherPortEnablesItsTextAndTakesTheFocus) {
     open();
     focused = 0;
@@ -337,6 +345,28 @@ TEST_F(Setup, CancelWhileProbingEndsTheProbing) {
     checkedPorts({1, 2, 3});
     EXPECT_EQ(port.number, 2);
     EXPECT_EQ(closings, 1);
+}
+
+TEST_F(Setup, CancelWhileTheOtherPortIsProbedShowsNothingMore) {
+    port.number = 9;
+    portIs(9, kStatusAvailable);
+    whileProbing = [this] {
+        if (probed.back() == 9) {
+            model.pbCancel_Click();
+        }
+    };
+    open();
+    EXPECT_TRUE(model.mark(SetupModel::kOtherPort).toolTip.empty());
+    EXPECT_EQ(port.number, 9);
+    EXPECT_EQ(closings, 1);
+}
+
+TEST_F(Setup, AfterItWasClosedNothingIsProbed) {
+    open();
+    model.setPortText("9");
+    model.pbCancel_Click();
+    model.pbCheckPort_Click();
+    checkedPorts({1, 2, 3, 4});
 }
 
 TEST_F(Setup, CancelWhileCheckingGivesThePortNumberBack) {

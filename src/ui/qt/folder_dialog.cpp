@@ -12,11 +12,19 @@
 namespace velmora {
 
 FolderDialog::FolderDialog(Options options, QWidget* owner)
-    : QFileDialog(owner), options_(std::move(options)) {
+    : QFileDialog(owner),
+      options_(std::move(options)),
+      lblStatus(new QLabel(this)),
+      lblFault(new QLabel(this)) {
     setOption(DontUseNativeDialog);
     setFileMode(Directory);
     setOption(ShowDirsOnly, !options_.files);
     setLabelText(Accept, QStringLiteral("OK"));
+    lblFault->setObjectName("lblFault");
+    lblFault->setWordWrap(true);
+    lblFault->hide();
+    lblStatus->setObjectName("lblStatus");
+    lblStatus->setVisible(options_.statusLine);
     addRows();
     if (auto* buttons = findChild<QDialogButtonBox*>()) {
         pbOK = buttons->button(QDialogButtonBox::Open);
@@ -71,21 +79,12 @@ void FolderDialog::addRows() {
         grid->addItem(cell.item, cell.row + 1, cell.column, cell.rows, cell.columns);
     }
     const int below = grid->rowCount();
-    lblFault = new QLabel;
-    lblFault->setObjectName("lblFault");
-    lblFault->setWordWrap(true);
-    lblFault->hide();
     grid->addWidget(lblFault, below, 0, 1, 3);
-    lblStatus = new QLabel;
-    lblStatus->setObjectName("lblStatus");
-    lblStatus->setVisible(options_.statusLine);
     grid->addWidget(lblStatus, below + 1, 0, 1, 3);
 }
 
 void FolderDialog::setStatusText(const QString& text) {
-    if (lblStatus) {
-        lblStatus->setText(text);
-    }
+    lblStatus->setText(text);
 }
 
 void FolderDialog::setOkEnabled(bool on) {
@@ -105,9 +104,7 @@ void FolderDialog::selectionChanged() {
     if (pbOK && !okAllowed_) {
         pbOK->setEnabled(false);
     }
-    if (lblFault) {
-        lblFault->hide();
-    }
+    lblFault->hide();
 }
 
 bool FolderDialog::insideRoot(const QString& path) const {
@@ -133,10 +130,8 @@ void FolderDialog::accept() {
         done(Accepted);
         return;
     }
-    if (lblFault) {
-        lblFault->setText(QDir::toNativeSeparators(path) + QStringLiteral(" is no folder to choose"));
-        lblFault->show();
-    }
+    lblFault->setText(QDir::toNativeSeparators(path) + QStringLiteral(" is no folder to choose"));
+    lblFault->show();
     Q_EMIT validationFailed();
 }
 

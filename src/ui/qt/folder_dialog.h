@@ -42,8 +42,8 @@ class FolderDialog : public QFileDialog {
 
     const Options options_;
     bool okAllowed_ = true;
-    QLabel* lblStatus = nullptr;
-    QLabel* lblFault = nullptr;
+    QLabel* const lblStatus;
+    QLabel* const lblFault;
     QPushButton* pbOK = nullptr;
 };
 

@@ -305,9 +305,6 @@ void frmSetup::load() {
 }
 
 void frmSetup::showState() {
-    if (!pbCancel) {
-        return;
-    }
     // What is chosen while the ports are probed would be overwritten by the result.
     grpPort->setEnabled(!loading_);
     for (int port = 1; port <= SetupModel::kOtherPort; ++port) {

@@ -1,5 +1,6 @@
 #include "ui/qt/c_sh_folder.h"
 
+#include <QApplication>
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QFile>
@@ -12,6 +13,7 @@
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 #include <functional>
 
 namespace velmora {
@@ -61,6 +63,23 @@ class CSHFolderTest : public QObject {
         QCOMPARE(folder.BrowseForFolder(nullptr), std::string());
         QCOMPARE(folder.DisplayName(), std::string());
         QVERIFY(!folder.hWnd());
+    }
+    void theDownloadFolderIsAskedForWithItsCaptionPromptAndPlace() {
+        const FolderQuestion question{"Caption", "Which one?", path()};
+        QString title;
+        QString prompt;
+        QTimer::singleShot(0, this, [&] {
+            auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            QVERIFY(dialog);
+            title = dialog->windowTitle();
+            prompt = dialog->findChild<QLabel*>("lblPrompt")->text();
+            QVERIFY(dialog->findChild<QLineEdit*>("fileNameEdit")->isVisible());
+            dialog->findChild<QLineEdit*>("fileNameEdit")->setText("inner");
+            QMetaObject::invokeMethod(dialog, "accept", Qt::DirectConnection);
+        });
+        QCOMPARE(folderBrowser(nullptr)(question), path() + "/inner");
+        QCOMPARE(title, QString("Caption"));
+        QCOMPARE(prompt, QString("Which one?"));
     }
     void captionPromptAndStatusAreShown() {
         cSHFolder folder;
@@ -193,6 +212,51 @@ class CSHFolderTest : public QObject {
         });
         QCOMPARE(folder.BrowseForFolder(nullptr, std::nullopt, 40), std::string());
         QCOMPARE(failed.count(), 1);
+    }
+    void wayOutOfTheRootLeadsBackToIt() {
+        cSHFolder folder;
+        QSignalSpy moved(&folder, &cSHFolder::SelectionChanged);
+        whenOpen(folder, [&] {
+            const QString home = opened(folder)->directory().absolutePath();
+            opened(folder)->setDirectory(QDir::rootPath());
+            Q_EMIT opened(folder)->directoryEntered(QDir::rootPath());
+            QCOMPARE(opened(folder)->directory().absolutePath(), home);
+            QDir(home).mkdir("below");
+            Q_EMIT opened(folder)->directoryEntered(home + "/below");
+            QVERIFY(moved.count() >= 2);
+            opened(folder)->reject();
+        });
+        folder.BrowseForFolder(nullptr, std::nullopt, 40);
+        QCOMPARE(seen, 1);
+    }
+    void theRootOfTheComputerHoldsEveryFolder() {
+        cSHFolder folder;
+        folder.setDefaultPath(path());
+        whenOpen(folder, [&] { accept(folder); });
+        constexpr int kDrives = 17;
+        QCOMPARE(folder.BrowseForFolder(nullptr, std::nullopt, kDrives), path());
+    }
+    void whatIsNeitherAFileNorAFolderIsNotChosen() {
+        cSHFolder folder;
+        folder.setDefaultPath(path());
+        folder.setIncludeFiles(true);
+        folder.setEditBox(true);
+        QSignalSpy failed(&folder, &cSHFolder::ValidationFailed);
+        whenOpen(folder, [&] {
+            folder.hWnd()->findChild<QLineEdit*>("fileNameEdit")->setText("missing");
+            accept(folder);
+            QVERIFY(folder.hWnd()->isVisible());
+            opened(folder)->reject();
+        });
+        QCOMPARE(folder.BrowseForFolder(nullptr), std::string());
+        QCOMPARE(failed.count(), 1);
+    }
+    void okIsOnlyForADialogThatIsOpen() {
+        cSHFolder folder;
+        folder.setDefaultPath(path());
+        folder.setOKEnabled(false);
+        whenOpen(folder, [&] { accept(folder); });
+        QCOMPARE(folder.BrowseForFolder(nullptr), path());
     }
     void theDialogIsCentredWithIntegerHalving() {
         cSHFolder folder;

@@ -1,3 +1,4 @@
+#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -39,6 +40,11 @@ class DialogsTest : public QObject {
         late.findChild<QPushButton*>("pbCancel")->click();
         QCOMPARE(port.number, std::int16_t(3));
         QVERIFY(!late.isVisible());
+    }
+    void withoutAListOfDevicesNoneIsShown() {
+        frmSetup dialog(port, options, transfer, probe(), {});
+        dialog.refreshDevices();
+        QCOMPARE(dialog.findChild<QComboBox*>("cboPresentPorts")->count(), 0);
     }
     void setupShutsNobodyOut() {
         frmSetup dialog(port, options, transfer, probe(), {});

@@ -191,6 +191,85 @@ class FrmDebugTest : public QObject {
         QCOMPARE(log->currentIndex().row(), 199);
         QVERIFY(atEnd());
     }
+    void theKeysMoveByPagesAndSideways() {
+        addLines(199);
+        window->model().addline(std::string(500, 'x'));
+        window->showWaiting();
+        log->setFocus();
+        QTest::keyClick(log, Qt::Key_End);
+        QTest::keyClick(log, Qt::Key_PageUp);
+        const int page = 199 - log->currentIndex().row();
+        QVERIFY(page > 1);
+        QTest::keyClick(log, Qt::Key_Up);
+        QCOMPARE(log->currentIndex().row(), 198 - page);
+        QCOMPARE(log->horizontalScrollBar()->value(), 0);
+        QTest::keyClick(log, Qt::Key_Right);
+        QVERIFY(log->horizontalScrollBar()->value() > 0);
+        QTest::keyClick(log, Qt::Key_Left);
+        QCOMPARE(log->horizontalScrollBar()->value(), 0);
+    }
+    void theFirstKeyGoesToTheTopmostLineThatIsShown() {
+        for (const Qt::Key key : {Qt::Key_Up, Qt::Key_Down}) {
+            child<QPushButton>("cbClear")->click();
+            addLines(200);
+            log->setFocus();
+            log->setCurrentIndex({});
+            const int top = log->verticalScrollBar()->value();
+            QTest::keyClick(log, key);
+            QCOMPARE(log->currentIndex().row(), top);
+        }
+    }
+    void inAnEmptyLogTheKeysMoveNowhere() {
+        log->setFocus();
+        QTest::keyClick(log, Qt::Key_Down);
+        QVERIFY(!log->currentIndex().isValid());
+    }
+    void aLineIsBroughtToThePlaceThatIsAskedFor() {
+        addLines(200);
+        const QModelIndex line = log->model()->index(100, 0);
+        const QScrollBar* bar = log->verticalScrollBar();
+        log->scrollTo(line, QAbstractItemView::PositionAtTop);
+        QCOMPARE(bar->value(), 100);
+        log->scrollTo(line, QAbstractItemView::PositionAtBottom);
+        const int bottom = bar->value();
+        QVERIFY(bottom < 100 && log->viewport()->rect().contains(centreOf(100)));
+        log->scrollTo(line);
+        QCOMPARE(bar->value(), bottom);
+        log->scrollTo(log->model()->index(10, 0));
+        QCOMPARE(bar->value(), 10);
+        log->scrollTo({});
+        QCOMPARE(bar->value(), 10);
+        QVERIFY(log->visualRect({}).isNull());
+    }
+    void whatLiesAboveTheViewIsFoundThere() {
+        addLines(200);
+        log->scrollTo(log->model()->index(100, 0), QAbstractItemView::PositionAtTop);
+        QCOMPARE(log->indexAt({5, 0}).row(), 100);
+        QCOMPARE(log->indexAt({5, -1}).row(), 99);
+        QCOMPARE(log->indexAt({5, -1 - log->visualRect(log->model()->index(0, 0)).height()}).row(), 98);
+    }
+    void aLargerFontMakesHigherLines() {
+        addLines(200);
+        const int before = log->visualRect(log->model()->index(0, 0)).height();
+        QFont font = log->font();
+        font.setPointSize(2 * font.pointSize());
+        log->setFont(font);
+        QVERIFY(log->visualRect(log->model()->index(0, 0)).height() > before);
+        QTRY_VERIFY(atEnd());
+        log->setStyleSheet("QListView { font-size: 40pt; }");
+        QTRY_VERIFY(atEnd());
+    }
+    void nothingIsFoundByNothing() {
+        addLines(1);
+        const auto* lines = qobject_cast<const LogLines*>(log->model());
+        QVERIFY(lines);
+        QCOMPARE(lines->find("", -1, LogLines::Direction::Forward), std::nullopt);
+    }
+    void nothingIsInALineButItsText() {
+        addLines(1);
+        QVERIFY(!log->model()->data(log->model()->index(0, 0), Qt::DecorationRole).isValid());
+        QVERIFY(!log->model()->data({}).isValid());
+    }
     void clearingKeepsFollowing() {
         addLines(200);
         child<QPushButton>("cbClear")->click();
@@ -339,6 +418,21 @@ class FrmDebugTest : public QObject {
         QCOMPARE(spoken->childCount(), 30);
         QCOMPARE(spoken->child(7)->text(QAccessible::Name), QString("0.40\tline 7"));
         QVERIFY(test::tabOrder(*window).startsWith("txtLog"));
+    }
+    void theCurrentLineHasAFrameWhileTheLogHasTheFocus() {
+        addLines(5);
+        window->setAttribute(Qt::WA_KeyboardFocusChange);  // as the first Tab does
+        log->setCurrentIndex(log->model()->index(2, 0));
+        const QRect area = log->visualRect(log->model()->index(2, 0));
+        for (const bool selected : {true, false}) {
+            if (!selected) {
+                log->clearSelection();
+            }
+            log->setFocus();
+            const QImage with = log->viewport()->grab(area).toImage();
+            log->clearFocus();
+            QVERIFY(log->viewport()->grab(area).toImage() != with);
+        }
     }
     void linesArePaintedAndSelectedOnesStandOut() {
         addLines(5);

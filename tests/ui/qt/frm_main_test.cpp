@@ -55,6 +55,9 @@ class FrmMainTest : public QObject {
     void requestedShutdownEndsTheProgramAfterHalfASecond();
     void portThatFailsStopsTheServerUntilStartIsPressedAgain();
     void debugSwitchAppearsAndWorksByMouseAndKey();
+    void debugSwitchShowsThatItHasTheFocus();
+    void captionsOfOtherLanguagesMayHaveNoMnemonic();
+    void windowThatBelongsToNoProgramCloses();
     void popupRaisesAMinimisedWindow();
     void autoHideMinimises();
     void windowHiddenBeforeItIsShownAppearsMinimised();
@@ -363,9 +366,40 @@ void FrmMainTest::debugSwitchAppearsAndWorksByMouseAndKey() {
     QCOMPARE(rig->debugSwitches, 0);
     QTest::mouseDClick(label("lblDebug"), Qt::LeftButton);
     QCOMPARE(rig->debugSwitches, 1);
+    QTest::mouseDClick(label("lblDebug"), Qt::RightButton);
+    QCOMPARE(rig->debugSwitches, 1);
     label("lblDebug")->setFocus();
     QTest::keyClick(label("lblDebug"), Qt::Key_Space);
     QCOMPARE(rig->debugSwitches, 2);
+    QTest::keyClick(label("lblDebug"), Qt::Key_Return);
+    QCOMPARE(rig->debugSwitches, 3);
+    QTest::keyClick(label("lblDebug"), Qt::Key_Enter);
+    QCOMPARE(rig->debugSwitches, 4);
+    QTest::keyClick(label("lblDebug"), Qt::Key_D);
+    QCOMPARE(rig->debugSwitches, 4);
+}
+
+void FrmMainTest::debugSwitchShowsThatItHasTheFocus() {
+    rig->controller.setDebugMode(true);
+    rig->window.activateWindow();
+    rig->window.setAttribute(Qt::WA_KeyboardFocusChange);  // as the first Tab does
+    button("pbSetup")->setFocus();
+    const QImage without = label("lblDebug")->grab().toImage();
+    label("lblDebug")->setFocus();
+    QTRY_VERIFY(label("lblDebug")->hasFocus());
+    QVERIFY(label("lblDebug")->grab().toImage() != without);
+}
+
+void FrmMainTest::captionsOfOtherLanguagesMayHaveNoMnemonic() {
+    rig->window.setButtonCaption(MainButton::Setup, "1 & 2");
+    QCOMPARE(button("pbSetup")->text(), QStringLiteral("1 && 2"));
+}
+
+void FrmMainTest::windowThatBelongsToNoProgramCloses() {
+    frmMain window;
+    window.show();
+    window.close();
+    QVERIFY(!window.isVisible());
 }
 
 void FrmMainTest::popupRaisesAMinimisedWindow() {

@@ -235,6 +235,89 @@ class FrmSetupTest : public QObject {
         QCOMPARE(text()->text(), QString("%&'("));
         QCOMPARE(beeps, 0);
     }
+    void keysThatLeaveTheNumberAreNoCharacters_data() {
+        QTest::addColumn<Qt::Key>("key");
+        QTest::addColumn<bool>("stays");
+        QTest::addColumn<int>("chosen");
+        QTest::newRow("Tab") << Qt::Key_Tab << true << 9;
+        QTest::newRow("Backtab") << Qt::Key_Backtab << true << 9;
+        QTest::newRow("Return") << Qt::Key_Return << false << 12;
+        QTest::newRow("Enter") << Qt::Key_Enter << false << 12;
+        QTest::newRow("Escape") << Qt::Key_Escape << false << 9;
+    }
+    void keysThatLeaveTheNumberAreNoCharacters() {
+        QFETCH(Qt::Key, key);
+        QFETCH(bool, stays);
+        QFETCH(int, chosen);
+        port.number = 9;
+        open();
+        text()->clear();
+        QTest::keyClicks(text(), "12");
+        QTest::keyClick(text(), key);
+        QCOMPARE(beeps, 0);
+        QCOMPARE(text()->text(), QString("12"));
+        QCOMPARE(dialog->isVisible(), stays);
+        QCOMPARE(port.number, std::int16_t(chosen));
+    }
+    void otherButtonsOfTheMouseSelectNoPort() {
+        open();
+        QVERIFY(button(1)->isChecked());
+        QTest::mousePress(text(), Qt::RightButton);
+        QVERIFY(button(1)->isChecked());
+    }
+    void whatIsClosedBeforeItsFirstProbeProbesNothing() {
+        make();
+        dialog->reject();
+        QCoreApplication::processEvents();
+        QVERIFY(probed.empty());
+        QVERIFY(!dialog->isVisible());
+    }
+    void setupThatIsShownAgainIsAsItWasLeft() {
+        open();
+        const std::size_t looks = probed.size();
+        dialog->hide();
+        dialog->show();
+        QCoreApplication::processEvents();
+        QCOMPARE(probed.size(), looks);
+        QVERIFY(ok()->isEnabled());
+    }
+    void devicesAreNamedByWhatIsKnownOfThem() {
+        devices = {device(5, "COM5"), adapter(6, "/dev/ttyUSB1", "B1")};
+        open();
+        auto* list = find<QComboBox>("cboPresentPorts");
+        QCOMPARE(list->itemText(0), QString("COM5"));
+        QCOMPARE(list->itemText(1), QString("COM6  /dev/ttyUSB1  FTDI FT232R USB UART  B1"));
+        dialog->refreshDevices();
+        QCOMPARE(list->count(), 2);
+    }
+    void aRightThatIsGivenWhileSetupIsOpenTakesTheHintAway() {
+        devices = {device(6, "/dev/ttyUSB1")};
+        devices[0].mayOpen = false;
+        open();
+        auto* list = find<QComboBox>("cboPresentPorts");
+        QTest::keyClick(list, Qt::Key_Down);
+        QVERIFY(find<QLabel>("lblDeviceHint")->isVisible());
+        devices[0].mayOpen = true;
+        dialog->refreshDevices();
+        QCOMPARE(list->currentIndex(), 0);
+        QVERIFY(!find<QLabel>("lblDeviceHint")->isVisible());
+    }
+    void anAdapterThatComesIsNotChosenByItself() {
+        devices = {device(6, "/dev/ttyUSB1")};
+        open();
+        devices = {device(7, "/dev/ttyUSB2")};
+        dialog->refreshDevices();
+        auto* list = find<QComboBox>("cboPresentPorts");
+        QCOMPARE(list->itemText(0), QString("COM7  /dev/ttyUSB2"));
+        QCOMPARE(list->currentIndex(), -1);
+    }
+    void aDeviceThatNoGroupMayOpenSaysOnlyThat() {
+        devices = {device(6, "/dev/ttyUSB1")};
+        devices[0].mayOpen = false;
+        open();
+        QTest::keyClick(find<QComboBox>("cboPresentPorts"), Qt::Key_Down);
+        QCOMPARE(find<QLabel>("lblDeviceHint")->text(), QString("/dev/ttyUSB1 may not be opened"));
+    }
     void aPressInTheNumberSelectsTheOtherPort() {
         open();
         QVERIFY(button(1)->isChecked());

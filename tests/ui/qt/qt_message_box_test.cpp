@@ -24,6 +24,7 @@ class QtMessageBoxTest : public QObject {
     void mootQuestionClosesItself();
     void otherQuestionsStay();
     void boxOfAMinimisedWindowStandsAlone();
+    void boxOfAHiddenWindowStandsAlone();
     void boxBelongsToAVisibleWindow();
 
   private:
@@ -125,6 +126,15 @@ void QtMessageBoxTest::otherQuestionsStay() {
 
 void QtMessageBoxTest::boxOfAMinimisedWindowStandsAlone() {
     window.showMinimized();
+    whenShown([](QMessageBox& shown) {
+        QCOMPARE(shown.parentWidget(), nullptr);
+        press(shown, QMessageBox::Ok);
+    });
+    box.inform(BoxIcon::Information, "Velmora", "text");
+}
+
+void QtMessageBoxTest::boxOfAHiddenWindowStandsAlone() {
+    window.hide();
     whenShown([](QMessageBox& shown) {
         QCOMPARE(shown.parentWidget(), nullptr);
         press(shown, QMessageBox::Ok);

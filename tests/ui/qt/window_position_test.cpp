@@ -22,6 +22,7 @@ class WindowPositionTest : public QObject {
     void firstStartCentres();
     void placeComesBack_data();
     void placeComesBack();
+    void placeBetweenTwoPixelsIsTheLowerOne();
     void minimisedWindowIsStoredWhereItStood();
 
   private:
@@ -83,6 +84,13 @@ void WindowPositionTest::placeComesBack() {
     window.move(1, 1);
     load();
     QCOMPARE(window.pos(), restored);
+}
+
+void WindowPositionTest::placeBetweenTwoPixelsIsTheLowerOne() {
+    QtWindowGeometry geometry(window);
+    geometry.setLeft(-16);
+    geometry.setTop(16);
+    QCOMPARE(window.pos(), QPoint(-2, 1));
 }
 
 void WindowPositionTest::minimisedWindowIsStoredWhereItStood() {
