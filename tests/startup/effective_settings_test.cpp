@@ -60,9 +60,12 @@ TEST_F(EffectiveSettingsTest, AnEntryOfTheFileCountsAsItIsRead) {
     EXPECT_EQ(of("AutoSave"), "True (default)");
 }
 
-TEST_F(EffectiveSettingsTest, SettingsThatNoWindowHasAreShownToo) {
-    givenLine("StayInFolder=on\r\nPortIdentity=0403:6001:A\r\nWksDialect=\r\nEarlierCopies=7");
+TEST_F(EffectiveSettingsTest, EverySettingIsShownAsTheFileWouldHaveIt) {
+    overrides.autoStart = false;
+    givenLine("StayInFolder=on\r\nAutoSave=no\r\nPortIdentity=0403:6001:A\r\nWksDialect=\r\nEarlierCopies=7");
     EXPECT_EQ(of("StayInFolder"), "True (file)");
+    EXPECT_EQ(of("AutoSave"), "False (file)");
+    EXPECT_EQ(of("AutoStart"), "False (program)");
     EXPECT_EQ(of("PortIdentity"), "0403:6001:A (file)");
     EXPECT_EQ(of("WksDialect"), " (file)");
     EXPECT_EQ(of("EarlierCopies"), "7 (file)");
