@@ -23,7 +23,7 @@ namespace {
 /// A token in a form in which equal ones are the same text.
 std::string normalised(std::string_view token) {
     constexpr std::string_view kNoArguments = "(0)";
-    if (token.front() == '"') {
+    if (token.starts_with('"')) {
         return std::string(token);
     }
     if (isNumberToken(token)) {
@@ -45,7 +45,7 @@ std::vector<std::string> meaningOf(std::string_view text) {
     std::vector<std::string> meaning;
     for (std::string_view rest = postfix; !rest.empty();) {
         const std::string_view token = takePostfixToken(rest, kAsPeopleRead);
-        if (!token.empty() && token != kParenthesesSymbol) {
+        if (token != kParenthesesSymbol) {
             meaning.push_back(normalised(token));
         }
     }
@@ -53,9 +53,6 @@ std::vector<std::string> meaningOf(std::string_view text) {
 }
 
 bool saysTheSame(std::string_view one, std::string_view other) {
-    if (one == other) {
-        return true;
-    }
     try {
         return meaningOf(one) == meaningOf(other);
     } catch (const RunTimeError&) {

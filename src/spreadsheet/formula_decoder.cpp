@@ -1,8 +1,6 @@
 #include "spreadsheet/formula_decoder.h"
 
-#include <cstdlib>
 #include <optional>
-#include <utility>
 
 #include "spreadsheet/byte_conversions.h"
 #include "spreadsheet/cell_reference.h"
@@ -23,23 +21,27 @@ class TokenReader {
 
     /// The postfix text; nothing when a token is unknown or cut short.
     std::optional<std::string> postfix() {
+        std::string out;
         while (!rest_.empty()) {
             const int code = static_cast<unsigned char>(rest_.front());
             rest_.remove_prefix(1);
             if (code == kTokenEnd) {
                 break;
             }
-            if (!readToken(code)) {
+            const std::optional<std::string> token = readToken(code);
+            if (!token) {
                 return std::nullopt;
             }
+            out.append(*token).append(" ");
         }
-        return std::move(out_);
+        return out;
     }
 
   private:
-    bool readToken(int code) {
+    /// What a token is in the postfix text; nothing when it is unknown or cut short.
+    std::optional<std::string> readToken(int code) {
         if (code >= kFirstOperator && code <= kLastOperator) {
-            return append(operatorSymbol(code));
+            return std::string(operatorSymbol(code));
         }
         if (isFunctionCode(code)) {
             return readFunction(code);
@@ -56,15 +58,11 @@ class TokenReader {
             case kTokenString:
                 return readString();
             case kTokenParentheses:
-                return dialect_ == WksDialect::Common && append(kParenthesesSymbol);
+                return dialect_ == WksDialect::Common ? std::optional<std::string>(kParenthesesSymbol)
+                                                      : std::nullopt;
             default:
-                return false;
+                return std::nullopt;
         }
-    }
-
-    bool append(std::string_view token) {
-        out_.append(token).append(" ");
-        return true;
     }
 
     /// The next bytes of a token; nothing when they are not all there.
@@ -77,65 +75,67 @@ class TokenReader {
         return taken;
     }
 
-    bool readNumber() {
+    std::optional<std::string> readNumber() {
         const auto bytes = take(sizeof(double));
         if (!bytes) {
-            return false;
+            return std::nullopt;
         }
         const std::string text = exponentText(bytesToDouble(*bytes));
-        return text.front() == '-' ? append(text.substr(1)) && append("_") : append(text);
+        return text.front() == '-' ? negated(text.substr(1)) : text;
     }
 
-    bool readInteger() {
+    std::optional<std::string> readInteger() {
         const auto bytes = take(2);
         if (!bytes) {
-            return false;
+            return std::nullopt;
         }
         const int value = bytesToInt16(*bytes);
-        append(std::to_string(std::abs(value)));
-        return value >= 0 || append("_");
+        return value < 0 ? negated(std::to_string(-value)) : std::to_string(value);
     }
 
-    bool readReference() {
+    static std::string negated(const std::string& number) { return number + " _"; }
+
+    std::optional<std::string> readReference() {
         const auto bytes = take(4);
-        return bytes && append(DecodeCellRef(*bytes, cell_));
+        return bytes ? std::optional(DecodeCellRef(*bytes, cell_)) : std::nullopt;
     }
 
-    bool readRange() {
+    std::optional<std::string> readRange() {
         const auto bytes = take(8);
-        return bytes && append(DecodeCellRef(*bytes, cell_) + ":" + DecodeCellRef(bytes->substr(4), cell_));
+        if (!bytes) {
+            return std::nullopt;
+        }
+        return DecodeCellRef(*bytes, cell_) + ":" + DecodeCellRef(bytes->substr(4), cell_);
     }
 
-    bool readString() {
+    std::optional<std::string> readString() {
         const std::size_t end = rest_.find('\0');
         if (end == std::string_view::npos) {
-            return false;
+            return std::nullopt;
         }
-        const std::string_view text = rest_.substr(0, end);
+        std::string text(rest_.substr(0, end));
         rest_.remove_prefix(end + 1);
-        if (dialect_ == WksDialect::Common && text.find('"') == std::string_view::npos) {
-            return append("\"" + std::string(text) + "\"");
+        if (dialect_ == WksDialect::Common && text.find('"') == std::string::npos) {
+            return "\"" + text + "\"";
         }
-        append(text);
-        return true;
+        return text;
     }
 
-    bool readFunction(int code) {
+    std::optional<std::string> readFunction(int code) {
         int count = 0;
         if (readsArgumentCount(code, dialect_)) {
             const auto byte = take(1);
             if (!byte) {
-                return false;
+                return std::nullopt;
             }
             count = static_cast<unsigned char>(byte->front());
         }
-        return append(FunctionName(code, count, dialect_));
+        return FunctionName(code, count, dialect_);
     }
 
     std::string_view rest_;
     CellPosition cell_;
     WksDialect dialect_;
-    std::string out_;
 };
 
 /// Replaces every occurrence, from left to right, without looking at what it put in.

@@ -33,7 +33,7 @@ std::optional<std::string> encodeToken(std::string_view token, const CellPositio
     if (dialect == WksDialect::Common && token == kParenthesesSymbol) {
         return std::string(1, static_cast<char>(kTokenParentheses));
     }
-    const bool quoted = token.front() == '"';
+    const bool quoted = token.starts_with('"');
     const bool quotesFirst = dialect == WksDialect::Common && quoted;
     if ((token.find('(') != std::string_view::npos && !quotesFirst) || isBareFunction(token)) {
         return FunctionCode(token, dialect);
@@ -67,11 +67,7 @@ std::string EncodeFormula(std::string_view text, const CellPosition& formulaCell
     std::string tokens;
     tokens.reserve(postfix.size() * 2);
     for (std::string_view rest = postfix; !rest.empty();) {
-        const std::string_view token = takePostfixToken(rest, dialect);
-        if (token.empty()) {
-            continue;
-        }
-        const auto bytes = encodeToken(token, formulaCell, dialect);
+        const auto bytes = encodeToken(takePostfixToken(rest, dialect), formulaCell, dialect);
         if (!bytes) {
             tokens = static_cast<char>(kTokenErr);
             break;

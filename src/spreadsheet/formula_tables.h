@@ -76,7 +76,7 @@ std::string FunctionName(int code, int count = 0, WksDialect dialect = WksDialec
 
 /// The bytes of a function's postfix token: its code, and the count of arguments for those that carry one.
 /// Names are compared in capitals by their first five letters. One byte 32 for an unknown name. RunTimeError
-/// 5 for a count above 255.
+/// 5 for a count that a byte does not hold.
 std::string FunctionCode(std::string_view token, WksDialect dialect = WksDialect::Own);
 
 /// Whether a name is a function even without parentheses: PI RAND TODAY TRUE FALSE NA ERR, in any case.

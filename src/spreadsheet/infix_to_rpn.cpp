@@ -237,18 +237,19 @@ class InfixConversion {
 
     void takeNumber() {
         const std::size_t start = position_;
-        while (position_ < text_.size() && goesOnWithNumber()) {
+        do {
             ++position_;
-        }
+        } while (position_ < text_.size() && goesOnWithNumber());
         emitOperand(text_.substr(start, position_ - start));
     }
 
+    /// Whether the character at the position belongs to the number before it.
     bool goesOnWithNumber() const {
         const char c = text_[position_];
         if (isDigit(c) || c == '.' || c == 'E' || c == 'e') {
             return true;
         }
-        const char before = position_ > 0 ? text_[position_ - 1] : '\0';
+        const char before = text_[position_ - 1];
         return isCommon() && (c == '-' || c == '+') && (before == 'E' || before == 'e') && isDigit(peek(1));
     }
 

@@ -6,7 +6,6 @@
 #include "base/ascii.h"
 #include "base/number_text.h"
 #include "spreadsheet/sheet_number_text.h"
-#include "spreadsheet/system_number_signs.h"
 
 namespace velmora {
 namespace {
@@ -116,12 +115,15 @@ void takeSign(std::string_view& text, std::string& number) {
 
 }  // namespace
 
+NumberLocale numberLocaleOf(const SystemNumberSigns& signs) {
+    const char decimal = signByte(signs.decimal, '.');
+    const char thousands = signs.groups ? signByte(signs.thousands, '\0') : '\0';
+    return {decimal, thousands == decimal ? '\0' : thousands};
+}
+
 std::optional<NumberLocale> namedNumberLocale(const std::string& name) {
     if (const auto known = systemNumberSigns(name)) {
-        const char decimal = signByte(known->decimal, '.');
-        const char thousands = signByte(known->thousands, '\0');
-        // A text of a user who set both signs to the same one is read for its decimal sign.
-        return NumberLocale{decimal, thousands == decimal ? '\0' : thousands};
+        return numberLocaleOf(*known);
     }
     std::string wanted = name.substr(0, name.find_first_of(".@"));
     for (char& c : wanted) {

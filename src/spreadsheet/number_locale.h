@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include "spreadsheet/system_number_signs.h"
+
 namespace velmora {
 
 /// The signs of a locale as Windows-1252 bytes.
@@ -14,6 +16,11 @@ struct NumberLocale {
 
     friend bool operator==(const NumberLocale&, const NumberLocale&) = default;
 };
+
+/// What the system says of a locale. A character without a byte is as good as none: "." for the decimal sign,
+/// no separator. Every blank that does not break is the one that Windows-1252 has, and a typographic
+/// apostrophe the plain one. Two signs that are the same are the decimal sign.
+NumberLocale numberLocaleOf(const SystemNumberSigns& signs);
 
 /// The signs of a named locale ("de_DE.UTF-8", "fr", "C"); "" is the user's own. Asks the system first and
 /// falls back on a table of languages, since many systems have few locales installed. Nothing for a name

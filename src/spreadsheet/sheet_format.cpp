@@ -25,8 +25,4 @@ bool KeepsFormulas(int format) {
     return format == kFormatXls || format == kFormatWks;
 }
 
-bool XlsAvailable() {
-    return false;
-}
-
 }  // namespace velmora

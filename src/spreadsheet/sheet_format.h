@@ -23,6 +23,8 @@ std::string FormatName(int format, bool longForm);
 bool KeepsFormulas(int format);
 
 /// Whether format 1 can be chosen. It cannot.
-bool XlsAvailable();
+constexpr bool XlsAvailable() {
+    return false;
+}
 
 }  // namespace velmora

@@ -9,7 +9,8 @@ namespace velmora {
 /// The signs of a locale as Unicode characters.
 struct SystemNumberSigns {
     wchar_t decimal = L'.';
-    wchar_t thousands = L'\0';  ///< 0 when digits are not grouped
+    wchar_t thousands = L'\0';  ///< may be there although digits are not grouped
+    bool groups = false;        ///< whether digits are grouped
 };
 
 /// The signs of a locale by its POSIX name ("de_DE.UTF-8"); "" is the user's own, with what the user changed.

@@ -9,8 +9,7 @@ std::optional<SystemNumberSigns> systemNumberSigns(const std::string& name) {
     try {
         const std::locale locale(name);
         const auto& signs = std::use_facet<std::numpunct<wchar_t>>(locale);
-        const bool groups = !signs.grouping().empty();
-        return SystemNumberSigns{signs.decimal_point(), groups ? signs.thousands_sep() : L'\0'};
+        return SystemNumberSigns{signs.decimal_point(), signs.thousands_sep(), !signs.grouping().empty()};
     } catch (const std::runtime_error&) {
         return std::nullopt;
     }

@@ -66,7 +66,7 @@ std::optional<SystemNumberSigns> systemNumberSigns(const std::string& name) {
     }
     const wchar_t grouping = firstOf(tag, LOCALE_SGROUPING | source);
     const bool groups = grouping >= L'1' && grouping <= L'9';
-    return SystemNumberSigns{decimal, groups ? firstOf(tag, LOCALE_STHOUSAND | source) : L'\0'};
+    return SystemNumberSigns{decimal, firstOf(tag, LOCALE_STHOUSAND | source), groups};
 }
 
 }  // namespace velmora

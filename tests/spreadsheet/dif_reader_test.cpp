@@ -154,7 +154,11 @@ TEST(DifReader, CountsWhatItLeavesOut) {
     }
     EXPECT_EQ(leftOutOfDif(dif(1, 102, tall + kEnd)).cells, 3U);
     EXPECT_FALSE(leftOutOfDif(dif(1, 102, tall + kEnd)).end);
-    EXPECT_EQ(leftOutOfDif(dif(1, 1, kRow + "1,0\n\"" + std::string(251, 'x') + "\"\n" + kEnd)).texts, 1U);
+    const auto ofText = [](std::size_t length) {
+        return dif(1, 1, kRow + "1,0\n\"" + std::string(length, 'x') + "\"\n" + kEnd);
+    };
+    EXPECT_EQ(leftOutOfDif(ofText(250)).texts, 0U);
+    EXPECT_EQ(leftOutOfDif(ofText(251)).texts, 1U);
 }
 
 TEST(DifReader, TellsAFileThatEndsBeforeItsData) {

@@ -62,6 +62,12 @@ TEST(FormulaChange, TellsWhatASecondSaveWouldLose) {
     EXPECT_EQ(change("0.5*A1"), "=0.5*A1 comes back as =5.0E-1*A1, and saved again, as =ERR");
 }
 
+TEST(FormulaChange, TellsWhatCouldNotBeSavedASecondTime) {
+    const std::string sum = repeated("+1", 100);
+    EXPECT_EQ(change("(1+1+1)" + sum),
+              "=(1+1+1)" + sum + " comes back as =1+1+1" + sum + ", which cannot be saved");
+}
+
 TEST(FormulaChange, TheCommonDialectLosesLess) {
     for (const char* text : {"A1-(B1-C1)", "A1/(B1*C1)", "SUM(A1,MAX(B1,C1))", "5.0E-1*A1", "2**-A1",
                              "A1>\"B1\"", "A1=\"two words\"", "CHOOSE(A1,2,3)", "0.5*A1", "-A1**2"}) {

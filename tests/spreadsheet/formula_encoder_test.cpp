@@ -54,6 +54,7 @@ TEST(EncodeFormula, NumbersWithAPointOrFrom32768UpAreDoubles) {
     EXPECT_EQ(encode("40000"), number(40000) + end);
     EXPECT_EQ(encode("32768"), number(32768) + end);
     EXPECT_EQ(encode("2E3"), integer(2000) + end);
+    EXPECT_EQ(encode("2e3"), integer(2000) + end);
     EXPECT_EQ(encode("2E5"), number(200000) + end);
     EXPECT_EQ(encode(".5"), number(0.5) + end);
 }
@@ -62,6 +63,12 @@ TEST(EncodeFormula, WhatIsNoNumberAsAWholeIsErr) {
     for (const char* text : {"5.0E-1", "1E", "1.2.3", ".", "1E5E5", "1E999"}) {
         EXPECT_EQ(encode(text), errorToken) << text;
     }
+}
+
+TEST(EncodeFormula, TheCommonDialectHasNumbersBelowOneWithoutAPoint) {
+    EXPECT_EQ(EncodeFormula("5E-1", kC1, WksDialect::Common), number(0.5) + end);
+    EXPECT_EQ(EncodeFormula("5e-1", kC1, WksDialect::Common), number(0.5) + end);
+    EXPECT_EQ(EncodeFormula("5E-1*A1", kC1, WksDialect::Common), number(0.5) + a1 + bytes({11}) + end);
 }
 
 TEST(EncodeFormula, ReferencesMayBeSmallLetters) {

@@ -114,9 +114,14 @@ TEST(FunctionCode, FiveLettersAreEnough) {
     EXPECT_EQ(FunctionCode("ISERROR(1)"), bytes({50}));
 }
 
-TEST(FunctionCode, MoreThan255ArgumentsAreAnInvalidCall) {
+TEST(FunctionCode, ACountThatFitsNoByteIsAnInvalidCall) {
     EXPECT_EQ(FunctionCode("SUM(255)"), bytes({80, 255}));
     EXPECT_THROW(FunctionCode("SUM(256)"), RunTimeError);
+    EXPECT_THROW(FunctionCode("SUM(-1)"), RunTimeError);
+}
+
+TEST(FunctionCode, ANameAloneHasNoArguments) {
+    EXPECT_EQ(FunctionCode("SUM"), bytes({80, 0}));
 }
 
 TEST(BareFunctions, AreWholeNamesInAnyCase) {

@@ -96,6 +96,9 @@ TEST(InfixToRpn, NumbersGoOnWithDigitsPointAndE) {
     EXPECT_EQ(InfixToRpn("2e5"), "2e5");
     EXPECT_EQ(InfixToRpn("5.0E-1"), "5.0E 1 -") << "the sign of an exponent is a minus";
     EXPECT_EQ(InfixToRpn("2A1"), "2 A1");
+    EXPECT_EQ(InfixToRpn("5.0E-1", WksDialect::Common), "5.0E-1");
+    EXPECT_EQ(InfixToRpn("5.0e+1", WksDialect::Common), "5.0e+1");
+    EXPECT_EQ(InfixToRpn("5.0E-A1", WksDialect::Common), "5.0E A1 -");
 }
 
 TEST(InfixToRpn, AQuotedTextIsOneOperand) {

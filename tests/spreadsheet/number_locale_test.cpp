@@ -70,6 +70,30 @@ TEST(LocaleNumber, ReadsBackWhatWasWritten) {
     EXPECT_EQ(localeNumberText(HUGE_VAL, kGerman), "ERR");
 }
 
+TEST(NumberLocaleOf, TakesTheSignsOfTheSystem) {
+    EXPECT_EQ(numberLocaleOf({L'.', L',', true}), kEnglish);
+    EXPECT_EQ(numberLocaleOf({L',', L'.', true}), kGerman);
+    EXPECT_EQ(numberLocaleOf({L'.', L',', false}), kNoGroups) << "a separator without groups";
+}
+
+TEST(NumberLocaleOf, EveryBlankThatDoesNotBreakIsTheOneByte) {
+    EXPECT_EQ(numberLocaleOf({L',', L'\x00A0', true}), kFrench);
+    EXPECT_EQ(numberLocaleOf({L',', L'\x202F', true}), kFrench) << "the narrow one";
+}
+
+TEST(NumberLocaleOf, ATypographicApostropheIsThePlainOne) {
+    EXPECT_EQ(numberLocaleOf({L'.', L'\x2019', true}), (NumberLocale{'.', '\''}));
+}
+
+TEST(NumberLocaleOf, ASignWithoutAByteIsAsGoodAsNone) {
+    EXPECT_EQ(numberLocaleOf({L'\x066B', L'\x066C', true}), kNoGroups) << "Arabic";
+    EXPECT_EQ(numberLocaleOf({L'\0', L'\0', true}), kNoGroups);
+}
+
+TEST(NumberLocaleOf, TheSameSignTwiceIsTheDecimalSign) {
+    EXPECT_EQ(numberLocaleOf({L',', L',', true}), (NumberLocale{',', '\0'}));
+}
+
 TEST(NamedNumberLocale, KnowsTheCommonLanguages) {
     EXPECT_EQ(namedNumberLocale("C"), kNoGroups);
     EXPECT_EQ(namedNumberLocale("de_DE"), kGerman);

@@ -48,6 +48,7 @@ TEST(RpnToInfix, ReadsNumbers) {
     EXPECT_EQ(RpnToInfix("1.5E-3 2 +"), "1.5E-3+2");
     EXPECT_EQ(RpnToInfix(".5"), "0.5");
     EXPECT_EQ(RpnToInfix("1-2"), "1-2") << "signs belong to a number anywhere";
+    EXPECT_EQ(RpnToInfix("1.5E+3 2 *"), "1.5E+3*2");
 }
 
 TEST(RpnToInfix, AQuotedTextIsOneOperand) {

@@ -63,6 +63,15 @@ TEST_F(SpreadsheetTest, FormatsThatAreNoneLeaveTheSheetUntouched) {
     }
 }
 
+TEST_F(SpreadsheetTest, FormatsThatAreNoneReadNothing) {
+    memory.addFile("/folder/a", "7;text");
+    for (const int format : {0, 1, 7, 127}) {
+        const auto file = files.open("/folder/a", OpenMode::Read);
+        EXPECT_FALSE(sheetFromFile(*file, format, settings).exists());
+    }
+    EXPECT_EQ(files.calls(test::FileCall::Read), 0);
+}
+
 TEST_F(SpreadsheetTest, WhatIsWrittenIsReadBack) {
     spreadsheet.ExportSheet(sample, "/folder/a.wks", 2);
     EXPECT_EQ(imported("/folder/a.wks", 2), sample);

@@ -68,6 +68,7 @@ TEST(SystemNumberSigns, OfANamedLocaleAreKnown) {
     ASSERT_TRUE(german.has_value());
     EXPECT_EQ(german->decimal, L',');
     EXPECT_EQ(german->thousands, L'.');
+    EXPECT_TRUE(german->groups);
 }
 
 TEST(SystemNumberSigns, OfALocaleWithoutANumberAreItsOwn) {
