@@ -38,10 +38,10 @@ void Crc::load_CRCtable() {
 
 std::array<char, 2> Crc::check(std::string_view body) const {
     assert(loaded_);
+    const auto byteAt = [&](std::size_t i) { return static_cast<unsigned char>(body[i]); };
     // The register holds the CRC-16/ARC with its bytes swapped, so the byte that meets the next byte of
     // the body is the high one.
     unsigned crc = 0;
-    const auto byteAt = [&](std::size_t i) { return static_cast<unsigned char>(body[i]); };
     std::size_t i = 0;
     for (; i + kSlices <= body.size(); i += kSlices) {
         crc = static_cast<unsigned>(table_[7][byteAt(i) ^ (crc >> 8)]) ^

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "link/link_snapshot.h"
 #include "link/server_state.h"
 
 namespace velmora {
@@ -442,32 +443,20 @@ void PLP::giveEvent(ServiceEventCode code, std::string payload) {
 }
 
 bool PLP::isConsistent() const {
-    if (port_ == nullptr) {
-        return timer_ == nullptr && state_ == LinkState::Idle;
+    LinkSnapshot link;
+    link.state = state_;
+    link.hasPort = port_ != nullptr;
+    link.hasTimer = timer_ != nullptr;
+    link.portFailed = portFailed_;
+    link.served = window_.state() > Offline;
+    link.polled = comTimer_.enabled();
+    if (timer_ != nullptr && timer_->enabled()) {
+        link.wait = timer_->interval();
     }
-    if (sendSequence_ >= kSequenceModulus || receiveSequence_ >= kSequenceModulus || resendBudget_ < 0 ||
-        resendBudget_ > kMaxResends) {
-        return false;
-    }
-    if (window_.state() > Offline && !comTimer_.enabled()) {
-        return false;
-    }
-    if (portFailed_) {
-        return !timer_->enabled();
-    }
-    const bool waitsForAnswer = timer_->enabled() && timer_->interval() >= kAnswerTime;
-    switch (state_) {
-        case LinkState::Idle:
-        case LinkState::Linking:
-            return !timer_->enabled();
-        case LinkState::WaitLink:
-        case LinkState::WaitAck:
-            return waitsForAnswer;
-        case LinkState::Ready:
-            // Off once the silence was answered with a repeated acknowledgement.
-            return !timer_->enabled() || timer_->interval() == kSilenceTime;
-    }
-    return false;
+    link.sendSequence = sendSequence_;
+    link.receiveSequence = receiveSequence_;
+    link.resendBudget = resendBudget_;
+    return fitsTogether(link);
 }
 
 }  // namespace velmora

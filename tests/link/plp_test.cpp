@@ -394,6 +394,14 @@ TEST_F(LinkTest, AnEmptyReadDoesNotLeaveTheServerDeaf) {
     }
 }
 
+TEST_F(LinkTest, AReadThatBringsNothingToAnIdleLinkSeeksALink) {
+    bringTo(LinkState::Idle);
+    plp.PLP_ReceiveEvent();
+    EXPECT_THAT(sent(), ElementsAre("CONNECT"));
+    EXPECT_EQ(plp.linkState(), LinkState::WaitLink);
+    EXPECT_TRUE(plp.isConsistent());
+}
+
 TEST_F(LinkTest, AReadErrorIsTracedAndStopsTheServer) {
     bringTo(LinkState::Ready);
     failReads(kCommFailed);
