@@ -68,22 +68,20 @@ bool isNumber(std::string_view text) {
     return i == text.size();
 }
 
-}  // namespace
-
-bool textToBoolean(std::string_view text) {
-    const std::string word = upperCase(trimBlanks(text));
-    if (word == "TRUE" || word == "FALSE") {
-        return word == "TRUE";
-    }
-    if (!isNumber(word)) {
+/// Truth value of any other text: a number that is not 0 is true. Throws a type mismatch for what is no
+/// number and an overflow for one that is too large.
+bool truthOfNumber(std::string_view text) {
+    if (!isNumber(text)) {
         throw RunTimeError(ErrorNumber::TypeMismatch);
     }
-    const double number = numericValue(word);
+    const double number = numericValue(text);
     if (std::isinf(number)) {
         throw RunTimeError(ErrorNumber::Overflow);
     }
     return number != 0;
 }
+
+}  // namespace
 
 bool KeyOrder::operator()(std::string_view a, std::string_view b) const {
     const std::size_t common = std::min(a.size(), b.size());
@@ -174,7 +172,7 @@ bool clsIniFile::GetBool(const std::string& key, bool defaultValue) {
         return *known;
     }
     try {
-        return textToBoolean(word);
+        return truthOfNumber(word);
     } catch (const RunTimeError& error) {
         throw RunTimeError(error.errorNumber(), entryText(section_, key, value));
     }

@@ -108,8 +108,4 @@ class clsIniFile {
     bool registered_ = false;
 };
 
-/// The ordinary conversion of a text to a truth value: "True" and "False" in any case, and numbers, of which
-/// only 0 is false. RunTimeError 13 for any other text, 6 for a number that is too large.
-bool textToBoolean(std::string_view text);
-
 }  // namespace velmora

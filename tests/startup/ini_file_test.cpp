@@ -146,6 +146,13 @@ TEST_F(IniFile, ADictionaryKeepsTheFirstOfLikeKeysInAnyCase) {
     EXPECT_EQ(dictionary.find("\xC9")->second, "3");
 }
 
+TEST_F(IniFile, KeysThatDifferInASignAreNotAlike) {
+    givenEntry("A[=1\r\nA{=2\r\nA@=3\r\nA`=4");
+    SectionDictionary dictionary;
+    ini.GetSectEntriesDict(dictionary);
+    EXPECT_THAT(dictionary, ElementsAre(Pair("A@", "3"), Pair("A[", "1"), Pair("A`", "4"), Pair("A{", "2")));
+}
+
 TEST_F(IniFile, SectionsAreListedWithoutTheirComments) {
     given(";[Not]\r\n[Settings] ; comment\r\n  [B]\nA=[x]\r\n[C]x\r\n[D]]\r\n[");
     ini.setSectionName("S");
@@ -263,6 +270,13 @@ INSTANTIATE_TEST_SUITE_P(
                       Member{"GetSections", [](clsIniFile& ini) { EXPECT_EQ(ini.GetSections(), ""); }},
                       Member{"SectExist", [](clsIniFile& ini) { EXPECT_FALSE(ini.SectExist("")); }}),
     [](const auto& row) { return std::string(row.param.name); });
+
+TEST_F(IniFile, AFileWithoutASectionsNameIsNotRegistered) {
+    given("[]\r\nA=1\r\n");
+    ini.setSectionName("");
+    EXPECT_EQ(ini.GetString("A", "default"), "");
+    EXPECT_EQ(box.shown.size(), 1U);
+}
 
 TEST_F(IniFile, OnceRegisteredItStaysSo) {
     givenEntry("A=1");

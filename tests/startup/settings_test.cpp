@@ -113,6 +113,7 @@ TEST_F(SettingsFile, EarlierCopiesAreKeptForThirtyDaysUnlessTheFileSaysOtherwise
                                      {"EarlierCopies=365", 365},
                                      {"EarlierCopies=-1", 30},
                                      {"EarlierCopies=True", 30},
+                                     {"EarlierCopies=/7", 30},
                                      {"EarlierCopies= 7 days", 7}}) {
         EXPECT_EQ(readEntry(text).EarlierCopies, days) << text;
     }
