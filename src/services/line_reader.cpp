@@ -32,7 +32,7 @@ bool LineReader::readLine(std::string& line, std::size_t limit) {
             break;
         }
         // One byte more may still turn out to be the CR of the line's end.
-        if (!line.empty() && line.size() - 1 > limit) {
+        if (line.size() - 1 > limit) {
             return false;
         }
     }

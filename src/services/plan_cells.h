@@ -12,7 +12,7 @@ constexpr int kCellLabel = 34;
 constexpr int kCellValue = 135;  ///< a number, or a formula beginning with "="
 
 /// A cell's type and text. Doubles are in exponent form (spreadsheet/sheet_number_text.h), infinities and NaN
-/// the formula ERR. Requires: a cell that is not empty.
+/// the formula ERR. An empty cell, of which none is sent, is a value without a text.
 struct CellMessage {
     int type = kCellValue;
     std::string text;

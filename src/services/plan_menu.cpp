@@ -5,8 +5,9 @@
 namespace velmora {
 
 std::vector<SheetFormatEntry> offeredFormats() {
+    constexpr int kFirst = XlsAvailable() ? kFormatXls : kFormatWks;
     std::vector<SheetFormatEntry> formats;
-    for (int format = XlsAvailable() ? kFormatXls : kFormatWks; format <= kFormatTab; ++format) {
+    for (int format = kFirst; format <= kFormatTab; ++format) {
         formats.push_back({static_cast<std::uint8_t>(format), FormatName(format, true)});
     }
     return formats;

@@ -52,18 +52,13 @@ void TimeService::handle(std::int32_t& code, std::string& payload) {
 }
 
 std::string TimeService::replyText() const {
-    std::string offset;
-    switch (reply_) {
-        case TimeReply::Local:
-            return timeStamp(time_.localTime());
-        case TimeReply::Universal:
-            return timeStamp(time_.universalTime()) + daylightMark(time_.zoneInformation(offset));
-        case TimeReply::LocalWithZone: {
-            const bool daylight = time_.zoneInformation(offset);
-            return timeStamp(time_.localTime()) + ' ' + offset + daylightMark(daylight);
-        }
+    if (reply_ == TimeReply::Local) {
+        return timeStamp(time_.localTime());
     }
-    return {};
+    std::string offset;
+    const char* const mark = daylightMark(time_.zoneInformation(offset));
+    return reply_ == TimeReply::Universal ? timeStamp(time_.universalTime()) + mark
+                                          : timeStamp(time_.localTime()) + ' ' + offset + mark;
 }
 
 }  // namespace velmora

@@ -39,6 +39,7 @@ TEST(BlockFileTest, AHeaderFitsItsTypeAndLengthOnly) {
     EXPECT_FALSE(blockHeaderFits("\0\x05\x83"s, 3, 12)) << "another length";
     EXPECT_FALSE(blockHeaderFits("\0\x05"s, 3, 5)) << "cut short";
     EXPECT_FALSE(blockHeaderFits(""s, 3, 0)) << "empty";
+    EXPECT_FALSE(blockHeaderFits("\xFF\xFF\x83"s, 3, 5)) << "a file that is shorter than its header";
     EXPECT_FALSE(blockHeaderFits("\0\0\x83"s, 3, 65'542)) << "a length that the field cannot hold";
 }
 

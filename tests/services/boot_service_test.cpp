@@ -127,6 +127,17 @@ TEST_F(BootServiceTest, AcknowledgementsDoNothing) {
     EXPECT_EQ(dispatcher.currentService(), "BOOT");
 }
 
+TEST_F(BootServiceTest, AMessageToAServiceThatIsNotOpenIsRefused) {
+    BootService closed{sender, window, files, transfers, names};
+    addBootFile("abc");
+    std::int32_t code = PLP_EV_DATA;
+    std::string payload = "PROG";
+    closed.handle(code, payload);
+    EXPECT_EQ(sender.frames,
+              (std::vector<RecordingSender::Frame>{{FrameType::Discon, codePayload(kCodeInvalidRequest)}}));
+    EXPECT_EQ(code, PLP_EV_RESET);
+}
+
 TEST_F(BootServiceTest, BlanksAroundTheNameAreNoPartOfIt) {
     addBootFile("abc");
     message(" PROG  ");

@@ -272,6 +272,21 @@ TEST_F(StopInsideASend, AResetThatWaitedNeverSetsAState) {
     EXPECT_TRUE(window.states.empty());
 }
 
+TEST_F(StopInsideASend, AServiceThatEndsAtAnEventThatWaitedReturnsToWaiting) {
+    openService();
+    window.current = 8;
+    service.act = [this](std::int32_t& code) {
+        if (code == PLP_EV_DATA) {
+            event(PLP_EV_ACKED);
+        } else {
+            code = PLP_EV_RESET;
+        }
+    };
+    event(PLP_EV_DATA, "x");
+    EXPECT_EQ(dispatcher.currentService(), "");
+    EXPECT_EQ(window.states, std::vector<std::int32_t>{5});
+}
+
 TEST_F(StopInsideASend, AServiceThatEndsItselfMeanwhileStaysStopped) {
     openService();
     service.act = [this](std::int32_t& code) {

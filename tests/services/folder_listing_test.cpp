@@ -76,6 +76,8 @@ TEST_F(FolderListingTest, ANameWithoutBytesIsListedByItsShortName) {
     EXPECT_EQ(longNames("*"), "Memo.odb\r\n_>1.TXT\r\n");
     EXPECT_EQ(longNames("*.txt"), "_>1.TXT\r\n");
     EXPECT_EQ(shortNames("*.txt"), "_>1.TXT\r\n");
+    EXPECT_EQ(longNames("m*"), "Memo.odb\r\n");
+    EXPECT_EQ(shortNames("x*"), "");
 }
 
 TEST_F(FolderListingTest, ANameWithALineEndNeverBecomesTwoLines) {

@@ -68,6 +68,16 @@ TEST_F(FtranTest, TypesAboveSixteenAreRefused) {
     EXPECT_TRUE(memory.paths().empty());
 }
 
+TEST_F(FtranTest, ANameWithoutALastComponentGetsNoExtensionAndIsRefused) {
+    memory.addFolder("/psion/sub");
+    for (const char* name : {"", "  ", "sub/", "sub\\"}) {
+        openRequest(1, 0, name);
+        expectRefused(189);
+        openService("FTRAN");
+    }
+    EXPECT_TRUE(memory.paths().empty());
+}
+
 TEST_F(FtranTest, WritingShowsTheDownload) {
     openRequest(1, 0, "MEMO");
     EXPECT_EQ(window.current, 9);

@@ -229,6 +229,14 @@ TEST_P(StoredListedNames, OpenTheirFilesWhenOthersComeThatAreCalledLikeThem) {
     listed.expectEachOpened(GetParam(), both(first, later));
 }
 
+TEST_P(StoredListedNames, OpenTheirFilesWhenOneIsCalledAsAnotherWasListed) {
+    add({"Longname beta.txt"});
+    ASSERT_EQ(listed.listing(ListedNames::Short), Names{"LONGNA>1.TXT"});
+    add({"Longna~1.txt"});
+    listed.expectEachOpened(GetParam(), {"Longname beta.txt", "Longna~1.txt"});
+    EXPECT_EQ(listed.contentUnder("LONGNA>1.TXT"), "Longname beta.txt");
+}
+
 TEST_P(StoredListedNames, OpenTheirFilesAmongRandomOnesThatComeLater) {
     const Names names = distinct(randomNames({"a", "B", "~", "1", "2", ".", " ", "%", "\xC3\xA4"}, 160),
                                  [](std::string_view name) { return std::string(name); });

@@ -20,6 +20,10 @@ TEST(CellMessage, WhatIsNoNumberIsTheFormulaErr) {
     EXPECT_EQ(cellMessage(Cell(std::numeric_limits<double>::infinity())), (CellMessage{135, "=ERR"}));
 }
 
+TEST(CellMessage, AnEmptyCellIsAnEmptyValue) {
+    EXPECT_EQ(cellMessage(Cell()), (CellMessage{135, ""}));
+}
+
 TEST(NumberCell, WholeNumbersBelow32768AreIntegers) {
     EXPECT_EQ(numberCell("123"), Cell(std::int16_t{123}));
     EXPECT_EQ(numberCell("-32767"), Cell(std::int16_t{-32767}));

@@ -7,6 +7,7 @@
 
 #include "platform/windows_paths.h"
 #include "support/memory_files.h"
+#include "support/plain_path_rules.h"
 #include "support/windows_name_cases.h"
 #ifndef _WIN32
 #include "platform/posix/posix_files.h"
@@ -32,6 +33,29 @@ TEST(TranslateChars, TellsCapitalFromSmallLetters) {
 TEST(TranslateChars, DoesNotTranslateWhatItJustPutIn) {
     std::string text = "ab";
     EXPECT_EQ(translate_Chars(text, "ab", "ba"), "ba");
+}
+
+/// Of a system that holds names which it cannot give back to the Organiser: those with "!".
+class OneWayRules : public test::PlainPathRules {
+  public:
+    std::optional<std::string> toOrganiser(std::string_view name) const override {
+        return name.find('!') == std::string_view::npos ? std::optional(std::string(name)) : std::nullopt;
+    }
+};
+
+TEST(FileNamed, IsTheNameWithTheLettersOfThisSystem) {
+    const OneWayRules rules;
+    EXPECT_EQ(fileNamed(rules, "MEMO.ODB"), "Memo.odb");
+    EXPECT_EQ(fileNamed(rules, " DATA%1 "), "Data_1");
+    EXPECT_EQ(fileNamed(rules, "MEMO!"), "MEMO!") << "what cannot be read back stays as it is";
+}
+
+TEST(FileNamed, IsNothingForWhatNamesNoFileOfAFolder) {
+    const OneWayRules rules;
+    for (const char* name : {"", ".", "..", "A*", "C:MEMO", "C:"}) {
+        EXPECT_EQ(fileNamed(rules, name), std::nullopt) << name;
+    }
+    EXPECT_EQ(fileNamed(test::PlainPathRules('\\'), "SUB/MEMO"), std::nullopt);
 }
 
 using Row = test::NameCase;
@@ -120,6 +144,28 @@ TEST_F(WindowsNames, ThatLeadOutAreRefusedWhereTheServerStaysInItsFolder) {
     EXPECT_EQ(tools.map_FileName("*", false, true), "C:\\Psion\\*");
     settings.DownloadPath = "C:\\";
     EXPECT_EQ(tools.map_FileName("\\TEMP\\MEMO", false, false), "C:\\TEMP\\Memo");
+}
+
+/// A disk on which the links of one path cannot be followed.
+class UntraceableFiles : public test::MemoryFiles {
+  public:
+    using MemoryFiles::MemoryFiles;
+    std::optional<std::string> resolvedPath(const std::string& path) const override {
+        return path == untraceable ? std::nullopt : MemoryFiles::resolvedPath(path);
+    }
+    std::string untraceable;
+};
+
+TEST_F(WindowsNames, OfWhichNobodyCanTellWhereTheyLeadAreRefusedWhereTheServerStaysInItsFolder) {
+    UntraceableFiles traced('\\');
+    traced.addFolder("C:\\Psion");
+    const Tools strict(traced, rules, settings);
+    settings.StayInFolder = true;
+    EXPECT_EQ(strict.map_FileName("MEMO", false, false), "C:\\Psion\\Memo");
+    for (const char* path : {"C:\\Psion\\Memo", "C:\\Psion"}) {
+        traced.untraceable = path;
+        EXPECT_EQ(strict.map_FileName("MEMO", false, false), "") << path;
+    }
 }
 
 TEST_F(WindowsNames, AreShownByTheirLastComponent) {
@@ -213,6 +259,12 @@ TEST_F(PosixNames, WithADriveAreAcceptedIfTheDownloadFolderIsWrittenWithIt) {
     EXPECT_EQ(toolsHere.map_FileName("C:LIST", false, false), folder.path("C:/Psion/List"));
     EXPECT_EQ(toolsHere.map_FileName("C:\\TEMP\\NOTE.TXT", false, false), folder.path("C:/TEMP/Note.txt"));
     EXPECT_EQ(toolsHere.map_FileName("D:LIST", false, false), "");
+}
+
+TEST_F(PosixNames, WithADriveAreRefusedInTheRootFolder) {
+    settings.DownloadPath = "/";
+    EXPECT_EQ(map("C:LIST"), "");
+    EXPECT_EQ(map("LIST"), "/List");
 }
 
 TEST_F(PosixNames, FindAFileByItsShortNameInAFolderByItsShortName) {
