@@ -57,7 +57,7 @@ fault "a worksheet's cells must be in order" src/spreadsheet/wks_reader.cpp \
 fault "one repeat too few" src/link/plp.h 's/kMaxResends = 4/kMaxResends = 3/'
 fault "a saved file is not flushed" src/services/open_file.cpp "/^ServiceCode OpenFile::save/,/^}/{/file_->flush();/d}"
 fault "a file that was taken away counts as saved" src/services/open_file.cpp 's/if (!file_->isInPlace())/if (false)/'
-fault "no earlier copy is kept" src/services/open_file.cpp 's/replaces ? copies_.keep(target) : std::string()/std::string()/'
+fault "no earlier copy is kept" src/services/open_file.cpp 's/writesOver(mode, kind) ? copies_.keep(target) : std::string()/std::string()/'
 
 cd ../..
 if ((missed > 0)); then
