@@ -55,7 +55,8 @@ std::pair<int, int> position(std::string_view reference) {
     }
     const int column = std::toupper(static_cast<unsigned char>(reference[0])) - 'A';
     const int row = std::stoi(std::string(reference.substr(1))) - 1;
-    return column < kSheetColumns && row < kSheetRows ? std::pair(column, row) : std::pair(-1, 0);
+    // Two digits reach the last row and no further.
+    return column < kSheetColumns ? std::pair(column, row) : std::pair(-1, 0);
 }
 
 /// Parses one line; the text of the problem when it is no cell.

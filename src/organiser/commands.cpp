@@ -304,8 +304,8 @@ ExitStatus runCommand(const CommandLine& line, OrganiserLink& link, const Consol
             case CommandKind::SheetLoad:
                 commands.sheetLoad();
                 break;
-            case CommandKind::ListPorts:  // needs no link
-                break;
+            case CommandKind::ListPorts:  // unreachable: needs no link, and is done before
+                break;                    // unreachable: as above
             case CommandKind::Tour:
                 status = runTour(line, link, console);
                 break;

@@ -77,10 +77,7 @@ void CommsLink::runSteps() {
     step_ = "get_Messages";
     get_Messages(parts_.ini, parts_.strings);
     step_ = "get_Settings";
-    abandoned_ = !get_Settings();
-    if (abandoned_) {
-        return;
-    }
+    get_Settings();
     step_ = "load_CRCtable";
     parts_.crc.load_CRCtable();
     step_ = "init_Ports";
@@ -130,7 +127,7 @@ void CommsLink::keepOldFile() {
                           shownText(kept));
 }
 
-bool CommsLink::get_Settings() {
+void CommsLink::get_Settings() {
     parts_.form.setVersionTexts(kVersion, "build " + std::to_string(kRevision));
     settings_ = Settings();
     readSettings(parts_.ini, SettingStep::get_Settings, overrides_, settings_);
@@ -145,9 +142,8 @@ bool CommsLink::get_Settings() {
     const std::int32_t fileType = overrides_.fileType.value_or(settings_.DataFileType);
     parts_.transfer.DataFileType = fileType < 0 || fileType > 3 ? 0 : fileType;
     parts_.transfer.StayInFolder = overrides_.stayInFolder.value_or(settings_.StayInFolder);
+    // An Abort button of the box about a missing folder would end the start here; it has none.
     chooseDownloadFolder();
-    // The only way to abandon would be an Abort button, which the box about a missing folder does not have.
-    return true;
 }
 
 void CommsLink::chooseDownloadFolder() {

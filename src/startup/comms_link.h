@@ -79,7 +79,7 @@ class CommsLink {
     /// name.
     void load_INIfile();
     /// Reads the settings and chooses the download folder. False when the user abandons the start.
-    bool get_Settings();
+    void get_Settings();
     /// Sets up the port, searching ports 1 to 64 when none is configured. The server's first state: Offline,
     /// WaitLink after a search that found a free port, NoPort after one that did not. A search ends early
     /// when the program is told to end.

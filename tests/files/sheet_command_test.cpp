@@ -126,6 +126,12 @@ TEST_F(SheetCommandTest, TheLocaleSetsTheSignsOfNumbers) {
     expectUsage({"sheet", "/w/in.wks", "-", "--to=tab", "--locale", "qq"}, "locale");
 }
 
+TEST_F(SheetCommandTest, AFileOfNumbersAndLabelsComesBack) {
+    EXPECT_EQ(run({"sheet", "-", "/w/a.dif", "--from=tab"}, "5\tx\t0.5\r\n"), 0);
+    EXPECT_EQ(run({"sheet", "/w/a.dif", "-", "--to=tab"}), 0);
+    EXPECT_EQ(printed, "5\tx\t0.5\t\r\n");
+}
+
 TEST_F(SheetCommandTest, TheDialectSetsTheTokensOfFormulas) {
     EXPECT_EQ(run({"sheet", "/w/in.wks", "/w/common.wks", "--to-dialect", "common"}), 0);
     EXPECT_EQ(memory.content("/w/common.wks"), writeWks(sheet, WksDialect::Common));
@@ -135,6 +141,8 @@ TEST_F(SheetCommandTest, TheDialectSetsTheTokensOfFormulas) {
     EXPECT_EQ(printed, "5\tERR\t0.5\t\r\n");
     EXPECT_EQ(run({"sheet", "/w/common.wks", "/w/own.wks", "--from-dialect=common"}), 0);
     EXPECT_EQ(memory.content("/w/own.wks"), memory.content("/w/in.wks"));
+    EXPECT_EQ(run({"sheet", "/w/in.wks", "-", "--to=tab", "--wks-dialect=own"}), 0);
+    EXPECT_EQ(printed, "5\t(A1+1)*2\t0.5\t\r\n");
     expectUsage({"sheet", "/w/in.wks", "-", "--to=tab", "--wks-dialect=other"}, "dialect");
 }
 

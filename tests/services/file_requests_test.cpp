@@ -253,5 +253,18 @@ TEST_P(FileRequestsTest, ARequestWithoutAFileIsToldAsRefused) {
     EXPECT_EQ(told.lines(), Lines{"request refused: not possible (188)"});
 }
 
+TEST_P(FileRequestsTest, AFileWhoseSizeCannotBeToldIsLoadedAllTheSame) {
+    memory.addFile("/psion/Memo.txt", "one\r\n");
+    open();
+    files.failAtCall(FileCall::Size, 1, ErrorNumber::DeviceIoError);
+    openText(0, "MEMO.TXT");
+    EXPECT_EQ(told.began, 1);
+    EXPECT_FALSE(told.running.size);
+    read();
+    expectReply("one");
+    read();
+    EXPECT_EQ(told.lines(), Lines{"loaded Memo.txt 5 bytes in 0.0 s"});
+}
+
 }  // namespace
 }  // namespace velmora

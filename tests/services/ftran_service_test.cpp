@@ -451,5 +451,14 @@ TEST_F(FtranTest, AProcedureThatIsTooLargeForItsImageIsToldAsRefused) {
     EXPECT_EQ(told.lines(), Lines{"load of Big.opl refused: it failed"});
 }
 
+TEST_F(FtranTest, AReadBehindTheCloseOfALoadIsARequestOfItsOwn) {
+    add("Memo.odb", "");
+    openRequest(0, 0, "MEMO");
+    closeRequest();
+    read();
+    EXPECT_EQ(told.lines(),
+              (Lines{"loaded Memo.odb 0 bytes in 0.0 s", "request refused: end of file (238)"}));
+}
+
 }  // namespace
 }  // namespace velmora

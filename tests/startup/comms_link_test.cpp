@@ -19,6 +19,7 @@ namespace {
 
 using ::testing::Contains;
 using ::testing::ElementsAre;
+using ::testing::EndsWith;
 using ::testing::IsEmpty;
 using ::testing::Not;
 using ::testing::Pair;
@@ -369,6 +370,38 @@ TEST_F(Startup, ErrorsWithoutANumberGetOne) {
     const StartupReport report = start();
     expectFailure(report, "load_Form", 57);
     EXPECT_EQ(report.detail, "odd");
+}
+
+TEST_F(Startup, AReasonInUtf8IsShownInTheLettersOfTheBox) {
+    failAt("load", [] { throw std::runtime_error("caf\xC3\xA9"); });
+    start();
+    EXPECT_THAT(box.shown.back().text, EndsWith("\ncaf\xE9"));
+    failAt("load", [] { throw std::runtime_error("caf\xE9"); });
+    start();
+    EXPECT_THAT(box.shown.back().text, EndsWith("\ncaf\xE9"));
+}
+
+TEST_F(Startup, AReasonInTheLettersOfTheBoxStaysAsItIs) {
+    const test::PlainPathRules windows('\\');
+    CommsLink link({&files, windows, ini, box, form_, crc_, strings_, transfer_, {"C:\\data", "C:\\docs"}},
+                   overrides_);
+    failAt("load", [] { throw std::runtime_error("caf\xC3\xA9"); });
+    link.Main("");
+    EXPECT_THAT(box.shown.back().text, EndsWith("\ncaf\xC3\xA9"));
+}
+
+TEST_F(Startup, WithoutAReasonTheBoxEndsBeforeIt) {
+    failAt("load", [] { throw std::runtime_error(""); });
+    start();
+    EXPECT_THAT(box.shown.back().text, EndsWith(kBox));
+}
+
+TEST_F(Startup, APortOfTheRunThatHasNoNumberAtAllIsNoPort) {
+    for (const int number : {0, 32'768}) {
+        form_.portNumbers["/dev/odd"] = number;
+        overrides_.port = "/dev/odd";
+        expectFailure(start(), "init_Ports", 68);
+    }
 }
 
 TEST_F(Startup, ErrorsOfShowingComeThrough) {

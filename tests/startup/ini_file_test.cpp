@@ -41,6 +41,13 @@ TEST_F(IniFile, SettingTheFileSplitsItsPath) {
 
 // --- Values
 
+TEST_F(IniFile, ASectionIsChosenByItsName) {
+    given("[S]\r\nA=1\r\n[T]\r\nA=2\r\n");
+    ini.setSectionName("T");
+    EXPECT_EQ(ini.SectionName(), "T");
+    EXPECT_EQ(ini.GetInt("A", 0), 2);
+}
+
 TEST_F(IniFile, AStringIsReadAndAnEmptyOneIsNotItsDefault) {
     givenEntry("A=text\r\nE=");
     EXPECT_EQ(ini.GetString("A", "default"), "text");

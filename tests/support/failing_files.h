@@ -15,7 +15,8 @@ namespace velmora::test {
 
 /// The calls that can be made to fail.
 enum class FileCall {
-    FileSize,
+    FileSize,  ///< by name
+    Size,      ///< of an open file
     Open,
     Delete,
     CreateFolder,
@@ -135,7 +136,10 @@ class FailingFiles : public Files {
         }
         std::uint64_t position() const override { return inner_->position(); }
         void seek(std::uint64_t position) override { inner_->seek(position); }
-        std::uint64_t size() const override { return inner_->size(); }
+        std::uint64_t size() const override {
+            script_->count(FileCall::Size);
+            return inner_->size();
+        }
         void flush() override {
             script_->count(FileCall::Flush);
             inner_->flush();
