@@ -176,8 +176,9 @@ void DesktopServerTest::displayStatisticsAndFileAgree() {
     PaintedTexts line1(*label("tlDisplay_1"));
     PaintedTexts line2(*label("tlDisplay_2"));
 
-    constexpr std::size_t kSize = 3000;
-    startSaving(kSize);
+    // Long enough for the display to be painted with the name, also where the machine does much else.
+    constexpr std::size_t kSize = 20'000;
+    startSaving(kSize, {QStringLiteral("--delay"), QStringLiteral("5")});
     QTRY_COMPARE_WITH_TIMEOUT(organiser.state(), QProcess::NotRunning, 30'000);
     QCOMPARE(organiser.exitCode(), 0);
 
