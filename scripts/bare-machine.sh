@@ -1,3 +1,4 @@
+#!/usr/bin/env bash
 # Makes a minimal Debian in a folder, a machine that has nothing yet, and runs commands there. Sourced by the scripts that
 # try something on such a machine: they set `suite`, call bare_begin and then bare_run.
 # Takes root (asks sudo for it), an archive of Debian in apt's configuration, and 4 GB. The minimal system is kept in

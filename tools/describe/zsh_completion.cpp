@@ -4,7 +4,7 @@
 namespace velmora::describe {
 namespace {
 
-/// A help between the brackets of a specification of _arguments.
+/// A help in brackets, as _arguments takes it behind an option.
 std::string bracketed(const std::string& help) {
     std::string result = "[";
     for (const char letter : help) {
@@ -67,8 +67,8 @@ std::string operandSpecs(const CommandOutline& command, const std::string& funct
     return specs;
 }
 
-/// The functions of a command and of those below it; `common` are the specifications of the program's
-/// options.
+/// The functions of a command and of those below it; `common` has the program's options as _arguments takes
+/// them.
 std::string functions(const CommandOutline& command, const std::string& name, const std::string& program,
                       const std::string& common) {
     const std::string specs = common + optionSpecs(command, program) + operandSpecs(command, program);

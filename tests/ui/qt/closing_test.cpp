@@ -2,6 +2,7 @@
 #include <QApplication>
 #include <QPushButton>
 #include <QTest>
+#include <QWindow>
 #include <memory>
 #include <vector>
 
@@ -87,7 +88,9 @@ class ClosingTest : public QObject {
   private:
     static void show(QWidget& window) {
         window.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        while (!window.windowHandle()->isExposed()) {
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        }
     }
 
     test::ScriptedPort port;
