@@ -64,9 +64,10 @@ class HeadlessServer {
     ConsoleTrace traceSink_;
     ConsoleView view_;
     NoUserBox box_;
-    ServerProgram program_;
+    // They hear of transfers until the server's end.
     std::optional<ProgramQueue> programQueue_;
     std::optional<TransferProgram> transferProgram_;
+    ServerProgram program_;
     // No port is configured, and none was free: waits for one more to be there.
     QtTimer searchTimer_;
     SearchedPorts searched_;
