@@ -67,7 +67,11 @@ std::string EncodeFormula(std::string_view text, const CellPosition& formulaCell
     std::string tokens;
     tokens.reserve(postfix.size() * 2);
     for (std::string_view rest = postfix; !rest.empty();) {
-        const auto bytes = encodeToken(takePostfixToken(rest, dialect), formulaCell, dialect);
+        const std::string_view token = takePostfixToken(rest, dialect);
+        if (token.empty()) {
+            continue;  // blanks in a row, inside a text
+        }
+        const auto bytes = encodeToken(token, formulaCell, dialect);
         if (!bytes) {
             tokens = static_cast<char>(kTokenErr);
             break;

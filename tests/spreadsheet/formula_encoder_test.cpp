@@ -37,6 +37,12 @@ TEST(EncodeFormula, ASignThatChangesNothingHasNoToken) {
     EXPECT_EQ(encode("+A1"), a1 + end);
 }
 
+TEST(EncodeFormula, BlanksInARowAreAsOne) {
+    const std::string once = encode("\"( (\"");
+    EXPECT_NE(once, errorToken);
+    EXPECT_EQ(encode("\"(   (\""), once);
+}
+
 TEST(EncodeFormula, ChooseCarriesItsCount) {
     EXPECT_EQ(encode("CHOOSE(A1,B1)"), a1 + b1 + bytes({47, 2}) + end);
 }
