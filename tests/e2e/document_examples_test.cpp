@@ -107,7 +107,7 @@ class DocumentExamples : public ServerFixture {
         typed = replaced(typed, "~/psion", psion.string());
         typed = replaced(typed, "build/bin/", "");
         std::map<std::string, std::string> environment = organiserSide->environment(home, zone);
-        environment["PATH"] = VELMORA_BIN_DIR ":" VELMORA_TOOLS_DIR ":/usr/bin:/bin";
+        environment["PATH"] = nativePrograms().string() + ":" + nativeTools().string() + ":/usr/bin:/bin";
         return std::make_unique<Process>(
             std::vector<std::string>{"sh", "-c", "cd \"$HOME\" && exec " + typed}, environment);
     }
@@ -174,6 +174,44 @@ TEST_F(DocumentExamples, EveryCommandDoesItsWork) {
     }
     EXPECT_EQ(tried,
               (std::set<std::string>{"velmora-cable", "velmora-files", "velmora-organiser", "velmorad"}));
+}
+
+/// The last cells of a table's rows that hold nothing but a command.
+std::vector<std::string> commandsInTables(const fs::path& document) {
+    std::vector<std::string> commands;
+    std::istringstream lines(contentsOf(document));
+    const std::string begin = "| `velmora-organiser ";
+    for (std::string line; std::getline(lines, line);) {
+        const auto at = line.rfind(begin);
+        if (at != std::string::npos && line.ends_with("` |")) {
+            commands.push_back(line.substr(at + 3, line.size() - at - 6));
+        }
+    }
+    return commands;
+}
+
+TEST_F(DocumentExamples, EachServiceAnswersAsTheTableOfServicesSays) {
+    writeFile(home / "FILE", "Ada\t0171\r\n");
+    writeFile(psion / "Name", "Ada\r\n");
+    writeFile(psion / "Name.odb", "Ada\r\n");
+    fs::copy_file(home / "plan.wks", psion / "Name.wks");
+    const std::string oneByteOfCode("\0\1\x42\0\x42\0\0\0\0", 9);
+    writeFile(psion / "Name.bin", oneByteOfCode);
+    const fs::path config = home / "Obedient.ini";
+    writeFile(config, "[OnExit]\nAskUser=False\nStopServer=True\nAllowShutdown=True\n");
+    const std::vector<std::string> commands = commandsInTables(VELMORA_SOURCE_DIR "/docs/user-guide.md");
+    EXPECT_EQ(commands.size(), 11U);
+    for (const std::string& command : commands) {
+        SCOPED_TRACE(command);
+        startServer({"--config", config.string()});
+        const Finished done = finished(*type(command + " --device /dev/ttyUSB1"));
+        EXPECT_EQ(done.status, 0) << done.error;
+        const bool endsTheServer = command.ends_with(" exit") || command.ends_with(" shutdown");
+        if (!endsTheServer) {
+            stopServer();
+        }
+        EXPECT_EQ(server->wait(), 0) << server->error();
+    }
 }
 
 TEST_F(DocumentExamples, EveryScriptThatIsNamedIsThere) {
