@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Cross-builds the Windows programs into build-windows/bin, and their tests.
-#   scripts/build-windows.sh            everything, then the installer and the archive
+#   scripts/build-windows.sh            everything, then the installer, the archive, and the source that goes with them
 #   scripts/build-windows.sh programs   everything but the installer and the archive
 #   scripts/build-windows.sh core       what needs no window toolkit, built for tests only: quick, not optimised
 set -euo pipefail
@@ -36,5 +36,7 @@ esac
 scripts/build.sh build-windows "${options[@]}"
 if [[ "$what" == all ]]; then
   cmake --build build-windows --target package
+  version=$(sed -n 's/^project(Velmora VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)
+  scripts/windows-source.sh "build-windows/Velmora-$version-windows-source.tar"
 fi
 ls -l build-windows/bin/*.exe

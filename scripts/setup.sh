@@ -4,9 +4,11 @@
 #   scripts/setup.sh tests    that, and what the tests and checks need
 #   scripts/setup.sh valgrind both, and what looks for errors of memory in the running programs
 #   scripts/setup.sh pictures that, and what takes pictures of a display
-#   scripts/setup.sh packages what it takes to make Debian packages
-#   scripts/setup.sh bare     that, and what makes a minimal system to try all this in
+#   scripts/setup.sh packages the first, and what it takes to make Debian packages
+#   scripts/setup.sh arm64    that, and what it takes to make them for 64-bit ARM and to run its programs here
+#   scripts/setup.sh bare     the first, and what makes a minimal system to try all this in
 set -euo pipefail
+source "$(dirname "$0")/install-missing.sh"
 
 packages=(g++ cmake ninja-build qt6-base-dev libcli11-dev nlohmann-json3-dev libudev-dev ccache libwps-tools fonts-dejavu-core)
 if [[ "${1:-}" == tests || "${1:-}" == valgrind ]]; then
@@ -19,27 +21,14 @@ fi
 if [[ "${1:-}" == pictures ]]; then
   packages+=(xvfb xauth imagemagick fonts-wine)
 fi
-if [[ "${1:-}" == packages ]]; then
+if [[ "${1:-}" == packages || "${1:-}" == arm64 ]]; then
   packages+=(pandoc cmark-gfm dpkg-dev lintian)
+fi
+if [[ "${1:-}" == arm64 ]]; then
+  packages+=(g++-aarch64-linux-gnu qemu-user-static qt6-base-dev:arm64 libudev-dev:arm64)
 fi
 if [[ "${1:-}" == bare ]]; then
   packages+=(debootstrap)
 fi
 
-missing=()
-for package in "${packages[@]}"; do
-  if [[ "$(dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null || true)" != installed ]]; then
-    missing+=("$package")
-  fi
-done
-if ((${#missing[@]} == 0)); then
-  exit 0
-fi
-
-as_root=()
-if ((EUID != 0)); then
-  as_root=(sudo)
-fi
-echo "Installing: ${missing[*]}"
-"${as_root[@]}" apt-get update -q
-"${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -qy --no-install-recommends "${missing[@]}"
+install_missing "${packages[@]}"

@@ -133,6 +133,8 @@ for program in "$folder"/velmora*.exe; do
 done
 check 'velmora-files runs from there' prints 'velmora-files' "$folder/velmora-files.exe" --help
 check 'velmora-organiser runs from there' prints 'velmora-organiser' "$folder/velmora-organiser.exe" --help
+[[ -z $desktop ]] || check 'the licences of the toolkit'\''s parts' grep -q '^FreeType\|^Freetype' "$folder/licences/toolkit-parts.txt"
+[[ -z $desktop ]] || check 'where its source is' grep -q "Velmora-$version-windows-source.tar" "$folder/licences/third-party.txt"
 [[ -z $desktop ]] || check 'velmorad runs from there' prints "velmorad $version" "$folder/velmorad.exe" --version
 
 echo '-- The same once more'

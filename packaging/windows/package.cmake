@@ -20,7 +20,16 @@ function(velmora_install_text input name)
 endfunction()
 velmora_install_text(${PROJECT_SOURCE_DIR}/LICENSE LICENSE.txt .)
 if(VELMORA_TOOLKIT)
-  # The toolkit is in the programs; its licence wants its own text to go along.
+  # The toolkit is in the programs; its licence wants its own text to go along, those of its parts, and to be told where
+  # its source is.
+  get_filename_component(toolkit ${Qt6_DIR}/../../.. ABSOLUTE)
+  file(GLOB VELMORA_TOOLKIT_SOURCE RELATIVE ${toolkit}/source ${toolkit}/source/*.dsc)
+  string(REGEX REPLACE "^qt6-base_(.*)\\.dsc$" "\\1" VELMORA_TOOLKIT_VERSION "${VELMORA_TOOLKIT_SOURCE}")
+  if(NOT VELMORA_TOOLKIT_VERSION)
+    message(FATAL_ERROR "${toolkit} has no source of the toolkit: run scripts/setup-windows.sh")
+  endif()
+  configure_file(${toolkit}/toolkit-parts.txt ${PROJECT_BINARY_DIR}/documents/toolkit-parts.txt COPYONLY)
+  install(FILES ${PROJECT_BINARY_DIR}/documents/toolkit-parts.txt DESTINATION licences)
   velmora_install_text(${CMAKE_CURRENT_LIST_DIR}/third-party.txt third-party.txt licences)
   velmora_install_text(/usr/share/common-licenses/LGPL-3 LGPL-3.txt licences)
   velmora_install_text(/usr/share/common-licenses/GPL-3 GPL-3.txt licences)
