@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Makes a minimal Debian in a folder, a machine that has nothing yet, and runs commands there. Sourced by the scripts that
-# try something on such a machine: they set `suite`, call bare_begin and then bare_run.
+# try something on such a machine: they set `suite`, and for another kind of machine than this one `architecture`, call
+# bare_begin and then bare_run.
 # Takes root (asks sudo for it), an archive of Debian in apt's configuration, and 4 GB. The minimal system is kept in
 # VELMORA_BARE_CACHE (~/.cache/velmora-bare by default) and may be deleted.
 
@@ -30,6 +31,15 @@ archive() {
   apt-get indextargets --format '$(REPO_URI)' 'Created-By: Packages' 'Component: main' "Release: $codename" | head -1
 }
 
+# can_emulate ARCHITECTURE: asks the system to run another machine's programs under QEMU, wherever they lie.
+can_emulate() {
+  local registered=/proc/sys/fs/binfmt_misc
+  declare -A names=([arm64]=aarch64)
+  local name=qemu-${names[$1]}
+  [[ -e $registered/register ]] || mount -t binfmt_misc binfmt_misc "$registered" 2> /dev/null || return 1
+  [[ -e $registered/$name ]] || cat "/usr/lib/binfmt.d/$name.conf" > "$registered/register" 2> /dev/null
+}
+
 make_base() {
   local mirror
   mirror=$(archive)
@@ -37,10 +47,10 @@ make_base() {
     echo "${0##*/}: apt's configuration names no archive of this system's release" >&2
     exit 1
   }
-  echo "Making a minimal $suite, once."
-  in_namespace debootstrap --variant=minbase --include=git,ca-certificates "$suite" "$work/base" "$mirror" \
-    > "$cache/$suite.log" || {
-    tail -20 "$cache/$suite.log" >&2
+  echo "Making a minimal $suite${architecture:+ for $architecture}, once."
+  in_namespace debootstrap ${architecture:+--arch="$architecture"} --variant=minbase --include=git,ca-certificates \
+    "$suite" "$work/base" "$mirror" > "${base%.tar}.log" || {
+    tail -20 "${base%.tar}.log" >&2
     exit 1
   }
   tar -C "$work/base" --one-file-system -cf "$work/base.tar" .
@@ -59,7 +69,7 @@ copy_network() {
 
 # Makes the machine in the folder `machine`, which goes when the script ends. One script at a time has one.
 bare_begin() {
-  base=$cache/$suite.tar
+  base=$cache/$suite${architecture:+-$architecture}.tar
   mkdir -p "$cache"
   exec 9> "$cache/$suite.lock"
   flock 9

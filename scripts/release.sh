@@ -28,16 +28,17 @@ heading=$(grep -m 1 '^## ' CHANGELOG.md)
 
 CI=true scripts/test.sh
 scripts/test-packages.sh --reproducible
+scripts/test-packages.sh --arch arm64
 scripts/build-windows.sh
 
 release=build-release/velmora-$version
 rm -rf "$release"
 mkdir -p "$release"
-cp build-package/packages/*.deb "$release"
-cp build-windows/Velmora-setup.exe build-windows/Velmora-"$version"-windows-x86_64.zip "$release"
+cp build-package/packages/*.deb build-package-arm64/packages/*_arm64.deb "$release"
+cp build-windows/Velmora-setup.exe build-windows/Velmora-"$version"-windows-{x86_64.zip,source.tar} "$release"
 git archive --prefix="velmora-$version/" HEAD | gzip --best --no-name > "$release/velmora-$version.tar.gz"
 # The notes are the changelog's part about this version.
 sed '1,/^## /d; /^## /,$d' CHANGELOG.md > "$release/notes.md"
-(cd "$release" && sha256sum -- *.deb *.exe *.zip *.tar.gz > SHA256SUMS)
+(cd "$release" && sha256sum -- *.deb *.exe *.zip *.tar *.tar.gz > SHA256SUMS)
 echo "Release $version of $(git rev-parse --short=12 HEAD):"
 ls -l "$release"

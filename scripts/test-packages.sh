@@ -2,29 +2,45 @@
 # Tries the Debian packages as an owner would: makes them, has lintian look at them, and in a minimal Debian that has
 # nothing yet installs them, serves a file with the guide's own lines, upgrades, removes and purges them.
 #   scripts/test-packages.sh                 all of that
+#   scripts/test-packages.sh --arch arm64    those for 64-bit ARM, on such a Debian; the end-to-end tests with their
+#                                            programs come first
 #   scripts/test-packages.sh --reproducible  makes them twice besides, in two folders, and compares their bytes
-# Ends with 3 where root may not make namespaces (in some containers). What it takes stands in scripts/bare-machine.sh.
+# Ends with 3 where root may not make namespaces (in some containers), or not have other machines' programs run. What it takes stands in scripts/bare-machine.sh.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 source scripts/bare-machine.sh
 
 suite=bookworm
 twice=false
-case $* in
-  '') ;;
-  --reproducible) twice=true ;;
-  *)
-    echo "usage: scripts/test-packages.sh [--reproducible]" >&2
+architecture=
+arguments=("$@")
+while (($# > 0)); do
+  if [[ $1 == --reproducible ]]; then
+    twice=true
+  elif [[ $* == "--arch arm64"* ]]; then
+    architecture=arm64
+    shift
+  else
+    echo "usage: scripts/test-packages.sh [--arch arm64] [--reproducible]" >&2
     exit 2
-    ;;
-esac
-bare_as_root "$@"
+  fi
+  shift
+done
+bare_as_root "${arguments[@]}"
 scripts/setup.sh bare
-scripts/setup.sh packages
+scripts/setup.sh "${architecture:-packages}"
 export SOURCE_DATE_EPOCH=${SOURCE_DATE_EPOCH:-$(git -c safe.directory="$PWD" log -1 --format=%ct)}
 
-scripts/package.sh build-package > /dev/null
-packages=(build-package/packages/*.deb)
+kind=(${architecture:+--arch "$architecture"})
+folder=build-package${architecture:+-$architecture}
+if [[ -n $architecture ]]; then
+  can_emulate "$architecture" || {
+    echo "test-packages: this system cannot be asked to run programs for $architecture, so nothing was tested" >&2
+    exit 3
+  }
+fi
+scripts/package.sh "${kind[@]}" "$folder" > /dev/null
+packages=("$folder"/packages/*.deb)
 echo "Made: ${packages[*]##*/}"
 lintian --allow-root --fail-on error,warning "${packages[@]}"
 echo "lintian has nothing to say against them."
@@ -32,12 +48,18 @@ echo "lintian has nothing to say against them."
 if $twice; then
   other=$(mktemp -d)
   trap 'rm -rf "$other"' EXIT
-  scripts/package.sh "$other/elsewhere" > /dev/null
+  scripts/package.sh "${kind[@]}" "$other/elsewhere" > /dev/null
   for package in "${packages[@]}"; do
     cmp "$package" "$other/elsewhere/packages/${package##*/}"
   done
   rm -rf "$other"
   echo "Two builds in two folders give the same bytes."
+fi
+
+if [[ -n $architecture ]]; then
+  scripts/setup.sh tests
+  scripts/build.sh build -DBUILD_TESTING=ON -- e2e_tests
+  VELMORA_E2E_BUILD=$folder ctest --test-dir build --output-on-failure -j "$(nproc)" -L e2e -R '[.]' --progress
 fi
 
 bare_begin

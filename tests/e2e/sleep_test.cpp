@@ -34,7 +34,7 @@ class SleepTest : public ServerFixture {
     /// `refused`: what nobody is granted.
     void startLoginManager(const std::string& refused = {}) {
         loginManager = std::make_unique<Process>(std::vector<std::string>{
-            VELMORA_TOOLS_DIR "/velmora-login-manager",
+            (nativeTools() / "velmora-login-manager").string(),
             serverSide->environment(home, zone).at("DBUS_SYSTEM_BUS_ADDRESS"), refused});
         ASSERT_TRUE(loginManager->waitForOutput("ready")) << loginManager->error();
     }

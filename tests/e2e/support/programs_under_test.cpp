@@ -37,7 +37,7 @@ class NativePrograms : public ProgramsUnderTest {
                      "--error-exitcode=99",
                      "--log-file=" + valgrindLogs_ + "/" + program + "-%p.log"};
         }
-        words.push_back(std::string(VELMORA_BIN_DIR) + "/" + program);
+        words.push_back((nativePrograms() / program).string());
         words.insert(words.end(), arguments.begin(), arguments.end());
         return words;
     }
@@ -159,7 +159,20 @@ std::unique_ptr<ProgramsUnderTest> side(const char* choice) {
     return std::make_unique<WinePrograms>(fs::absolute(folder), fs::absolute(prefix));
 }
 
+fs::path nativeBuild() {
+    const std::string build = variable("VELMORA_E2E_BUILD");
+    return build.empty() ? fs::path(VELMORA_BUILD_DIR) : fs::absolute(build);
+}
+
 }  // namespace
+
+fs::path nativePrograms() {
+    return nativeBuild() / "bin";
+}
+
+fs::path nativeTools() {
+    return nativeBuild() / "tools";
+}
 
 std::unique_ptr<ProgramsUnderTest> ProgramsUnderTest::ofServer() {
     return side("VELMORA_E2E_SERVER");

@@ -15,6 +15,8 @@ namespace velmora::e2e {
 ///   VELMORA_E2E_WINDOWS    folder of the Windows programs; without it both sides are native
 ///   VELMORA_E2E_SERVER     "native" takes the native server all the same
 ///   VELMORA_E2E_ORGANISER  "native" takes the native Organiser all the same
+///   VELMORA_E2E_BUILD      build folder of the native programs, this build's without it; they may be for
+///                          another kind of machine, which the system emulates
 ///   VELMORA_E2E_VALGRIND   folder for the reports of valgrind, under which the native programs run then; one
 ///                          with an error ends with status 99
 /// choose; Windows programs live in the prefix that WINEPREFIX names, whose wineserver must be running.
@@ -54,5 +56,9 @@ class ProgramsUnderTest {
   protected:
     ProgramsUnderTest() = default;
 };
+
+/// The folders of the native programs, and of the tools that are none of the released programs.
+std::filesystem::path nativePrograms();
+std::filesystem::path nativeTools();
 
 }  // namespace velmora::e2e

@@ -61,7 +61,7 @@ class ServerFixture : public testing::Test {
     }
 
     void connectCable(const std::vector<std::string>& options) {
-        std::vector<std::string> arguments = {VELMORA_TOOLS_DIR "/velmora-cable"};
+        std::vector<std::string> arguments = {(nativeTools() / "velmora-cable").string()};
         arguments.insert(arguments.end(), options.begin(), options.end());
         cable = std::make_unique<Process>(arguments);
         ASSERT_TRUE(cable->waitForNextOutput("\n") && cable->waitForNextOutput("\n"));
