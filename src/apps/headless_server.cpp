@@ -8,6 +8,7 @@
 #include "apps/non_blocking_output.h"
 #include "apps/server_overrides.h"
 #include "arguments/usage_error.h"
+#include "base/run_time_error.h"
 #include "base/system_text.h"
 #include "serial/device_facts.h"
 
@@ -59,6 +60,9 @@ HeadlessServer::HeadlessServer(const ServerArguments& arguments)
     program_.controller().setClosingActions({&program_.settingsStore(), {}, {}});
     program_.controller().onPortFailure([this] { portFailed(); });
     program_.core().observe(log_);
+    if (!arguments_.capture.path.empty()) {
+        openCapture(arguments_.capture);
+    }
     if (arguments_.onTransfer) {
         programQueue_.emplace(
             *arguments_.onTransfer, [this](const std::string& line) { log_.message(line); },
@@ -82,6 +86,18 @@ std::function<void(const std::string&)> HeadlessServer::traceOutput() {
     }
     trace_.emplace(nonBlockingOutput(traceFile_.get()), kStreamLineEnd);
     return [this](const std::string& line) { trace_->print(toSystemText(line)); };
+}
+
+/// Records from now on; throws UsageError when the file cannot be made.
+void HeadlessServer::openCapture(const CaptureRequest& request) {
+    try {
+        capture_.emplace(platform_.files, request, [this](const std::string& line) { log_.error(line); });
+    } catch (const RunTimeError& error) {
+        const bool foreign = error.errorNumber() == ErrorNumber::FileAlreadyExists;
+        throw UsageError("--capture " + request.path + ": " +
+                         (foreign ? "exists and is no capture; it is left as it is" : error.what()));
+    }
+    program_.record(*capture_);
 }
 
 /// A server whose port failed ends, and says so in one line.

@@ -13,6 +13,7 @@
 #include "apps/server_arguments.h"
 #include "apps/server_program.h"
 #include "apps/transfer_program.h"
+#include "capture/capture_file.h"
 #include "eventloop/program_queue.h"
 #include "server/reconnection.h"
 #include "server/searched_ports.h"
@@ -37,6 +38,7 @@ class HeadlessServer {
 
   private:
     std::function<void(const std::string& line)> traceOutput();
+    void openCapture(const CaptureRequest& request);
     void printError(const std::string& line);
     void printWarning(const std::string& line);
     void printAnswer(const std::string& line);
@@ -64,6 +66,7 @@ class HeadlessServer {
     ConsoleTrace traceSink_;
     ConsoleView view_;
     NoUserBox box_;
+    std::optional<CaptureFile> capture_;
     // They hear of transfers until the server's end.
     std::optional<ProgramQueue> programQueue_;
     std::optional<TransferProgram> transferProgram_;

@@ -35,9 +35,11 @@ struct PlatformParts {
                   poll();
               },
               soonestFrame, clock),
-          port(*device, readYield, &watcher),
+          port(*device, readYield),
           ComTimer(watcher, comTicks, clock),
-          PLPtimer(plpTicks, clock) {}
+          PLPtimer(plpTicks, clock) {
+        port.observe(watcher);
+    }
 
     NativeFolders folders;
     NativeFiles files;

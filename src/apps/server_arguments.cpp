@@ -98,6 +98,21 @@ void addTraceOptions(CommandSyntax& syntax, ServerArguments& result) {
     });
 }
 
+void addCaptureOptions(CommandSyntax& syntax, ServerArguments& result) {
+    syntax.option("--capture", "<file>", "Record what passes over the line, as pcapng",
+                  [&result](const std::string& file) { result.capture.path = file; });
+    syntax.option(
+        "--capture-limit", "<limit>", "How much of it is kept, for example 20M or 10min\n(default: all)",
+        [&result](const std::string& value) {
+            const auto limit = parseCaptureLimit(value);
+            if (!limit) {
+                wrongValue("--capture-limit", value, "a number with K, M, G, s, min or h behind it");
+            }
+            result.capture.limit = *limit;
+        });
+    syntax.flag("--mask", "Leave the contents of files out of the record", result.capture.masked);
+}
+
 void addListing(CommandSyntax& syntax, ServerArguments& result) {
     syntax.flag("--list-ports", "Print the serial ports that are present, and end", result.listPorts);
     syntax.flag("--print-config",
@@ -116,6 +131,7 @@ class ServerSyntax : public ProgramSyntax {
         addServingOptions(*this, result);
         addLogOptions(*this, result);
         addTraceOptions(*this, result);
+        addCaptureOptions(*this, result);
         addListing(*this, result);
         note("Options hold for this run and are not saved.");
         exitStatuses({{0, "stopped (by a signal or by the Organiser)"},
@@ -132,6 +148,9 @@ ServerArguments readServerArguments(const std::vector<std::string>& arguments) {
     ServerSyntax(result).read(arguments);
     if (result.json && !result.listPorts) {
         throw UsageError("--json goes with --list-ports");
+    }
+    if (result.capture.path.empty() && (result.capture.masked || result.capture.limit != CaptureLimit{})) {
+        throw UsageError("--capture-limit and --mask go with --capture");
     }
     return result;
 }

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "arguments/outline.h"
+#include "capture/capture_file.h"
 #include "ui/server_log.h"
 
 namespace velmora {
@@ -29,6 +30,7 @@ struct ServerArguments {
     bool trace = false;
     std::vector<std::string> traceCategories;  ///< in capitals; empty means all
     std::optional<std::string> traceFile;
+    CaptureRequest capture;  ///< how to record what passes over the port; without a path not at all
 };
 
 /// Reads the arguments behind the program's name. Throws UsageError, and RequestedText for --help and

@@ -5,6 +5,7 @@
 #include "apps/named_folders.h"
 #include "base/system_text.h"
 #include "platform/known_folders.h"
+#include "serial/mode_string.h"
 #include "serial/open_diagnosis.h"
 #include "serial/port_list.h"
 
@@ -14,7 +15,8 @@ ServerProgram::ServerProgram(PlatformParts& platform, RunOverrides overrides, co
     : platform_(platform),
       overrides_(std::move(overrides)),
       debug_(face.trace),
-      core_({face.view, face.box, platform.files, platform.rules, platform.port, debug_, platform.ComTimer,
+      tap_(debug_),
+      core_({face.view, face.box, platform.files, platform.rules, platform.port, tap_, platform.ComTimer,
              platform.PLPtimer, platform.DisplayTimer, platform.clock, platform.zone, platform.yield,
              platform.readYield, platform.folders.programData(),
              [this](int number) { return portName(number); },
@@ -48,7 +50,10 @@ ServerProgram::ServerProgram(PlatformParts& platform, RunOverrides overrides, co
             shown();
         }
     });
-    debug_.showStateOf([this] { return core_.link().linkState(); });
+    const auto linkState = [this] { return core_.link().linkState(); };
+    debug_.showStateOf(linkState);
+    tap_.listenTo(linkState, [this] { return capturedPort(); });
+    platform_.port.observe(tap_);
 }
 
 StartupReport ServerProgram::start(const std::string& commandLine) {
@@ -85,6 +90,12 @@ std::string ServerProgram::portName(int number) const {
 std::string ServerProgram::portDevice() const {
     const int number = platform_.port.CommPort();
     return platform_.portNames.device(number).value_or("COM" + std::to_string(number));
+}
+
+CapturedPort ServerProgram::capturedPort() const {
+    const std::string& settings = platform_.port.Settings();
+    const auto line = parseModeString(settings);
+    return {utf8OfSystemText(portDevice()), settings, line ? line->baud : 0};
 }
 
 std::string ServerProgram::describePortFailure() const {

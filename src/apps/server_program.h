@@ -8,6 +8,7 @@
 #include "apps/platform_parts.h"
 #include "apps/server_core.h"
 #include "base/message_box.h"
+#include "capture/capture_tap.h"
 #include "link/debug.h"
 #include "server/main_view.h"
 #include "server/slow_port_note.h"
@@ -62,16 +63,20 @@ class ServerProgram {
 
     ServerCore& core() { return core_; }
     ServerController& controller() { return core_.controller(); }
+    /// Records what passes over the port into a target, which must outlive this object.
+    void record(CaptureTarget& target) { tap_.record(platform_.clock, target); }
     /// Where settings are written that the command line does not override.
     IniSettingsStore& settingsStore() { return settingsStore_; }
 
   private:
     void tellOfPort(const std::string& line);
     std::string portName(int number) const;
+    CapturedPort capturedPort() const;
 
     PlatformParts& platform_;
     RunOverrides overrides_;
     Debug debug_;
+    CaptureTap tap_;
     ServerCore core_;
     SlowPortNote slowPort_;
     ControllerForm form_;

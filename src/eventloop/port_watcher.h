@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <string_view>
 #include <utility>
 
 #include "base/clock.h"
@@ -32,7 +33,7 @@ class PortWatcher : public PortObserver {
 
     void portOpened(std::intptr_t handle) override;
     void portClosing(std::intptr_t handle) override;
-    void portRead() override;
+    void portRead(std::string_view bytes) override;
     /// Switches the watch on and off together with the poll.
     void setActive(bool active);
     /// Whether bytes, or the end of the port, will wake the poll.

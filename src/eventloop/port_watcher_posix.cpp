@@ -57,7 +57,7 @@ void PortWatcher::portClosing(std::intptr_t /*handle*/) {
     watch_->end();
 }
 
-void PortWatcher::portRead() {}
+void PortWatcher::portRead(std::string_view /*bytes*/) {}
 
 void PortWatcher::setActive(bool active) {
     watch_->setActive(active);

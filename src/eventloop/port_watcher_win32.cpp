@@ -45,7 +45,7 @@ void PortWatcher::portClosing(std::intptr_t /*handle*/) {
     watch_->queue().portClosing();
 }
 
-void PortWatcher::portRead() {
+void PortWatcher::portRead(std::string_view /*bytes*/) {
     watch_->queue().portRead();
 }
 

@@ -4,6 +4,7 @@
 #include "arguments/syntax.h"
 #include "base/byte_text.h"
 #include "files/boot_command.h"
+#include "files/capture_command.h"
 #include "files/data_command.h"
 #include "files/sheet_command.h"
 #include "files/show_command.h"
@@ -71,6 +72,7 @@ class Syntax {
         addData();
         addBoot();
         addShow();
+        addCapture();
         program_.note("velmora-files COMMAND --help tells about a command.");
         program_.exitStatuses({{0, "done"},
                                {1, "a file failed or is damaged"},
@@ -91,6 +93,7 @@ class Syntax {
     void addData();
     void addBoot();
     void addShow();
+    void addCapture();
     static void addInAndOut(CommandSyntax& command, std::string& in, std::string& out);
 
     ProgramSyntax program_;
@@ -100,6 +103,7 @@ class Syntax {
     BootMakeRequest bootMake_;
     std::string bootFile_;
     ShowRequest show_;
+    std::string captureFile_;
     FilesCommand chosen_;
 };
 
@@ -209,6 +213,16 @@ void Syntax::addShow() {
                 });
     show.option("--wks-dialect", "<name>", "Tokens of formulas: own (default) or common",
                 [this](const std::string& value) { show_.dialect = dialect("--wks-dialect", value); });
+}
+
+void Syntax::addCapture() {
+    CommandSyntax capture =
+        program_.command("capture", "Print what passed over the line, and count it", [this] {
+            chosen_ = [name = captureFile_](const FileAccess& access) {
+                return runCaptureCommand(name, access);
+            };
+        });
+    capture.operand("FILE", "A capture (pcapng), as velmorad --capture makes it", into(captureFile_));
 }
 
 }  // namespace

@@ -35,16 +35,16 @@ bool myComm::OpenPort() {
             raiseFailure("OpenPort");
     }
     open_ = true;
-    if (observer_) {
-        observer_->portOpened(plain_.handle());
+    for (PortObserver* observer : observers_) {
+        observer->portOpened(plain_.handle());
     }
     return true;
 }
 
 bool myComm::ClosePort() {
     if (open_) {
-        if (observer_) {
-            observer_->portClosing(plain_.handle());
+        for (PortObserver* observer : observers_) {
+            observer->portClosing(plain_.handle());
         }
         plain_.CommClose();
         open_ = false;
@@ -54,6 +54,9 @@ bool myComm::ClosePort() {
 
 bool myComm::Send(std::string_view data) {
     requireOpen("Send");
+    for (PortObserver* observer : observers_) {
+        observer->portWriting(data);
+    }
     if (plain_.CommWrite(data) < 0) {
         raiseFailure("Send");
     }
@@ -66,8 +69,10 @@ bool myComm::GetInput(std::size_t maximum, std::string& text) {
         requireOpen("GetInput");
         raiseFailure("GetInput");
     }
-    if (observer_ && !text.empty()) {
-        observer_->portRead();
+    if (!text.empty()) {
+        for (PortObserver* observer : observers_) {
+            observer->portRead(text);
+        }
     }
     return true;
 }

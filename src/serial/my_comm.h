@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "base/event_yield.h"
 #include "serial/comm_device.h"
@@ -19,12 +20,15 @@ namespace velmora {
 /// are gone out already, succeeds.
 class myComm : public SerialPort {
   public:
-    /// `device`, `yield` and the optional `observer` must outlive this object; `device` is for it alone.
-    myComm(CommDevice& device, EventYield& yield, PortObserver* observer = nullptr)
-        : plain_(device, yield), observer_(observer) {}
+    /// `device` and `yield` must outlive this object; `device` is for it alone.
+    myComm(CommDevice& device, EventYield& yield) : plain_(device, yield) {}
     ~myComm() override;
     myComm(const myComm&) = delete;
     myComm& operator=(const myComm&) = delete;
+
+    /// Adds somebody who hears of the port, behind those who do already. It must outlive this object, or the
+    /// port must be closed when it goes and never opened again.
+    void observe(PortObserver& observer) { observers_.push_back(&observer); }
 
     bool OpenPort() override;
     bool ClosePort() override;
@@ -63,7 +67,7 @@ class myComm : public SerialPort {
     [[noreturn]] void raiseFailure(const char* source) const;
 
     PlainComm plain_;
-    PortObserver* observer_;
+    std::vector<PortObserver*> observers_;
     std::int16_t number_ = 1;
     std::string settings_ = "9600,N,8,1";
     bool open_ = false;

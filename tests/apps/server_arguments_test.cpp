@@ -60,6 +60,17 @@ TEST(ServerArguments, ATraceFileTurnsTheTraceOn) {
     EXPECT_TRUE(readServerArguments({"--trace-file=t"}).trace);
 }
 
+TEST(ServerArguments, RecordsOnlyWhereItIsToldTo) {
+    EXPECT_EQ(readServerArguments({}).capture.path, "");
+    const CaptureRequest request =
+        readServerArguments({"--capture", "log.pcapng", "--capture-limit=10min", "--mask"}).capture;
+    EXPECT_EQ(request.path, "log.pcapng");
+    EXPECT_EQ(request.limit.time, std::chrono::minutes(10));
+    EXPECT_TRUE(request.masked);
+    EXPECT_EQ(readServerArguments({"--capture=c", "--capture-limit", "20M"}).capture.limit.bytes,
+              20U * 1024 * 1024);
+}
+
 TEST(ServerArguments, SaysWhatIsWrong) {
     const auto complaint = [](const std::vector<std::string>& arguments) -> std::string {
         try {
@@ -71,6 +82,10 @@ TEST(ServerArguments, SaysWhatIsWrong) {
     };
     EXPECT_EQ(complaint({"--port"}), "--port needs a value");
     EXPECT_EQ(complaint({"--json"}), "--json goes with --list-ports");
+    EXPECT_EQ(complaint({"--mask"}), "--capture-limit and --mask go with --capture");
+    EXPECT_EQ(complaint({"--capture-limit=20M"}), "--capture-limit and --mask go with --capture");
+    EXPECT_EQ(complaint({"--capture=c", "--capture-limit=20"}),
+              "--capture-limit: \"20\" is not a number with K, M, G, s, min or h behind it");
     EXPECT_EQ(complaint({"--port=usb:0403"}),
               "--port: \"usb:0403\" is not usb:VENDOR:PRODUCT:SERIAL, as --list-ports prints it");
     EXPECT_EQ(complaint({"--folder="}), "--folder needs a value");

@@ -37,7 +37,7 @@ TEST_F(FilesCommandLineTest, FilesMayBeCalledLikeCommandsAndOptions) {
 TEST_F(FilesCommandLineTest, ItsOutlineHasEveryCommandAndStatus) {
     const ProgramOutline outline = filesOutline();
     EXPECT_EQ(outline.name, "velmora-files");
-    EXPECT_EQ(outline.commands.size(), 4U);
+    EXPECT_EQ(outline.commands.size(), 5U);
     EXPECT_EQ(outline.statuses.size(), 4U);
 }
 

@@ -29,7 +29,7 @@ TEST_F(FilesToolTest, AnOutputThatCannotBeWrittenIsAFailure) {
 }
 
 TEST_F(FilesToolTest, NothingToDoIsWrongUsage) {
-    expectUsage({}, "velmora-files: a command is missing: sheet, data, boot or show\n");
+    expectUsage({}, "velmora-files: a command is missing: sheet, data, boot, show or capture\n");
 }
 
 TEST_F(FilesToolTest, AnUnknownCommandIsNamed) {

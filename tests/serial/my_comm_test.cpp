@@ -20,12 +20,15 @@ class RecordingObserver : public PortObserver {
   public:
     void portOpened(std::intptr_t handle) override { events.push_back("opened " + std::to_string(handle)); }
     void portClosing(std::intptr_t handle) override { events.push_back("closing " + std::to_string(handle)); }
-    void portRead() override { events.emplace_back("read"); }
+    void portRead(std::string_view bytes) override { events.push_back("read " + std::string(bytes)); }
+    void portWriting(std::string_view bytes) override { events.push_back("writing " + std::string(bytes)); }
     std::vector<std::string> events;
 };
 
 class MyCommTest : public ::testing::Test {
   protected:
+    MyCommTest() { port.observe(observer); }
+
     template <typename Action>
     void expectRaised(std::int32_t number, const std::string& description, Action action) {
         const std::optional<CommError> error = commErrorOf(action);
@@ -37,7 +40,7 @@ class MyCommTest : public ::testing::Test {
     test::FakeCommDevice device;
     test::NoYield yield;
     RecordingObserver observer;
-    myComm port{device, yield, &observer};
+    myComm port{device, yield};
     std::string text = "old";
 };
 
@@ -140,7 +143,8 @@ TEST_F(MyCommTest, ACloseThatFailsStillCloses) {
 
 TEST_F(MyCommTest, DestructionClosesAnOpenPort) {
     {
-        myComm other{device, yield, &observer};
+        myComm other{device, yield};
+        other.observe(observer);
         other.OpenPort();
     }
     EXPECT_FALSE(device.isOpen);
@@ -161,12 +165,36 @@ TEST_F(MyCommTest, TheObserverHearsOfBytesThatWereReadAndOfNoEmptyRead) {
     EXPECT_TRUE(observer.events.empty());
     device.input = "abc";
     port.GetInput(10, text);
-    EXPECT_THAT(observer.events, ElementsAre("read"));
+    EXPECT_THAT(observer.events, ElementsAre("read abc"));
 }
 
-TEST_F(MyCommTest, AnObserverIsOptional) {
+TEST_F(MyCommTest, TheObserverHearsOfBytesBeforeTheyAreWritten) {
+    port.OpenPort();
+    observer.events.clear();
+    device.errors["write"] = 31;
+    EXPECT_TRUE(commErrorOf([this] { port.Send("abc"); }).has_value());
+    EXPECT_THAT(observer.events, ElementsAre("writing abc"));
+    port.ClosePort();
+    observer.events.clear();
+    EXPECT_TRUE(commErrorOf([this] { port.Send("abc"); }).has_value());
+    EXPECT_TRUE(observer.events.empty());
+}
+
+TEST_F(MyCommTest, AllObserversHearInTheirOrder) {
+    std::vector<std::string>& events = observer.events;
+    RecordingObserver second;
+    port.observe(second);
+    port.OpenPort();
+    port.Send("abc");
+    port.ClosePort();
+    EXPECT_THAT(second.events, ElementsAre("opened 42", "writing abc", "closing 42"));
+    EXPECT_EQ(events, second.events);
+}
+
+TEST_F(MyCommTest, ObserversAreOptional) {
     myComm lonely{device, yield};
     EXPECT_TRUE(lonely.OpenPort());
+    EXPECT_TRUE(lonely.Send("abc"));
     EXPECT_TRUE(lonely.ClosePort());
 }
 
