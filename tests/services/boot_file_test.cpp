@@ -111,6 +111,8 @@ TEST_F(BootFileTest, AnEntryOutsideTheCodeIsNoticed) {
     EXPECT_EQ(problemOf(makeBootFile(kCode, "\0\x03"s)), BootFileProblem::RelocationOutsideTheCode);
     EXPECT_EQ(problemOf(makeBootFile(kCode, "\xFF\xFF")), BootFileProblem::RelocationOutsideTheCode);
     EXPECT_EQ(problemOf(makeBootFile("", "\0\0"s)), BootFileProblem::RelocationOutsideTheCode);
+    EXPECT_EQ(problemOf(makeBootFile(kCode, "\0\0\0\2\0\3"s)), BootFileProblem::RelocationOutsideTheCode)
+        << "the last of three";
 }
 
 TEST_F(BootFileTest, TheLargestFileIsRead) {

@@ -395,6 +395,16 @@ TEST_F(PlanServiceTest, WithoutRoomForTheCopyTheDiskIsFullAndTheOldFileStands) {
     expectReports({"C.CSV was not saved: Disk full"});
 }
 
+TEST_F(PlanServiceTest, WithoutItsCopyAFileIsNotReplacedEvenIfTheDiskHasRoomAgain) {
+    memory.addFile("/folder/C.CSV", "old");
+    save(4, "C");
+    announce(1, 1);
+    put(value(0, 0, "1"));
+    files.failAtCall(test::FileCall::Write, 1, ErrorNumber::DiskFull);
+    EXPECT_EQ(refusal("\xFE"), "=") << "61";
+    EXPECT_EQ(memory.content("/folder/C.CSV"), "old");
+}
+
 TEST_F(PlanServiceTest, AFormatThatIsNoneWritesNothing) {
     save(1, "X");
     announce(1, 1);

@@ -40,6 +40,12 @@ TEST(DifReader, TheHeaderGivesTheSize) {
     EXPECT_FALSE(read(dif(-3, 5, kEnd)).exists());
 }
 
+TEST(DifReader, AHeaderWithoutBothCountsGivesNoSheet) {
+    EXPECT_FALSE(
+        read("TABLE\n0,1\n\"\"\nVECTORS\n0,2\n\"\"\nDATA\n0,0\n\"\"\n" + kRow + "0,5\nV\n").exists());
+    EXPECT_FALSE(read("TABLE\n0,1\n\"\"\nTUPLES\n0,2\n\"\"\nDATA\n0,0\n\"\"\n" + kRow + "0,5\nV\n").exists());
+}
+
 TEST(DifReader, TopicsAreComparedInCapitalsAndOthersPassedOver) {
     EXPECT_EQ(
         read("Table\n0,1\n\"\"\nLabel\n1,0\n\"x\"\nvectors\n0,2\n\"\"\ntuples\n0,1\n\"\"\nData\n0,0\n\"\"\n" +

@@ -110,8 +110,10 @@ TEST(NamedNumberLocale, KnowsTheCommonLanguages) {
 TEST(NamedNumberLocale, ReadsWhatTheReadersOfEachLanguageWrite) {
     const std::pair<const char*, std::vector<const char*>> rows[] = {
         {"1.234,5", {"da", "de", "el", "es", "id", "is", "it", "nl", "pt", "tr"}},
-        {"1 234,5", {"bg", "cs", "fi", "fr", "hu", "nb", "no", "pl", "ru", "sk", "sv", "uk"}},
-        {"1,234.5", {"en", "ja", "ko", "zh"}},
+        {"1'234.5", {"de_CH", "de_LI"}},
+        {"1 234,5",
+         {"de_AT", "pt_PT", "bg", "cs", "fi", "fr", "hu", "nb", "no", "pl", "ru", "sk", "sv", "uk"}},
+        {"1,234.5", {"es_MX", "en", "ja", "ko", "zh"}},
         {"1234.5", {"C", "POSIX"}},
     };
     for (const auto& [text, names] : rows) {
