@@ -53,6 +53,13 @@ class Install(unittest.TestCase):
             self.find(f"share/fish/vendor_completions.d/{name}.fish")
         self.find("share/man/man5/Velmora.ini.5")
 
+    def test_the_example_of_a_configuration_is_what_a_first_start_writes(self):
+        example = self.find("share/doc/velmora-server/examples/Velmora.ini")
+        written = self.tree / "first" / "Velmora.ini"
+        written.parent.mkdir()
+        tool(self.find("bin/velmorad"), "--config", written, "--port", "/dev/null/none")
+        self.assertEqual(example.read_bytes(), written.read_bytes())
+
     def test_the_licence_goes_along_once(self):
         self.find("share/doc/velmora/LICENSE")
         self.assertEqual(list(self.tree.rglob("copyright")), [], "packages have it in their own form")

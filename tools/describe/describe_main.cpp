@@ -1,7 +1,8 @@
-// velmora-describe: prints a program's manual page or the completion of its command line in a shell.
+// velmora-describe: prints a program's manual page, the completion of its command line in a shell, or an example of its
+// configuration.
 //
-// Both come from the syntax that the program reads its command line by, as its help does. It runs when the
-// project is built and is not installed.
+// The first two come from the syntax that the program reads its command line by, as its help does; the example is
+// what a first start writes. It runs when the project is built and is not installed.
 #include <functional>
 #include <iostream>
 #include <map>
@@ -14,6 +15,7 @@
 #include "describe/completion.h"
 #include "describe/described_programs.h"
 #include "describe/manual_page.h"
+#include "startup/default_ini.h"
 
 namespace {
 
@@ -35,16 +37,17 @@ int run(const std::vector<std::string>& arguments) {
         {"man", manual},
         {"bash", describe::bashCompletion},
         {"zsh", describe::zshCompletion},
-        {"fish", describe::fishCompletion}};
+        {"fish", describe::fishCompletion},
+        {"ini", [](const ProgramOutline&) { return defaultIni(); }}};
     ProgramSyntax syntax("velmora-describe", "Prints what the system's tools want to know of a program.");
     std::string form;
     std::string name;
-    syntax.operand("FORM", "man, bash, zsh or fish", [&form](const std::string& value) { form = value; });
+    syntax.operand("FORM", "man, bash, zsh, fish or ini", [&form](const std::string& value) { form = value; });
     syntax.operand("PROGRAM", "Its name", [&name](const std::string& value) { name = value; });
     syntax.read(arguments);
     const auto found = forms.find(form);
     if (found == forms.end()) {
-        throw UsageError("FORM: \"" + form + "\" is not man, bash, zsh or fish");
+        throw UsageError("FORM: \"" + form + "\" is not man, bash, zsh, fish or ini");
     }
     std::cout << found->second(describe::describedProgram(name));
     return kStatusDone;

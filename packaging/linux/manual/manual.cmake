@@ -1,5 +1,5 @@
-# Manual pages and completions of the programs, out of the syntax of their command lines, and Velmora.ini(5), out of its
-# document. All is made when the project is built and lies in the build's "manual".
+# Manual pages and completions of the programs, out of the syntax of their command lines, an example of their
+# configuration, as a first start writes it, and Velmora.ini(5), out of its document. All is made when the project is built and lies in the build's "manual".
 set(manual ${PROJECT_BINARY_DIR}/manual)
 file(MAKE_DIRECTORY ${manual})
 set(made "")
@@ -32,6 +32,11 @@ foreach(program ${described})
   velmora_describe(${program} zsh _${program} ${CMAKE_INSTALL_DATADIR}/zsh/vendor-completions ${component})
   velmora_describe(${program} fish ${program}.fish ${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d ${component})
 endforeach()
+
+if(VELMORA_TOOLKIT)
+  # The servers have one configuration file.
+  velmora_describe(velmorad ini Velmora.ini ${CMAKE_INSTALL_DATAROOTDIR}/doc/velmora-server/examples server)
+endif()
 
 if(VELMORA_MANUALS)
   if(NOT PANDOC)
