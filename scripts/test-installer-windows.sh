@@ -34,7 +34,7 @@ check() {
   fi
 }
 absent() { [[ ! -e $1 ]]; }
-# An uninstaller goes on in a copy of itself; the server ends with the last program.
+# An uninstaller has a copy of itself remove it in the end; the server ends with the last program.
 run() {
   local status=0
   timeout 120 wine "$@" < /dev/null > /dev/null 2>&1 || status=$?
@@ -69,6 +69,8 @@ user=$(wine cmd /c 'echo %LOCALAPPDATA%' 2> /dev/null | tr -d '\r')
 roaming=$(wine cmd /c 'echo %APPDATA%' 2> /dev/null | tr -d '\r')
 folder=$(winepath -u "$user")/Programs/Velmora
 menu="$(winepath -u "$roaming")/Microsoft/Windows/Start Menu/Programs/Velmora"
+startup="$(winepath -u "$roaming")/Microsoft/Windows/Start Menu/Programs/StartUp"
+desk=$WINEPREFIX/drive_c/users/$(basename "$(winepath -u "$(wine cmd /c 'echo %USERPROFILE%' 2> /dev/null | tr -d '\r')")")/Desktop
 settings=$(winepath -u "$roaming")/Velmora.ini
 windows_folder="$user\\Programs\\Velmora"
 cp "$setup" "$work/setup.exe"
@@ -103,7 +105,7 @@ exec 9> "$work/never"
 check 'the installer refuses' exits_with 3 "$work/setup.exe" /S
 check 'nothing was installed' registered DisplayVersion 0.0.1
 check 'nothing was removed' [ -e "$folder/left-over.txt" ]
-check 'the uninstaller refuses' exits_with 3 "$folder/velmora-uninstall.exe" /S "_?=$windows_folder"
+check 'the uninstaller refuses' exits_with 3 "$folder/velmora-uninstall.exe" /S
 check 'all files are still there' [ -e "$folder/left-over.txt" -a -e "$folder/docs/user-guide.html" ]
 kill "$running"
 exec 9>&-
@@ -127,7 +129,12 @@ check "the size, $kilobytes KB, is about that of the files, $stored KB" \
   [ $((kilobytes * 10)) -ge $((stored * 8)) -a $((kilobytes * 8)) -le $((stored * 10)) ]
 check 'the link to the user guide' [ -e "$menu/User guide.lnk" ]
 check 'the link to the uninstaller' [ -e "$menu/Uninstall Velmora.lnk" ]
-[[ -z $desktop ]] || check 'the link to Velmora' [ -e "$menu/Velmora.lnk" ]
+if [[ -n $desktop ]]; then
+  check 'the link to Velmora' [ -e "$menu/Velmora.lnk" ]
+  check 'the link to the Organiser'\''s files' [ -e "$menu/Psion Files.lnk" ]
+fi
+check 'nothing starts with Windows that was not chosen' absent "$startup/Velmora.lnk"
+check 'nothing is on the desktop that was not chosen' absent "$desk/Velmora.lnk"
 for program in "$folder"/velmora*.exe; do
   check "$(basename "$program") holds no symbols" [ -z "$(x86_64-w64-mingw32-nm "$program" 2> /dev/null)" ]
 done
@@ -137,8 +144,13 @@ check 'velmora-organiser runs from there' prints 'velmora-organiser' "$folder/ve
 [[ -z $desktop ]] || check 'where its source is' grep -q "Velmora-$version-windows-source.tar" "$folder/licences/third-party.txt"
 [[ -z $desktop ]] || check 'velmorad runs from there' prints "velmorad $version" "$folder/velmorad.exe" --version
 
-echo '-- The same once more'
+echo '-- The same once more, with links that were chosen before'
+echo 'of the older version' > "$startup/Velmora.lnk"
 check 'the installer ends well' run "$work/setup.exe" /S
+if [[ -n $desktop ]]; then
+  check 'the chosen link is made anew' bash -c '! grep -q older "$1"' - "$startup/Velmora.lnk"
+fi
+check 'and no other' absent "$desk/Velmora.lnk"
 check 'the files are the same' holds_exactly "$folder" "$(printf '%s\n' "$expected" "$mine" | sort)"
 
 echo '-- Into another folder'
@@ -159,6 +171,7 @@ check 'the uninstaller ends well' run "$other/velmora-uninstall.exe" /S
 check 'only the user'\''s own files are left' holds_exactly "$other" ./notes.txt
 check 'nothing is registered' not_registered
 check 'the start menu is as before' absent "$menu"
+check 'nothing starts with Windows' absent "$startup/Velmora.lnk"
 check 'the settings stay' grep -q 'Port=7' "$settings"
 rm "$other/notes.txt"
 check 'the installer ends well' run "$work/setup.exe" /S "${to_other[@]}"
