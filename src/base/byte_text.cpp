@@ -1,5 +1,6 @@
 #include "base/byte_text.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 
@@ -172,6 +173,13 @@ std::string showControls(std::string_view text) {
         out += byte < ' ' || byte == kDelete ? "<" + hexDump({&c, 1}) + ">" : std::string(1, c);
     }
     return out;
+}
+
+std::string asciiOf(std::string_view text) {
+    std::string shown(text);
+    std::replace_if(
+        shown.begin(), shown.end(), [](char c) { return static_cast<unsigned char>(c) >= 0x80; }, '?');
+    return shown;
 }
 
 std::string hexDump(std::string_view bytes) {

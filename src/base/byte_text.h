@@ -27,6 +27,9 @@ std::optional<std::string> fromUtf8(std::string_view utf8);
 /// nothing that a terminal would obey.
 std::string showControls(std::string_view text);
 
+/// The text with "?" for every byte that is not ASCII.
+std::string asciiOf(std::string_view text);
+
 /// The bytes as upper-case hexadecimal pairs with a blank between them, for messages.
 std::string hexDump(std::string_view bytes);
 /// The bytes 32 to 126 as they are, every other one as "<hh>": one line, whatever it says.

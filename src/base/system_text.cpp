@@ -1,17 +1,12 @@
 #include "base/system_text.h"
 
-#include <algorithm>
+#include "base/byte_text.h"
 
 namespace velmora {
 
 std::string shownText(std::string_view text) {
-    if (std::optional<std::string> exact = fromSystemText(text)) {
-        return *exact;
-    }
-    std::string shown(text);
-    std::replace_if(
-        shown.begin(), shown.end(), [](char c) { return static_cast<unsigned char>(c) >= 0x80; }, '?');
-    return shown;
+    const std::optional<std::string> exact = fromSystemText(text);
+    return exact ? *exact : asciiOf(text);
 }
 
 }  // namespace velmora

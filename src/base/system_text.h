@@ -17,5 +17,7 @@ std::optional<std::string> fromSystemText(std::string_view text);
 std::string shownText(std::string_view text);
 /// A text of the system in UTF-8, for formats that want that; what is not valid stays as it is.
 std::string utf8OfSystemText(std::string_view text);
+/// A UTF-8 text in the system's encoding; empty when it has none there.
+std::string systemTextOfUtf8(std::string_view utf8);
 
 }  // namespace velmora

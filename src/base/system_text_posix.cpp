@@ -15,4 +15,8 @@ std::string utf8OfSystemText(std::string_view text) {
     return std::string(text);
 }
 
+std::string systemTextOfUtf8(std::string_view utf8) {
+    return std::string(utf8);
+}
+
 }  // namespace velmora

@@ -15,4 +15,8 @@ std::string utf8OfSystemText(std::string_view text) {
     return toUtf8(text);
 }
 
+std::string systemTextOfUtf8(std::string_view utf8) {
+    return fromUtf8(utf8).value_or(std::string());
+}
+
 }  // namespace velmora

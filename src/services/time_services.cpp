@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "base/byte_text.h"
+#include "base/moment_text.h"
 #include "base/number_text.h"
 
 namespace velmora {
@@ -24,8 +25,7 @@ const char* daylightMark(bool daylight) {
 }  // namespace
 
 std::string timeStamp(const DateTime& time) {
-    return digits(time.year, 4) + '-' + digits(time.month, 2) + '-' + digits(time.day, 2) + ' ' +
-           digits(time.hour, 2) + ':' + digits(time.minute, 2) + ':' + digits(time.second, 2);
+    return momentText(time, kStampForm);
 }
 
 bool TimeServices::zoneInformation(std::string& offset) const {

@@ -23,5 +23,9 @@ TEST(SystemText, IsShownAsFarAsItCanBe) {
     EXPECT_EQ(shownText("Gr\xFC"), "Gr?");
 }
 
+TEST(SystemText, Utf8IsTheSystemsText) {
+    EXPECT_EQ(systemTextOfUtf8("Gr\xC3\xBC\xC3\x9F"), "Gr\xC3\xBC\xC3\x9F");
+}
+
 }  // namespace
 }  // namespace velmora

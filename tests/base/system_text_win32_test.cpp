@@ -14,5 +14,10 @@ TEST(SystemText, AByteWithoutACharacterIsRefused) {
     EXPECT_EQ(fromSystemText("a\x81"), std::nullopt);
 }
 
+TEST(SystemText, Utf8IsTakenAsFarAsTheCodePageHasIt) {
+    EXPECT_EQ(systemTextOfUtf8("Gr\xC3\xBC\xC3\x9F"), "Gr\xFC\xDF");
+    EXPECT_EQ(systemTextOfUtf8("\xE4\xB8\xAD"), "");
+}
+
 }  // namespace
 }  // namespace velmora

@@ -9,6 +9,8 @@ ROOT = pathlib.Path(__file__).resolve().parents[2]
 
 # Sources whose texts are no messages, and what they are instead.
 OTHER_TEXTS = {
+    "base/moment_text.h": "forms of moments",
+    "transfers/earlier_copy_name.cpp": "the form of a moment",
     "startup/default_ini.cpp": "the default configuration file",
     "*/command_line.cpp": "the help",
     "apps/*_arguments.cpp": "the help",
