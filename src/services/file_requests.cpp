@@ -77,6 +77,7 @@ void FileRequests::replyOpened(std::string_view header, ServerState state, const
     if (reply(header) && setStateWhileRunning(window_, state)) {
         window_.setCurrentFile(path);
     }
+    transfers_.keepsCopy(file_.earlierCopy());
     transfers_.begin(size);
     transfers_.moved(header.size());
 }

@@ -85,6 +85,9 @@ class OpenFile {
     /// them then. They are not counted.
     std::string readImageHeader(std::size_t count);
 
+    /// The copy of what the file open for writing has replaced; empty when it replaces nothing.
+    std::string earlierCopy() const { return status_ == kOpenForWriting ? save_.earlierCopy : std::string(); }
+
     /// Position and length in bytes, binary mode.
     std::uint64_t position() const { return file_->position(); }
     std::uint64_t size() const { return file_->size(); }

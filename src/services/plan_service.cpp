@@ -258,11 +258,15 @@ void PlanService::finishReceiving(std::int32_t& code) {
 
 int PlanService::writeSheet() {
     try {
-        copies_.keep(path_);
+        transfers_.keepsCopy(copies_.keep(path_));
     } catch (const RunTimeError& error) {
         return error.number();
     }
-    return spreadsheet_.ExportSheet(sheet_, path_, format_, remarks());
+    const CellRemark told = remarks();
+    return spreadsheet_.ExportSheet(sheet_, path_, format_, [this, &told](const std::string& line) {
+        told(line);
+        transfers_.remark(line);
+    });
 }
 
 }  // namespace velmora

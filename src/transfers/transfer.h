@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "base/clock.h"
 
@@ -39,6 +40,10 @@ struct Transfer {
     std::uint64_t bytes = 0;                 ///< that have moved
     DateTime began = {};                     ///< universal time
     std::chrono::microseconds duration{0};   ///< from the beginning to the last news
+    std::string earlierCopy = {};  ///< of the file that the save replaces, in the system's encoding; or empty
+    /// Lines about cells of a saved sheet: the formulas that will not come back as they were, and, when it
+    /// could not be saved, those to blame.
+    std::vector<std::string> remarks = {};
 };
 
 /// How a transfer may end.
@@ -53,6 +58,12 @@ struct TransferEnd {
     TransferResult result = TransferResult::Complete;
     int code = 0;             ///< what the Organiser was told; 0 when it was not told of a failure
     std::string reason = {};  ///< why it is not complete, in words
+};
+
+/// A transfer that is over.
+struct EndedTransfer {
+    Transfer transfer;
+    TransferEnd end;
 };
 
 /// Hears of every transfer, in the order of its life, between two messages of the link. Must neither throw

@@ -25,6 +25,10 @@ class Transfers {
     void ask(Transfer transfer);
     /// It can have it. `size` is how much is to move, where that is known.
     void begin(std::optional<std::uint64_t> size = {});
+    /// What the save is about to replace is kept at this path; empty when it replaces nothing.
+    void keepsCopy(const std::string& path) { transfer_.earlierCopy = path; }
+    /// A cell of the sheet that is being saved deserves a line.
+    void remark(const std::string& line) { transfer_.remarks.push_back(line); }
     /// So many bytes more have moved. A transfer that was complete, and goes on, begins anew.
     void moved(std::size_t bytes);
     /// All has arrived.

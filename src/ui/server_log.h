@@ -21,8 +21,9 @@ enum class LogFormat {
 ///   "message", "error"                   "text"
 ///   "transfer-begin"                     "name", "path", "direction", "kind", "size" where it is known
 ///   "transfer-progress", once a second   the same, "bytes", "seconds"
-///   "transfer-end"                       the same, "result", "code", "reason"
-/// Their values are those of nameOf and Transfer. Texts that are given are in the system's encoding.
+///   "transfer-end"                       the same, "result", "code", "reason"; where there are any
+///                                        "earlierCopy", "remarks"
+/// Their values are told in transfer_json.h. Texts that are given are in the system's encoding.
 class ServerLog : public TransferObserver {
   public:
     /// Takes one line without its end: text in the system's encoding, or JSON in UTF-8.

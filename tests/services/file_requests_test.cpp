@@ -210,6 +210,21 @@ TEST_P(FileRequestsTest, ASavedFileIsToldWithItsBytes) {
     EXPECT_TRUE(told.ended.empty());
 }
 
+TEST_P(FileRequestsTest, ASaveIsToldWithTheCopyOfWhatItReplaces) {
+    memory.addFile("/psion/Memo.txt", "old");
+    open();
+    openText(1, "MEMO.TXT");
+    const std::string copy = told.running.earlierCopy;
+    ASSERT_TRUE(memory.fileExists(copy));
+    EXPECT_EQ(memory.content(copy), "old");
+    closeRequest();
+    EXPECT_EQ(told.ended.at(0).transfer.earlierCopy, copy);
+    dropLink();
+    open();
+    openText(0, "MEMO.TXT");
+    EXPECT_EQ(told.running.earlierCopy, "") << "a load replaces nothing";
+}
+
 TEST_P(FileRequestsTest, AFileThatIsLoadedToItsEndIsComplete) {
     memory.addFile("/psion/Memo.txt", "one\r\ntwo\r\n");
     open();

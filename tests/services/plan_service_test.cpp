@@ -626,6 +626,25 @@ TEST_F(PlanServiceTest, ASavedSheetIsToldWithItsBytes) {
     EXPECT_EQ(told.lines(), Lines{"saved PLAN.WKS 8 bytes in 0.0 s"});
 }
 
+TEST_F(PlanServiceTest, ASavedSheetIsToldWithWhatItReplacedAndWhichFormulasChanged) {
+    memory.addFile("/folder/S.WKS", "old");
+    save(2, "S");
+    announce(2, 1);
+    put(value(0, 0, "=A2-(B2-C2)"));
+    put(value(1, 0, "=A2-B2-C2"));
+    EXPECT_EQ(ask("\xFE"), kEnd);
+    ASSERT_EQ(told.ended.size(), 1U);
+    EXPECT_EQ(told.ended[0].transfer.remarks, Lines{"A1: =A2-(B2-C2) comes back as =A2-B2-C2"});
+    EXPECT_EQ(memory.content(told.ended[0].transfer.earlierCopy), "old");
+    EXPECT_EQ(told.lines(), Lines{"saved S.WKS 28 bytes in 0.0 s, 1 formula changed"});
+    save(2, "T");
+    announce(1, 1);
+    EXPECT_EQ(ask("\xFE"), kEnd);
+    ASSERT_EQ(told.ended.size(), 1U);
+    EXPECT_TRUE(told.ended[0].transfer.remarks.empty());
+    EXPECT_EQ(told.ended[0].transfer.earlierCopy, "");
+}
+
 TEST_F(PlanServiceTest, ALoadedSheetIsToldWithItsBytes) {
     memory.addFile("/folder/PLAN.csv", "x;7\r\n");
     load(4, "PLAN");

@@ -63,6 +63,56 @@ TEST(TransferTextTest, ListingsAndTheClockHaveVerbsOfTheirOwn) {
               "answer to TIME refused: it failed");
 }
 
+TEST(TransferTextTest, FormulasThatChangedAreCounted) {
+    Transfer transfer = journal();
+    transfer.remarks = {"A1: =A2-(B2-C2) comes back as =A2-B2-C2"};
+    EXPECT_EQ(describe(transfer, {}),
+              "saved Journal.odb 16,392 bytes in 17.2 s (953 bytes/s), 1 formula changed");
+    EXPECT_EQ(resultText(transfer, {}), "complete, 1 formula changed");
+    transfer.remarks.resize(1'200);
+    transfer.duration = milliseconds{50};
+    EXPECT_EQ(describe(transfer, {}), "saved Journal.odb 16,392 bytes in 0.1 s, 1,200 formulas changed");
+    const TransferEnd broken{TransferResult::Incomplete, 61, "Disk full"};
+    EXPECT_EQ(describe(transfer, broken),
+              "save of Journal.odb incomplete: 16,392 bytes in 0.1 s, Disk full (61)");
+}
+
+TEST(TransferTextTest, ATablesColumnsSayTheSame) {
+    EXPECT_EQ(durationText(journal()), "17.2 s");
+    EXPECT_EQ(rateText(journal()), "953 bytes/s");
+    Transfer moment = journal();
+    moment.duration = milliseconds{99};
+    EXPECT_EQ(rateText(moment), "");
+    EXPECT_EQ(resultText(journal(), {}), "complete");
+    EXPECT_EQ(resultText(journal(), {TransferResult::Refused, 189, "no such file"}),
+              "refused: no such file (189)");
+    EXPECT_EQ(resultText(journal(), {TransferResult::Incomplete, 0, "the link ended"}),
+              "incomplete: the link ended");
+}
+
+TEST(TransferTextTest, TheShareAndTheTimeLeftAreToldWhereTheSizeIsKnown) {
+    Transfer transfer = journal(TransferDirection::Load);
+    EXPECT_EQ(progressText(transfer), "");
+    transfer.size = 0;
+    EXPECT_EQ(progressText(transfer), "");
+    transfer.size = 10'000;
+    transfer.bytes = 2'500;
+    transfer.duration = milliseconds{999};
+    EXPECT_EQ(progressText(transfer), "25 %") << "the rate is not known yet";
+    transfer.duration = milliseconds{5'000};
+    EXPECT_EQ(progressText(transfer), "25 %, 0:15 left");
+    transfer.duration = milliseconds{22'000};
+    EXPECT_EQ(progressText(transfer), "25 %, 1:06 left");
+    transfer.duration = std::chrono::hours{1};
+    EXPECT_EQ(progressText(transfer), "25 %, 3:00:00 left");
+    transfer.duration = std::chrono::minutes{25};
+    EXPECT_EQ(progressText(transfer), "25 %, 1:15:00 left");
+    transfer.bytes = 0;
+    EXPECT_EQ(progressText(transfer), "0 %");
+    transfer.bytes = 10'002;
+    EXPECT_EQ(progressText(transfer), "100 %, 0:00 left") << "what the size did not count";
+}
+
 TEST(TransferTextTest, EverythingHasALastingName) {
     EXPECT_STREQ(nameOf(TransferDirection::Save), "save");
     EXPECT_STREQ(nameOf(TransferDirection::Load), "load");

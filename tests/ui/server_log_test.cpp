@@ -119,6 +119,19 @@ TEST_F(ServerLogTest, ProgramsFollowATransferSecondBySecond) {
     EXPECT_EQ(ended["time"], "2026-11-22T08:05:07Z");
 }
 
+TEST_F(ServerLogTest, ProgramsReadWhatWasReplacedAndWhichFormulasChanged) {
+    ServerLog log = make(LogFormat::Json);
+    Transfer sums;
+    log.transferEnded(sums, {});
+    EXPECT_FALSE(Json::parse(output.at(0)).contains("earlierCopy"));
+    EXPECT_FALSE(Json::parse(output.at(0)).contains("remarks"));
+    sums.earlierCopy = "/copies/Sums.wks";
+    sums.remarks = {"A1: =A2-(B2-C2) comes back as =A2-B2-C2", "B1: =1"};
+    log.transferEnded(sums, {});
+    EXPECT_EQ(Json::parse(output.at(1))["earlierCopy"], "/copies/Sums.wks");
+    EXPECT_EQ(Json::parse(output.at(1))["remarks"], Json(sums.remarks));
+}
+
 TEST_F(ServerLogTest, EachTransferHasItsOwnSeconds) {
     ServerLog log = make(LogFormat::Json);
     transfer(log, {5'000});
