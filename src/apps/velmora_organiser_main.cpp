@@ -19,6 +19,7 @@
 #include "platform/binary_streams.h"
 #include "platform/console_output.h"
 #include "platform/file_size_limit.h"
+#include "platform/native.h"
 #include "serial/wire_time.h"
 
 namespace {
@@ -43,7 +44,8 @@ ExitStatus run(const CommandLine& line) {
     const bool tour = line.command.kind == CommandKind::Tour;
     const bool terminal = isTerminal(tour ? stdout : stderr);
     Progress silent;
-    ProgressBar bar(tour ? std::cout : std::cerr, terminal && !line.trace);
+    const NativeClock clock;
+    ProgressBar bar(tour ? std::cout : std::cerr, terminal && !line.trace, clock);
     const Console console{std::cin, std::cout, std::cerr, tour || terminal ? bar : silent};
     return runCommand(line, link, console);
 }
