@@ -3,6 +3,7 @@ velmora_library(desktop_server
   SOURCES
     desktop_dialogs.cpp
     desktop_server.cpp
+    desktop_transfers.cpp
   LIBS velmora_server_program velmora_ui_qt velmora_qt_dialogs)
 
 add_executable(velmora velmora_main.cpp)

@@ -12,13 +12,14 @@ DesktopServer::DesktopServer(const RunOverrides& overrides)
     : platform_([this] { controller().ComTimer_Tick(); }, [this] { return program_.core().soonestFrame(); }),
       dialogs_(platform_.clock, platform_.portNames),
       box_(&window_),
+      transfers_(platform_, dialogs_.traceSink()),
       program_(platform_, overrides,
                {window_,
                 box_,
                 dialogs_.traceSink(),
                 {{},
                  [this] {
-                     dialogs_.closeDebugWindow();
+                     closeOtherWindows();
                      window_.hide();
                  },
                  [this] { window_.show(); },
@@ -28,10 +29,11 @@ DesktopServer::DesktopServer(const RunOverrides& overrides)
                 [this] { dialogs_.adaptersChanged(); }}),
       registry_(positions_) {
     controller().setClosingActions(
-        {&program_.settingsStore(), [this] { saveWindowPlace(); }, [this] { dialogs_.closeDebugWindow(); }});
+        {&program_.settingsStore(), [this] { saveWindowPlace(); }, [this] { closeOtherWindows(); }});
     // The warning stands already; this adds why it is so, and what helps.
     controller().onPortFailure([this] { window_.showAdvice(portAdvice()); });
     window_.setActions(windowActions());
+    transfers_.follow(program_.core());
 
     QObject::connect(qApp, &QGuiApplication::commitDataRequest, &session_,
                      [this](QSessionManager&) { sessionEnds_ = true; });
@@ -51,6 +53,7 @@ frmMain::Actions DesktopServer::windowActions() {
     actions.pbFolder_Click = [this] { chooseFolder(); };
     actions.pbHide_Click = [&controller] { controller.pbHide_Click(); };
     actions.pbShutDown_Click = [&controller] { controller.pbShutDown_Click(); };
+    actions.pbTransfers_Click = [this] { transfers_.show(); };
     actions.lblDebug_DblClick = [this] { dialogs_.toggleDebugWindow(); };
     actions.queryUnload = [this](CloseReason reason) { return queryUnload(reason); };
     actions.closed = [this] { quit(); };
@@ -84,6 +87,11 @@ void DesktopServer::chooseFolder() {
     chooseDownloadFolder(
         [this](const FolderQuestion& question) { return dialogs_.browseForFolder(window_, question); },
         program_.core().strings, program_.core().transfer, program_.settingsStore(), window_, box_);
+}
+
+void DesktopServer::closeOtherWindows() {
+    dialogs_.closeDebugWindow();
+    transfers_.close();
 }
 
 void DesktopServer::placeWindow() {

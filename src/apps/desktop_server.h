@@ -5,6 +5,7 @@
 #include <string>
 
 #include "apps/desktop_dialogs.h"
+#include "apps/desktop_transfers.h"
 #include "apps/native_position_store.h"
 #include "apps/platform_parts.h"
 #include "apps/server_program.h"
@@ -41,6 +42,7 @@ class DesktopServer {
     bool queryUnload(CloseReason reason);
     void chooseFolder();
     void openSetup();
+    void closeOtherWindows();
     void placeWindow();
     void saveWindowPlace();
     void quit();
@@ -52,6 +54,7 @@ class DesktopServer {
     DesktopDialogs dialogs_;
     frmMain window_;
     QtMessageBox box_;
+    DesktopTransfers transfers_;
     ServerProgram program_;
     NativePositionStore positions_;
     Registry registry_;

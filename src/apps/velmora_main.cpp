@@ -10,6 +10,7 @@
 #include "arguments/program.h"
 #include "eventloop/stop_signals.h"
 #include "platform/file_size_limit.h"
+#include "ui/qt/artwork.h"
 
 namespace {
 
@@ -21,6 +22,7 @@ int serve(int argc, char** argv) {
     // It takes its own arguments out of argc and argv.
     QApplication application(argc, argv);
     QApplication::setDesktopFileName(QStringLiteral("velmora"));
+    QApplication::setWindowIcon(programIcon());
     // The main window ends the program, also when it is minimised while another window closes.
     QApplication::setQuitOnLastWindowClosed(false);
     const std::string commandLine = desktopCommandLine({argv + 1, argv + argc});

@@ -135,7 +135,8 @@ TEST_F(TransferHistoryTest, LinesThatAreNoneAreLeftOut) {
     memory.addFile(kPath, "nonsense\n" + line + "{}\n\n[1]\n" + line + "{\"began\":\"2026");
     EXPECT_EQ(remembered(), (Names{"One.odb", "One.odb"}));
     Run(*this).end("Two.odb");
-    EXPECT_EQ(remembered(), (Names{"One.odb", "One.odb", "Two.odb"})) << "a line that was cut short spoils no other";
+    EXPECT_EQ(remembered(), (Names{"One.odb", "One.odb", "Two.odb"}))
+        << "a line that was cut short spoils no other";
 }
 
 TEST_F(TransferHistoryTest, OfAVeryLongFileTheEndIsRead) {

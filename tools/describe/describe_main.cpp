@@ -1,8 +1,8 @@
-// velmora-describe: prints a program's manual page, the completion of its command line in a shell, or an example of its
-// configuration.
+// velmora-describe: prints a program's manual page, the completion of its command line in a shell, or an
+// example of its configuration.
 //
-// The first two come from the syntax that the program reads its command line by, as its help does; the example is
-// what a first start writes. It runs when the project is built and is not installed.
+// The first two come from the syntax that the program reads its command line by, as its help does; the
+// example is what a first start writes. It runs when the project is built and is not installed.
 #include <functional>
 #include <iostream>
 #include <map>
@@ -42,7 +42,8 @@ int run(const std::vector<std::string>& arguments) {
     ProgramSyntax syntax("velmora-describe", "Prints what the system's tools want to know of a program.");
     std::string form;
     std::string name;
-    syntax.operand("FORM", "man, bash, zsh, fish or ini", [&form](const std::string& value) { form = value; });
+    syntax.operand("FORM", "man, bash, zsh, fish or ini",
+                   [&form](const std::string& value) { form = value; });
     syntax.operand("PROGRAM", "Its name", [&name](const std::string& value) { name = value; });
     syntax.read(arguments);
     const auto found = forms.find(form);

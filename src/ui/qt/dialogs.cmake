@@ -1,10 +1,13 @@
-# The setup dialog, the protocol monitor and the folder choice.
+# The setup dialog, the protocol monitor, the transfers and the folder choice.
 velmora_library(qt_dialogs
   SOURCES
+    desktop_files.cpp
     frm_debug.cpp
     frm_setup.cpp
+    frm_transfers.cpp
     log_lines.cpp
     log_view.cpp
+    transfer_table.cpp
   LIBS velmora_ui velmora_serial velmora_base Qt6::Widgets)
 if(WIN32)
   target_sources(velmora_qt_dialogs PRIVATE native_folder_browser_win32.cpp)

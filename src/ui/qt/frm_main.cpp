@@ -7,6 +7,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QShortcut>
 #include <QStyle>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -171,11 +172,16 @@ void frmMain::makeButtons() {
                         &Actions::pbHide_Click);
     pbShutDown = makeButton("pbShutDown", tr("Shut &down"), tr("Stop the server and end the program"),
                             &Actions::pbShutDown_Click);
+    pbTransfers = makeButton("pbTransfers", tr("&Transfers\u2026"),
+                             tr("Show what was saved and loaded (Ctrl+T)"), &Actions::pbTransfers_Click);
+    connect(new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_T), this), &QShortcut::activated, this,
+            [this] { call(actions_.pbTransfers_Click); });
     frmMain::setButtonCaption(MainButton::StartStop, "Start");
     pbSetup->setAccessibleName(tr("Setup"));
     pbFolder->setAccessibleName(tr("Folder"));
     pbHide->setAccessibleName(tr("Hide"));
     pbShutDown->setAccessibleName(tr("Shut down"));
+    pbTransfers->setAccessibleName(tr("Transfers"));
 }
 
 void frmMain::arrange() {
@@ -207,6 +213,7 @@ void frmMain::arrange() {
     statistics->setColumnMinimumWidth(2, widest);
     statistics->setColumnStretch(0, 1);
     statistics->setColumnStretch(3, 1);
+    statistics->addWidget(pbTransfers, 0, 4, 3, 1, Qt::AlignRight | Qt::AlignBottom);
 
     auto* buttons = new QHBoxLayout;
     for (QPushButton* each : {pbStartStop, pbSetup, pbFolder, pbHide, pbShutDown}) {
@@ -225,7 +232,8 @@ void frmMain::arrange() {
     layout->setSizeConstraint(QLayout::SetFixedSize);
 
     QWidget* previous = pbStartStop;
-    for (QWidget* next : std::initializer_list<QWidget*>{pbSetup, pbFolder, pbHide, pbShutDown, lblDebug}) {
+    for (QWidget* next :
+         std::initializer_list<QWidget*>{pbSetup, pbFolder, pbHide, pbShutDown, pbTransfers, lblDebug}) {
         setTabOrder(previous, next);
         previous = next;
     }

@@ -35,6 +35,7 @@ class frmMain : public QWidget, public MainView {
         std::function<void()> pbFolder_Click;
         std::function<void()> pbHide_Click;
         std::function<void()> pbShutDown_Click;
+        std::function<void()> pbTransfers_Click;
         std::function<void()> lblDebug_DblClick;
         /// The window is about to close; false keeps it open.
         std::function<bool(CloseReason)> queryUnload;
@@ -116,6 +117,7 @@ class frmMain : public QWidget, public MainView {
     QPushButton* pbFolder;
     QPushButton* pbHide;
     QPushButton* pbShutDown;
+    QPushButton* pbTransfers;
 };
 
 }  // namespace velmora

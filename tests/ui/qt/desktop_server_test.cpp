@@ -1,11 +1,13 @@
 // The desktop server on a real terminal: a cable that is pulled out and comes back.
 #include "apps/desktop_server.h"
 
+#include <QDateTime>
 #include <QLabel>
 #include <QLocale>
 #include <QMessageBox>
 #include <QProcess>
 #include <QPushButton>
+#include <QTableView>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -14,6 +16,7 @@
 #include <memory>
 
 #include "support/pty_pair.h"
+#include "ui/transfer_list.h"
 
 namespace velmora {
 namespace {
@@ -46,6 +49,7 @@ class DesktopServerTest : public QObject {
     void whileItWaitsForItsCableItCanBeStopped();
     void missingDeviceTellsWhatToDo();
     void displayStatisticsAndFileAgree();
+    void aTransferIsListedAndRememberedOverStarts();
     void cablePulledAmidAFileLosesItWhateverTheUserAnswers_data();
     void cablePulledAmidAFileLosesItWhateverTheUserAnswers();
     void debugSwitchIsShownForTheWholeCommandLineOnly_data();
@@ -77,6 +81,18 @@ class DesktopServerTest : public QObject {
                                         QStringLiteral("--type"), QStringLiteral("block:2")});
     }
     QLabel* label(const char* name) const { return server->window().findChild<QLabel*>(QLatin1String(name)); }
+    static QWidget* transfers() {
+        for (QWidget* window : QApplication::topLevelWidgets()) {
+            if (window->objectName() == QLatin1String("frmTransfers")) {
+                return window;
+            }
+        }
+        return nullptr;
+    }
+    /// What stands in the first row of the transfers.
+    static QString transferText(int column) {
+        return transfers()->findChild<QTableView*>()->model()->index(0, column).data().toString();
+    }
     QPushButton* startStop() const {
         return server->window().findChild<QPushButton*>(QStringLiteral("pbStartStop"));
     }
@@ -188,6 +204,32 @@ void DesktopServerTest::displayStatisticsAndFileAgree() {
     QVERIFY(QLocale::c().toInt(label("tlBytesRecv")->text()) >= int{kSize});
     QVERIFY2(line1.texts.contains(QStringLiteral("Downloading file")), qPrintable(line1.texts.join('|')));
     QVERIFY2(line2.texts.contains(QStringLiteral("Notes.ob2")), qPrintable(line2.texts.join('|')));
+    cable.closeWriteChannel();
+    QTRY_COMPARE(cable.state(), QProcess::NotRunning);
+}
+
+void DesktopServerTest::aTransferIsListedAndRememberedOverStarts() {
+    layCable();
+    QVERIFY(server->start(""));
+    QTest::mouseClick(server->window().findChild<QPushButton*>(QStringLiteral("pbTransfers")),
+                      Qt::LeftButton);
+    QVERIFY(transfers()->isVisible());
+    startSaving(3000);
+    QTRY_COMPARE_WITH_TIMEOUT(organiser.state(), QProcess::NotRunning, 30'000);
+    QTRY_COMPARE(transferText(TransferList::Result), QStringLiteral("complete"));
+    QCOMPARE(transferText(TransferList::Name), QStringLiteral("Notes.ob2"));
+    QCOMPARE(transferText(TransferList::Direction), QStringLiteral("save"));
+    const QString began = transferText(TransferList::Time);
+    QVERIFY2(qAbs(QDateTime::fromString(began, QStringLiteral("yyyy-MM-dd hh:mm:ss"))
+                      .secsTo(QDateTime::currentDateTime())) < 60,
+             qPrintable(began));
+    server->controller().queryUnload(CloseReason::Program);
+    QVERIFY(!transfers()->isVisible());
+    server.reset();
+
+    server = std::make_unique<DesktopServer>();
+    QCOMPARE(transferText(TransferList::Name), QStringLiteral("Notes.ob2"));
+    QCOMPARE(transferText(TransferList::Time), began);
     cable.closeWriteChannel();
     QTRY_COMPARE(cable.state(), QProcess::NotRunning);
 }

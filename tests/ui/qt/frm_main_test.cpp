@@ -49,6 +49,7 @@ class FrmMainTest : public QObject {
     void setupIsClosedToTheUserWhileTheServerRuns();
     void noPortLeavesOnlySetup();
     void folderButtonAsksForTheFolder();
+    void transfersAreShownByTheButtonAndByItsKeys();
     void hideButtonMinimises();
     void captionCarriesTheStateWhileMinimised();
     void shutDownButtonEndsTheProgram();
@@ -89,7 +90,7 @@ void FrmMainTest::everyControlIsThereUnderItsName() {
           "tlBottomText_2", "tlBottomText_3", "tlProgVers", "imgProgName", "imgBGround", "lblDebug"}) {
         QVERIFY2(rig->window.findChild<QLabel*>(QLatin1String(name)) != nullptr, name);
     }
-    for (const char* name : {"pbStartStop", "pbSetup", "pbFolder", "pbHide", "pbShutDown"}) {
+    for (const char* name : {"pbStartStop", "pbSetup", "pbFolder", "pbHide", "pbShutDown", "pbTransfers"}) {
         QVERIFY2(rig->window.findChild<QPushButton*>(QLatin1String(name)) != nullptr, name);
     }
 }
@@ -313,6 +314,13 @@ void FrmMainTest::folderButtonAsksForTheFolder() {
     QCOMPARE(rig->folders, 1);
 }
 
+void FrmMainTest::transfersAreShownByTheButtonAndByItsKeys() {
+    click("pbTransfers");
+    QCOMPARE(rig->transferWindows, 1);
+    QTest::keyClick(button("pbStartStop"), Qt::Key_T, Qt::ControlModifier);
+    QCOMPARE(rig->transferWindows, 2);
+}
+
 void FrmMainTest::hideButtonMinimises() {
     click("pbHide");
     QVERIFY(rig->window.isMinimized());
@@ -456,17 +464,18 @@ void FrmMainTest::everyControlIsNamedAndInTheKeyboardsOrder() {
 
     QStringList order;
     button("pbStartStop")->setFocus();
-    for (int i = 0; i < 6; ++i) {
+    for (int i = 0; i < 7; ++i) {
         order.append(rig->window.focusWidget()->objectName());
         QTest::keyClick(rig->window.focusWidget(), Qt::Key_Tab);
     }
-    QCOMPARE(order, QStringList({"pbStartStop", "pbSetup", "pbFolder", "pbHide", "pbShutDown", "lblDebug"}));
+    QCOMPARE(order, QStringList({"pbStartStop", "pbSetup", "pbFolder", "pbHide", "pbShutDown", "pbTransfers",
+                                 "lblDebug"}));
     QCOMPARE(rig->window.focusWidget(), button("pbStartStop"));
 }
 
 void FrmMainTest::mnemonicsAreUnique() {
     QSet<QString> letters;
-    for (const char* name : {"pbStartStop", "pbSetup", "pbFolder", "pbHide", "pbShutDown"}) {
+    for (const char* name : {"pbStartStop", "pbSetup", "pbFolder", "pbHide", "pbShutDown", "pbTransfers"}) {
         const QString text = button(name)->text();
         const qsizetype position = text.indexOf(QLatin1Char('&'));
         QVERIFY2(position >= 0, name);

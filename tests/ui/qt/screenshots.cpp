@@ -1,6 +1,6 @@
 // velmora-screenshots FOLDER: pictures of the main window in its states, as real calls of the controller
-// bring them about, of the setup dialog and of the protocol monitor. For the documents, and for a look at
-// what a change does.
+// bring them about, of the setup dialog, the protocol monitor and the transfers. For the documents, and for a
+// look at what a change does.
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
@@ -24,6 +24,7 @@
 #include "support/window_rig.h"
 #include "ui/qt/frm_debug.h"
 #include "ui/qt/frm_setup.h"
+#include "ui/qt/frm_transfers.h"
 
 namespace {
 
@@ -188,6 +189,42 @@ bool saveMonitor(const QDir& folder, const char* name) {
     return save(window, folder, name);
 }
 
+Transfer pictured(const char* name, TransferDirection direction, std::uint64_t bytes, int seconds,
+                  int minute) {
+    Transfer transfer;
+    transfer.name = name;
+    transfer.path = std::string("/home/anna/Documents/Psion Files/") + name;
+    transfer.direction = direction;
+    transfer.bytes = bytes;
+    transfer.duration = std::chrono::seconds{seconds};
+    transfer.began = {2026, 11, 22, 19, minute, 35};
+    return transfer;
+}
+
+// An evening's transfers, with one under way.
+bool saveTransfers(const QDir& folder, const char* name) {
+    TransferList list([](const DateTime& universal) { return universal; });
+    frmTransfers window(list, {});
+    window.present();
+    list.transferEnded(pictured("Contacts.odb", TransferDirection::Save, 16'392, 17, 31), {});
+    list.transferEnded(pictured("Memo.odb", TransferDirection::Load, 0, 0, 33),
+                       {TransferResult::Refused, 189, "no such file"});
+    Transfer sheet = pictured("Sums.wks", TransferDirection::Save, 1'204, 3, 36);
+    sheet.remarks = {"C2: =A1-(B1-C1) comes back as =A1-B1-C1", "C3: =0.5*A1 comes back as =5.0E-1*A1"};
+    list.transferEnded(sheet, {});
+    list.transferEnded(pictured("Diary.ob3", TransferDirection::Save, 4'100, 6, 38),
+                       {TransferResult::Incomplete, 0, "the link ended"});
+    Transfer running = pictured("Journal.odb", TransferDirection::Load, 0, 0, 41);
+    running.size = 32'110;
+    list.transferBegan(running);
+    running.bytes = 9'633;
+    running.duration = std::chrono::seconds{10};
+    list.transferMoved(running);
+    window.findChild<TransferTable*>()->update();
+    QApplication::processEvents();
+    return save(window, folder, name);
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -220,7 +257,11 @@ int main(int argc, char** argv) {
     if (!saveSetup(folder, "setup-no-adapter", {})) {
         return 1;
     }
-    if (!saveMonitor(folder, "protocol-monitor")) {
+    if (!saveMonitor(folder, "protocol-monitor") || !saveTransfers(folder, "transfers")) {
+        return 1;
+    }
+    QApplication::setPalette(darkPalette());
+    if (!saveTransfers(folder, "transfers-dark")) {
         return 1;
     }
     return 0;

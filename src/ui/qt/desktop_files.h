@@ -1,0 +1,17 @@
+// Files handed over to the desktop.
+#pragma once
+
+#include <QString>
+#include <string>
+
+namespace velmora {
+
+// Paths are in the system's encoding. What cannot be done is returned as a sentence for the user; it is empty
+// when the desktop took the file over.
+
+/// Opens a file, or a folder, with the program that the user has for it.
+QString openOnDesktop(const std::string& path);
+/// Shows the folder that a file lies in, with the file selected where the desktop can.
+QString showInFolder(const std::string& path);
+
+}  // namespace velmora
