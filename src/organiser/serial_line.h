@@ -10,6 +10,7 @@
 #include "serial/comm_device.h"
 #include "serial/comm_plain.h"
 #include "serial/port_names.h"
+#include "serial/waiting_reader.h"
 
 namespace velmora {
 
@@ -26,14 +27,12 @@ class SerialLine : public OrganiserLine {
     Time now() const override;
 
   private:
-    std::string takeWaiting();
-    std::string waitForOne(Time atMost);
     void check(SystemError error) const;
 
     std::string name_;
     PortNames names_;
     std::unique_ptr<CommDevice> device_;
-    CommTimeouts timeouts_;
+    WaitingReader reader_;
 };
 
 }  // namespace velmora

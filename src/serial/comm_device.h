@@ -13,6 +13,8 @@
 #include <string>
 #include <string_view>
 
+#include "serial/mode_string.h"
+
 namespace velmora {
 
 class PortNames;
@@ -91,6 +93,9 @@ class CommDevice {
     virtual void setDtrControl(bool enable) = 0;
     /// Gives the control block to the device; kInvalidParameter when the device refuses it.
     virtual SystemError setState() = 0;
+    /// What the device has been set to, asked of the system; nothing when it does not tell. What a device
+    /// takes without having it, as a pseudo-terminal does parity, it tells as it is.
+    virtual std::optional<LineSettings> settingsInUse() const { return std::nullopt; }
     /// Gives the device back. Whatever is returned, it is no longer open afterwards.
     virtual SystemError close() = 0;
 

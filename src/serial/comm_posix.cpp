@@ -20,6 +20,7 @@
 #include "serial/open_diagnosis.h"
 #include "serial/port_names.h"
 #include "serial/system_text.h"
+#include "serial/terminal_settings_posix.h"
 #include "serial/unlisted_rate.h"
 
 namespace velmora {
@@ -35,15 +36,6 @@ constexpr milliseconds kWriteRetry{50};
 /// How long closing waits for bytes that the driver still has to send.
 constexpr milliseconds kDrainLimit{1000};
 constexpr milliseconds kDrainStep{5};
-
-constexpr std::array<std::pair<std::uint32_t, speed_t>, 30> kRates = {{
-    {50, B50},           {75, B75},           {110, B110},         {134, B134},         {150, B150},
-    {200, B200},         {300, B300},         {600, B600},         {1200, B1200},       {1800, B1800},
-    {2400, B2400},       {4800, B4800},       {9600, B9600},       {19200, B19200},     {38400, B38400},
-    {57600, B57600},     {115200, B115200},   {230400, B230400},   {460800, B460800},   {500000, B500000},
-    {576000, B576000},   {921600, B921600},   {1000000, B1000000}, {1152000, B1152000}, {1500000, B1500000},
-    {2000000, B2000000}, {2500000, B2500000}, {3000000, B3000000}, {3500000, B3500000}, {4000000, B4000000},
-}};
 
 /// The one translator of system errors. EIO has the number that would mean "in use", so it gets its own.
 SystemError translated(int error) {
@@ -67,65 +59,6 @@ SystemError translated(int error) {
 
 SystemError result(int returned) {
     return returned < 0 ? translated(errno) : kSuccess;
-}
-
-void makeRaw(termios& block) {
-    cfmakeraw(&block);
-    block.c_iflag &= ~static_cast<tcflag_t>(IXOFF | IXANY | INPCK);
-    block.c_cflag &= ~static_cast<tcflag_t>(CRTSCTS);
-    block.c_cflag |= CREAD | CLOCAL | HUPCL;
-    block.c_cc[VMIN] = 0;
-    block.c_cc[VTIME] = 0;
-}
-
-/// False for a rate that the block has no place for.
-bool applyBaud(termios& block, std::uint32_t baud) {
-    const auto* const rate =
-        std::find_if(kRates.begin(), kRates.end(), [baud](const auto& entry) { return entry.first == baud; });
-    if (rate == kRates.end()) {
-        return false;
-    }
-    // Neither refuses a rate that has a name.
-    cfsetispeed(&block, rate->second);
-    cfsetospeed(&block, rate->second);
-    return true;
-}
-
-void applyParity(termios& block, Parity parity) {
-    tcflag_t flags = 0;
-    switch (parity) {
-        case Parity::None:
-            break;
-        case Parity::Odd:
-            flags = PARENB | PARODD;
-            break;
-        case Parity::Even:
-            flags = PARENB;
-            break;
-        case Parity::Mark:
-            flags = PARENB | CMSPAR | PARODD;
-            break;
-        case Parity::Space:
-            flags = PARENB | CMSPAR;
-            break;
-    }
-    block.c_cflag &= ~static_cast<tcflag_t>(PARENB | PARODD | CMSPAR);
-    block.c_cflag |= flags;
-}
-
-void applyDataBits(termios& block, int dataBits) {
-    constexpr std::array<tcflag_t, 4> sizes = {CS5, CS6, CS7, CS8};
-    block.c_cflag &= ~static_cast<tcflag_t>(CSIZE);
-    block.c_cflag |= sizes.at(static_cast<std::size_t>(dataBits - 5));
-}
-
-/// With five data bits the hardware makes one and a half stop bits of CSTOPB.
-void applyStopBits(termios& block, StopBits stopBits) {
-    if (stopBits == StopBits::One) {
-        block.c_cflag &= ~static_cast<tcflag_t>(CSTOPB);
-    } else {
-        block.c_cflag |= CSTOPB;
-    }
 }
 
 }  // namespace
@@ -204,14 +137,10 @@ SystemError PosixCommDevice::buildState(const std::string& settings) {
     if (!line) {
         return kInvalidParameter;
     }
-    makeRaw(block_);
     unlistedRate_.reset();
-    if (!applyBaud(block_, line->baud)) {
+    if (!applyLineSettings(block_, *line)) {
         unlistedRate_ = line->baud;
     }
-    applyParity(block_, line->parity);
-    applyDataBits(block_, line->dataBits);
-    applyStopBits(block_, line->stopBits);
     return kSuccess;
 }
 
@@ -232,6 +161,16 @@ SystemError PosixCommDevice::setState() {
         setModemLine(TIOCM_DTR, *dtrControl_);
     }
     return kSuccess;
+}
+
+std::optional<LineSettings> PosixCommDevice::settingsInUse() const {
+    termios block{};
+    if (tcgetattr(fd_, &block) < 0) {
+        return std::nullopt;
+    }
+    LineSettings line = lineSettingsOf(block);
+    line.baud = unlistedRate(fd_).value_or(line.baud);
+    return line;
 }
 
 SystemError PosixCommDevice::close() {

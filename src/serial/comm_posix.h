@@ -39,6 +39,7 @@ class PosixCommDevice : public CommDevice {
     SystemError buildState(const std::string& settings) override;
     void setDtrControl(bool enable) override { dtrControl_ = enable; }
     SystemError setState() override;
+    std::optional<LineSettings> settingsInUse() const override;
     SystemError close() override;
 
     SystemError clearError(CommStatus& status) override;

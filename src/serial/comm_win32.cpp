@@ -27,6 +27,32 @@ DWORD sizeOf(std::size_t bytes) {
     return static_cast<DWORD>(std::min(bytes, most));
 }
 
+Parity parityOf(BYTE value) {
+    switch (value) {
+        case ODDPARITY:
+            return Parity::Odd;
+        case EVENPARITY:
+            return Parity::Even;
+        case MARKPARITY:
+            return Parity::Mark;
+        case SPACEPARITY:
+            return Parity::Space;
+        default:
+            return Parity::None;
+    }
+}
+
+StopBits stopBitsOf(BYTE value) {
+    switch (value) {
+        case ONE5STOPBITS:
+            return StopBits::OneAndHalf;
+        case TWOSTOPBITS:
+            return StopBits::Two;
+        default:
+            return StopBits::One;
+    }
+}
+
 }  // namespace
 
 std::unique_ptr<CommDevice> makeCommDevice(const PortNames& names) {
@@ -83,6 +109,20 @@ void Win32CommDevice::setDtrControl(bool enable) {
 
 SystemError Win32CommDevice::setState() {
     return result(SetCommState(handle_, &block_));
+}
+
+std::optional<LineSettings> Win32CommDevice::settingsInUse() const {
+    DCB block{};
+    block.DCBlength = sizeof block;
+    if (GetCommState(handle_, &block) == FALSE) {
+        return std::nullopt;
+    }
+    LineSettings line;
+    line.baud = block.BaudRate;
+    line.parity = parityOf(block.Parity);
+    line.dataBits = block.ByteSize;
+    line.stopBits = stopBitsOf(block.StopBits);
+    return line;
 }
 
 SystemError Win32CommDevice::close() {

@@ -42,6 +42,8 @@ class Win32CommDevice : public CommDevice {
     void setDtrControl(bool enable) override;
     /// SetCommState.
     SystemError setState() override;
+    /// GetCommState.
+    std::optional<LineSettings> settingsInUse() const override;
     /// SetCommState with what the port had before, CloseHandle.
     SystemError close() override;
 

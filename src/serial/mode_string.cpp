@@ -146,4 +146,26 @@ std::optional<LineSettings> parseModeString(std::string_view text) {
     return LineSettings{*baud, *parity, *dataBits, *stopBits};
 }
 
+std::string modeString(const LineSettings& line) {
+    constexpr std::string_view kParities = "NOEMS";
+    constexpr std::array<std::string_view, 3> kStops = {"1", "1.5", "2"};
+    std::string text = std::to_string(line.baud) + ",";
+    text += kParities.at(static_cast<std::size_t>(line.parity));
+    text += "," + std::to_string(line.dataBits) + ",";
+    text += kStops.at(static_cast<std::size_t>(line.stopBits));
+    return text;
+}
+
+int stopHalves(StopBits stopBits) {
+    switch (stopBits) {
+        case StopBits::One:
+            return 2;
+        case StopBits::OneAndHalf:
+            return 3;
+        case StopBits::Two:
+            return 4;
+    }
+    return 2;  // unreachable: every number of stop bits is above
+}
+
 }  // namespace velmora

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <string>
 #include <string_view>
 
 namespace velmora {
@@ -23,6 +24,9 @@ struct LineSettings {
     friend bool operator==(const LineSettings&, const LineSettings&) = default;
 };
 
+/// How long the line is high behind a byte at least, in halves of a bit.
+int stopHalves(StopBits stopBits);
+
 /// Reads a mode string; nothing when it is not one. Letters may be small or capital. Two forms:
 ///
 /// - by position: "9600,N,8,1", all four fields, blanks around a field allowed;
@@ -33,5 +37,8 @@ struct LineSettings {
 /// and a half only with them. The rates 11, 15, 30, 60, 12, 24, 48, 96 and 19 are short for 110, 150, 300,
 /// 600, 1200, 2400, 4800, 9600 and 19200. Flow control, in either form, is not offered: the link has its own.
 std::optional<LineSettings> parseModeString(std::string_view text);
+
+/// The mode string of some settings, by position: "9600,N,8,1".
+std::string modeString(const LineSettings& line);
 
 }  // namespace velmora

@@ -42,28 +42,6 @@ bool isNoSerialPort(std::int32_t code) {
 #endif
 }
 
-enum class Cause { Absent, NoPermission, Busy, Settings, Failed };
-
-Cause causeOf(std::int32_t code, const DeviceFacts& facts) {
-    switch (code) {
-        case kPortInUse:
-        case kCommAlreadyOpen:
-            return Cause::Busy;
-        case kInvalidParameter:
-        case kCommInvalidSettings:
-            return Cause::Settings;
-        case kNoSuchPort:
-        case kCommInvalidPort:
-            return Cause::Absent;
-        default:
-            break;
-    }
-    if (!facts.exists) {
-        return Cause::Absent;
-    }
-    return facts.mayOpen ? Cause::Failed : Cause::NoPermission;
-}
-
 std::string goneSentence(const std::string& device) {
     return device + " does not respond; is the adapter still plugged in?";
 }
@@ -104,6 +82,26 @@ std::string failedSentence(const std::string& device, std::int32_t code) {
 
 }  // namespace
 
+OpenFailureKind openFailureKind(std::int32_t code, const DeviceFacts& facts) {
+    switch (code) {
+        case kPortInUse:
+        case kCommAlreadyOpen:
+            return OpenFailureKind::Busy;
+        case kInvalidParameter:
+        case kCommInvalidSettings:
+            return OpenFailureKind::Settings;
+        case kNoSuchPort:
+        case kCommInvalidPort:
+            return OpenFailureKind::Absent;
+        default:
+            break;
+    }
+    if (!facts.exists) {
+        return OpenFailureKind::Absent;
+    }
+    return facts.mayOpen ? OpenFailureKind::Failed : OpenFailureKind::NoPermission;
+}
+
 std::string permissionSentence(const std::string& device, const DeviceFacts& facts) {
     const std::string start = "No permission to open " + device;
     if (facts.owner.empty()) {
@@ -125,16 +123,16 @@ std::string permissionSentence(const std::string& device, const DeviceFacts& fac
 
 std::string describeOpenFailure(const std::string& device, std::int32_t code, const DeviceFacts& facts,
                                 const std::string& holder) {
-    switch (causeOf(code, facts)) {
-        case Cause::Absent:
+    switch (openFailureKind(code, facts)) {
+        case OpenFailureKind::Absent:
             return absentSentence(device, facts);
-        case Cause::NoPermission:
+        case OpenFailureKind::NoPermission:
             return permissionSentence(device, facts);
-        case Cause::Busy:
+        case OpenFailureKind::Busy:
             return device + " is in use by " + (holder.empty() ? "another program" : holder) + ".";
-        case Cause::Settings:
+        case OpenFailureKind::Settings:
             return device + " does not take these line settings; choose another speed.";
-        case Cause::Failed:
+        case OpenFailureKind::Failed:
             return failedSentence(device, code);
     }
     return {};  // unreachable: every cause is above
@@ -142,7 +140,7 @@ std::string describeOpenFailure(const std::string& device, std::int32_t code, co
 
 std::string describeOpenFailure(const std::string& device, std::int32_t code) {
     const DeviceFacts facts = gatherDeviceFacts(device);
-    const bool busy = causeOf(code, facts) == Cause::Busy;
+    const bool busy = openFailureKind(code, facts) == OpenFailureKind::Busy;
     return describeOpenFailure(device, code, facts, busy ? findHolder(device) : std::string());
 }
 

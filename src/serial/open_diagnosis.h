@@ -8,6 +8,12 @@
 
 namespace velmora {
 
+/// What kept a device from being opened.
+enum class OpenFailureKind : std::uint8_t { Absent, NoPermission, Busy, Settings, Failed };
+
+/// The kind of a failure that gave the number `code`, as describeOpenFailure takes it.
+OpenFailureKind openFailureKind(std::int32_t code, const DeviceFacts& facts);
+
 /// Who may open a device that this login may not, and how the login gets there.
 std::string permissionSentence(const std::string& device, const DeviceFacts& facts);
 

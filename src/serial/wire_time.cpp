@@ -3,21 +3,6 @@
 #include <algorithm>
 
 namespace velmora {
-namespace {
-
-int stopHalves(StopBits stopBits) {
-    switch (stopBits) {
-        case StopBits::One:
-            return 2;
-        case StopBits::OneAndHalf:
-            return 3;
-        case StopBits::Two:
-            return 4;
-    }
-    return 2;  // unreachable: every number of stop bits is above
-}
-
-}  // namespace
 
 std::chrono::nanoseconds byteTime(const LineSettings& settings) {
     constexpr int kStartBit = 1;

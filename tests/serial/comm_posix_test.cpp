@@ -55,6 +55,14 @@ class CommPosixTest : public ::testing::Test {
     PosixCommDevice device{names};
 };
 
+TEST_F(CommPosixTest, TellsWhatItIsSetTo) {
+    EXPECT_EQ(device.settingsInUse(), std::nullopt);
+    openLine();
+    // A pseudo-terminal has a rate of its own, but no parity.
+    ASSERT_EQ(apply("2400,E,8,1"), kSuccess);
+    EXPECT_EQ(device.settingsInUse(), LineSettings({2400, Parity::None, 8, StopBits::One}));
+}
+
 TEST_F(CommPosixTest, BytesPassUnchangedInBothDirections) {
     openLine();
     std::string every;

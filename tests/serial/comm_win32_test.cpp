@@ -37,6 +37,7 @@ TEST(CommWin32DeviceTest, EveryCallOnAClosedDeviceIsABadHandle) {
     EXPECT_EQ(device.setTimeouts({}), ERROR_INVALID_HANDLE);
     EXPECT_EQ(device.getState(), ERROR_INVALID_HANDLE);
     EXPECT_EQ(device.setState(), ERROR_INVALID_HANDLE);
+    EXPECT_EQ(device.settingsInUse(), std::nullopt);
     EXPECT_EQ(device.clearError(status), ERROR_INVALID_HANDLE);
     EXPECT_EQ(device.read(&byte, 1, transferred), ERROR_INVALID_HANDLE);
     EXPECT_EQ(device.write("x", transferred), ERROR_INVALID_HANDLE);
@@ -171,6 +172,7 @@ TEST_F(CommWin32Test, TheStateIsWhatWasSet) {
     EXPECT_EQ(device.controlBlock().BaudRate, 1200U);
     EXPECT_EQ(device.controlBlock().ByteSize, 8);
     EXPECT_EQ(device.controlBlock().Parity, NOPARITY);
+    EXPECT_EQ(device.settingsInUse(), LineSettings{1200});
 }
 
 TEST_F(CommWin32Test, TheLineTakesDtrOffAsItTakesDtrOn) {

@@ -90,5 +90,12 @@ constexpr BadMode kBadModes[] = {
 INSTANTIATE_TEST_SUITE_P(Rows, BadModeTest, ::testing::ValuesIn(kBadModes),
                          [](const auto& row) { return std::string(row.param.name); });
 
+TEST(ModeStringTest, SettingsHaveAModeStringThatGivesThemBack) {
+    EXPECT_EQ(modeString(LineSettings()), "9600,N,8,1");
+    for (const char* mode : {"110,O,7,2", "300,E,7,1", "50,M,5,1.5", "4000000,S,8,2"}) {
+        EXPECT_EQ(modeString(*parseModeString(mode)), mode);
+    }
+}
+
 }  // namespace
 }  // namespace velmora
