@@ -15,7 +15,7 @@ import sys
 # What lies directly below each folder; whatever lies below that is below it, too, and may be included. A folder within
 # one that stands here belongs to it. Those that do not exist yet have their places.
 BELOW = {
-    "apps": ["ui/qt", "startup", "eventloop", "organiser", "files"],
+    "apps": ["ui/qt", "startup", "eventloop", "organiser", "files", "doctor"],
     "ui/qt": ["ui/win32"],
     "ui/win32": ["ui"],
     "ui": ["server"],
@@ -25,7 +25,7 @@ BELOW = {
     "server": ["services", "capture", "doctor"],
     "services": ["spreadsheet", "transfers", "link"],
     "capture": ["link"],
-    "doctor": ["link"],
+    "doctor": ["link", "arguments"],
     "eventloop": ["serial"],
     "transfers": ["link"],
     "link": ["serial"],

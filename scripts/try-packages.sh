@@ -27,7 +27,7 @@ installs ./old/velmora-server_*.deb
 expect "the server needs no windows" bash -c '! dpkg-query -W "libqt6widgets*" 2> /dev/null'
 expect "the service's user may open serial devices" bash -c 'id -nG velmora | grep -qw dialout'
 expect "its configuration's folder is its own" test "$(stat -c %U /etc/velmora)" = velmora
-for program in velmorad velmora-organiser velmora-files velmora-cable; do
+for program in velmorad velmora-organiser velmora-files velmora-doctor velmora-cable; do
   expect "$program answers" "$program" --version
 done
 installs ./old/velmora_*.deb ./old/velmora-doc_*.deb

@@ -12,6 +12,9 @@
 #include <system_error>
 #include <utility>
 
+#include "serial/terminal_settings_posix.h"
+#include "serial/unlisted_rate.h"
+
 namespace velmora::tools {
 namespace {
 
@@ -60,9 +63,22 @@ void CableEnd::hold() {
     }
 }
 
-CableDirection::CableDirection(CableEnd& from, CableEnd& to, unsigned baud)
+LineSettings CableEnd::settings() const {
+    termios mode{};
+    if (::tcgetattr(master_, &mode) != 0) {
+        fail("tcgetattr");
+    }
+    LineSettings line = lineSettingsOf(mode);
+    if (line.baud == 0) {
+        line.baud = unlistedRate(master_).value_or(LineSettings().baud);
+    }
+    return line;
+}
+
+CableDirection::CableDirection(CableEnd& from, CableEnd& to, unsigned baud, Change change)
     : from_(from),
       to_(to),
+      change_(std::move(change)),
       byteTime_(baud == 0 ? 0 : std::chrono::nanoseconds(std::chrono::seconds(kBitsPerByte)).count() / baud) {
 }
 
@@ -73,12 +89,20 @@ bool CableDirection::receive(Time now) {
         return errno == EAGAIN || errno == EINTR;
     }
     if (count > 0) {
-        const Time start = std::max(now, lineFree_);
-        lineFree_ = start + byteTime_ * count;
-        waiting_ += static_cast<std::size_t>(count);
-        bursts_.push_back({std::string(buffer.data(), static_cast<std::size_t>(count)), 0, start});
+        const std::string_view bytes(buffer.data(), static_cast<std::size_t>(count));
+        put(change_ ? change_(bytes) : std::string(bytes), now);
     }
     return count > 0;
+}
+
+void CableDirection::put(std::string bytes, Time now) {
+    if (bytes.empty()) {
+        return;
+    }
+    const Time start = std::max(now, lineFree_);
+    lineFree_ = start + byteTime_ * static_cast<std::int64_t>(bytes.size());
+    waiting_ += bytes.size();
+    bursts_.push_back({std::move(bytes), 0, start});
 }
 
 CableDirection::Time CableDirection::nextArrival() const {

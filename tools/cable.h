@@ -4,8 +4,12 @@
 #include <chrono>
 #include <cstddef>
 #include <deque>
+#include <functional>
 #include <optional>
 #include <string>
+#include <string_view>
+
+#include "serial/mode_string.h"
 
 namespace velmora::tools {
 
@@ -22,6 +26,10 @@ class CableEnd {
     /// Marks the device as in the exclusive use of this program: only a privileged one can still open it.
     void hold();
 
+    /// What the program that has the device open has set it to. A pseudo-terminal keeps the rate, but no
+    /// parity.
+    LineSettings settings() const;
+
     int master() const { return master_; }
     const std::string& device() const { return device_; }
 
@@ -37,10 +45,16 @@ class CableDirection {
   public:
     using Time = std::chrono::steady_clock::time_point;
 
-    CableDirection(CableEnd& from, CableEnd& to, unsigned baud);
+    /// What becomes of a run of bytes on the way.
+    using Change = std::function<std::string(std::string_view bytes)>;
+
+    /// `change` may be none: then bytes arrive as they are.
+    CableDirection(CableEnd& from, CableEnd& to, unsigned baud, Change change = {});
 
     /// Takes what has been written at the one end. Returns false when that end is gone.
     bool receive(Time now);
+    /// Puts bytes on the line behind those that are under way.
+    void put(std::string bytes, Time now);
     /// Hands over what has arrived by now.
     void deliver(Time now);
     /// When the next byte arrives; Time::max() when none is under way.
@@ -60,6 +74,7 @@ class CableDirection {
     };
     CableEnd& from_;
     CableEnd& to_;
+    Change change_;
     std::chrono::nanoseconds byteTime_;
     Time lineFree_{};  // when the last byte taken has left the line
     std::deque<Burst> bursts_;

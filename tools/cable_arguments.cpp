@@ -23,6 +23,12 @@ class CableSyntax : public ProgramSyntax {
                });
         flag("--held", "The devices are in use by the cable itself, so that\nopening them fails",
              result.held);
+        option("--ill", "<illness>[,<illness>...]",
+               "Make the line ill. The first device is the computer's,\nthe second the handheld's. rate=RATE "
+               "and form=7E1: the\nhandheld's settings; mute, deaf, dead: a direction or both;\nloopback, "
+               "echo, modem, quiet-modem, xmodem, text: what is\nthere in its place; noise=P, losses=P, "
+               "breaks=P, stuck:\nwhat the line does to bytes, with a probability",
+               [&result](const std::string& value) { result.illness = readIllness("--ill", value); });
         pairOption("--link", "<file1> <file2>", "Make symbolic links to the devices, for this run",
                    [&result](const std::string& first, const std::string& second) {
                        result.links = {first, second};

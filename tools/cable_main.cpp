@@ -16,6 +16,7 @@
 #include <cmath>
 #include <cstddef>
 #include <iostream>
+#include <optional>
 #include <string>
 #include <system_error>
 #include <vector>
@@ -23,11 +24,13 @@
 #include "arguments/program.h"
 #include "cable.h"
 #include "cable_arguments.h"
+#include "ill_cable.h"
 
 namespace {
 
 using velmora::tools::CableDirection;
 using velmora::tools::CableEnd;
+using velmora::tools::IllCable;
 using Clock = std::chrono::steady_clock;
 
 volatile sig_atomic_t stopRequested = 0;
@@ -59,13 +62,15 @@ double medianMicroseconds(std::vector<Clock::duration> times) {
 }
 
 /// Carries until the input closes; returns how long the first end took for each of its answers.
-std::vector<Clock::duration> carry(CableDirection& forth, CableDirection& back) {
+std::vector<Clock::duration> carry(CableDirection& forth, CableDirection& back, IllCable* ill) {
     std::vector<Clock::duration> answers;
     std::array<pollfd, 3> watched = {pollfd{forth.source(), POLLIN, 0}, pollfd{back.source(), POLLIN, 0},
                                      pollfd{STDIN_FILENO, POLLIN, 0}};
     while (stopRequested == 0) {
         timespec storage{};
-        const timespec* wait = waitTime(std::min(forth.nextArrival(), back.nextArrival()), storage);
+        const Clock::time_point unasked = ill != nullptr ? ill->nextUnasked() : Clock::time_point::max();
+        const timespec* wait =
+            waitTime(std::min({forth.nextArrival(), back.nextArrival(), unasked}), storage);
         if (::ppoll(watched.data(), watched.size(), wait, nullptr) < 0 && errno != EINTR) {
             break;
         }
@@ -78,6 +83,9 @@ std::vector<Clock::duration> carry(CableDirection& forth, CableDirection& back) 
         if ((watched[0].revents != 0 && !forth.receive(now)) ||
             (watched[1].revents != 0 && !back.receive(now))) {
             break;
+        }
+        if (ill != nullptr) {
+            back.put(ill->takeForFirst(now), now);
         }
         forth.deliver(Clock::now());
         back.deliver(Clock::now());
@@ -133,9 +141,13 @@ int join(const velmora::tools::CableArguments& arguments) {
     if (!std::cout) {
         return 0;  // told by runProgram
     }
-    CableDirection forth(first, second, arguments.baud);
-    CableDirection back(second, first, arguments.baud);
-    const auto answers = carry(forth, back);
+    std::optional<IllCable> ill;
+    if (arguments.illness) {
+        ill.emplace(*arguments.illness, first);
+    }
+    CableDirection forth(first, second, arguments.baud, ill ? ill->fromFirst() : CableDirection::Change());
+    CableDirection back(second, first, arguments.baud, ill ? ill->toFirst() : CableDirection::Change());
+    const auto answers = carry(forth, back, ill ? &*ill : nullptr);
     std::cout << "carried " << forth.carried() << ' ' << back.carried() << '\n'
               << "answers " << answers.size() << ", median " << std::llround(medianMicroseconds(answers))
               << " us\n";

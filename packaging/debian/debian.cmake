@@ -35,7 +35,8 @@ A Psion Organiser II calls over a serial cable, saves its files on this
 computer and loads them back. This package has velmorad, the server for a
 machine in a cupboard, with its systemd units; velmora-organiser, the
 handheld's side of the link; velmora-files, the same conversions on files;
-and velmora-cable, a cable on one machine.")
+velmora-doctor, which finds out why a line does not work; and velmora-cable,
+a cable on one machine.")
 velmora_deb(doc velmora-doc doc
   "Psion Organiser II server, documents
 The user guide, and what there is to know of the configuration, the file

@@ -5,7 +5,7 @@ set(here ${CMAKE_CURRENT_LIST_DIR})
 # Debian's folder of documents is called as the package is, in small letters.
 set(documents ${CMAKE_INSTALL_DATAROOTDIR}/doc/velmora)
 # The documents for owners, which link to each other only.
-set(documented user-guide configuration messages formats headless organiser-tool reliability windows)
+set(documented user-guide configuration messages formats headless organiser-tool cable-doctor reliability windows)
 
 # velmora_unit(NAME CONFIGURATION FOLDER DESCRIPTION): a unit of the server without a window.
 function(velmora_unit name configuration folder description)
@@ -24,7 +24,7 @@ endfunction()
 
 include(${here}/manual/manual.cmake)
 
-install(TARGETS velmora-organiser velmora-files velmora-cable COMPONENT server)
+install(TARGETS velmora-organiser velmora-files velmora-doctor velmora-cable COMPONENT server)
 install(FILES ${here}/70-velmora.rules DESTINATION lib/udev/rules.d COMPONENT server)
 install(FILES ${here}/sysusers.conf DESTINATION lib/sysusers.d RENAME velmora.conf COMPONENT server)
 install(FILES ${here}/tmpfiles.conf DESTINATION lib/tmpfiles.d RENAME velmora.conf COMPONENT server)

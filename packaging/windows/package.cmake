@@ -1,15 +1,15 @@
 # What is installed on Windows, and the target "package": the installer and the archive.
 
 if(VELMORA_TOOLKIT)
-  set(programs velmora velmorad velmora-organiser velmora-files)
+  set(programs velmora velmorad velmora-organiser velmora-files velmora-doctor)
 else()
-  set(programs velmora-organiser velmora-files)
+  set(programs velmora-organiser velmora-files velmora-doctor)
 endif()
 install(TARGETS ${programs} RUNTIME DESTINATION .)
 
 # A double click opens a page in the browser; Windows has nothing that opens Markdown.
 include(packaging/documents.cmake)
-velmora_pages(pages user-guide windows configuration messages formats headless organiser-tool)
+velmora_pages(pages user-guide windows configuration messages formats headless organiser-tool cable-doctor)
 install(FILES ${pages} DESTINATION docs)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs/images DESTINATION docs FILES_MATCHING PATTERN "*.png")
 

@@ -27,7 +27,8 @@ class CommandLinesTest : public ServerFixture {
         return run(serverSide->command(program, arguments), variables);
     }
 
-    std::vector<std::string> programs = {"velmora", "velmorad", "velmora-organiser", "velmora-files"};
+    std::vector<std::string> programs = {"velmora", "velmorad", "velmora-organiser", "velmora-files",
+                                         "velmora-doctor"};
 };
 
 TEST_F(CommandLinesTest, HelpAndVersionAreAnsweredWithoutADisplay) {

@@ -12,7 +12,7 @@ import tempfile
 import unittest
 
 MANUAL = pathlib.Path(sys.argv[1]).resolve() / "manual"
-PROGRAMS = ("velmora", "velmorad", "velmora-organiser", "velmora-files", "velmora-cable")
+PROGRAMS = ("velmora", "velmorad", "velmora-organiser", "velmora-files", "velmora-doctor", "velmora-cable")
 
 # Stands for the programs, which would list this machine's ports and this user's folder.
 PROGRAM = """#!/bin/sh

@@ -41,12 +41,12 @@ class Install(unittest.TestCase):
 
     def test_every_program_answers(self):
         self.find("bin/velmora-cable")
-        for name in ("velmora", "velmorad", "velmora-organiser", "velmora-files"):
+        for name in ("velmora", "velmorad", "velmora-organiser", "velmora-files", "velmora-doctor"):
             status, said = tool(self.find("bin/" + name), "--version")
             self.assertEqual((status, said.split()[0]), (0, name))
 
     def test_manual_pages_and_completions_lie_where_they_are_looked_for(self):
-        for name in ("velmora", "velmorad", "velmora-organiser", "velmora-files", "velmora-cable"):
+        for name in ("velmora", "velmorad", "velmora-organiser", "velmora-files", "velmora-doctor", "velmora-cable"):
             self.find(f"share/man/man1/{name}.1")
             self.find(f"share/bash-completion/completions/{name}")
             self.find(f"share/zsh/vendor-completions/_{name}")

@@ -13,7 +13,7 @@ import unittest
 
 BUILD = pathlib.Path(sys.argv[1])
 PAGES = sorted((BUILD / "manual").glob("*.[15]"))
-PROGRAMS = ("velmora", "velmorad", "velmora-organiser", "velmora-files", "velmora-cable")
+PROGRAMS = ("velmora", "velmorad", "velmora-organiser", "velmora-files", "velmora-doctor", "velmora-cable")
 
 
 def program(name):

@@ -13,7 +13,7 @@ import xml.etree.ElementTree
 BUILD = pathlib.Path(sys.argv[1])
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 VERSION = re.search(r"^project\(Velmora VERSION ([0-9.]+)", (ROOT / "CMakeLists.txt").read_text(), re.M)[1]
-PROGRAMS = ("bin/velmora", "bin/velmorad", "bin/velmora-organiser", "bin/velmora-files", "tools/velmora-cable")
+PROGRAMS = ("bin/velmora", "bin/velmorad", "bin/velmora-organiser", "bin/velmora-files", "bin/velmora-doctor", "tools/velmora-cable")
 
 
 class Version(unittest.TestCase):

@@ -14,6 +14,7 @@ OTHER_TEXTS = {
     "startup/default_ini.cpp": "the default configuration file",
     "*/command_line.cpp": "the help",
     "apps/*_arguments.cpp": "the help",
+    "doctor/doctor_arguments.cpp": "the help",
     "organiser/tour.cpp": "what a tour goes through",
     "link/*": "the trace",
     "ui/debug_log_model.h": "the trace",

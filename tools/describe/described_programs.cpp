@@ -6,13 +6,15 @@
 #include "apps/server_arguments.h"
 #include "arguments/usage_error.h"
 #include "cable_arguments.h"
+#include "doctor/doctor_arguments.h"
 #include "files/command_line.h"
 #include "organiser/command_line.h"
 
 namespace velmora::describe {
 
 std::vector<ProgramOutline> describedPrograms() {
-    return {desktopOutline(), serverOutline(), commandLineOutline(), filesOutline(), tools::cableOutline()};
+    return {desktopOutline(), serverOutline(), commandLineOutline(),
+            filesOutline(),   doctorOutline(), tools::cableOutline()};
 }
 
 ProgramOutline describedProgram(const std::string& name) {

@@ -14,7 +14,7 @@ function(velmora_describe program form file folder component)
   set(made ${made} PARENT_SCOPE)
 endfunction()
 
-set(described velmora-organiser velmora-files velmora-cable)
+set(described velmora-organiser velmora-files velmora-doctor velmora-cable)
 if(VELMORA_TOOLKIT)
   list(APPEND described velmorad)
 endif()

@@ -1,0 +1,70 @@
+// velmora-doctor: finds out why a line does not work.
+#include <iostream>
+#include <string>
+
+#include "apps/console.h"
+#include "arguments/program.h"
+#include "base/event_yield.h"
+#include "doctor/comm_examined_line.h"
+#include "doctor/device_lookup.h"
+#include "doctor/doctor_arguments.h"
+#include "doctor/doctor_report.h"
+#include "doctor/line_doctor.h"
+#include "platform/console_output.h"
+#include "platform/native.h"
+#include "serial/named_port.h"
+#include "serial/port_list.h"
+
+namespace {
+
+using namespace velmora;
+
+/// This program has no user interface that would want its turn.
+class NoEvents : public EventYield {
+  public:
+    void processEvents() override {}
+};
+
+/// Prints each finding as soon as it is there.
+class PrintedFindings : public StepObserver {
+  public:
+    void found(const StepFinding& finding) override { std::cout << findingLine(finding) << std::endl; }
+};
+
+Diagnosis examine(PortNames& names, const std::string& port, StepObserver* observer) {
+    const int number = placeNamedPort(names, port);
+    const ExaminedDevice device = lookUpDevice(names, number, port);
+    const auto comm = makeCommDevice(names);
+    const NativeClock clock;
+    NoEvents noEvents;
+    CommExaminedLine line(*comm, "COM" + std::to_string(number), device.name, noEvents,
+                          [&clock] { return clock.monotonic(); });
+    return LineDoctor(device, line, LineSettings(), observer).examine();
+}
+
+Diagnosis noPort() {
+    const std::string text = "No serial port is present.";
+    return {{Cause::DeviceMissing, 95, text}, {{DoctorStep::Device, StepStatus::Fault, text}}};
+}
+
+int run(const DoctorArguments& arguments) {
+    PortNames names;
+    const std::string port = arguments.port.empty() ? onlyPort(listPorts(names)) : arguments.port;
+    PrintedFindings printed;
+    if (!arguments.json && !port.empty()) {
+        std::cout << "Examining " << port << ", which takes up to a minute.\n";
+    }
+    const Diagnosis diagnosis =
+        port.empty() ? noPort() : examine(names, port, arguments.json ? nullptr : &printed);
+    std::cout << (arguments.json ? diagnosisAsJson(port, diagnosis) : verdictText(diagnosis.verdict));
+    return diagnosis.verdict.cause == Cause::None ? kStatusDone : kStatusFailed;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    openStandardStreams();
+    const auto console = showOnConsole(PrintedText::System);
+    return runProgram("velmora-doctor", std::cout, std::cerr,
+                      [argc, argv] { return run(readDoctorArguments(systemArguments(argc, argv))); });
+}

@@ -1,0 +1,16 @@
+// What a conversation with an Organiser says about the line.
+#pragma once
+
+#include <chrono>
+#include <optional>
+
+#include "doctor/diagnosis.h"
+#include "doctor/heard.h"
+
+namespace velmora {
+
+/// Judges what was heard with at least one good frame in it; `answerTime` as LineProbe::measureAnswer gives
+/// it. Nothing when the line is well.
+std::optional<Verdict> judgeAnswers(const Heard& heard, std::optional<std::chrono::microseconds> answerTime);
+
+}  // namespace velmora
