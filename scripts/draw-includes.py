@@ -20,7 +20,7 @@ BELOW = {
     "ui/win32": ["ui"],
     "ui": ["server"],
     "startup": ["server"],
-    "organiser": ["services", "arguments"],
+    "organiser": ["services", "capture", "arguments"],
     "files": ["services", "capture", "arguments"],
     "server": ["services", "capture", "doctor"],
     "services": ["spreadsheet", "transfers", "link"],

@@ -15,6 +15,7 @@
 #include "organiser/frame_text.h"
 #include "organiser/organiser_link.h"
 #include "organiser/progress.h"
+#include "organiser/replay_command.h"
 #include "organiser/serial_line.h"
 #include "platform/binary_streams.h"
 #include "platform/console_output.h"
@@ -39,7 +40,8 @@ ExitStatus run(const CommandLine& line) {
     OrganiserLine& used = faults ? static_cast<OrganiserLine&>(*faults) : device;
     LineSettings settings;
     settings.baud = static_cast<std::uint32_t>(line.baud);
-    OrganiserLink link(used, WireTime(settings), line.trace ? printFrame : OrganiserLink::FrameTrace());
+    const OrganiserLink::FrameTrace trace = line.trace ? printFrame : OrganiserLink::FrameTrace();
+    OrganiserLink link(used, WireTime(settings), trace);
 
     const bool tour = line.command.kind == CommandKind::Tour;
     const bool terminal = isTerminal(tour ? stdout : stderr);
@@ -47,7 +49,8 @@ ExitStatus run(const CommandLine& line) {
     const NativeClock clock;
     ProgressBar bar(tour ? std::cout : std::cerr, terminal && !line.trace, clock);
     const Console console{std::cin, std::cout, std::cerr, tour || terminal ? bar : silent};
-    return runCommand(line, link, console);
+    return line.command.kind == CommandKind::Replay ? runReplay(line.command.file, used, trace, console)
+                                                    : runCommand(line, link, console);
 }
 
 }  // namespace

@@ -46,14 +46,13 @@ void CaptureFile::begin() {
 void CaptureFile::addPort(const CapturedPort& port) {
     ports_.push_back(port);
     due_ += pcapngPort(port);
-    received_.clear();
-    sent_.clear();
+    mask_.clear();
 }
 
 void CaptureFile::addPacket(const CapturedPacket& packet) {
     CapturedPacket shown = packet;
     if (request_.masked) {
-        shown.bytes = (packet.direction == CaptureDirection::Sent ? sent_ : received_).mask(packet.bytes);
+        mask_.mask(shown);
     }
     try {
         write(shown);

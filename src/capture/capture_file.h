@@ -47,8 +47,7 @@ class CaptureFile : public CaptureTarget {
     Files& files_;
     CaptureRequest request_;
     std::function<void(const std::string&)> tell_;
-    FrameMask received_{CaptureDirection::Received};
-    FrameMask sent_{CaptureDirection::Sent};
+    PacketMask mask_;
     std::unique_ptr<File> file_;
     bool toMoveAway_ = false;          // the file is full and does not yet have its other name
     std::string due_;                  // blocks that must precede the next packet

@@ -1,6 +1,7 @@
 #include "capture/frame_mask.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "base/byte_text.h"
 #include "link/frame_cutter.h"
@@ -124,19 +125,35 @@ void FrameMask::beginCheck() {
     checkChange_ = {static_cast<char>(was[0] ^ is[0]), static_cast<char>(was[1] ^ is[1])};
 }
 
+void PacketMask::mask(CapturedPacket& packet) {
+    switch (packet.direction) {
+        case CaptureDirection::None:
+            packet.bytes.assign(packet.bytes.size(), kMasked);
+            break;
+        case CaptureDirection::Received:
+            packet.bytes = received_.mask(packet.bytes);
+            break;
+        case CaptureDirection::Sent:
+            packet.bytes = sent_.mask(packet.bytes);
+            break;
+    }
+}
+
+void PacketMask::clear() {
+    received_.clear();
+    sent_.clear();
+}
+
 Capture maskedCapture(const Capture& capture) {
-    FrameMask received(CaptureDirection::Received);
-    FrameMask sent(CaptureDirection::Sent);
+    PacketMask mask;
     Capture masked = capture;
     masked.masked = true;
     std::size_t port = 0;
     for (CapturedPacket& packet : masked.packets) {
-        if (packet.port != port) {
-            received.clear();
-            sent.clear();
-            port = packet.port;
+        if (std::exchange(port, packet.port) != packet.port) {
+            mask.clear();
         }
-        packet.bytes = (packet.direction == CaptureDirection::Sent ? sent : received).mask(packet.bytes);
+        mask.mask(packet);
     }
     return masked;
 }

@@ -44,6 +44,19 @@ class FrameMask {
     std::array<char, 2> checkChange_{};
 };
 
+/// Masks the packets of a recording, each direction for itself. Bytes of no direction are masked whole.
+class PacketMask {
+  public:
+    /// Masks the bytes of the packet that follows the one of the last call.
+    void mask(CapturedPacket& packet);
+    /// What follows passes over another port.
+    void clear();
+
+  private:
+    FrameMask received_{CaptureDirection::Received};
+    FrameMask sent_{CaptureDirection::Sent};
+};
+
 /// The packets of a capture, all masked, and the mark that they are.
 Capture maskedCapture(const Capture& capture);
 

@@ -102,9 +102,10 @@ class Syntax {
         addSheetCommands();
         addServices();
         addTour();
+        addReplay();
         program_.note("velmora-organiser COMMAND --help tells about a command.");
         program_.exitStatuses({{kDone, "done"},
-                               {kLocalProblem, "a file on this side"},
+                               {kLocalProblem, "a file on this side, or a replay that differs"},
                                {kWrongUsage, "wrong usage"},
                                {kRefused, "refused by the server"},
                                {kNoLink, "no link"}});
@@ -129,6 +130,7 @@ class Syntax {
     void addSheetCommands();
     void addServices();
     void addTour();
+    void addReplay();
     void finish();
 
     CommandSyntax command(const std::string& name, CommandKind kind, const std::string& help) {
@@ -306,6 +308,12 @@ void Syntax::addTour() {
     tour.option("--boot", "<name>", "Boot file to fetch on the way",
                 [this](const std::string& value) { command_.bootName = serverName("--boot", value); });
     addAddress(tour, "Load address of its code (default: 2000)", Presence::Optional);
+}
+
+void Syntax::addReplay() {
+    CommandSyntax replay =
+        command("replay", CommandKind::Replay, "Play a capture's Organiser and compare the answers");
+    replay.operand("CAPTURE", "File (pcapng), as velmorad --capture makes it, or \"-\"", file());
 }
 
 /// What follows from the options together.

@@ -30,15 +30,16 @@ enum class CommandKind : std::uint8_t {
     SheetSave,
     SheetLoad,
     Tour,
+    Replay,
     ListPorts,
 };
 
 /// What is to be done. Names of the server's files are Windows-1252 bytes, paths are UTF-8.
 struct Command {
     CommandKind kind{};
-    std::string file;                      ///< FILE or CELLS: a path on this side, "-" for standard input
-    std::string name;                      ///< NAME, PATTERN or --as: a name on the server
-    int fileType = 0;                      ///< --type: 0 data, 1 procedure, 2 to 16 block file
+    std::string file;  ///< FILE, CELLS or CAPTURE: a path on this side, "-" for standard input
+    std::string name;  ///< NAME, PATTERN or --as: a name on the server
+    int fileType = 0;  ///< --type: 0 data, 1 procedure, 2 to 16 block file
     FileMode mode = FileMode::Create;      ///< --mode
     std::optional<std::string> output;     ///< -o: a path on this side; without it, standard output
     bool text = false;                     ///< --text

@@ -305,6 +305,7 @@ ExitStatus runCommand(const CommandLine& line, OrganiserLink& link, const Consol
                 commands.sheetLoad();
                 break;
             case CommandKind::ListPorts:  // unreachable: needs no link, and is done before
+            case CommandKind::Replay:     // unreachable: has a link of its own
                 break;                    // unreachable: as above
             case CommandKind::Tour:
                 status = runTour(line, link, console);

@@ -15,6 +15,7 @@ namespace velmora {
 enum ExitStatus : int {
     kDone = 0,
     kLocalProblem = 1,  ///< a file on this side; in a tour also something that came back changed
+    kDiffers = 1,       ///< a replay: the server answers otherwise than it did
     kWrongUsage = 2,
     kRefused = 3,  ///< by the server
     kNoLink = 4,   ///< also a server whose answers make no sense

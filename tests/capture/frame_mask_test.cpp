@@ -111,6 +111,15 @@ TEST(FrameMask, ForgetsWhatItWasGiven) {
     EXPECT_EQ(mask.mask("a"), "x");
 }
 
+TEST(MaskedCapture, BytesWithoutADirectionDoNotDisturbTheOthers) {
+    test::CaptureScript script;
+    script.received(0, "\x16\x10").note(1, "n").received(2, test::ack(1).substr(2));
+    script.capture.packets[1].bytes = "secret";
+    const Capture shown = maskedCapture(script.capture);
+    EXPECT_EQ(shown.packets[1].bytes, "xxxxxx");
+    EXPECT_EQ(shown.packets[2].bytes, test::ack(1).substr(2));
+}
+
 TEST(MaskedCapture, MasksBothDirectionsAndSaysSo) {
     test::CaptureScript script;
     script

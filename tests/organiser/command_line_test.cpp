@@ -172,7 +172,7 @@ TEST(OrganiserCommandLine, DeviceIsNeeded) {
 TEST(OrganiserCommandLine, ItsOutlineHasTheLineEveryCommandAndEveryStatus) {
     const ProgramOutline outline = commandLineOutline();
     EXPECT_EQ(outline.name, "velmora-organiser");
-    EXPECT_EQ(outline.commands.size(), 16U);
+    EXPECT_EQ(outline.commands.size(), 17U);
     EXPECT_EQ(outline.statuses.size(), 5U);
     // Shells offer ports for this word.
     EXPECT_NE(std::ranges::find(outline.options, "<port>", &ArgumentOutline::value), outline.options.end());
