@@ -28,6 +28,10 @@ install(TARGETS velmora-organiser velmora-files velmora-doctor velmora-cable COM
 install(FILES ${here}/70-velmora.rules DESTINATION lib/udev/rules.d COMPONENT server)
 install(FILES ${here}/sysusers.conf DESTINATION lib/sysusers.d RENAME velmora.conf COMPONENT server)
 install(FILES ${here}/tmpfiles.conf DESTINATION lib/tmpfiles.d RENAME velmora.conf COMPONENT server)
+# Wireshark looks for neither of them there: which folder it looks into is its user's choice.
+install(FILES ${here}/../wireshark/organiser.lua DESTINATION ${CMAKE_INSTALL_DATADIR}/velmora/wireshark COMPONENT server)
+install(DIRECTORY ${here}/../wireshark/profile/ DESTINATION ${CMAKE_INSTALL_DATADIR}/velmora/wireshark/Velmora
+  COMPONENT server)
 if(VELMORA_TOOLKIT)
   install(TARGETS velmorad COMPONENT server)
   velmora_unit(velmorad /etc/velmora/Velmora.ini /var/lib/velmora/psion "")

@@ -60,6 +60,10 @@ class Install(unittest.TestCase):
         tool(self.find("bin/velmorad"), "--config", written, "--port", "/dev/null/none")
         self.assertEqual(example.read_bytes(), written.read_bytes())
 
+    def test_wireshark_can_be_given_the_dissector_and_its_profile(self):
+        for name in ("organiser.lua", "Velmora/colorfilters", "Velmora/preferences"):
+            self.find("share/velmora/wireshark/" + name)
+
     def test_the_licence_goes_along_once(self):
         self.find("share/doc/velmora/LICENSE")
         self.assertEqual(list(self.tree.rglob("copyright")), [], "packages have it in their own form")
