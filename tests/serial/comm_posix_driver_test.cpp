@@ -11,6 +11,7 @@
 
 #include "serial/comm_posix.h"
 #include "serial/port_names.h"
+#include "support/asked_settings.h"
 #include "support/failing_call.h"
 #include "support/line_driver.h"
 #include "support/pty_pair.h"
@@ -69,6 +70,25 @@ TEST_F(CommPosixDriverTest, TheLinesOfThisEndAreRaisedAndLoweredOneByOne) {
     EXPECT_EQ(driver.lines, TIOCM_RTS);
     EXPECT_EQ(device.escapeFunction(CommFunction::ClearRts), kSuccess);
     EXPECT_EQ(driver.lines, 0);
+}
+
+TEST_F(CommPosixDriverTest, TheDriverIsAskedForParityDataBitsAndStopBits) {
+    constexpr std::array<std::pair<const char*, tcflag_t>, 8> rows = {
+        {{"9600,N,8,1", CS8},
+         {"9600,O,7,1", CS7 | PARENB | PARODD},
+         {"9600,E,7,1", CS7 | PARENB},
+         {"9600,M,6,1", CS6 | PARENB | CMSPAR | PARODD},
+         {"9600,S,6,1", CS6 | PARENB | CMSPAR},
+         {"9600,N,5,1.5", CS5 | CSTOPB},
+         {"9600,E,8,2", CS8 | PARENB | CSTOPB},
+         {"9600,N,8,1", CS8}}};
+    constexpr tcflag_t kAsked = CSIZE | PARENB | PARODD | CMSPAR | CSTOPB;
+    for (const auto& [settings, flags] : rows) {
+        device.getState();
+        EXPECT_EQ(device.buildState(settings), kSuccess);
+        device.setState();  // a pseudo-terminal may refuse what it has not
+        EXPECT_EQ(test::askedSettings().c_cflag & kAsked, flags) << settings;
+    }
 }
 
 TEST_F(CommPosixDriverTest, TheDtrControlReachesTheLine) {

@@ -5,6 +5,7 @@
 #include <termios.h>
 #include <unistd.h>
 
+#include "support/asked_settings.h"
 #include "support/failing_call.h"
 #include "support/failing_open.h"
 
@@ -20,6 +21,7 @@ int tcgetattr(int descriptor, termios* settings) noexcept {
     return velmora::test::callOrFail("tcgetattr", &tcgetattr, descriptor, settings);
 }
 int tcsetattr(int descriptor, int when, const termios* settings) noexcept {
+    velmora::test::askedSettings() = *settings;
     return velmora::test::callOrFail("tcsetattr", &tcsetattr, descriptor, when, settings);
 }
 
