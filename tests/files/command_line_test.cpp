@@ -39,6 +39,8 @@ TEST_F(FilesCommandLineTest, ItsOutlineHasEveryCommandAndStatus) {
     EXPECT_EQ(outline.name, "velmora-files");
     EXPECT_EQ(outline.commands.size(), 5U);
     EXPECT_EQ(outline.statuses.size(), 4U);
+    EXPECT_EQ(outline.statuses.front().first, 0);
+    EXPECT_EQ(outline.statuses.front().second, "done");
 }
 
 }  // namespace

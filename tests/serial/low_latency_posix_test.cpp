@@ -11,7 +11,7 @@ class Driver {
   public:
     LowLatency::Control control() {
         return [this](unsigned long request, serial_struct& settings) {
-            if (!hasSettings) {
+            if (!hasSettings || (hidden && request == TIOCGSERIAL)) {
                 return -1;
             }
             if (request == TIOCGSERIAL) {
@@ -33,6 +33,7 @@ class Driver {
     bool lowLatency() const { return (flags & ASYNC_LOW_LATENCY) != 0; }
 
     bool hasSettings = true;
+    bool hidden = false;  ///< they may be set but not be read
     bool refuses = false;
     bool ignores = false;
     int flags = ASYNC_SKIP_TEST;
@@ -62,6 +63,13 @@ TEST_F(LowLatencyTest, ADeviceThatIsGoneIsNotGivenBackTo) {
     driver.hasSettings = false;
     latency.giveBack(driver.control());
     EXPECT_EQ(driver.writes, writes);
+    EXPECT_FALSE(latency.taken());
+}
+
+TEST_F(LowLatencyTest, SettingsThatCannotBeReadAreNotOverwritten) {
+    driver.hidden = true;
+    latency.take(driver.control());
+    EXPECT_EQ(driver.writes, 0);
     EXPECT_FALSE(latency.taken());
 }
 

@@ -108,6 +108,12 @@ INSTANTIATE_TEST_SUITE_P(
         Diagnosis{"VanishedMeanwhile", kCommFailed, {}, "", "/dev/ttyS1 does not exist"}),
     [](const auto& row) { return std::string(row.param.name); });
 
+TEST(OpenDiagnosisTest, WhatTheSystemSaysIsASentence) {
+    const std::string said = describeOpenFailure("/dev/ttyS1", kOutOfMemory, openableAdapter(), "");
+    EXPECT_TRUE(said.ends_with('.')) << said;
+    EXPECT_FALSE(said.ends_with("..")) << said;
+}
+
 TEST(OpenDiagnosisTest, LooksAtTheDeviceItself) {
     EXPECT_EQ(describeOpenFailure("COM99", kCommInvalidPort),
               "COM99 does not exist; is the adapter plugged in, and is it the right port?");

@@ -33,6 +33,18 @@ TEST(PortReportTest, TheTableHasALineForEachPortAndAlignsItsColumns) {
         "COM5  /dev/ttyUSB0  FTDI FT232R USB UART  in use by minicom (process 12)  usb:0403:6001:A5\n");
 }
 
+TEST(PortReportTest, AColumnIsAsWideAsItsCharactersNotItsBytes) {
+    PortIdentity port = adapter();
+    port.product =
+        "c\xC3\xA2"
+        "ble s\xC3\xA9rie";
+    const std::string table = portTable({port});
+    const std::size_t head = table.find("State");
+    const std::size_t line = table.find('\n') + 1;
+    const std::size_t accents = 2;  // a byte more each
+    EXPECT_EQ(table.find("in use by", line) - line, head + accents) << table;
+}
+
 TEST(PortReportTest, ThePortThatMayNotBeOpenedSaysWhichGroupToJoin) {
     PortIdentity port = standardPort();
     port.mayOpen = false;

@@ -329,7 +329,9 @@ TEST_F(Startup, AFailureTellsWhetherItWasThePorts) {
 TEST_F(Startup, TheSearchEndsWhenTheProgramIsToldToEnd) {
     givenIni("[Settings]\r\nPort=0\r\n");
     form_.endsAfterChecks = 3;
-    EXPECT_EQ(start().outcome, StartupOutcome::Abandoned);
+    const StartupReport report = start();
+    EXPECT_EQ(report.outcome, StartupOutcome::Abandoned);
+    EXPECT_EQ(report.number, 0) << "it is no failure";
     EXPECT_THAT(form_.checked, ElementsAre(1, 2, 3));
     EXPECT_THAT(form_.calls, ElementsAre("load", "setVersionTexts", "unload"));
     EXPECT_THAT(form_.warnings, IsEmpty());
@@ -401,6 +403,15 @@ TEST_F(Startup, APortOfTheRunThatHasNoNumberAtAllIsNoPort) {
         form_.portNumbers["/dev/odd"] = number;
         overrides_.port = "/dev/odd";
         expectFailure(start(), "init_Ports", 68);
+    }
+}
+
+TEST_F(Startup, TheFirstAndTheLastNumberArePorts) {
+    for (const int number : {1, 32'767}) {
+        form_.portNumbers["/dev/odd"] = number;
+        overrides_.port = "/dev/odd";
+        EXPECT_EQ(start().outcome, StartupOutcome::Running);
+        EXPECT_EQ(form_.scriptedPort.number, number);
     }
 }
 

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <string>
+#include <vector>
 
 #include "base/run_time_error.h"
 #include "startup/settings.h"
@@ -45,6 +46,17 @@ TEST_F(EffectiveSettingsTest, WithoutAFileEverySettingHasItsDefaultAndNothingIsM
     EXPECT_FALSE(memory.fileExists(kPath));
     EXPECT_FALSE(memory.folderExists("/home/Documents/Psion Files"));
     EXPECT_TRUE(box.shown.empty());
+}
+
+TEST_F(EffectiveSettingsTest, TheSectionsHaveTheOrderOfTheFile) {
+    givenLine("[Ports]\r\nCOM7=/dev/x");
+    std::vector<std::string> sections;
+    for (const EffectiveSetting& setting : effective()) {
+        if (sections.empty() || sections.back() != setting.section) {
+            sections.push_back(setting.section);
+        }
+    }
+    EXPECT_THAT(sections, ::testing::ElementsAre("Settings", "OnExit", "Ports"));
 }
 
 TEST_F(EffectiveSettingsTest, AnEntryOfTheFileCountsAsItIsRead) {

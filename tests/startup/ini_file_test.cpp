@@ -160,6 +160,13 @@ TEST_F(IniFile, KeysThatDifferInASignAreNotAlike) {
     EXPECT_THAT(dictionary, ElementsAre(Pair("A@", "3"), Pair("A[", "1"), Pair("A`", "4"), Pair("A{", "2")));
 }
 
+TEST_F(IniFile, KeysThatDifferInTheirFirstLetterOnlyAreNotAlike) {
+    givenEntry("Port=1\r\nSort=2\r\nFort=3");
+    SectionDictionary dictionary;
+    ini.GetSectEntriesDict(dictionary);
+    EXPECT_THAT(dictionary, ElementsAre(Pair("Fort", "3"), Pair("Port", "1"), Pair("Sort", "2")));
+}
+
 TEST_F(IniFile, SectionsAreListedWithoutTheirComments) {
     given(";[Not]\r\n[Settings] ; comment\r\n  [B]\nA=[x]\r\n[C]x\r\n[D]]\r\n[");
     ini.setSectionName("S");

@@ -157,6 +157,11 @@ TEST_F(SettingsFile, PortsAreGivenDevices) {
                 ElementsAre(Pair("COM300", "/dev/\xC3\xA9"), Pair("COM7", "/dev/serial/by-id/x")));
 }
 
+TEST_F(SettingsFile, TheFirstAndTheLastPortAreGivenDevices) {
+    given("[Ports]\r\nCOM1=/dev/first\r\nCOM32767=/dev/last\r\n");
+    EXPECT_THAT(readPortDevices(ini), ElementsAre(Pair("COM1", "/dev/first"), Pair("COM32767", "/dev/last")));
+}
+
 TEST_F(SettingsFile, WhatIsNoPortIsLeftOut) {
     given("[Ports]\r\nCOM0=/a\r\nCOM=/a\r\nCOM-1=/a\r\nCOM1x=/a\r\nCOM32768=/a\r\nLPT1=/a\r\nCOM5=\r\nx\r\n");
     EXPECT_TRUE(readPortDevices(ini).empty());
