@@ -40,6 +40,10 @@ std::string DesktopDialogs::browseForFolder(QWidget& window, const FolderQuestio
     return browseForFolderOver(window, question);
 }
 
+void DesktopDialogs::offerCapture(std::function<std::string()> capture) {
+    debugWindow_.offerCapture(std::move(capture));
+}
+
 void DesktopDialogs::toggleDebugWindow() {
     debugWindow_.toggle();
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QWidget>
+#include <functional>
 #include <string>
 
 #include "base/clock.h"
@@ -33,6 +34,8 @@ class DesktopDialogs {
 
     /// The protocol trace goes to the debug window.
     TraceSink& traceSink() { return debugWindow_.model(); }
+    /// The debug window offers to save what passed over the line, as frmDebug has it.
+    void offerCapture(std::function<std::string()> capture);
     /// Shows a hidden debug window, hides a shown one.
     void toggleDebugWindow();
     void closeDebugWindow();

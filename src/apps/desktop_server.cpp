@@ -4,6 +4,7 @@
 #include <QSessionManager>
 #include <QWindow>
 
+#include "capture/pcapng_writer.h"
 #include "server/port_test.h"
 
 namespace velmora {
@@ -34,6 +35,8 @@ DesktopServer::DesktopServer(const RunOverrides& overrides)
     controller().onPortFailure([this] { window_.showAdvice(portAdvice()); });
     window_.setActions(windowActions());
     transfers_.follow(program_.core());
+    program_.record(captured_);
+    dialogs_.offerCapture([this] { return pcapngFile(captured_.capture()); });
 
     QObject::connect(qApp, &QGuiApplication::commitDataRequest, &session_,
                      [this](QSessionManager&) { sessionEnds_ = true; });

@@ -9,6 +9,7 @@
 #include "apps/native_position_store.h"
 #include "apps/platform_parts.h"
 #include "apps/server_program.h"
+#include "capture/capture_ring.h"
 #include "startup/run_overrides.h"
 #include "ui/qt/frm_main.h"
 #include "ui/qt/qt_message_box.h"
@@ -55,6 +56,7 @@ class DesktopServer {
     frmMain window_;
     QtMessageBox box_;
     DesktopTransfers transfers_;
+    CaptureRing captured_;  // for a fault that is looked into once it has happened
     ServerProgram program_;
     NativePositionStore positions_;
     Registry registry_;

@@ -92,7 +92,10 @@ QMenuBar* frmDebug::buildMenus() {
         addEntry("mnuFindPrevious", QStringLiteral("Find &previous"), QKeySequence(Qt::SHIFT | Qt::Key_F3));
     connect(previous, &QAction::triggered, this, [this] { this->find(LogLines::Direction::Backward); });
     auto* bar = new QMenuBar;
-    bar->addMenu(QStringLiteral("&File"))->addAction(save);
+    mnuSaveCapture = addEntry("mnuSaveCapture", QStringLiteral("Save ca&pture…"), {});
+    mnuSaveCapture->setVisible(false);
+    connect(mnuSaveCapture, &QAction::triggered, this, &frmDebug::saveCaptureAs);
+    bar->addMenu(QStringLiteral("&File"))->addActions({save, mnuSaveCapture});
     QMenu* edit = bar->addMenu(QStringLiteral("&Edit"));
     edit->addActions({copy, copyEverything, select});
     edit->addSeparator();
@@ -264,13 +267,43 @@ bool frmDebug::saveTo(const QString& path) {
     if (written && file.commit()) {
         return true;
     }
-    QMessageBox box(
-        QMessageBox::Critical, windowTitle(),
-        QStringLiteral("The log could not be saved in\n%1\n\n%2\n\nChoose another folder or name.")
-            .arg(QDir::toNativeSeparators(path), file.errorString()),
-        QMessageBox::Ok, this);
+    showFailedSave(QStringLiteral("The log could not be saved in\n%1\n\n%2\n\nChoose another folder or name.")
+                       .arg(QDir::toNativeSeparators(path), file.errorString()));
+    return false;
+}
+
+void frmDebug::showFailedSave(const QString& words) {
+    QMessageBox box(QMessageBox::Critical, windowTitle(), words, QMessageBox::Ok, this);
     box.setTextFormat(Qt::PlainText);
     box.exec();
+}
+
+void frmDebug::offerCapture(std::function<std::string()> capture) {
+    capture_ = std::move(capture);
+    mnuSaveCapture->setVisible(true);
+}
+
+void frmDebug::saveCaptureAs() {
+    QFileDialog dialog(this, QStringLiteral("Save capture"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setNameFilters({QStringLiteral("Captures (*.pcapng)"), QStringLiteral("All files (*)")});
+    dialog.setDefaultSuffix(QStringLiteral("pcapng"));
+    if (dialog.exec() == QDialog::Accepted) {
+        saveCaptureTo(dialog.selectedFiles().constFirst());
+    }
+}
+
+bool frmDebug::saveCaptureTo(const QString& path) {
+    const std::string bytes = capture_();
+    QSaveFile file(path);
+    file.setDirectWriteFallback(true);
+    if (file.open(QIODevice::WriteOnly) && file.write(bytes.data(), static_cast<qint64>(bytes.size())) >= 0 &&
+        file.commit()) {
+        return true;
+    }
+    showFailedSave(
+        QStringLiteral("The capture could not be saved in\n%1\n\n%2\n\nChoose another folder or name.")
+            .arg(QDir::toNativeSeparators(path), file.errorString()));
     return false;
 }
 

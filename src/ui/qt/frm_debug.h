@@ -4,6 +4,7 @@
 #include <QTimer>
 #include <QWidget>
 #include <array>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -41,6 +42,11 @@ class frmDebug : public QWidget, private DebugLogView {
     /// Writes the whole log, UTF-8 with this system's line ends. A failure is shown in a box and leaves the
     /// file that was there.
     bool saveTo(const QString& path);
+    /// Offers to save what passed over the line; `capture` gives the bytes of the file. Without it there is
+    /// no such entry.
+    void offerCapture(std::function<std::string()> capture);
+    /// Writes those bytes; a failure as with saveTo. Requires: they are offered.
+    bool saveCaptureTo(const QString& path);
 
   protected:
     void showEvent(QShowEvent* event) override;
@@ -60,6 +66,8 @@ class frmDebug : public QWidget, private DebugLogView {
     QAction* addEntry(const QString& name, const QString& text, const QKeySequence& keys);
 
     void saveAs();
+    void saveCaptureAs();
+    void showFailedSave(const QString& words);
     void copySelection();
     void copyAll();
     void showFind();
@@ -67,10 +75,12 @@ class frmDebug : public QWidget, private DebugLogView {
     void find(LogLines::Direction direction);
     void tellFound(const QString& words);
 
+    std::function<std::string()> capture_;
     DebugLogModel model_;
     LogLines lines_;
     std::vector<std::string> waiting_;
     QTimer flushTimer_;
+    QAction* mnuSaveCapture = nullptr;
     LogView* txtLog = nullptr;
     QWidget* findBar = nullptr;
     QLineEdit* txtFind = nullptr;

@@ -2,6 +2,7 @@
 #include "apps/desktop_server.h"
 
 #include <QDateTime>
+#include <QFile>
 #include <QLabel>
 #include <QLocale>
 #include <QMessageBox>
@@ -15,6 +16,7 @@
 #include <fstream>
 #include <memory>
 
+#include "capture/pcapng_reader.h"
 #include "support/pty_pair.h"
 #include "ui/transfer_list.h"
 
@@ -50,6 +52,7 @@ class DesktopServerTest : public QObject {
     void missingDeviceTellsWhatToDo();
     void displayStatisticsAndFileAgree();
     void aTransferIsListedAndRememberedOverStarts();
+    void theMonitorSavesWhatPassedOverTheLine();
     void cablePulledAmidAFileLosesItWhateverTheUserAnswers_data();
     void cablePulledAmidAFileLosesItWhateverTheUserAnswers();
     void debugSwitchIsShownForTheWholeCommandLineOnly_data();
@@ -230,6 +233,36 @@ void DesktopServerTest::aTransferIsListedAndRememberedOverStarts() {
     server = std::make_unique<DesktopServer>();
     QCOMPARE(transferText(TransferList::Name), QStringLiteral("Notes.ob2"));
     QCOMPARE(transferText(TransferList::Time), began);
+    cable.closeWriteChannel();
+    QTRY_COMPARE(cable.state(), QProcess::NotRunning);
+}
+
+void DesktopServerTest::theMonitorSavesWhatPassedOverTheLine() {
+    layCable();
+    QVERIFY(server->start(""));
+    startSaving(100);
+    QTRY_COMPARE_WITH_TIMEOUT(organiser.state(), QProcess::NotRunning, 30'000);
+    QCOMPARE(organiser.exitCode(), 0);
+
+    frmDebug* monitor = nullptr;
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        monitor = monitor != nullptr ? monitor : qobject_cast<frmDebug*>(window);
+    }
+    QVERIFY(monitor);
+    const QString path = home->filePath(QStringLiteral("line.pcapng"));
+    QVERIFY(monitor->saveCaptureTo(path));
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const ReadCapture read = readPcapng(file.readAll().toStdString());
+    QVERIFY(!read.damage);
+    QVERIFY(!read.capture.ports.empty());
+    QCOMPARE(QString::fromStdString(read.capture.ports.back().settings), QStringLiteral("9600,N,8,1"));
+    bool contents = false;
+    for (const CapturedPacket& packet : read.capture.packets) {
+        contents = contents || (packet.direction == CaptureDirection::Received &&
+                                packet.bytes.find(std::string(100, 'x')) != std::string::npos);
+    }
+    QVERIFY(contents);
     cable.closeWriteChannel();
     QTRY_COMPARE(cable.state(), QProcess::NotRunning);
 }

@@ -326,6 +326,38 @@ class FrmDebugTest : public QObject {
         choose("mnuSave");
         QCOMPARE(contentOf(folder.filePath("evening.txt")), QByteArray("0.40\t10 \xE2\x82\xAC\n0.40\tend\n"));
     }
+    void offersACaptureOnlyWhereThereIsOne() {
+        QVERIFY(!child<QAction>("mnuSaveCapture")->isVisible());
+        window->offerCapture([] { return std::string("bytes"); });
+        QVERIFY(child<QAction>("mnuSaveCapture")->isVisible());
+    }
+    void savesTheCaptureByteForByteUnderTheChosenName() {
+        const QTemporaryDir folder;
+        window->offerCapture([] { return std::string("a\0\n\r\nb", 6); });
+        QTimer::singleShot(0, window.get(), [&folder] {
+            auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            QVERIFY(dialog);
+            dialog->findChild<QLineEdit*>("fileNameEdit")->setText(folder.filePath("line"));
+            QMetaObject::invokeMethod(dialog, "accept");
+        });
+        choose("mnuSaveCapture");
+        QFile file(folder.filePath("line.pcapng"));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(file.readAll(), QByteArray("a\0\n\r\nb", 6));
+    }
+    void aCaptureThatCannotBeSavedSaysWhatToDo() {
+        const QTemporaryDir folder;
+        QString said;
+        QTimer::singleShot(0, window.get(), [&said] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            QVERIFY(box);
+            said = box->text();
+            box->accept();
+        });
+        window->offerCapture([] { return std::string("bytes"); });
+        QVERIFY(!window->saveCaptureTo(folder.filePath("missing/line.pcapng")));
+        QVERIFY2(said.startsWith("The capture could not be saved in\n"), qPrintable(said));
+    }
     void aCancelledSaveWritesNothing() {
         QTimer::singleShot(0, window.get(), [] { QApplication::activeModalWidget()->close(); });
         choose("mnuSave");
