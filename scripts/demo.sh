@@ -2,7 +2,8 @@
 # The main job, end to end: builds, starts the server, and lets a virtual Organiser save and load files over
 # a line of two pseudo-terminals. With a display the server's window is shown; without one it is drawn all the
 # same, and its picture in the middle of a transfer is left as build/demo/window.png. What else is left:
-# build/demo/psion (the PC's side) and build/demo/organiser (what came back), compared at the end.
+# build/demo/psion (the PC's side) and build/demo/organiser (what came back), compared at the end, and
+# build/demo/demo.pcapng (what passed over the line).
 set -euo pipefail
 cd "$(dirname "$0")/.."
 scripts/setup.sh
@@ -21,7 +22,7 @@ exec 3> "$demo/hold"
 until [[ -e "$demo/handheld" ]]; do sleep 0.05; done
 
 export XDG_CONFIG_HOME="$demo/config"
-"$bin/velmorad" --port "$demo/pc" --folder "$demo/psion" > "$demo/server.log" 2>&1 &
+"$bin/velmorad" --port "$demo/pc" --folder "$demo/psion" --capture "$demo/demo.pcapng" > "$demo/server.log" 2>&1 &
 server=$!
 trap 'kill $server 2> /dev/null || true; exec 3>&-' EXIT
 until grep -q "Waiting for link" "$demo/server.log"; do
@@ -59,6 +60,9 @@ organiser tour
 
 kill $server
 wait $server
+echo
+echo "\$ velmora-files capture demo.pcapng | tail"
+"$bin/velmora-files" capture "$demo/demo.pcapng" | tail
 
 # The same server behind its window.
 mkdir -p "$XDG_CONFIG_HOME"
