@@ -30,6 +30,11 @@ ServerProgram::ServerProgram(PlatformParts& platform, RunOverrides overrides, co
                  [this](const std::string& line) { tellOfPort(line); }, face.waitFor},
              ServerCoreParts::SleepWatching{platform_.sleep, platform_.SleepTimer}}),
       slowPort_(core_.controller(), debug_),
+      lineWatch_({core_.crc, platform.clock, [this] { return core_.link().linkState(); },
+                  [this] { return platform_.port.Settings(); },
+                  [this](const std::string& text2, const std::string& text3) {
+                      controller().ShowPassing(text2, text3);
+                  }}),
       form_(core_.controller(), face.view, core_.options, platform.port, platform.portNames, face.window),
       ini_(platform.profiles, platform.rules, face.box, windowsFolder()),
       settingsStore_(ini_, overrides_),
@@ -54,6 +59,7 @@ ServerProgram::ServerProgram(PlatformParts& platform, RunOverrides overrides, co
     debug_.showStateOf(linkState);
     tap_.listenTo(linkState, [this] { return capturedPort(); });
     platform_.port.observe(tap_);
+    platform_.port.observe(lineWatch_);
 }
 
 StartupReport ServerProgram::start(const std::string& commandLine) {

@@ -10,6 +10,7 @@
 #include "base/message_box.h"
 #include "capture/capture_tap.h"
 #include "link/debug.h"
+#include "server/line_watch.h"
 #include "server/main_view.h"
 #include "server/slow_port_note.h"
 #include "startup/comms_link.h"
@@ -79,6 +80,7 @@ class ServerProgram {
     CaptureTap tap_;
     ServerCore core_;
     SlowPortNote slowPort_;
+    LineWatch lineWatch_;
     ControllerForm form_;
     clsIniFile ini_;
     IniSettingsStore settingsStore_;

@@ -6,10 +6,6 @@
 namespace velmora {
 namespace {
 
-using namespace std::chrono_literals;
-
-/// The server asks again after half a second; what takes nearly so long is too late too often.
-constexpr std::chrono::microseconds kLateAnswer = 400ms;
 /// What a spark of the plug may leave among the frames.
 constexpr std::size_t kMostStray = 3;
 /// The longest frame that is cut in two when the port is opened.

@@ -32,6 +32,7 @@ class LineDoctor {
     Found examineSettings();
     Found examineEcho();
     Found examineLink();
+    std::optional<LineProbe::Time> leastAnswerTime(const Heard& heard);
     Found examineAnswers(const Heard& heard);
     Verdict examineUnframed(const Heard& heard);
     Verdict examineSilence();

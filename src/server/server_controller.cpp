@@ -60,28 +60,32 @@ void ServerController::showOnMirror(const std::string& line1, const std::string&
 
 void ServerController::ShowText(const std::string& text1, const std::string& text2,
                                 const std::string& text3) {
-    lineDownShown_ = false;
+    passingShown_ = false;
     messages_.ShowText(text1, text2, text3);
     parts_.view.showMessages(messages_);
 }
 
 void ServerController::ShowWarning(const std::string& text2, const std::string& text3) {
-    lineDownShown_ = false;
+    passingShown_ = false;
     ++warnings_;
     messages_.ShowWarning(text2, text3);
     parts_.view.showMessages(messages_);
 }
 
 void ServerController::ShowClear() {
-    lineDownShown_ = false;
+    passingShown_ = false;
     messages_.ShowClear();
     parts_.view.showMessages(messages_);
 }
 
 void ServerController::ShowLineDown() {
+    ShowPassing(parts_.strings.LineDown, "");
+}
+
+void ServerController::ShowPassing(const std::string& text2, const std::string& text3) {
     if (!messages_.warning) {
-        ShowText("", parts_.strings.LineDown, "");
-        lineDownShown_ = true;
+        ShowText("", text2, text3);
+        passingShown_ = true;
     }
 }
 

@@ -125,6 +125,8 @@ class ServerController : public ServerWindow {
 
     void ShowText(const std::string& text1, const std::string& text2, const std::string& text3);
     void ShowClear();
+    /// Shows two message lines until something else happens. A warning that stands there stays.
+    void ShowPassing(const std::string& text2, const std::string& text3);
     /// Makes the statistics visible.
     void ShowStats();
     /// Gives the headings and the warning marker the catalogue's captions.
@@ -231,7 +233,7 @@ class ServerController : public ServerWindow {
     std::function<void()> onPortFailure_;
     DisplayMirror mirror_;
     MessageLines messages_;
-    bool lineDownShown_ = false;
+    bool passingShown_ = false;
     std::int32_t state_ = Welcome;
     std::string currentFile_;
     std::string errorMsg_;

@@ -91,7 +91,7 @@ void ServerController::enterNoPort() {
 }
 
 void ServerController::continueServing(std::int32_t next) {
-    if (next != WaitLink && lineDownShown_) {
+    if (next != WaitLink && passingShown_) {
         ShowClear();
     }
     if (next == WaitLink || next == Connect) {

@@ -80,6 +80,15 @@ TEST_F(CableDoctorTest, APortThatIsHeldIsNamedWithItsHolder) {
     EXPECT_NE(done.output.find("\nCause: device-busy,"), std::string::npos) << done.output;
 }
 
+TEST_F(CableDoctorTest, AServerThatWaitsSaysWhatItHearsInPlaceOfFrames) {
+    makeIll("rate=1200");
+    startServer();
+    letOrganiserCall();
+    EXPECT_TRUE(server->waitForOutput("The Organiser uses 1200 baud."))
+        << server->output() << server->error();
+    EXPECT_NE(server->output().find("Bytes come that make no frame."), std::string::npos) << server->output();
+}
+
 TEST_F(CableDoctorTest, AMissingPortIsNamed) {
     serverPort = (home / "missing").string();
     expectCause("device-missing");
