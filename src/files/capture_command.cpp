@@ -50,12 +50,14 @@ std::string frameLine(const CaptureEvent& event) {
     return line;
 }
 
+std::string portLine(const CapturedPort& port) {
+    return "port \t" + shownUtf8(port.device) + " " + shownUtf8(port.settings);
+}
+
 std::string lineOf(const CaptureEvent& event, const Capture& capture) {
     switch (event.kind) {
-        case CaptureEvent::Kind::Port: {
-            const CapturedPort& port = capture.ports[event.port];
-            return "port \t" + shownUtf8(port.device) + " " + shownUtf8(port.settings);
-        }
+        case CaptureEvent::Kind::Port:
+            return portLine(capture.ports[event.port]);
         case CaptureEvent::Kind::Frame:
             return frameLine(event);
         case CaptureEvent::Kind::Stray:
