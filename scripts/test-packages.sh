@@ -59,7 +59,9 @@ fi
 if [[ -n $architecture ]]; then
   scripts/setup.sh tests
   scripts/build.sh build -DBUILD_TESTING=ON -- e2e_tests
-  VELMORA_E2E_BUILD=$folder ctest --test-dir build --output-on-failure -j "$(nproc)" -L e2e -R '[.]' --progress
+  # The emulator starts no program by vfork, and has a file of its own where standard input was closed.
+  beyond='AProgramRunsAfterEachCompleteFile|AServerWithoutStandardStreamsKeepsItsLines'
+  VELMORA_E2E_BUILD=$PWD/$folder ctest --test-dir build --output-on-failure -j "$(nproc)" -L e2e -R '[.]' -E "$beyond" --progress
 fi
 
 bare_begin
