@@ -394,7 +394,8 @@ local function add_frame(tvb, pinfo, tree, frame)
   if frame.ack_in then subtree:add(f.ack_in, frame.ack_in):set_generated() end
   if frame.ack_to then
     subtree:add(f.ack_to, frame.ack_to):set_generated()
-    subtree:add(f.ack_time, NSTime(math.floor(frame.ack_time), math.floor(frame.ack_time % 1 * 1e9))):set_generated()
+    local nanoseconds = math.floor(frame.ack_time * 1e9 + 0.5)
+    subtree:add(f.ack_time, NSTime(math.floor(nanoseconds / 1e9), nanoseconds % 1e9)):set_generated()
   end
   if frame.repeated then
     subtree:add(f.repeated, true):set_generated()
