@@ -118,6 +118,9 @@ void SetupModel::setPortText(const std::string& text) {
     portText_ = text;
     ShowPortStatus(kOtherPort, kStatusNotChecked);
     okEnabled_ = !text.empty();
+    if (selected_ == kOtherPort) {
+        showStatusOfSelected();
+    }
     changed();
 }
 

@@ -234,9 +234,11 @@ TEST_F(Setup, TypingClearsTheOtherPortsMark) {
     open();
     model.setPortText("1");
     EXPECT_EQ(model.mark(5), (PortMark{kBlack, ""}));
+    EXPECT_EQ(model.statusText(), "");
     EXPECT_TRUE(model.okEnabled());
     model.setPortText("");
     EXPECT_FALSE(model.okEnabled());
+    EXPECT_EQ(model.statusText(), "");
 }
 
 TEST_F(Setup, CheckProbesTheTypedPort) {

@@ -7,10 +7,13 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QKeyEvent>
+#include <QKeySequence>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QRegularExpression>
+#include <QRegularExpressionValidator>
 #include <QTimer>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -70,8 +73,15 @@ QString describe(const PortIdentity& device) {
     return parts.join(QStringLiteral("  "));
 }
 
-// Keys without a character move the cursor or leave the box; they are no business of the filter.
+// Keys without a character move the cursor or leave the box, and those of the clipboard have a meaning of
+// their own; they are no business of the filter.
 bool isEditingKey(const QKeyEvent& key) {
+    for (const auto command : {QKeySequence::SelectAll, QKeySequence::Copy, QKeySequence::Cut,
+                               QKeySequence::Paste, QKeySequence::Undo, QKeySequence::Redo}) {
+        if (key.matches(command)) {
+            return true;
+        }
+    }
     switch (key.key()) {
         case Qt::Key_Delete:
         case Qt::Key_Return:
@@ -141,6 +151,9 @@ QGroupBox* frmSetup::makePorts() {
     txtPortNo->setAccessibleName(QStringLiteral("Port number"));
     txtPortNo->setMaximumWidth(fontMetrics().horizontalAdvance('0') * 10);
     txtPortNo->setAttribute(Qt::WA_InputMethodEnabled, false);
+    // What is pasted is held to the characters that may be typed.
+    txtPortNo->setValidator(
+        new QRegularExpressionValidator(QRegularExpression(QStringLiteral("[0-9%&'(.]*")), txtPortNo));
     pbCheckPort = new QPushButton(QStringLiteral("chec&k"));
     pbCheckPort->setObjectName("pbCheckPort");
     pbCheckPort->setAutoDefault(false);

@@ -1,7 +1,9 @@
 #include "ui/qt/frm_setup.h"
 
 #include <QCheckBox>
+#include <QClipboard>
 #include <QComboBox>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -192,6 +194,7 @@ class FrmSetupTest : public QObject {
         QCOMPARE(other()->toolTip(), QString("COM9 is used (modem)"));
         QTest::keyClicks(text(), "1");
         QVERIFY(other()->toolTip().isEmpty());
+        QCOMPARE(find<QLabel>("lblStatus")->text(), QString());
         QCOMPARE(colourOf(5), dialog->palette().color(QPalette::WindowText));
         QVERIFY(!other()->autoFillBackground());
         isForEverybody();
@@ -234,6 +237,34 @@ class FrmSetupTest : public QObject {
         QTest::keyClick(text(), Qt::Key_Delete);
         QCOMPARE(text()->text(), QString("%&'("));
         QCOMPARE(beeps, 0);
+    }
+    void theKeysOfTheClipboardWork() {
+        port.number = 9;
+        open();
+        text()->clear();
+        QTest::keyClicks(text(), "12");
+        QTest::keyClick(text(), Qt::Key_A, Qt::ControlModifier);
+        QCOMPARE(text()->selectedText(), QString("12"));
+        QTest::keyClick(text(), Qt::Key_C, Qt::ControlModifier);
+        QTest::keyClick(text(), Qt::Key_X, Qt::ControlModifier);
+        QCOMPARE(text()->text(), QString());
+        QTest::keyClick(text(), Qt::Key_V, Qt::ControlModifier);
+        QTest::keyClick(text(), Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(text()->text(), QString("1212"));
+        QTest::keyClick(text(), Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(text()->text(), QString("12"));
+        QCOMPARE(beeps, 0);
+    }
+    void onlyWhatMayBeTypedIsPasted() {
+        port.number = 9;
+        open();
+        text()->clear();
+        QGuiApplication::clipboard()->setText("COM7");
+        QTest::keyClick(text(), Qt::Key_Insert, Qt::ShiftModifier);
+        QCOMPARE(text()->text(), QString());
+        QGuiApplication::clipboard()->setText("17");
+        QTest::keyClick(text(), Qt::Key_Insert, Qt::ShiftModifier);
+        QCOMPARE(text()->text(), QString("17"));
     }
     void keysThatLeaveTheNumberAreNoCharacters_data() {
         QTest::addColumn<Qt::Key>("key");
