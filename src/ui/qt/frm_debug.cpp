@@ -250,8 +250,9 @@ void frmDebug::saveAs() {
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setNameFilters({QStringLiteral("Text files (*.txt)"), QStringLiteral("All files (*)")});
     dialog.setDefaultSuffix(QStringLiteral("txt"));
-    if (dialog.exec() == QDialog::Accepted) {
-        saveTo(dialog.selectedFiles().constFirst());
+    bool saved = false;
+    while (!saved && dialog.exec() == QDialog::Accepted) {
+        saved = saveTo(dialog.selectedFiles().constFirst());
     }
 }
 

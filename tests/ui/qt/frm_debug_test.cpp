@@ -363,6 +363,34 @@ class FrmDebugTest : public QObject {
         choose("mnuSave");
         QVERIFY(!QApplication::activeModalWidget());
     }
+    void aFailedSaveComesBackToItsDialog() {
+#ifdef Q_OS_WIN
+        QSKIP("links take rights there");
+#endif
+        addLines(1);
+        const QTemporaryDir folder;
+        QVERIFY(QFile::link(folder.filePath(QStringLiteral("missing/log.txt")),
+                            folder.filePath(QStringLiteral("away.txt"))));
+        const QStringList names = {QStringLiteral("away"), QStringLiteral("evening")};
+        qsizetype asked = 0;
+        int boxes = 0;
+        QTimer user;
+        connect(&user, &QTimer::timeout, this, [&] {
+            if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+                ++boxes;
+                box->accept();
+            } else if (auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget())) {
+                dialog->findChild<QLineEdit*>("fileNameEdit")->setText(folder.filePath(names.value(asked++)));
+                QMetaObject::invokeMethod(dialog, "accept");
+            }
+        });
+        user.start(1);
+        choose("mnuSave");
+        user.stop();
+        QCOMPARE(boxes, 1);
+        QCOMPARE(asked, qsizetype{2});
+        QVERIFY(QFile::exists(folder.filePath("evening.txt")));
+    }
     void aFailedSaveSaysWhatToDo() {
         const QTemporaryDir folder;
         const QString path = folder.filePath("missing/log.txt");
@@ -480,18 +508,30 @@ class FrmDebugTest : public QObject {
     Control* child(const QString& name) {
         return window->findChild<Control*>(name);
     }
-    QCheckBox* category(std::size_t box) { return child<QCheckBox>(QString("chkShowWhat_%1").arg(box)); }
-    QCheckBox* follow() { return child<QCheckBox>("chkFollow"); }
-    QString found() { return child<QLabel>("lblFound")->text(); }
-    void choose(const QString& entry) { child<QAction>(entry)->trigger(); }
+    QCheckBox* category(std::size_t box) {
+        return child<QCheckBox>(QString("chkShowWhat_%1").arg(box));
+    }
+    QCheckBox* follow() {
+        return child<QCheckBox>("chkFollow");
+    }
+    QString found() {
+        return child<QLabel>("lblFound")->text();
+    }
+    void choose(const QString& entry) {
+        child<QAction>(entry)->trigger();
+    }
     void addLines(int count) {
         for (int line = 0; line < count; ++line) {
             window->model().addline("line " + std::to_string(line));
         }
         window->showWaiting();
     }
-    QString lineAt(int row) { return log->model()->index(row, 0).data().toString(); }
-    QString textAt(int row) { return lineAt(row).section('\t', 1); }
+    QString lineAt(int row) {
+        return log->model()->index(row, 0).data().toString();
+    }
+    QString textAt(int row) {
+        return lineAt(row).section('\t', 1);
+    }
     QStringList shown() {
         window->showWaiting();
         QStringList lines;
@@ -516,7 +556,9 @@ class FrmDebugTest : public QObject {
         area.setWidth(100);
         return area.center();
     }
-    static QString clipboard() { return QGuiApplication::clipboard()->text(); }
+    static QString clipboard() {
+        return QGuiApplication::clipboard()->text();
+    }
     static QByteArray contentOf(const QString& path) {
         QFile file(path);
         return file.open(QIODevice::ReadOnly | QIODevice::Text) ? file.readAll() : QByteArray("(none)");
