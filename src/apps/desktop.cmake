@@ -4,7 +4,7 @@ velmora_library(desktop_server
     desktop_dialogs.cpp
     desktop_server.cpp
     desktop_transfers.cpp
-  LIBS velmora_server_program velmora_ui_qt velmora_qt_dialogs)
+  LIBS velmora_server_program velmora_ui_qt velmora_qt_dialogs velmora_arguments)
 
 add_executable(velmora velmora_main.cpp)
 target_link_libraries(velmora PRIVATE

@@ -8,8 +8,11 @@ namespace {
 
 class DesktopSyntax : public ProgramSyntax {
   public:
-    DesktopSyntax()
+    explicit DesktopSyntax(DesktopArguments& result)
         : ProgramSyntax("velmora", "Serves a Psion Organiser II on a serial port, with a window.") {
+        option("--config", "<file>",
+               "Configuration file (default: Velmora.ini in\nthe user's configuration folder)",
+               [&result](const std::string& file) { result.config = file; });
         note(
             "velmora -debug, in any case and with nothing else, offers the protocol monitor. The toolkit's "
             "own\n"
@@ -20,19 +23,22 @@ class DesktopSyntax : public ProgramSyntax {
 }  // namespace
 
 void answerWithoutDisplay(const std::vector<std::string>& arguments) {
-    DesktopSyntax().read(arguments, ProgramSyntax::Unknown::Ignored);
+    DesktopArguments unused;
+    DesktopSyntax(unused).read(arguments, ProgramSyntax::Unknown::Ignored);
 }
 
-std::string desktopCommandLine(const std::vector<std::string>& arguments) {
+DesktopArguments readDesktopArguments(const std::vector<std::string>& arguments) {
     if (arguments.size() == 1 && lowerCase(arguments.front()) == "-debug") {
-        return arguments.front();
+        return {arguments.front()};
     }
-    DesktopSyntax().read(arguments, ProgramSyntax::Unknown::Refused);
-    return {};
+    DesktopArguments result;
+    DesktopSyntax(result).read(arguments, ProgramSyntax::Unknown::Refused);
+    return result;
 }
 
 ProgramOutline desktopOutline() {
-    return DesktopSyntax().outline();
+    DesktopArguments unused;
+    return DesktopSyntax(unused).outline();
 }
 
 }  // namespace velmora

@@ -1,6 +1,7 @@
 // The command line of the desktop server.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -12,9 +13,14 @@ namespace velmora {
 /// need no display. Nothing else is looked at: what the toolkit takes for itself, only the toolkit knows.
 void answerWithoutDisplay(const std::vector<std::string>& arguments);
 
-/// The command line as start-up wants it, from the arguments that the toolkit has left: empty, or the debug
-/// switch when that is all. UsageError for anything else.
-std::string desktopCommandLine(const std::vector<std::string>& arguments);
+/// What a command line says.
+struct DesktopArguments {
+    std::string commandLine = {};            ///< as start-up wants it: the debug switch when that is all
+    std::optional<std::string> config = {};  ///< the configuration file
+};
+
+/// Reads the arguments that the toolkit has left. UsageError for what makes no sense.
+DesktopArguments readDesktopArguments(const std::vector<std::string>& arguments);
 
 /// What both of them take.
 ProgramOutline desktopOutline();

@@ -4,8 +4,12 @@
 #include <QSessionManager>
 #include <QWindow>
 
+#include "arguments/version.h"
 #include "capture/pcapng_writer.h"
+#include "server/caption.h"
 #include "server/port_test.h"
+#include "ui/qt/desktop_files.h"
+#include "ui/qt/qt_text.h"
 
 namespace velmora {
 
@@ -24,7 +28,10 @@ DesktopServer::DesktopServer(const RunOverrides& overrides)
                      window_.hide();
                  },
                  [this] { window_.show(); },
-                 [this] { placeWindow(); }},
+                 [this] {
+                     showFolder();
+                     placeWindow();
+                 }},
                 {},
                 [this] { return waitFor(); },
                 [this] { dialogs_.adaptersChanged(); }}),
@@ -34,6 +41,7 @@ DesktopServer::DesktopServer(const RunOverrides& overrides)
     // The warning stands already; this adds why it is so, and what helps.
     controller().onPortFailure([this] { window_.showAdvice(portAdvice()); });
     window_.setActions(windowActions());
+    window_.setFullVersion(std::string(kProgramName) + " " + fullVersion());
     transfers_.follow(program_.core());
     program_.record(captured_);
     dialogs_.offerCapture([this] { return pcapngFile(captured_.capture()); });
@@ -52,10 +60,14 @@ frmMain::Actions DesktopServer::windowActions() {
     ServerController& controller = program_.controller();
     frmMain::Actions actions;
     actions.pbStartStop_Click = [&controller] { controller.pbStartStop_Click(); };
-    actions.pbSetup_Click = [this, &controller] { controller.pbSetup_Click([this] { openSetup(); }); };
+    actions.pbSetup_Click = [this, &controller] {
+        controller.pbSetup_Click([this] { openSetup(); });
+        adviseOnPort();
+    };
     actions.pbFolder_Click = [this] { chooseFolder(); };
     actions.pbHide_Click = [&controller] { controller.pbHide_Click(); };
     actions.pbShutDown_Click = [&controller] { controller.pbShutDown_Click(); };
+    actions.pbOpenFolder_Click = [this] { openFolder(); };
     actions.pbTransfers_Click = [this] { transfers_.show(); };
     actions.lblDebug_DblClick = [this] { dialogs_.toggleDebugWindow(); };
     actions.queryUnload = [this](CloseReason reason) { return queryUnload(reason); };
@@ -86,10 +98,28 @@ void DesktopServer::openSetup() {
         [this](std::int16_t port) { return controller().checkPort(port, kProbeModem); }, platform_.adapters);
 }
 
+/// A server without a port can do nothing, and shows that only in its display.
+void DesktopServer::adviseOnPort() {
+    if (controller().state() == NoPort) {
+        window_.showAdvice("Plug in the adapter, then click Setup.");
+    }
+}
+
+void DesktopServer::showFolder() {
+    window_.showFolder(program_.core().transfer.DownloadPath);
+}
+
+void DesktopServer::openFolder() {
+    if (const QString failure = openOnDesktop(program_.core().transfer.DownloadPath); !failure.isEmpty()) {
+        window_.showAdvice(systemPath(failure));
+    }
+}
+
 void DesktopServer::chooseFolder() {
     chooseDownloadFolder(
         [this](const FolderQuestion& question) { return dialogs_.browseForFolder(window_, question); },
         program_.core().strings, program_.core().transfer, program_.settingsStore(), window_, box_);
+    showFolder();
 }
 
 void DesktopServer::closeOtherWindows() {
@@ -113,7 +143,9 @@ void DesktopServer::saveWindowPlace() {
 }
 
 bool DesktopServer::start(const std::string& commandLine) {
-    return program_.start(commandLine).outcome != StartupOutcome::Failed;
+    const bool started = program_.start(commandLine).outcome != StartupOutcome::Failed;
+    adviseOnPort();
+    return started;
 }
 
 int DesktopServer::run() {

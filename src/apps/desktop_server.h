@@ -43,6 +43,9 @@ class DesktopServer {
     bool queryUnload(CloseReason reason);
     void chooseFolder();
     void openSetup();
+    void adviseOnPort();
+    void showFolder();
+    void openFolder();
     void closeOtherWindows();
     void placeWindow();
     void saveWindowPlace();

@@ -18,17 +18,19 @@ using namespace velmora;
 
 int serve(int argc, char** argv) {
     const HeldStopSignals held;
-    answerWithoutDisplay({argv + 1, argv + argc});
+    answerWithoutDisplay(systemArguments(argc, argv));
     // It takes its own arguments out of argc and argv.
     QApplication application(argc, argv);
     QApplication::setDesktopFileName(QStringLiteral("velmora"));
     QApplication::setWindowIcon(programIcon());
     // The main window ends the program, also when it is minimised while another window closes.
     QApplication::setQuitOnLastWindowClosed(false);
-    const std::string commandLine = desktopCommandLine({argv + 1, argv + argc});
-    DesktopServer server;
+    const DesktopArguments arguments = readDesktopArguments({argv + 1, argv + argc});
+    RunOverrides overrides;
+    overrides.configPath = arguments.config;
+    DesktopServer server(overrides);
     const StopSignals stopSignals(held, [&server] { server.stop(); });
-    return server.start(commandLine) ? server.run() : 1;
+    return server.start(arguments.commandLine) ? server.run() : 1;
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 
 #include "arguments/nearest_word.h"
 #include "arguments/usage_error.h"
+#include "arguments/version.h"
 
 namespace velmora {
 namespace {
@@ -278,7 +279,7 @@ ProgramSyntax::ProgramSyntax(const std::string& name, const std::string& purpose
     // A path may begin with "/".
     program.allow_windows_style_options(false);
     program.set_help_flag("-h,--help", "Show this text");
-    program.set_version_flag("--version", name + " " VELMORA_VERSION VELMORA_COMMIT, "Show the version");
+    program.set_version_flag("--version", name + " " + fullVersion(), "Show the version");
     if (repeated == Repeated::LastCounts) {
         program.option_defaults()->take_last();
     }
@@ -322,7 +323,7 @@ void ProgramSyntax::writeFooter() {
 ProgramOutline ProgramSyntax::outline() const {
     ProgramOutline outline;
     fillOutline(outline, app());
-    outline.version = VELMORA_VERSION;
+    outline.version = releaseVersion();
     outline.note = note_;
     outline.statuses = statuses_;
     return outline;

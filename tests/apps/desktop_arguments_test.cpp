@@ -17,16 +17,24 @@ TEST(DesktopArguments, HelpAndVersionAreAnsweredWhateverElseStandsThere) {
 }
 
 TEST(DesktopArguments, TheDebugSwitchIsTheWholeLineInAnyCase) {
-    EXPECT_EQ(desktopCommandLine({}), "");
-    EXPECT_EQ(desktopCommandLine({"-debug"}), "-debug");
-    EXPECT_EQ(desktopCommandLine({"-DeBuG"}), "-DeBuG");
+    EXPECT_EQ(readDesktopArguments({}).commandLine, "");
+    EXPECT_EQ(readDesktopArguments({"-debug"}).commandLine, "-debug");
+    EXPECT_EQ(readDesktopArguments({"-DeBuG"}).commandLine, "-DeBuG");
+}
+
+TEST(DesktopArguments, TheConfigurationFileMayBeNamed) {
+    EXPECT_EQ(readDesktopArguments({}).config, std::nullopt);
+    EXPECT_EQ(readDesktopArguments({"--config", "Other.ini"}).config, "Other.ini");
+    EXPECT_EQ(readDesktopArguments({"--config=Other.ini"}).commandLine, "");
+    EXPECT_THROW(readDesktopArguments({"--config"}), UsageError);
+    EXPECT_THROW(readDesktopArguments({"--config", "Other.ini", "-debug"}), UsageError);
 }
 
 TEST(DesktopArguments, AnythingElseIsWrongUsage) {
-    EXPECT_THROW(desktopCommandLine({"-debug", "x"}), UsageError);
-    EXPECT_THROW(desktopCommandLine({"--debug"}), UsageError);
-    EXPECT_THROW(desktopCommandLine({"--frob"}), UsageError);
-    EXPECT_THROW(desktopCommandLine({"Velmora.ini"}), UsageError);
+    EXPECT_THROW(readDesktopArguments({"-debug", "x"}), UsageError);
+    EXPECT_THROW(readDesktopArguments({"--debug"}), UsageError);
+    EXPECT_THROW(readDesktopArguments({"--frob"}), UsageError);
+    EXPECT_THROW(readDesktopArguments({"Velmora.ini"}), UsageError);
 }
 
 TEST(DesktopArguments, ItsOutlineTellsOfTheDebugSwitch) {

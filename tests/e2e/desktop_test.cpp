@@ -51,5 +51,17 @@ TEST_F(DesktopTest, DebugSwitchInAnyCaseStartsToo) {
     EXPECT_EQ(server->wait(), 0);
 }
 
+TEST_F(DesktopTest, TheConfigurationFileMayBeAnother) {
+    writeIni("[OnExit]\r\nAskUser=False\r\nAllowShutdown=True\r\n");
+    const std::filesystem::path other = home / "Other.ini";
+    std::filesystem::rename(ini(), other);
+    startDesktop({"--config", serverPath(other)});
+    save("NAMES", "one\r\n");
+    organiser({"shutdown"});
+    EXPECT_EQ(server->wait(), 0);
+    EXPECT_FALSE(std::filesystem::exists(ini())) << "the usual one is left alone";
+    EXPECT_NE(contentsOf(other).find("AutoStart=True"), std::string::npos);
+}
+
 }  // namespace
 }  // namespace velmora::e2e

@@ -2,6 +2,7 @@
 
 #include <QAccessible>
 #include <QCloseEvent>
+#include <QDir>
 #include <QFrame>
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -15,6 +16,7 @@
 #include "server/caption.h"
 #include "ui/qt/artwork.h"
 #include "ui/qt/debug_switch.h"
+#include "ui/qt/elided_label.h"
 #include "ui/qt/lcd_line.h"
 #include "ui/qt/message_label.h"
 #include "ui/qt/qt_text.h"
@@ -67,6 +69,8 @@ frmMain::frmMain(QWidget* parent) : QWidget(parent) {
     lblDebug->setToolTip(tr("Double-click to show or hide the protocol monitor"));
     lblDebug->hide();
     connect(lblDebug, &DebugSwitch::switched, this, [this] { call(actions_.lblDebug_DblClick); });
+    connect(new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_D), this), &QShortcut::activated, this,
+            [this] { call(actions_.lblDebug_DblClick); });
     arrange();
 }
 
@@ -174,6 +178,12 @@ void frmMain::makeButtons() {
                             &Actions::pbShutDown_Click);
     pbTransfers = makeButton("pbTransfers", tr("&Transfers\u2026"),
                              tr("Show what was saved and loaded (Ctrl+T)"), &Actions::pbTransfers_Click);
+    pbOpenFolder = makeButton("pbOpenFolder", tr("&Open folder"),
+                              tr("Open the folder that files are saved to and loaded from"),
+                              &Actions::pbOpenFolder_Click);
+    lblFolder = new ElidedLabel(this);
+    lblFolder->setObjectName(QStringLiteral("lblFolder"));
+    lblFolder->setAccessibleName(tr("Download folder"));
     connect(new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_T), this), &QShortcut::activated, this,
             [this] { call(actions_.pbTransfers_Click); });
     frmMain::setButtonCaption(MainButton::StartStop, "Start");
@@ -182,20 +192,10 @@ void frmMain::makeButtons() {
     pbHide->setAccessibleName(tr("Hide"));
     pbShutDown->setAccessibleName(tr("Shut down"));
     pbTransfers->setAccessibleName(tr("Transfers"));
+    pbOpenFolder->setAccessibleName(tr("Open folder"));
 }
 
-void frmMain::arrange() {
-    auto* heading = new QHBoxLayout;
-    heading->addWidget(imgProgName);
-    heading->addStretch();
-    heading->addWidget(lblDebug);
-    heading->addWidget(tlProgVers, 0, Qt::AlignBottom);
-
-    auto* rule = new QFrame(this);
-    rule->setFrameShape(QFrame::HLine);
-    rule->setFrameShadow(QFrame::Plain);
-    rule->setForegroundRole(QPalette::Mid);
-
+QGridLayout* frmMain::arrangeStatistics() {
     auto* statistics = new QGridLayout;
     statistics->setHorizontalSpacing(36);
     statistics->setVerticalSpacing(4);
@@ -214,6 +214,24 @@ void frmMain::arrange() {
     statistics->setColumnStretch(0, 1);
     statistics->setColumnStretch(3, 1);
     statistics->addWidget(pbTransfers, 0, 4, 3, 1, Qt::AlignRight | Qt::AlignBottom);
+    return statistics;
+}
+
+void frmMain::arrange() {
+    auto* heading = new QHBoxLayout;
+    heading->addWidget(imgProgName);
+    heading->addStretch();
+    heading->addWidget(lblDebug);
+    heading->addWidget(tlProgVers, 0, Qt::AlignBottom);
+
+    auto* rule = new QFrame(this);
+    rule->setFrameShape(QFrame::HLine);
+    rule->setFrameShadow(QFrame::Plain);
+    rule->setForegroundRole(QPalette::Mid);
+
+    auto* folder = new QHBoxLayout;
+    folder->addWidget(lblFolder, 1);
+    folder->addWidget(pbOpenFolder);
 
     auto* buttons = new QHBoxLayout;
     for (QPushButton* each : {pbStartStop, pbSetup, pbFolder, pbHide, pbShutDown}) {
@@ -227,13 +245,14 @@ void frmMain::arrange() {
     layout->addWidget(imgBGround);
     layout->addWidget(messageArea_);
     layout->addWidget(rule);
-    layout->addLayout(statistics);
+    layout->addLayout(arrangeStatistics());
+    layout->addLayout(folder);
     layout->addLayout(buttons);
     layout->setSizeConstraint(QLayout::SetFixedSize);
 
     QWidget* previous = pbStartStop;
-    for (QWidget* next :
-         std::initializer_list<QWidget*>{pbSetup, pbFolder, pbHide, pbShutDown, pbTransfers, lblDebug}) {
+    for (QWidget* next : std::initializer_list<QWidget*>{pbSetup, pbFolder, pbHide, pbShutDown, pbTransfers,
+                                                         pbOpenFolder, lblDebug}) {
         setTabOrder(previous, next);
         previous = next;
     }
@@ -362,6 +381,15 @@ void frmMain::setWarningCaption(const std::string& text) {
 void frmMain::setVersion(const std::string& version, const std::string& build) {
     tlProgVers->setText(qtText(version + " " + build));
     tlProgVers->setAccessibleName(tr("Version %1").arg(tlProgVers->text()));
+}
+
+void frmMain::setFullVersion(const std::string& version) {
+    tlProgVers->setToolTip(qtText(version));
+    tlProgVers->setAccessibleDescription(qtText(version));
+}
+
+void frmMain::showFolder(const std::string& path) {
+    lblFolder->setWhole(QDir::toNativeSeparators(qtSystemText(path)));
 }
 
 void frmMain::showDebugLabel(bool visible) {

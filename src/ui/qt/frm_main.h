@@ -19,6 +19,7 @@ namespace velmora {
 
 class DebugSwitch;
 class DisplayFrame;
+class ElidedLabel;
 class LcdLine;
 class MessageLabel;
 class NameImage;
@@ -36,6 +37,7 @@ class frmMain : public QWidget, public MainView {
         std::function<void()> pbHide_Click;
         std::function<void()> pbShutDown_Click;
         std::function<void()> pbTransfers_Click;
+        std::function<void()> pbOpenFolder_Click;
         std::function<void()> lblDebug_DblClick;
         /// The window is about to close; false keeps it open.
         std::function<bool(CloseReason)> queryUnload;
@@ -48,6 +50,11 @@ class frmMain : public QWidget, public MainView {
     explicit frmMain(QWidget* parent = nullptr);
 
     void setActions(Actions actions) { actions_ = std::move(actions); }
+
+    /// What the program calls itself in full, for a pointer that rests on the version.
+    void setFullVersion(const std::string& version);
+    /// The folder that files are saved to and loaded from; in the system's encoding.
+    void showFolder(const std::string& path);
 
     /// A sentence under the messages that says what to do about the warning; it goes with the messages.
     /// In the system's encoding.
@@ -88,6 +95,7 @@ class frmMain : public QWidget, public MainView {
     void makeMessages();
     void makeStatistics();
     void makeButtons();
+    QGridLayout* arrangeStatistics();
     void arrange();
     int messageWidth(bool besideSign) const;
     void nameCounters();
@@ -118,6 +126,8 @@ class frmMain : public QWidget, public MainView {
     QPushButton* pbHide;
     QPushButton* pbShutDown;
     QPushButton* pbTransfers;
+    ElidedLabel* lblFolder;
+    QPushButton* pbOpenFolder;
 };
 
 }  // namespace velmora

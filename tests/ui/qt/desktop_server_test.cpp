@@ -47,6 +47,8 @@ class DesktopServerTest : public QObject {
     void init();
     void cleanup();
     void startsByItselfAndShowsIt();
+    void withoutAPortItSaysWhatToDoNext();
+    void aFolderThatIsGoneIsToldInsteadOfOpened();
     void pulledCableStopsTheServerUntilItIsBack();
     void whileItWaitsForItsCableItCanBeStopped();
     void missingDeviceTellsWhatToDo();
@@ -137,8 +139,36 @@ void DesktopServerTest::startsByItselfAndShowsIt() {
     QCOMPARE(server->controller().state(), int{WaitLink});
     QCOMPARE(label("tlDisplay_1")->text(), QStringLiteral("Waiting for link"));
     QCOMPARE(label("tlProgVers")->text(), QStringLiteral("beta3 build 1"));
+    QVERIFY(label("tlProgVers")->toolTip().startsWith(QStringLiteral("Velmora 0.")));
+    QCOMPARE(label("lblFolder")->accessibleDescription(), home->filePath(QStringLiteral("psion")));
     QCOMPARE(startStop()->text(), QStringLiteral("&Stop"));
     QVERIFY(!label("lblDebug")->isVisible());
+}
+
+void DesktopServerTest::withoutAPortItSaysWhatToDoNext() {
+    server.reset();
+    const std::filesystem::path folder = home->path().toStdString();
+    // None of the devices behind the numbers that are searched exists.
+    std::ofstream ini(folder / "Velmora.ini", std::ios::binary);
+    ini << "[Settings]\r\nPort=0\r\nDownloadPath=" << (folder / "psion").string() << "\r\n[Ports]\r\n";
+    for (int number = 1; number <= 64; ++number) {
+        ini << "COM" << number << "=" << (folder / "none").string() << "\r\n";
+    }
+    ini.close();
+    server = std::make_unique<DesktopServer>();
+    QVERIFY(server->start(""));
+    QCOMPARE(server->controller().state(), int{NoPort});
+    QVERIFY(label("lblAdvice")->isVisible());
+    QCOMPARE(label("lblAdvice")->text(), QStringLiteral("Plug in the adapter, then click Setup."));
+}
+
+void DesktopServerTest::aFolderThatIsGoneIsToldInsteadOfOpened() {
+    QVERIFY(server->start(""));
+    std::filesystem::remove(std::filesystem::path(home->path().toStdString()) / "psion");
+    QTest::mouseClick(server->window().findChild<QPushButton*>(QStringLiteral("pbOpenFolder")),
+                      Qt::LeftButton);
+    QVERIFY(label("lblAdvice")->isVisible());
+    QVERIFY(label("lblAdvice")->text().endsWith(QStringLiteral("psion is not there any more.")));
 }
 
 void DesktopServerTest::pulledCableStopsTheServerUntilItIsBack() {

@@ -50,12 +50,16 @@ class FrmMainTest : public QObject {
     void noPortLeavesOnlySetup();
     void folderButtonAsksForTheFolder();
     void transfersAreShownByTheButtonAndByItsKeys();
+    void theFolderIsShownAndOpened();
+    void aLongFolderMakesNoWideWindow();
+    void theVersionHasTheWholeOneAsItsTip();
     void hideButtonMinimises();
     void captionCarriesTheStateWhileMinimised();
     void shutDownButtonEndsTheProgram();
     void requestedShutdownEndsTheProgramAfterHalfASecond();
     void portThatFailsStopsTheServerUntilStartIsPressedAgain();
     void debugSwitchAppearsAndWorksByMouseAndKey();
+    void theMonitorIsSwitchedByItsKeysWithoutTheDebugSwitch();
     void debugSwitchShowsThatItHasTheFocus();
     void captionsOfOtherLanguagesMayHaveNoMnemonic();
     void windowThatBelongsToNoProgramCloses();
@@ -90,7 +94,8 @@ void FrmMainTest::everyControlIsThereUnderItsName() {
           "tlBottomText_2", "tlBottomText_3", "tlProgVers", "imgProgName", "imgBGround", "lblDebug"}) {
         QVERIFY2(rig->window.findChild<QLabel*>(QLatin1String(name)) != nullptr, name);
     }
-    for (const char* name : {"pbStartStop", "pbSetup", "pbFolder", "pbHide", "pbShutDown", "pbTransfers"}) {
+    for (const char* name :
+         {"pbStartStop", "pbSetup", "pbFolder", "pbHide", "pbShutDown", "pbTransfers", "pbOpenFolder"}) {
         QVERIFY2(rig->window.findChild<QPushButton*>(QLatin1String(name)) != nullptr, name);
     }
 }
@@ -321,6 +326,37 @@ void FrmMainTest::transfersAreShownByTheButtonAndByItsKeys() {
     QCOMPARE(rig->transferWindows, 2);
 }
 
+void FrmMainTest::theFolderIsShownAndOpened() {
+    rig->window.showFolder("/home/anna/psion");
+    QCOMPARE(label("lblFolder")->text(), QStringLiteral("/home/anna/psion"));
+    QCOMPARE(label("lblFolder")->accessibleDescription(), QStringLiteral("/home/anna/psion"));
+    click("pbOpenFolder");
+    QCOMPARE(rig->openedFolders, 1);
+}
+
+void FrmMainTest::aLongFolderMakesNoWideWindow() {
+    rig->window.showFolder("/psion");
+    const int width = rig->window.width();
+    const QString folder = QStringLiteral("/home/") + QString(170, QLatin1Char('x'));
+    rig->window.showFolder(folder.toStdString());
+    QCoreApplication::processEvents();
+    QCOMPARE(rig->window.width(), width);
+    const QString shown = label("lblFolder")->text();
+    QVERIFY2(shown.startsWith(QStringLiteral("/home/")) && shown.contains(QChar(0x2026)), qPrintable(shown));
+    QCOMPARE(label("lblFolder")->toolTip(), folder);
+    QFont large = label("lblFolder")->font();
+    large.setPointSizeF(large.pointSizeF() * 2);
+    label("lblFolder")->setFont(large);
+    QVERIFY(label("lblFolder")->text().size() < shown.size());
+}
+
+void FrmMainTest::theVersionHasTheWholeOneAsItsTip() {
+    rig->window.setVersion("beta3", "build 1");
+    rig->window.setFullVersion("Velmora 0.1.0 (abcdef)");
+    QCOMPARE(label("tlProgVers")->text(), QStringLiteral("beta3 build 1"));
+    QCOMPARE(label("tlProgVers")->toolTip(), QStringLiteral("Velmora 0.1.0 (abcdef)"));
+}
+
 void FrmMainTest::hideButtonMinimises() {
     click("pbHide");
     QVERIFY(rig->window.isMinimized());
@@ -385,6 +421,12 @@ void FrmMainTest::debugSwitchAppearsAndWorksByMouseAndKey() {
     QCOMPARE(rig->debugSwitches, 4);
     QTest::keyClick(label("lblDebug"), Qt::Key_D);
     QCOMPARE(rig->debugSwitches, 4);
+}
+
+void FrmMainTest::theMonitorIsSwitchedByItsKeysWithoutTheDebugSwitch() {
+    QVERIFY(!label("lblDebug")->isVisible());
+    QTest::keyClick(button("pbStartStop"), Qt::Key_D, Qt::ControlModifier);
+    QCOMPARE(rig->debugSwitches, 1);
 }
 
 void FrmMainTest::debugSwitchShowsThatItHasTheFocus() {
@@ -464,18 +506,19 @@ void FrmMainTest::everyControlIsNamedAndInTheKeyboardsOrder() {
 
     QStringList order;
     button("pbStartStop")->setFocus();
-    for (int i = 0; i < 7; ++i) {
+    for (int i = 0; i < 8; ++i) {
         order.append(rig->window.focusWidget()->objectName());
         QTest::keyClick(rig->window.focusWidget(), Qt::Key_Tab);
     }
     QCOMPARE(order, QStringList({"pbStartStop", "pbSetup", "pbFolder", "pbHide", "pbShutDown", "pbTransfers",
-                                 "lblDebug"}));
+                                 "pbOpenFolder", "lblDebug"}));
     QCOMPARE(rig->window.focusWidget(), button("pbStartStop"));
 }
 
 void FrmMainTest::mnemonicsAreUnique() {
     QSet<QString> letters;
-    for (const char* name : {"pbStartStop", "pbSetup", "pbFolder", "pbHide", "pbShutDown", "pbTransfers"}) {
+    for (const char* name :
+         {"pbStartStop", "pbSetup", "pbFolder", "pbHide", "pbShutDown", "pbTransfers", "pbOpenFolder"}) {
         const QString text = button(name)->text();
         const qsizetype position = text.indexOf(QLatin1Char('&'));
         QVERIFY2(position >= 0, name);

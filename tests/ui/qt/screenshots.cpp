@@ -87,6 +87,7 @@ const std::vector<Scene>& scenes() {
          [](WindowRig& rig) {
              rig.controller.ShowWarning("No port selected!", "");
              rig.controller.setState(NoPort);
+             rig.window.showAdvice("Plug in the adapter, then click Setup.");
          }},
         {"stopped-by-organiser", false,
          [](WindowRig& rig) {
@@ -240,6 +241,7 @@ int main(int argc, char** argv) {
         QApplication::setPalette(scene.dark ? darkPalette() : light);
         WindowRig rig;
         rig.window.setVersion("beta3", "build 1");
+        rig.window.showFolder("/home/anna/Documents/Psion Files");
         rig.window.show();
         scene.play(rig);
         QApplication::processEvents();
