@@ -326,7 +326,8 @@ void DesktopServerTest::cablePulledAmidAFileLosesItWhateverTheUserAnswers() {
     QVERIFY(questions <= 1);
     QCOMPARE(label("tlDisplay_1")->text().trimmed(), QStringLiteral("Server Offline"));
     QVERIFY(label("tlWarning")->isVisible());
-    QVERIFY(label("tlBottomText_2")->text().startsWith(QStringLiteral("COM40: ")));
+    QVERIFY2(label("tlBottomText_2")->text().startsWith(QStringLiteral("COM40: ")),
+             qPrintable(label("tlBottomText_2")->text()));
     QVERIFY2(label("tlBottomText_3")->text().contains(QStringLiteral("The transfer is lost.")),
              qPrintable(label("tlBottomText_3")->text()));
 
