@@ -2,6 +2,7 @@
 #include "ui/qt/frm_main.h"
 
 #include <QAccessible>
+#include <QDir>
 #include <QLabel>
 #include <QPushButton>
 #include <QSet>
@@ -328,8 +329,9 @@ void FrmMainTest::transfersAreShownByTheButtonAndByItsKeys() {
 
 void FrmMainTest::theFolderIsShownAndOpened() {
     rig->window.showFolder("/home/anna/psion");
-    QCOMPARE(label("lblFolder")->text(), QStringLiteral("/home/anna/psion"));
-    QCOMPARE(label("lblFolder")->accessibleDescription(), QStringLiteral("/home/anna/psion"));
+    const QString folder = QDir::toNativeSeparators(QStringLiteral("/home/anna/psion"));
+    QCOMPARE(label("lblFolder")->text(), folder);
+    QCOMPARE(label("lblFolder")->accessibleDescription(), folder);
     click("pbOpenFolder");
     QCOMPARE(rig->openedFolders, 1);
 }
@@ -337,12 +339,13 @@ void FrmMainTest::theFolderIsShownAndOpened() {
 void FrmMainTest::aLongFolderMakesNoWideWindow() {
     rig->window.showFolder("/psion");
     const int width = rig->window.width();
-    const QString folder = QStringLiteral("/home/") + QString(170, QLatin1Char('x'));
+    const QString folder =
+        QDir::toNativeSeparators(QStringLiteral("/home/")) + QString(170, QLatin1Char('x'));
     rig->window.showFolder(folder.toStdString());
     QCoreApplication::processEvents();
     QCOMPARE(rig->window.width(), width);
     const QString shown = label("lblFolder")->text();
-    QVERIFY2(shown.startsWith(QStringLiteral("/home/")) && shown.contains(QChar(0x2026)), qPrintable(shown));
+    QVERIFY2(shown.startsWith(folder.left(6)) && shown.contains(QChar(0x2026)), qPrintable(shown));
     QCOMPARE(label("lblFolder")->toolTip(), folder);
     QFont large = label("lblFolder")->font();
     large.setPointSizeF(large.pointSizeF() * 2);
