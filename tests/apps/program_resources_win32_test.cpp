@@ -26,6 +26,7 @@ void PrintTo(const Program& program, std::ostream* out) {
 
 std::vector<Program> builtPrograms() {
     return {
+        {"velmora-doctor", "Velmora cable doctor"},
         {"velmora-files", "Velmora file conversions"},
         {"velmora-organiser", "Velmora virtual Organiser"},
 #ifdef VELMORA_WITH_TOOLKIT

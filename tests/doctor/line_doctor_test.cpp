@@ -213,6 +213,23 @@ TEST(LineDoctorTest, ACopiedChipIsSuspectedWhereNothingComes) {
     EXPECT_EQ(examined(line, device).verdict.cause, Cause::AdapterCopy);
 }
 
+TEST(LineDoctorTest, AHandheldThatOnlyAnswersIsFoundAtItsRate) {
+    SimulatedLine line(illnessOf("rate=2400"), 1);
+    line.handheld = std::make_unique<SimulatedHandheld>(1h, 20ms);
+    // Nothing of a request at another rate makes a frame there, so it is silent until the rate is right.
+    const Diagnosis diagnosis = examined(line);
+    EXPECT_EQ(diagnosis.verdict.cause, Cause::WrongRate);
+    EXPECT_EQ(diagnosis.verdict.confidence, 95);
+    EXPECT_EQ(diagnosis.verdict.detail, "The Organiser uses 2400 baud, and the server 9600 baud.");
+}
+
+TEST(LineDoctorTest, AnAnswerThatComesLateOnceIsNoFault) {
+    SimulatedLine line(illnessOf(""), 1);
+    line.handheld = std::make_unique<SimulatedHandheld>(70ms, 20ms);
+    line.busyAt = 2s;
+    EXPECT_EQ(examined(line).verdict.cause, Cause::None);
+}
+
 TEST(LineDoctorTest, RatesThatTheDeviceRefusesAreLeftOut) {
     SimulatedLine line(illnessOf("loopback"), 1);
     line.onlyRate = 9600;

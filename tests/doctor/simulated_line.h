@@ -34,6 +34,7 @@ class SimulatedLine : public ExaminedLine {
     bool tellsErrors = true;                ///< counts framing errors and breaks
     std::optional<std::uint32_t> onlyRate;  ///< the only one that the device takes
     std::optional<LineSettings> told;       ///< what it says in place of what it was set to
+    std::optional<Time> busyAt;             ///< when the computer does something else for a second
     std::optional<Time> lostAt;             ///< when the adapter is pulled
 
     SystemError open(const LineSettings& settings) override {
@@ -70,6 +71,12 @@ class SimulatedLine : public ExaminedLine {
     }
     LineInput read(Time deadline) override {
         check();
+        if (busyAt && now_ >= *busyAt) {
+            busyAt.reset();
+            const Time until = now_ + std::chrono::seconds(1);
+            while (step(until)) {
+            }
+        }
         while (inbox_.bytes.empty() && step(deadline)) {
         }
         return std::exchange(inbox_, {});
