@@ -34,14 +34,14 @@ class CaptureScript {
   public:
     CaptureScript() { capture.ports = {usualPort()}; }
 
-    CaptureScript& received(int milliseconds, std::string bytes) {
-        return add(milliseconds, CaptureDirection::Received, std::move(bytes));
+    CaptureScript& received(int at, std::string bytes) {
+        return add(at, CaptureDirection::Received, std::move(bytes));
     }
-    CaptureScript& sent(int milliseconds, std::string bytes) {
-        return add(milliseconds, CaptureDirection::Sent, std::move(bytes));
+    CaptureScript& sent(int at, std::string bytes) {
+        return add(at, CaptureDirection::Sent, std::move(bytes));
     }
-    CaptureScript& note(int milliseconds, std::string text) {
-        add(milliseconds, CaptureDirection::None, {});
+    CaptureScript& note(int at, std::string text) {
+        add(at, CaptureDirection::None, {});
         capture.packets.back().comments = {std::move(text)};
         return *this;
     }
@@ -49,8 +49,8 @@ class CaptureScript {
     Capture capture;
 
   private:
-    CaptureScript& add(int milliseconds, CaptureDirection direction, std::string bytes) {
-        const auto time = std::chrono::hours(500'000) + std::chrono::milliseconds(milliseconds);
+    CaptureScript& add(int at, CaptureDirection direction, std::string bytes) {
+        const auto time = std::chrono::hours(500'000) + std::chrono::milliseconds(at);
         capture.packets.push_back({capture.ports.size() - 1, time, direction, std::move(bytes), {}});
         return *this;
     }
