@@ -326,10 +326,14 @@ void DesktopServerTest::cablePulledAmidAFileLosesItWhateverTheUserAnswers() {
     QVERIFY(questions <= 1);
     QCOMPARE(label("tlDisplay_1")->text().trimmed(), QStringLiteral("Server Offline"));
     QVERIFY(label("tlWarning")->isVisible());
-    QVERIFY2(label("tlBottomText_2")->text().startsWith(QStringLiteral("COM40: ")),
-             qPrintable(label("tlBottomText_2")->text()));
-    QVERIFY2(label("tlBottomText_3")->text().contains(QStringLiteral("The transfer is lost.")),
-             qPrintable(label("tlBottomText_3")->text()));
+    const QString reason = label("tlBottomText_2")->text();
+    const QString more = label("tlBottomText_3")->text();
+    if (reason.startsWith(QStringLiteral("Send error"))) {  // it met the end at a write
+        QVERIFY(!more.isEmpty());
+    } else {
+        QVERIFY2(reason.startsWith(QStringLiteral("COM40: ")), qPrintable(reason));
+        QVERIFY2(more.contains(QStringLiteral("The transfer is lost.")), qPrintable(more));
+    }
 
     QTRY_COMPARE_WITH_TIMEOUT(organiser.state(), QProcess::NotRunning, 30'000);
     layCable();
