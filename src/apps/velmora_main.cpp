@@ -17,7 +17,7 @@ namespace {
 using namespace velmora;
 
 int serve(int argc, char** argv) {
-    const HeldStopSignals held;
+    HeldStopSignals held;
     answerWithoutDisplay(systemArguments(argc, argv));
     // It takes its own arguments out of argc and argv.
     QApplication application(argc, argv);
@@ -30,7 +30,9 @@ int serve(int argc, char** argv) {
     overrides.configPath = arguments.config;
     DesktopServer server(overrides);
     const StopSignals stopSignals(held, [&server] { server.stop(); });
-    return server.start(arguments.commandLine) ? server.run() : 1;
+    const int status = server.start(arguments.commandLine) ? server.run() : 1;
+    held.keepToTheEnd();
+    return status;
 }
 
 }  // namespace

@@ -23,11 +23,13 @@ int serve(const ServerArguments& arguments, int argc, char** argv) {
     // Whoever reads the output may go away; the Organiser is served all the same.
     std::signal(SIGPIPE, SIG_IGN);
 #endif
-    const HeldStopSignals held;
+    HeldStopSignals held;
     QCoreApplication application(argc, argv);
     HeadlessServer server(arguments);
     const StopSignals stopSignals(held, [&server] { server.stop(); });
-    return server.run();
+    const int status = server.run();
+    held.keepToTheEnd();
+    return status;
 }
 
 }  // namespace

@@ -19,6 +19,10 @@ class HeldStopSignals {
     HeldStopSignals(const HeldStopSignals&) = delete;
     HeldStopSignals& operator=(const HeldStopSignals&) = delete;
 
+    /// The program has stopped and is about to end: until it is gone, requests wait also when this is no
+    /// more, so that none can give it another exit status.
+    void keepToTheEnd();
+
   private:
     friend class StopSignals;
     class Set;  // the system's side

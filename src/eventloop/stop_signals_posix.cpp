@@ -37,6 +37,9 @@ class HeldStopSignals::Set {
   public:
     Set() { ::pthread_sigmask(SIG_BLOCK, &set_, &earlier_); }
     ~Set() {
+        if (toTheEnd_) {
+            return;
+        }
         // The program has stopped; a second request must not end it with another status now.
         constexpr timespec kNoWait{};
         while (::sigtimedwait(&set_, nullptr, &kNoWait) > 0) {
@@ -47,14 +50,19 @@ class HeldStopSignals::Set {
     Set& operator=(const Set&) = delete;
 
     const sigset_t& set() const { return set_; }
+    void keepToTheEnd() { toTheEnd_ = true; }
 
   private:
     sigset_t set_ = stopSet();
     sigset_t earlier_{};
+    bool toTheEnd_ = false;
 };
 
 HeldStopSignals::HeldStopSignals() : set_(std::make_unique<Set>()) {}
 HeldStopSignals::~HeldStopSignals() = default;
+void HeldStopSignals::keepToTheEnd() {
+    set_->keepToTheEnd();
+}
 
 /// The held signals, read from a descriptor.
 class StopSignals::Watch {

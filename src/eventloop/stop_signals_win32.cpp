@@ -65,6 +65,7 @@ class HeldStopSignals::Set {};
 
 HeldStopSignals::HeldStopSignals() = default;
 HeldStopSignals::~HeldStopSignals() = default;
+void HeldStopSignals::keepToTheEnd() {}
 
 /// An event that the console's requests set and that the event loop waits for, and the session's end.
 class StopSignals::Watch {

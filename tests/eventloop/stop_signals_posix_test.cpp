@@ -83,6 +83,21 @@ TEST(HeldStopSignalsTest, ARequestThatNobodyTookIsDroppedAtTheEnd) {
     EXPECT_EQ(::sigismember(&blocked, SIGTERM), 0) << "and the next one ends the program";
 }
 
+TEST(HeldStopSignalsTest, KeptToTheEndOfTheProgramARequestChangesNothingAnyMore) {
+    sigset_t before;
+    ::pthread_sigmask(SIG_BLOCK, nullptr, &before);
+    {
+        HeldStopSignals held;
+        held.keepToTheEnd();
+    }
+    ::kill(::getpid(), SIGTERM);  // would end the tests
+    sigset_t requested;
+    ::sigemptyset(&requested);
+    ::sigaddset(&requested, SIGTERM);
+    EXPECT_EQ(::sigwaitinfo(&requested, nullptr), SIGTERM) << "it waits for whoever asks";
+    ::pthread_sigmask(SIG_SETMASK, &before, nullptr);
+}
+
 TEST(HeldStopSignalsTest, AHangUpThatIsIgnoredStaysSo) {
     ::signal(SIGHUP, SIG_IGN);
     {
