@@ -19,12 +19,6 @@ namespace {
 
 using namespace velmora;
 
-/// This program has no user interface that would want its turn.
-class NoEvents : public EventYield {
-  public:
-    void processEvents() override {}
-};
-
 /// Prints each finding as soon as it is there.
 class PrintedFindings : public StepObserver {
   public:

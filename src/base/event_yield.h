@@ -11,4 +11,10 @@ class EventYield {
     virtual void processEvents() = 0;
 };
 
+/// For a program without a user interface that would want its turn.
+class NoEvents : public EventYield {
+  public:
+    void processEvents() override {}
+};
+
 }  // namespace velmora

@@ -1,5 +1,8 @@
 #include "base/span_text.h"
 
+#include <array>
+#include <cstdio>
+
 namespace velmora {
 namespace {
 
@@ -14,6 +17,12 @@ std::string spanText(std::int64_t seconds) {
     const std::string end = ":" + twoDigits(seconds % 60);
     return minutes < 60 ? std::to_string(minutes) + end
                         : std::to_string(minutes / 60) + ":" + twoDigits(minutes % 60) + end;
+}
+
+std::string exactSecondsText(std::chrono::nanoseconds span) {
+    std::array<char, 32> text{};
+    std::snprintf(text.data(), text.size(), "%.3f", std::chrono::duration<double>(span).count());
+    return text.data();
 }
 
 }  // namespace velmora

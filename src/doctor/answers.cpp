@@ -3,6 +3,8 @@
 #include <cstddef>
 #include <string>
 
+#include "serial/comm_device.h"
+
 namespace velmora {
 namespace {
 
@@ -14,10 +16,6 @@ constexpr std::size_t kMostLeading = 64;
 constexpr std::size_t kNullsAmongStray = 8;
 /// From so many link requests on, a handheld that heard them had answered one.
 constexpr std::size_t kCallsOfADeafOne = 3;
-
-constexpr std::uint32_t kParityFlag = 4;
-constexpr std::uint32_t kFramingFlag = 8;
-constexpr std::uint32_t kBreakFlag = 16;
 
 std::string share(std::size_t part, std::size_t whole, const char* what) {
     return std::to_string(part) + " of " + std::to_string(whole) + " " + what;
@@ -31,7 +29,7 @@ std::optional<Verdict> judgeDamage(const Heard& heard) {
     const std::string detail = share(heard.damagedFrames, frames, "frames arrived damaged, and ") +
                                std::to_string(heard.strayBytes()) + " bytes made none.";
     const bool breaks =
-        (heard.errorFlags & kBreakFlag) != 0 || heard.strayNulls() * kNullsAmongStray > heard.strayBytes();
+        (heard.errorFlags & kBreakSeen) != 0 || heard.strayNulls() * kNullsAmongStray > heard.strayBytes();
     return Verdict{breaks ? Cause::LooseContact : Cause::Noise, 80, detail};
 }
 
@@ -41,7 +39,7 @@ std::optional<Verdict> judgeAnswers(const Heard& heard, std::optional<std::chron
     if (auto damage = judgeDamage(heard)) {
         return damage;
     }
-    if ((heard.errorFlags & (kParityFlag | kFramingFlag | kBreakFlag)) != 0) {
+    if ((heard.errorFlags & (kParityError | kFramingError | kBreakSeen)) != 0) {
         return Verdict{Cause::WrongParity, 85, "The frames are good, but bits come where stop bits belong."};
     }
     if (heard.answered == 0) {

@@ -1,13 +1,12 @@
 #include "files/capture_command.h"
 
-#include <array>
 #include <chrono>
-#include <cstdio>
 #include <ostream>
 #include <string_view>
 #include <vector>
 
 #include "base/byte_text.h"
+#include "base/span_text.h"
 #include "base/system_text.h"
 #include "capture/capture_events.h"
 #include "capture/capture_statistics.h"
@@ -16,12 +15,6 @@
 
 namespace velmora {
 namespace {
-
-std::string seconds(std::chrono::nanoseconds time) {
-    std::array<char, 32> text{};
-    std::snprintf(text.data(), text.size(), "%.3f", std::chrono::duration<double>(time).count());
-    return text.data();
-}
 
 /// A text of the file as one line that no terminal obeys.
 std::string shownUtf8(const std::string& text) {
@@ -75,8 +68,9 @@ void printWay(const char* from, const WayStatistics& way, std::chrono::nanosecon
         << counted(way.stray, "stray byte") << ", " << percentOf(way.busy, length) << " % of the line used\n";
     const RoundTrips& trips = way.roundTrips;
     if (trips.count > 0) {
-        out << "  acknowledged in " << seconds(trips.mean()) << " s (" << seconds(trips.shortest) << " to "
-            << seconds(trips.longest) << " s, " << counted(trips.count, "frame") << ")\n";
+        out << "  acknowledged in " << exactSecondsText(trips.mean()) << " s ("
+            << exactSecondsText(trips.shortest) << " to " << exactSecondsText(trips.longest) << " s, "
+            << counted(trips.count, "frame") << ")\n";
     }
 }
 
@@ -87,11 +81,12 @@ bool runCaptureCommand(const std::string& name, const FileAccess& access) {
     const std::vector<CaptureEvent> events = eventsOf(read.capture);
     std::ostream& out = access.out();
     for (const CaptureEvent& event : events) {
-        out << seconds(event.time - events.front().time) << '\t' << lineOf(event, read.capture) << '\n';
+        out << exactSecondsText(event.time - events.front().time) << '\t' << lineOf(event, read.capture)
+            << '\n';
     }
     const CaptureStatistics statistics = statisticsOf(read.capture, events);
-    out << "Length: " << seconds(statistics.length) << " s" << (read.capture.masked ? ", masked" : "")
-        << '\n';
+    out << "Length: " << exactSecondsText(statistics.length) << " s"
+        << (read.capture.masked ? ", masked" : "") << '\n';
     printWay("From the Organiser", statistics.received, statistics.length, out);
     printWay("From the server", statistics.sent, statistics.length, out);
     if (read.damage) {

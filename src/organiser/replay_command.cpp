@@ -1,11 +1,10 @@
 #include "organiser/replay_command.h"
 
-#include <array>
 #include <chrono>
-#include <cstdio>
 #include <ostream>
 #include <utility>
 
+#include "base/span_text.h"
 #include "capture/pcapng_reader.h"
 #include "organiser/frame_text.h"
 #include "organiser/local_files.h"
@@ -30,12 +29,6 @@ Capture readableCapture(const std::string& path, std::istream& standardInput) {
     }
 }
 
-std::string seconds(std::chrono::nanoseconds time) {
-    std::array<char, 32> text{};
-    std::snprintf(text.data(), text.size(), "%.3f", std::chrono::duration<double>(time).count());
-    return text.data();
-}
-
 }  // namespace
 
 ExitStatus runReplay(const std::string& path, OrganiserLine& line, const OrganiserLink::FrameTrace& trace,
@@ -48,7 +41,7 @@ ExitStatus runReplay(const std::string& path, OrganiserLine& line, const Organis
     }
     const ReplayParting& parting = *result.parting;
     console.out << "Frame " << parting.frame << " of the server differs, recorded at "
-                << seconds(parting.time) << " s:\n"
+                << exactSecondsText(parting.time) << " s:\n"
                 << "  then: " << frameText(parting.then) << '\n'
                 << "  now:  " << (parting.now ? frameText(*parting.now) : "no answer") << '\n';
     return parting.now ? kDiffers : kNoLink;

@@ -17,12 +17,6 @@ constexpr std::uint32_t kStalledWriteMs = 5'000;
 constexpr OrganiserLine::Time kLongestWait = 1s;
 constexpr std::uint32_t kBitsPerByte = 10;
 
-/// This program has no user interface that would want its turn.
-class NoEvents : public EventYield {
-  public:
-    void processEvents() override {}
-};
-
 /// A read waits for the bytes that it asks for.
 CommTimeouts timeoutsAt(int baud) {
     CommTimeouts timeouts;

@@ -44,11 +44,19 @@ struct CommTimeouts {
     std::uint32_t writeTotalConstant = 0;
 };
 
+/// What a driver may have seen on the line; the values are those of Win32's CE_RXOVER to CE_BREAK.
+enum LineErrorFlag : std::uint32_t {
+    kQueueOverflow = 1,
+    kOverrun = 2,
+    kParityError = 4,
+    kFramingError = 8,
+    kBreakSeen = 16,
+};
+
 /// What the driver tells about the input side.
 struct CommStatus {
-    std::size_t inQueue = 0;  ///< bytes that wait to be read
-    std::uint32_t errorFlags =
-        0;  ///< since the last call: 1 queue overflow, 2 overrun, 4 parity, 8 framing, 16 break
+    std::size_t inQueue = 0;       ///< bytes that wait to be read
+    std::uint32_t errorFlags = 0;  ///< of LineErrorFlag, since the last call
 };
 
 /// Functions of EscapeCommFunction; the values are Win32's.

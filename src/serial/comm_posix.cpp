@@ -341,11 +341,11 @@ std::uint32_t PosixCommDevice::newErrorFlags() {
     }
     const ErrorCounts before = *std::exchange(errorCounts_, now);
     std::uint32_t flags = 0;
-    flags |= now->queueOverflow != before.queueOverflow ? 1U : 0U;
-    flags |= now->overrun != before.overrun ? 2U : 0U;
-    flags |= now->parity != before.parity ? 4U : 0U;
-    flags |= now->framing != before.framing ? 8U : 0U;
-    flags |= now->breaks != before.breaks ? 16U : 0U;
+    flags |= now->queueOverflow != before.queueOverflow ? kQueueOverflow : 0U;
+    flags |= now->overrun != before.overrun ? kOverrun : 0U;
+    flags |= now->parity != before.parity ? kParityError : 0U;
+    flags |= now->framing != before.framing ? kFramingError : 0U;
+    flags |= now->breaks != before.breaks ? kBreakSeen : 0U;
     return flags;
 }
 

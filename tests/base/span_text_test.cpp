@@ -14,5 +14,13 @@ TEST(SpanTextTest, MinutesAndHoursAreApart) {
     EXPECT_EQ(spanText(7'265), "2:01:05");
 }
 
+TEST(ExactSecondsTextTest, HasThousandths) {
+    using namespace std::chrono_literals;
+    EXPECT_EQ(exactSecondsText(0ns), "0.000");
+    EXPECT_EQ(exactSecondsText(8'400us), "0.008");
+    EXPECT_EQ(exactSecondsText(65s), "65.000");
+    EXPECT_EQ(exactSecondsText(-1'500ms), "-1.500");
+}
+
 }  // namespace
 }  // namespace velmora

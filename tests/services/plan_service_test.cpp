@@ -105,6 +105,13 @@ class PlanServiceTest : public ::testing::Test {
         EXPECT_EQ(ask({static_cast<char>(columns), static_cast<char>(rows)}), kOk);
     }
     void put(const std::string& cell) { EXPECT_EQ(ask(cell), kOk); }
+    /// Sends a sheet of one cell where there is a file, but not its end.
+    void sendOverOldFile() {
+        memory.addFile("/folder/C.CSV", "old");
+        save(4, "C");
+        announce(1, 1);
+        put(value(0, 0, "1"));
+    }
     /// Trace and log were told these lines and no others.
     void expectReports(const std::vector<std::string>& lines) {
         EXPECT_EQ(window.reports, lines);
@@ -362,10 +369,7 @@ TEST_F(PlanServiceTest, ASecondMessageForACellIsIgnoredButCounted) {
 
 TEST_F(PlanServiceTest, AnOldFileIsReplacedOnlyByAWholeOne) {
     copiesSettings.days = 0;
-    memory.addFile("/folder/C.CSV", "old");
-    save(4, "C");
-    announce(1, 1);
-    put(value(0, 0, "1"));
+    sendOverOldFile();
     files.failAtCall(test::FileCall::Write, 1, ErrorNumber::DiskFull);
     EXPECT_EQ(refusal("\xFE"), "=") << "61, the error number itself";
     EXPECT_EQ(memory.content("/folder/C.CSV"), "old");
@@ -373,10 +377,7 @@ TEST_F(PlanServiceTest, AnOldFileIsReplacedOnlyByAWholeOne) {
 }
 
 TEST_F(PlanServiceTest, WhatASheetReplacesIsKept) {
-    memory.addFile("/folder/C.CSV", "old");
-    save(4, "C");
-    announce(1, 1);
-    put(value(0, 0, "1"));
+    sendOverOldFile();
     EXPECT_FALSE(memory.folderExists("/copies")) << "nothing is replaced yet";
     EXPECT_EQ(ask("\xFE"), kEnd);
     EXPECT_EQ(memory.content("/copies/C (2026-03-28 14.05.09).CSV"), "old");
@@ -384,10 +385,7 @@ TEST_F(PlanServiceTest, WhatASheetReplacesIsKept) {
 }
 
 TEST_F(PlanServiceTest, WithoutRoomForTheCopyTheDiskIsFullAndTheOldFileStands) {
-    memory.addFile("/folder/C.CSV", "old");
-    save(4, "C");
-    announce(1, 1);
-    put(value(0, 0, "1"));
+    sendOverOldFile();
     files.failAfterBytes(2, ErrorNumber::DiskFull);
     EXPECT_EQ(refusal("\xFE"), "=") << "61";
     EXPECT_EQ(memory.content("/folder/C.CSV"), "old");
@@ -396,10 +394,7 @@ TEST_F(PlanServiceTest, WithoutRoomForTheCopyTheDiskIsFullAndTheOldFileStands) {
 }
 
 TEST_F(PlanServiceTest, WithoutItsCopyAFileIsNotReplacedEvenIfTheDiskHasRoomAgain) {
-    memory.addFile("/folder/C.CSV", "old");
-    save(4, "C");
-    announce(1, 1);
-    put(value(0, 0, "1"));
+    sendOverOldFile();
     files.failAtCall(test::FileCall::Write, 1, ErrorNumber::DiskFull);
     EXPECT_EQ(refusal("\xFE"), "=") << "61";
     EXPECT_EQ(memory.content("/folder/C.CSV"), "old");
