@@ -132,9 +132,11 @@ LineDoctor::Found LineDoctor::examineAnswers(const Heard& heard) {
     findings_.add({DoctorStep::Listening, StepStatus::Well, "The Organiser is heard."});
     Found found = judgeAnswers(heard, leastAnswerTime(heard));
     if (found && found->cause == Cause::AnswersLost) {
-        // A busy computer may have missed one.
+        // A busy computer may have missed one; an Organiser that gives up meanwhile tells no more.
         const Heard again = probe_.converse({});
-        found = judgeAnswers(again, leastAnswerTime(again));
+        if (again.answered > 0) {
+            found = judgeAnswers(again, leastAnswerTime(again));
+        }
     }
     probe_.hangUp();
     if (found && found->cause == Cause::HandheldDeaf) {
@@ -157,7 +159,14 @@ Verdict LineDoctor::examineUnframed(const Heard& heard) {
     if (likely.settings) {
         return others_.confirm(likely);
     }
-    if (Found rate = others_.tryRates(OtherSettings::Rates::SlowOnesToo)) {
+    if (likely.cause == Cause::OtherProtocol) {
+        // It could not be read at another rate than its own.
+        return {likely.cause, likely.confidence, {}};
+    }
+    // A slower sender's bits are nulls here, and of a faster one's bytes few are left.
+    const auto order = likely.cause == Cause::LineStuck ? OtherSettings::Rates::SlowerFirst
+                                                        : OtherSettings::Rates::FasterFirst;
+    if (Found rate = others_.tryRates(order)) {
         return *std::move(rate);
     }
     return {likely.cause, likely.confidence, {}};

@@ -1,5 +1,6 @@
 #include "doctor/other_settings.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <string>
 
@@ -39,10 +40,22 @@ Verdict OtherSettings::confirm(const Unframed& likely) {
     return found(step, likely.cause, seen ? kSeen : likely.confidence, *likely.settings);
 }
 
+std::vector<std::uint32_t> OtherSettings::inTurn(Rates rates) const {
+    std::vector<std::uint32_t> turn(kTriedRates.begin(), kTriedRates.end());
+    std::erase_if(turn, [&](std::uint32_t rate) {
+        return rate == wanted_.baud || (rates == Rates::Usual && rate < kSlowestUsual);
+    });
+    if (rates != Rates::Usual) {
+        std::stable_partition(turn.begin(), turn.end(), [&](std::uint32_t rate) {
+            return (rates == Rates::SlowerFirst) == (rate < wanted_.baud);
+        });
+    }
+    return turn;
+}
+
 OtherSettings::Found OtherSettings::tryRates(Rates rates) {
-    for (const std::uint32_t rate : kTriedRates) {
-        const bool passed = rate == wanted_.baud || (rate < kSlowestUsual && rates == Rates::Usual);
-        if (!passed && probe_.use(LineSettings{rate}) && glance().goodFrames > 0) {
+    for (const std::uint32_t rate : inTurn(rates)) {
+        if (probe_.use(LineSettings{rate}) && glance().goodFrames > 0) {
             return found(DoctorStep::OtherRates, Cause::WrongRate, kSeen, LineSettings{rate});
         }
     }

@@ -1,7 +1,9 @@
 // Looking for the Organiser with other settings than the server's.
 #pragma once
 
+#include <cstdint>
 #include <optional>
+#include <vector>
 
 #include "doctor/diagnosis.h"
 #include "doctor/line_probe.h"
@@ -22,14 +24,15 @@ class OtherSettings {
     /// Listens with the settings that `likely` tells of, and is surer when frames come.
     Verdict confirm(const Unframed& likely);
 
-    enum class Rates { Usual, SlowOnesToo };
-    /// Listens at all other rates.
+    enum class Rates { Usual, SlowerFirst, FasterFirst };
+    /// Listens at other rates: the usual ones, or all of them, those below or above ours first.
     Found tryRates(Rates rates);
 
     /// Listens with other parities and numbers of bits, as far as the device has them, until one is answered.
     Found tryForms();
 
   private:
+    std::vector<std::uint32_t> inTurn(Rates rates) const;
     Heard glance();
     Verdict found(DoctorStep step, Cause cause, int confidence, const LineSettings& settings);
 

@@ -230,6 +230,17 @@ TEST(LineDoctorTest, AnAnswerThatComesLateOnceIsNoFault) {
     EXPECT_EQ(examined(line).verdict.cause, Cause::None);
 }
 
+TEST(LineDoctorTest, AnOrganiserThatGivesUpMeanwhileIsNotCalledDeaf) {
+    constexpr std::uint64_t kRuns = 20;
+    for (std::uint64_t seed = 0; seed < kRuns; ++seed) {
+        SimulatedLine line(illnessOf("losses=0.3"), seed);
+        line.handheld = std::make_unique<SimulatedHandheld>(70ms, 20ms);
+        line.goneAt = 8s;
+        const Diagnosis diagnosis = examined(line);
+        EXPECT_NE(diagnosis.verdict.cause, Cause::HandheldDeaf) << told(diagnosis);
+    }
+}
+
 TEST(LineDoctorTest, RatesThatTheDeviceRefusesAreLeftOut) {
     SimulatedLine line(illnessOf("loopback"), 1);
     line.onlyRate = 9600;

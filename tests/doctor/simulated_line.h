@@ -36,6 +36,7 @@ class SimulatedLine : public ExaminedLine {
     std::optional<LineSettings> told;       ///< what it says in place of what it was set to
     std::optional<Time> busyAt;             ///< when the computer does something else for a second
     std::optional<Time> lostAt;             ///< when the adapter is pulled
+    std::optional<Time> goneAt;             ///< when the handheld gives up
 
     SystemError open(const LineSettings& settings) override {
         settings_ = settings;
@@ -71,6 +72,9 @@ class SimulatedLine : public ExaminedLine {
     }
     LineInput read(Time deadline) override {
         check();
+        if (goneAt && now_ >= *goneAt) {
+            handheld.reset();
+        }
         if (busyAt && now_ >= *busyAt) {
             busyAt.reset();
             const Time until = now_ + std::chrono::seconds(1);

@@ -170,9 +170,13 @@ void Process::signal(int number) const {
 }
 
 bool Process::endsUnread() const {
-    pollfd watched{end_, POLLIN, 0};
+    return eitherEnds(*this);
+}
+
+bool Process::eitherEnds(const Process& other) const {
+    std::array<pollfd, 2> watched = {pollfd{end_, POLLIN, 0}, pollfd{other.end_, POLLIN, 0}};
     constexpr std::chrono::milliseconds kMilliseconds = kPatience;
-    return ::poll(&watched, 1, static_cast<int>(kMilliseconds.count())) == 1;
+    return ::poll(watched.data(), watched.size(), static_cast<int>(kMilliseconds.count())) > 0;
 }
 
 bool Process::running() {

@@ -43,6 +43,8 @@ class Process {
     void closeOutput();
     void signal(int number) const;
     bool running();
+    /// Waits, and reads nothing, until this program or another one ends; false when both go on.
+    bool eitherEnds(const Process& other) const;
     pid_t id() const { return id_; }
 
     const std::string& output() const { return output_; }
