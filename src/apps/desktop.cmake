@@ -2,6 +2,7 @@
 velmora_library(desktop_server
   SOURCES
     desktop_dialogs.cpp
+    desktop_help.cpp
     desktop_server.cpp
     desktop_transfers.cpp
   LIBS velmora_server_program velmora_ui_qt velmora_qt_dialogs velmora_arguments)

@@ -6,18 +6,22 @@
 #include "serial/adapter_latency.h"
 #include "serial/port_list.h"
 #include "ui/qt/frm_setup.h"
+#include "ui/qt/help_key.h"
 #include "ui/qt/native_folder_browser.h"
 
 namespace velmora {
 
-DesktopDialogs::DesktopDialogs(const Clock& clock, PortNames& portNames)
-    : portNames_(portNames), debugWindow_(clock) {}
+DesktopDialogs::DesktopDialogs(const Clock& clock, PortNames& portNames, const DesktopHelp& help)
+    : portNames_(portNames), help_(help), debugWindow_(clock) {
+    onHelpKey(debugWindow_, help_.about(debugWindow_, HelpTopic::Monitor));
+}
 
 void DesktopDialogs::runSetup(QWidget& window, SerialPort& port, ServerOptions& options,
                               TransferSettings& transfer, const SetupModel::Probe& probe,
                               const AdapterEvents& adapters) {
     frmSetup dialog(
         port, options, transfer, probe, [this] { return listPorts(portNames_); }, &window);
+    dialog.offerHelp(help_.about(dialog, HelpTopic::Setup));
     dialog.setDeviceTip([&port](const std::string& device) { return latencyTip(device, port.Settings()); });
     if (!adapters.live() && !std::exchange(newsMissed_, true)) {
         dialog.setDeviceHint(
@@ -36,7 +40,8 @@ void DesktopDialogs::adaptersChanged() {
     }
 }
 
-std::string DesktopDialogs::browseForFolder(QWidget& window, const FolderQuestion& question) {
+std::string DesktopDialogs::browseForFolder(QWidget& window, FolderQuestion question) {
+    question.help = help_.about(window, HelpTopic::Folder);
     return browseForFolderOver(window, question);
 }
 

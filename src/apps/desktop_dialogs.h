@@ -5,6 +5,7 @@
 #include <functional>
 #include <string>
 
+#include "apps/desktop_help.h"
 #include "base/clock.h"
 #include "link/debug.h"
 #include "serial/adapter_events.h"
@@ -22,7 +23,7 @@ namespace velmora {
 /// The setup dialog, the folder choice and the debug window. All that it is given must outlive it.
 class DesktopDialogs {
   public:
-    DesktopDialogs(const Clock& clock, PortNames& portNames);
+    DesktopDialogs(const Clock& clock, PortNames& portNames, const DesktopHelp& help);
 
     /// Shows the setup dialog over the window until the user closes it.
     void runSetup(QWidget& window, SerialPort& port, ServerOptions& options, TransferSettings& transfer,
@@ -30,7 +31,7 @@ class DesktopDialogs {
     /// An adapter has come or gone: a setup dialog that is open shows it.
     void adaptersChanged();
     /// Asks for a folder; empty when the user cancels.
-    std::string browseForFolder(QWidget& window, const FolderQuestion& question);
+    std::string browseForFolder(QWidget& window, FolderQuestion question);
 
     /// The protocol trace goes to the debug window.
     TraceSink& traceSink() { return debugWindow_.model(); }
@@ -42,6 +43,7 @@ class DesktopDialogs {
 
   private:
     PortNames& portNames_;
+    const DesktopHelp& help_;
     frmDebug debugWindow_;
     bool newsMissed_ = false;              // it was told that the system tells nothing of adapters
     AdapterFollower* follower_ = nullptr;  // of the setup dialog while it is open

@@ -9,13 +9,15 @@
 #include "server/caption.h"
 #include "server/port_test.h"
 #include "ui/qt/desktop_files.h"
+#include "ui/qt/help_key.h"
 #include "ui/qt/qt_text.h"
 
 namespace velmora {
 
 DesktopServer::DesktopServer(const RunOverrides& overrides)
     : platform_([this] { controller().ComTimer_Tick(); }, [this] { return program_.core().soonestFrame(); }),
-      dialogs_(platform_.clock, platform_.portNames),
+      help_(platform_),
+      dialogs_(platform_.clock, platform_.portNames, help_),
       box_(&window_),
       transfers_(platform_, dialogs_.traceSink()),
       program_(platform_, overrides,
@@ -42,6 +44,8 @@ DesktopServer::DesktopServer(const RunOverrides& overrides)
     controller().onPortFailure([this] { window_.showAdvice(portAdvice()); });
     window_.setActions(windowActions());
     window_.setFullVersion(std::string(kProgramName) + " " + fullVersion());
+    onHelpKey(window_, help_.about(window_, HelpTopic::MainWindow));
+    onHelpKey(transfers_.window(), help_.about(transfers_.window(), HelpTopic::Transfers));
     transfers_.follow(program_.core());
     program_.record(captured_);
     dialogs_.offerCapture([this] { return pcapngFile(captured_.capture()); });

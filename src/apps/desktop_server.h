@@ -5,6 +5,7 @@
 #include <string>
 
 #include "apps/desktop_dialogs.h"
+#include "apps/desktop_help.h"
 #include "apps/desktop_transfers.h"
 #include "apps/native_position_store.h"
 #include "apps/platform_parts.h"
@@ -55,6 +56,7 @@ class DesktopServer {
     bool sessionEnds_ = false;  // the desktop session has begun to end
 
     PlatformParts platform_;
+    DesktopHelp help_;
     DesktopDialogs dialogs_;
     frmMain window_;
     QtMessageBox box_;

@@ -21,6 +21,7 @@ class DesktopTransfers {
     void follow(ServerCore& server);
     void show() { window_.present(); }
     void close() { window_.close(); }
+    QWidget& window() { return window_; }
 
   private:
     QtTimer timer_;

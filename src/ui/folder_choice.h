@@ -18,6 +18,8 @@ struct FolderQuestion {
     /// Shown above the tree. The default is German whatever language the rest speaks, and is kept so.
     std::string prompt = "W\xE4hlen Sie einen Ordner aus";
     std::string startFolder;
+    /// What the user asks for help with; may be missing. A dialog of the system has help of its own.
+    std::function<void()> help = {};
 };
 
 /// Asks for a folder; empty when the user cancels.

@@ -7,6 +7,7 @@
 #include <array>
 
 #include "ui/qt/folder_dialog.h"
+#include "ui/qt/help_key.h"
 #include "ui/qt/qt_text.h"
 
 namespace velmora {
@@ -103,6 +104,9 @@ std::string cSHFolder::BrowseForFolder(QWidget* owner, const std::optional<std::
     if (!caption_.empty()) {
         setCaption(caption_);
     }
+    if (help_) {
+        onHelpKey(dialog, help_);
+    }
     connect(&dialog, &FolderDialog::selectionMoved, this, &cSHFolder::SelectionChanged);
     connect(&dialog, &FolderDialog::validationFailed, this, &cSHFolder::ValidationFailed);
     QTimer::singleShot(0, &dialog, [this] { Q_EMIT Initialized(); });
@@ -121,6 +125,7 @@ BrowseForFolder folderBrowser(QWidget* owner) {
         folder.setDefaultPath(question.startFolder);
         folder.setNewDialog(true);
         folder.setEditBox(true);
+        folder.setHelp(question.help);
         return folder.BrowseForFolder(owner, question.prompt);
     };
 }

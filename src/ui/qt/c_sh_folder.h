@@ -3,8 +3,10 @@
 
 #include <QObject>
 #include <QPointer>
+#include <functional>
 #include <optional>
 #include <string>
+#include <utility>
 
 #include "ui/folder_choice.h"
 
@@ -43,6 +45,8 @@ class cSHFolder : public QObject {
     /// Gives the dialog a box for typing a path. What names no folder raises ValidationFailed and leaves the
     /// dialog open, with the reason below the folders.
     void setEditBox(bool on) { editBox_ = on; }
+    /// What F1 does in a dialog that opens later.
+    void setHelp(std::function<void()> help) { help_ = std::move(help); }
     /// Enables or disables OK while the dialog is open; each dialog opens with OK as its selection has it.
     void setOKEnabled(bool on);
     /// The dialog while it is open, otherwise null.
@@ -70,6 +74,7 @@ class cSHFolder : public QObject {
     bool newDialog_ = false;
     bool includeFiles_ = false;
     bool editBox_ = false;
+    std::function<void()> help_;
     QPointer<FolderDialog> dialog_;
 };
 

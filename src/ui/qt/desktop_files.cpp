@@ -27,8 +27,12 @@ QString tellMissing(const QString& path) {
     return QStringLiteral("%1 is not there any more.").arg(QDir::toNativeSeparators(path));
 }
 
-QString handOver(const QString& path) {
-    if (QDesktopServices::openUrl(QUrl::fromLocalFile(path))) {
+QString handOver(const QString& path, const QString& anchor = {}) {
+    QUrl place = QUrl::fromLocalFile(path);
+    if (!anchor.isEmpty()) {
+        place.setFragment(anchor);
+    }
+    if (QDesktopServices::openUrl(place)) {
         return {};
     }
     return QStringLiteral("No program opens %1.").arg(QDir::toNativeSeparators(path));
@@ -39,6 +43,11 @@ QString handOver(const QString& path) {
 QString openOnDesktop(const std::string& path) {
     const QString name = qtSystemText(path);
     return QFileInfo::exists(name) ? handOver(name) : tellMissing(name);
+}
+
+QString openPage(const std::string& path, std::string_view anchor) {
+    return handOver(qtSystemText(path),
+                    QString::fromLatin1(anchor.data(), static_cast<qsizetype>(anchor.size())));
 }
 
 QString showInFolder(const std::string& path) {

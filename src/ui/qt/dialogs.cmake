@@ -5,6 +5,7 @@ velmora_library(qt_dialogs
     frm_debug.cpp
     frm_setup.cpp
     frm_transfers.cpp
+    help_key.cpp
     log_lines.cpp
     log_view.cpp
     transfer_table.cpp

@@ -36,6 +36,7 @@ constexpr int kFlushMilliseconds = 50;
 }  // namespace
 
 frmDebug::frmDebug(const Clock& clock, QWidget* parent) : QWidget(parent, Qt::Window), model_(clock, *this) {
+    setObjectName(QStringLiteral("frmDebug"));
     setWindowTitle(QStringLiteral("Velmora PLP Monitor"));
     build();
     flushTimer_.setSingleShot(true);

@@ -21,6 +21,7 @@
 #include <utility>
 
 #include "ui/port_key_filter.h"
+#include "ui/qt/help_key.h"
 #include "ui/qt/qt_text.h"
 
 namespace velmora {
@@ -241,10 +242,15 @@ QHBoxLayout* frmSetup::makeButtons() {
     pbOK->setDefault(true);
     pbCancel = new QPushButton(QStringLiteral("Cancel"));
     pbCancel->setObjectName("pbCancel");
+    pbHelp = new QPushButton(QStringLiteral("Help"));
+    pbHelp->setObjectName("pbHelp");
+    pbHelp->setAutoDefault(false);
+    pbHelp->hide();
     auto* buttons = new QHBoxLayout;
     buttons->addWidget(lblBusy, 1);
     buttons->addWidget(pbOK);
     buttons->addWidget(pbCancel);
+    buttons->addWidget(pbHelp);
     return buttons;
 }
 
@@ -253,7 +259,7 @@ void frmSetup::orderControls() {
     for (QWidget* next : std::initializer_list<QWidget*>{
              obPort[1], obPort[2], obPort[3], obPort[4], txtPortNo, pbCheckPort, cboPresentPorts,
              pbRefreshPorts, obBaud[0], obBaud[1], obBaud[2], obBaud_other, cbAutoStart, cboFileType,
-             cboWksDialect, pbOK, pbCancel}) {
+             cboWksDialect, pbOK, pbCancel, pbHelp}) {
         setTabOrder(before, next);
         before = next;
     }
@@ -415,6 +421,12 @@ void frmSetup::showDevices(std::vector<PortIdentity> devices) {
     cboPresentPorts->setCurrentIndex(-1);
     lblDeviceHint->clear();
     lblDeviceHint->hide();
+}
+
+void frmSetup::offerHelp(const std::function<void()>& help) {
+    connect(pbHelp, &QPushButton::clicked, this, help);
+    onHelpKey(*this, help);
+    pbHelp->show();
 }
 
 void frmSetup::setDeviceTip(DeviceTip tip) {

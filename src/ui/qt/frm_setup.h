@@ -42,6 +42,8 @@ class frmSetup : public QDialog {
     void reject() override;
     /// What sounds when a key is refused or there is no number to check; the desktop's beep at first.
     void setBeep(std::function<void()> beep) { beep_ = std::move(beep); }
+    /// What the Help button and F1 do; without it there is no such button.
+    void offerHelp(const std::function<void()>& help);
     /// What is said beside a device of the list; empty for nothing. Without it nothing is.
     void setDeviceTip(DeviceTip tip);
     /// What is said below the list until a device is chosen or the list changes.
@@ -101,6 +103,7 @@ class frmSetup : public QDialog {
     QLabel* lblBusy = nullptr;
     QPushButton* pbOK = nullptr;
     QPushButton* pbCancel = nullptr;
+    QPushButton* pbHelp = nullptr;
 };
 
 }  // namespace velmora

@@ -39,6 +39,18 @@ class CSHFolderTest : public QObject {
         QCOMPARE(folder.DisplayName(), path() + "/inner");
         QVERIFY(!folder.hWnd());
     }
+    void helpIsAskedForByItsKey() {
+        cSHFolder folder;
+        int asked = 0;
+        folder.setHelp([&asked] { ++asked; });
+        whenOpen(folder, [&] {
+            [&] { QTRY_VERIFY(folder.hWnd()->isActiveWindow()); }();
+            QTest::keyClick(folder.hWnd(), Qt::Key_F1);
+            opened(folder)->reject();
+        });
+        folder.BrowseForFolder(nullptr);
+        QCOMPARE(asked, 1);
+    }
     void theDefaultPathIsPreselected() {
         cSHFolder folder;
         folder.setDefaultPath(path());

@@ -16,7 +16,10 @@ class DesktopFilesTest : public QObject {
     Q_OBJECT
 
   public Q_SLOTS:
-    void take(const QUrl& url) { taken = url.toLocalFile(); }
+    void take(const QUrl& url) {
+        taken = url.toLocalFile();
+        takenAnchor = url.fragment();
+    }
 
   private Q_SLOTS:
     void init();
@@ -27,6 +30,7 @@ class DesktopFilesTest : public QObject {
     void theFolderIsShownWhenOnlyTheFileIsGone();
     void aFolderThatIsGoneIsTold();
     void whatNoProgramOpensIsTold();
+    void aPageIsHandedOverWithItsHeading();
 
   private:
     std::string path(const char* name) const {
@@ -35,6 +39,7 @@ class DesktopFilesTest : public QObject {
 
     std::unique_ptr<QTemporaryDir> folder;
     QString taken;
+    QString takenAnchor;
 };
 
 void DesktopFilesTest::init() {
@@ -42,6 +47,7 @@ void DesktopFilesTest::init() {
     QFile memo(folder->filePath(QStringLiteral("Memo.odb")));
     QVERIFY(memo.open(QIODevice::WriteOnly));
     taken.clear();
+    takenAnchor.clear();
     QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "take");
 }
 
@@ -81,6 +87,12 @@ void DesktopFilesTest::whatNoProgramOpensIsTold() {
     QDesktopServices::unsetUrlHandler(QStringLiteral("file"));
     QCOMPARE(openOnDesktop(path("Memo.odb")),
              QStringLiteral("No program opens %1.").arg(folder->filePath(QStringLiteral("Memo.odb"))));
+}
+
+void DesktopFilesTest::aPageIsHandedOverWithItsHeading() {
+    QCOMPARE(openPage(path("Memo.odb"), "the-window"), QString());
+    QCOMPARE(taken, folder->filePath(QStringLiteral("Memo.odb")));
+    QCOMPARE(takenAnchor, QStringLiteral("the-window"));
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 #include "apps/desktop_server.h"
 
 #include <QDateTime>
+#include <QDesktopServices>
 #include <QFile>
 #include <QLabel>
 #include <QLocale>
@@ -12,6 +13,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <QUrl>
 #include <filesystem>
 #include <fstream>
 #include <memory>
@@ -49,6 +51,7 @@ class DesktopServerTest : public QObject {
     void startsByItselfAndShowsIt();
     void withoutAPortItSaysWhatToDoNext();
     void aFolderThatIsGoneIsToldInsteadOfOpened();
+    void helpOpensTheGuideAtTheWindowOrSaysWhereItIs();
     void pulledCableStopsTheServerUntilItIsBack();
     void whileItWaitsForItsCableItCanBeStopped();
     void missingDeviceTellsWhatToDo();
@@ -86,18 +89,42 @@ class DesktopServerTest : public QObject {
                                         QStringLiteral("--type"), QStringLiteral("block:2")});
     }
     QLabel* label(const char* name) const { return server->window().findChild<QLabel*>(QLatin1String(name)); }
-    static QWidget* transfers() {
+    static QWidget* windowCalled(const char* name) {
         for (QWidget* window : QApplication::topLevelWidgets()) {
-            if (window->objectName() == QLatin1String("frmTransfers")) {
+            if (window->objectName() == QLatin1String(name)) {
                 return window;
             }
         }
         return nullptr;
     }
+    static QWidget* transfers() { return windowCalled("frmTransfers"); }
+    static void press(QWidget& window, Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+        window.activateWindow();
+        QTRY_VERIFY(window.isActiveWindow());
+        QTest::keyClick(&window, key, modifiers);
+    }
+    /// Presses F1 in a window; the address that the desktop was given, or what a box said instead.
+    QString helpOf(QWidget& window) {
+        told.clear();
+        QTimer reader;
+        connect(&reader, &QTimer::timeout, this, [this] {
+            if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+                told = box->text();
+                box->accept();
+            }
+        });
+        reader.start();
+        press(window, Qt::Key_F1);
+        return told;
+    }
     /// What stands in the first row of the transfers.
     static QString transferText(int column) {
         return transfers()->findChild<QTableView*>()->model()->index(0, column).data().toString();
     }
+  public Q_SLOTS:
+    void takeAddress(const QUrl& url) { told = url.fileName() + QLatin1Char('#') + url.fragment(); }
+
+  private:
     QPushButton* startStop() const {
         return server->window().findChild<QPushButton*>(QStringLiteral("pbStartStop"));
     }
@@ -107,6 +134,7 @@ class DesktopServerTest : public QObject {
     std::unique_ptr<test::PtyPair> pty;
     QProcess cable;
     QString handheld;
+    QString told;
     QProcess organiser;
     std::unique_ptr<DesktopServer> server;
 };
@@ -169,6 +197,24 @@ void DesktopServerTest::aFolderThatIsGoneIsToldInsteadOfOpened() {
                       Qt::LeftButton);
     QVERIFY(label("lblAdvice")->isVisible());
     QVERIFY(label("lblAdvice")->text().endsWith(QStringLiteral("psion is not there any more.")));
+}
+
+void DesktopServerTest::helpOpensTheGuideAtTheWindowOrSaysWhereItIs() {
+    QVERIFY(server->start(""));
+    QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "takeAddress");
+    // The pages are made with the whole project; a build of the tests alone has none.
+    const bool made = QFile::exists(QCoreApplication::applicationDirPath() +
+                                    QStringLiteral("/../documents/user-guide.html"));
+    const auto expected = [made](const char* anchor) {
+        return made ? QStringLiteral("user-guide.html#") + QLatin1String(anchor)
+                    : QStringLiteral("The guide is not installed");
+    };
+    QVERIFY(helpOf(server->window()).startsWith(expected("the-window")));
+    press(server->window(), Qt::Key_T, Qt::ControlModifier);
+    QVERIFY(helpOf(*transfers()).startsWith(expected("what-was-transferred")));
+    press(server->window(), Qt::Key_D, Qt::ControlModifier);
+    QVERIFY(helpOf(*windowCalled("frmDebug")).startsWith(expected("the-protocol-monitor")));
+    QDesktopServices::unsetUrlHandler(QStringLiteral("file"));
 }
 
 void DesktopServerTest::pulledCableStopsTheServerUntilItIsBack() {

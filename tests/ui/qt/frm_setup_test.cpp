@@ -480,6 +480,19 @@ class FrmSetupTest : public QObject {
         QCOMPARE(list->count(), 1);
         QCOMPARE(list->currentIndex(), -1);
     }
+    void helpIsAskedForByItsButtonAndByItsKey() {
+        open();
+        auto* button = find<QPushButton>("pbHelp");
+        QVERIFY(!button->isVisible());
+        int asked = 0;
+        dialog->offerHelp([&asked] { ++asked; });
+        QTest::mouseClick(button, Qt::LeftButton);
+        QCOMPARE(asked, 1);
+        QTest::keyClick(dialog->focusWidget(), Qt::Key_F1);
+        QCOMPARE(asked, 2);
+        QVERIFY(dialog->isVisible());
+        isForEverybody();
+    }
     void thePortsAreProbedUnderTheEyesOfEverybody() {
         whileProbing = [&] {
             QVERIFY(!ok()->isEnabled());
