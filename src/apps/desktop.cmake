@@ -1,6 +1,7 @@
 # The server with a window; its objects are a library for tools that show it at work.
 velmora_library(desktop_server
   SOURCES
+    desktop_about.cpp
     desktop_dialogs.cpp
     desktop_help.cpp
     desktop_server.cpp

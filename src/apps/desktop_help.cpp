@@ -11,7 +11,8 @@
 namespace velmora {
 
 DesktopHelp::DesktopHelp(const PlatformParts& platform)
-    : help_(platform.files, platform.rules, platform.rules.absolute(systemPath(QCoreApplication::applicationDirPath())),
+    : help_(platform.files, platform.rules,
+            platform.rules.absolute(systemPath(QCoreApplication::applicationDirPath())),
             [](const std::string& path, std::string_view anchor) {
                 return systemPath(openPage(path, anchor));
             }) {}

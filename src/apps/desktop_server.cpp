@@ -37,6 +37,7 @@ DesktopServer::DesktopServer(const RunOverrides& overrides)
                 {},
                 [this] { return waitFor(); },
                 [this] { dialogs_.adaptersChanged(); }}),
+      about_(platform_, program_, overrides, captured_, help_),
       registry_(positions_) {
     controller().setClosingActions(
         {&program_.settingsStore(), [this] { saveWindowPlace(); }, [this] { closeOtherWindows(); }});
@@ -73,6 +74,7 @@ frmMain::Actions DesktopServer::windowActions() {
     actions.pbShutDown_Click = [&controller] { controller.pbShutDown_Click(); };
     actions.pbOpenFolder_Click = [this] { openFolder(); };
     actions.pbTransfers_Click = [this] { transfers_.show(); };
+    actions.pbAbout_Click = [this] { about_.show(window_); };
     actions.lblDebug_DblClick = [this] { dialogs_.toggleDebugWindow(); };
     actions.queryUnload = [this](CloseReason reason) { return queryUnload(reason); };
     actions.closed = [this] { quit(); };

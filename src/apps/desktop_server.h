@@ -4,6 +4,7 @@
 #include <QObject>
 #include <string>
 
+#include "apps/desktop_about.h"
 #include "apps/desktop_dialogs.h"
 #include "apps/desktop_help.h"
 #include "apps/desktop_transfers.h"
@@ -63,6 +64,7 @@ class DesktopServer {
     DesktopTransfers transfers_;
     CaptureRing captured_;  // for a fault that is looked into once it has happened
     ServerProgram program_;
+    DesktopAbout about_;
     NativePositionStore positions_;
     Registry registry_;
     QObject session_;  // ends the connections to the session before anything above ends

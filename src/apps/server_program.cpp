@@ -15,7 +15,8 @@ ServerProgram::ServerProgram(PlatformParts& platform, RunOverrides overrides, co
     : platform_(platform),
       overrides_(std::move(overrides)),
       debug_(face.trace),
-      tap_(debug_),
+      recent_(debug_),
+      tap_(recent_),
       core_({face.view, face.box, platform.files, platform.rules, platform.port, tap_, platform.ComTimer,
              platform.PLPtimer, platform.DisplayTimer, platform.clock, platform.zone, platform.yield,
              platform.readYield, platform.folders.programData(),
@@ -29,7 +30,7 @@ ServerProgram::ServerProgram(PlatformParts& platform, RunOverrides overrides, co
                  [&platform] { return listPorts(platform.portNames); }, gatherDeviceFacts,
                  [this](const std::string& line) { tellOfPort(line); }, face.waitFor},
              ServerCoreParts::SleepWatching{platform_.sleep, platform_.SleepTimer}}),
-      slowPort_(core_.controller(), debug_),
+      slowPort_(core_.controller(), recent_),
       lineWatch_({core_.crc, platform.clock, [this] { return core_.link().linkState(); },
                   [this] { return platform_.port.Settings(); },
                   [this](const std::string& text2, const std::string& text3) {
@@ -67,7 +68,7 @@ StartupReport ServerProgram::start(const std::string& commandLine) {
     StartupReport report = start_.Main(commandLine);
     core_.applySettings(start_.settings());
     if (const std::string news = describeAdapterNews(); !news.empty()) {
-        debug_.trace("COM", news, {});
+        recent_.trace("COM", news, {});
     }
     return report;
 }
@@ -79,8 +80,13 @@ bool ServerProgram::searchPort() {
 
 void ServerProgram::tellOfPort(const std::string& line) {
     const std::string shown = shownText(line);
-    debug_.trace("COM", shown, {});
+    recent_.trace("COM", shown, {});
     controller().ShowText("", shown, "");
+}
+
+void ServerProgram::keepTrace(std::size_t entries) {
+    recent_.keep(
+        platform_.clock, [this] { return core_.link().linkState(); }, entries);
 }
 
 std::string ServerProgram::describeAdapterNews() const {

@@ -1,14 +1,17 @@
 // What the programs that serve have in common: the server on this machine, and its start.
 #pragma once
 
+#include <cstddef>
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "apps/controller_form.h"
 #include "apps/platform_parts.h"
 #include "apps/server_core.h"
 #include "base/message_box.h"
 #include "capture/capture_tap.h"
+#include "capture/recent_trace.h"
 #include "link/debug.h"
 #include "server/line_watch.h"
 #include "server/main_view.h"
@@ -66,6 +69,10 @@ class ServerProgram {
     ServerController& controller() { return core_.controller(); }
     /// Records what passes over the port into a target, which must outlive this object.
     void record(CaptureTarget& target) { tap_.record(platform_.clock, target); }
+    /// Keeps so many of the trace's newest entries from now on.
+    void keepTrace(std::size_t entries);
+    /// What is kept of the trace, as RecentTrace has it.
+    std::vector<std::string> recentTrace() const { return recent_.lines(); }
     /// Where settings are written that the command line does not override.
     IniSettingsStore& settingsStore() { return settingsStore_; }
 
@@ -77,6 +84,7 @@ class ServerProgram {
     PlatformParts& platform_;
     RunOverrides overrides_;
     Debug debug_;
+    RecentTrace recent_;
     CaptureTap tap_;
     ServerCore core_;
     SlowPortNote slowPort_;

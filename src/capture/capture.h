@@ -43,6 +43,9 @@ struct Capture {
     std::vector<CapturedPacket> packets;
 };
 
+/// The end of a recording: what came within `span` before its last packet, the ports as they are.
+Capture lastOf(const Capture& capture, std::chrono::nanoseconds span);
+
 /// Takes a recording as it grows. Must not throw: a recording never disturbs what it records.
 class CaptureTarget {
   public:

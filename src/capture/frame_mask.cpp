@@ -30,6 +30,10 @@ bool isData(char type) {
 
 }  // namespace
 
+std::string maskedServiceName(std::string_view name) {
+    return beginsAService(name) ? std::string(name) : std::string(name.size(), kMasked);
+}
+
 FrameMask::FrameMask(CaptureDirection direction) : direction_(direction) {
     crc_.load_CRCtable();
 }

@@ -12,6 +12,9 @@
 
 namespace velmora {
 
+/// What the Organiser calls a service by: as it is when it may be one, else nothing but "x".
+std::string maskedServiceName(std::string_view name);
+
 /// Masks one direction of a line. Frames keep their length, type, number and operation; the data of DATA
 /// frames and all that belongs to no frame becomes "x", but for DLE, which frames are made with. Of what the
 /// Organiser asks for, the operation stays, with the two bytes behind an "open", and the name of a service.

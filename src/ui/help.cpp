@@ -14,6 +14,8 @@ HelpPlace helpPlace(HelpTopic topic) {
             return {"user-guide", "settings"};
         case HelpTopic::Folder:
             return {"user-guide", "the-download-folder"};
+        case HelpTopic::About:
+            return {"user-guide", "about-velmora"};
     }
     return {"user-guide", ""};  // unreachable: every topic is above
 }

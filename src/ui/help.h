@@ -12,7 +12,7 @@
 namespace velmora {
 
 /// What help is asked for.
-enum class HelpTopic { MainWindow, Transfers, Monitor, Setup, Folder };
+enum class HelpTopic { MainWindow, Transfers, Monitor, Setup, Folder, About };
 
 /// A heading of a document.
 struct HelpPlace {

@@ -14,6 +14,8 @@ OTHER_TEXTS = {
     "startup/default_ini.cpp": "the default configuration file",
     "*/command_line.cpp": "the help",
     "apps/*_arguments.cpp": "the help",
+    "apps/desktop_about.cpp": "names in a report",
+    "ui/about_text.cpp": "licences",
     "doctor/doctor_arguments.cpp": "the help",
     "organiser/tour.cpp": "what a tour goes through",
     "link/*": "the trace",

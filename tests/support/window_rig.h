@@ -28,6 +28,7 @@ struct WindowRig {
         actions.pbHide_Click = [this] { controller.pbHide_Click(); };
         actions.pbShutDown_Click = [this] { controller.pbShutDown_Click(); };
         actions.pbOpenFolder_Click = [this] { ++openedFolders; };
+        actions.pbAbout_Click = [this] { ++abouts; };
         actions.pbTransfers_Click = [this] { ++transferWindows; };
         actions.lblDebug_DblClick = [this] { ++debugSwitches; };
         actions.queryUnload = [this](CloseReason reason) {
@@ -63,6 +64,7 @@ struct WindowRig {
     int setups = 0;
     int folders = 0;
     int transferWindows = 0;
+    int abouts = 0;
     int openedFolders = 0;
     int debugSwitches = 0;
     bool closed = false;

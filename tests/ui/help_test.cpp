@@ -17,7 +17,7 @@ namespace {
 using testing::HasSubstr;
 
 constexpr HelpTopic kTopics[] = {HelpTopic::MainWindow, HelpTopic::Transfers, HelpTopic::Monitor,
-                                 HelpTopic::Setup, HelpTopic::Folder};
+                                 HelpTopic::Setup,      HelpTopic::Folder,    HelpTopic::About};
 
 /// What links call a heading: small letters and digits, with "-" for blanks.
 std::string anchorOf(const std::string& heading) {
@@ -51,8 +51,8 @@ class DrivePathRules : public test::SlashPathRules {
 
 class HelpTest : public testing::Test {
   protected:
-    std::string show(HelpTopic topic, const PathRules& rules, const std::string& programs) {
-        const Help help(files, rules, programs, [this](const std::string& path, std::string_view anchor) {
+    std::string show(HelpTopic topic, const PathRules& system, const std::string& programs) {
+        const Help help(files, system, programs, [this](const std::string& path, std::string_view anchor) {
             opened = path + "#" + std::string(anchor);
             return answer;
         });

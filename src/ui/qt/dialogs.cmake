@@ -1,7 +1,9 @@
 # The setup dialog, the protocol monitor, the transfers and the folder choice.
 velmora_library(qt_dialogs
   SOURCES
+    capture_saving.cpp
     desktop_files.cpp
+    frm_about.cpp
     frm_debug.cpp
     frm_setup.cpp
     frm_transfers.cpp

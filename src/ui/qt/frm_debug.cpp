@@ -24,6 +24,7 @@
 #include <QVBoxLayout>
 #include <utility>
 
+#include "ui/qt/capture_saving.h"
 #include "ui/qt/log_view.h"
 #include "ui/qt/qt_text.h"
 
@@ -286,27 +287,11 @@ void frmDebug::offerCapture(std::function<std::string()> capture) {
 }
 
 void frmDebug::saveCaptureAs() {
-    QFileDialog dialog(this, QStringLiteral("Save capture"));
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setNameFilters({QStringLiteral("Captures (*.pcapng)"), QStringLiteral("All files (*)")});
-    dialog.setDefaultSuffix(QStringLiteral("pcapng"));
-    if (dialog.exec() == QDialog::Accepted) {
-        saveCaptureTo(dialog.selectedFiles().constFirst());
-    }
+    askAndSaveCapture(*this, capture_());
 }
 
 bool frmDebug::saveCaptureTo(const QString& path) {
-    const std::string bytes = capture_();
-    QSaveFile file(path);
-    file.setDirectWriteFallback(true);
-    if (file.open(QIODevice::WriteOnly) && file.write(bytes.data(), static_cast<qint64>(bytes.size())) >= 0 &&
-        file.commit()) {
-        return true;
-    }
-    showFailedSave(
-        QStringLiteral("The capture could not be saved in\n%1\n\n%2\n\nChoose another folder or name.")
-            .arg(QDir::toNativeSeparators(path), file.errorString()));
-    return false;
+    return saveCapture(*this, path, capture_());
 }
 
 void frmDebug::showFind() {

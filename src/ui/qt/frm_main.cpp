@@ -178,6 +178,11 @@ void frmMain::makeButtons() {
                             &Actions::pbShutDown_Click);
     pbTransfers = makeButton("pbTransfers", tr("&Transfers\u2026"),
                              tr("Show what was saved and loaded (Ctrl+T)"), &Actions::pbTransfers_Click);
+    pbAbout = makeButton("pbAbout", QStringLiteral("?"),
+                         tr("What Velmora is made of, where its files are, and a report of a fault"),
+                         &Actions::pbAbout_Click);
+    // No wider than high, beside a button that says in a word what it does.
+    pbAbout->setFixedWidth(pbAbout->sizeHint().height());
     pbOpenFolder = makeButton("pbOpenFolder", tr("&Open folder"),
                               tr("Open the folder that files are saved to and loaded from"),
                               &Actions::pbOpenFolder_Click);
@@ -192,6 +197,7 @@ void frmMain::makeButtons() {
     pbHide->setAccessibleName(tr("Hide"));
     pbShutDown->setAccessibleName(tr("Shut down"));
     pbTransfers->setAccessibleName(tr("Transfers"));
+    pbAbout->setAccessibleName(tr("About Velmora"));
     pbOpenFolder->setAccessibleName(tr("Open folder"));
 }
 
@@ -213,7 +219,10 @@ QGridLayout* frmMain::arrangeStatistics() {
     statistics->setColumnMinimumWidth(2, widest);
     statistics->setColumnStretch(0, 1);
     statistics->setColumnStretch(3, 1);
-    statistics->addWidget(pbTransfers, 0, 4, 3, 1, Qt::AlignRight | Qt::AlignBottom);
+    auto* others = new QHBoxLayout;
+    others->addWidget(pbTransfers);
+    others->addWidget(pbAbout);
+    statistics->addLayout(others, 0, 4, 3, 1, Qt::AlignRight | Qt::AlignBottom);
     return statistics;
 }
 
@@ -252,7 +261,7 @@ void frmMain::arrange() {
 
     QWidget* previous = pbStartStop;
     for (QWidget* next : std::initializer_list<QWidget*>{pbSetup, pbFolder, pbHide, pbShutDown, pbTransfers,
-                                                         pbOpenFolder, lblDebug}) {
+                                                         pbAbout, pbOpenFolder, lblDebug}) {
         setTabOrder(previous, next);
         previous = next;
     }

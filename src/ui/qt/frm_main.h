@@ -38,6 +38,7 @@ class frmMain : public QWidget, public MainView {
         std::function<void()> pbShutDown_Click;
         std::function<void()> pbTransfers_Click;
         std::function<void()> pbOpenFolder_Click;
+        std::function<void()> pbAbout_Click;
         std::function<void()> lblDebug_DblClick;
         /// The window is about to close; false keeps it open.
         std::function<bool(CloseReason)> queryUnload;
@@ -126,6 +127,7 @@ class frmMain : public QWidget, public MainView {
     QPushButton* pbHide;
     QPushButton* pbShutDown;
     QPushButton* pbTransfers;
+    QPushButton* pbAbout;
     ElidedLabel* lblFolder;
     QPushButton* pbOpenFolder;
 };

@@ -1,6 +1,7 @@
 // The desktop server on a real terminal: a cable that is pulled out and comes back.
 #include "apps/desktop_server.h"
 
+#include <QClipboard>
 #include <QDateTime>
 #include <QDesktopServices>
 #include <QFile>
@@ -20,6 +21,7 @@
 
 #include "capture/pcapng_reader.h"
 #include "support/pty_pair.h"
+#include "ui/qt/frm_about.h"
 #include "ui/transfer_list.h"
 
 namespace velmora {
@@ -58,6 +60,7 @@ class DesktopServerTest : public QObject {
     void displayStatisticsAndFileAgree();
     void aTransferIsListedAndRememberedOverStarts();
     void theMonitorSavesWhatPassedOverTheLine();
+    void theReportHasWhatPassedOverTheLineWithoutItsContents();
     void cablePulledAmidAFileLosesItWhateverTheUserAnswers_data();
     void cablePulledAmidAFileLosesItWhateverTheUserAnswers();
     void debugSwitchIsShownForTheWholeCommandLineOnly_data();
@@ -81,7 +84,7 @@ class DesktopServerTest : public QObject {
     /// Starts an Organiser that saves a block file of so many bytes as NOTES.
     void startSaving(std::size_t size, const QStringList& faults = {}) {
         const std::filesystem::path local = home->filePath(QStringLiteral("local")).toStdString();
-        std::ofstream(local, std::ios::binary) << std::string(size, 'x');
+        std::ofstream(local, std::ios::binary) << std::string(size, 'Q');
         organiser.start(QStringLiteral(VELMORA_BIN_DIR "/velmora-organiser"),
                         QStringList{QStringLiteral("--device"), handheld} + faults +
                             QStringList{QStringLiteral("save"), QString::fromStdString(local.string()),
@@ -336,9 +339,49 @@ void DesktopServerTest::theMonitorSavesWhatPassedOverTheLine() {
     bool contents = false;
     for (const CapturedPacket& packet : read.capture.packets) {
         contents = contents || (packet.direction == CaptureDirection::Received &&
-                                packet.bytes.find(std::string(100, 'x')) != std::string::npos);
+                                packet.bytes.find(std::string(100, 'Q')) != std::string::npos);
     }
     QVERIFY(contents);
+    cable.closeWriteChannel();
+    QTRY_COMPARE(cable.state(), QProcess::NotRunning);
+}
+
+void DesktopServerTest::theReportHasWhatPassedOverTheLineWithoutItsContents() {
+    layCable();
+    QVERIFY(server->start(""));
+    startSaving(100);
+    QTRY_COMPARE_WITH_TIMEOUT(organiser.state(), QProcess::NotRunning, 30'000);
+
+    const QString path = home->filePath(QStringLiteral("line.pcapng"));
+    QTimer user;
+    connect(&user, &QTimer::timeout, this, [&path] {
+        if (auto* about = qobject_cast<frmAbout*>(QApplication::activeModalWidget())) {
+            about->saveCaptureTo(path);
+            QTest::mouseClick(about->findChild<QPushButton*>("pbCopyDetails"), Qt::LeftButton);
+            about->accept();
+        }
+    });
+    user.start();
+    QTest::mouseClick(server->window().findChild<QPushButton*>(QStringLiteral("pbAbout")), Qt::LeftButton);
+
+    const QString report = QApplication::clipboard()->text();
+    QVERIFY(report.startsWith(QStringLiteral("Velmora 0.")));
+    QVERIFY(report.contains(QStringLiteral("\nServer: state 5 Waiting for link\n")));
+    QVERIFY(report.contains(QStringLiteral("\nCapture: ~/line.pcapng\n")));
+    QVERIFY(report.contains(QStringLiteral("[Settings] Port=40\n")));
+    QVERIFY(report.contains(QStringLiteral("PLP-->FTRAN")));
+    QVERIFY(report.contains(QStringLiteral("xxxxxxxx")));
+    QVERIFY(!report.contains(QStringLiteral("QQ")));
+    QVERIFY(!report.contains(home->path()));
+
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const Capture capture = readPcapng(file.readAll().toStdString()).capture;
+    QVERIFY(capture.masked);
+    QVERIFY(!capture.packets.empty());
+    for (const CapturedPacket& packet : capture.packets) {
+        QVERIFY(packet.bytes.find("QQ") == std::string::npos);
+    }
     cable.closeWriteChannel();
     QTRY_COMPARE(cable.state(), QProcess::NotRunning);
 }

@@ -51,6 +51,7 @@ class FrmMainTest : public QObject {
     void noPortLeavesOnlySetup();
     void folderButtonAsksForTheFolder();
     void transfersAreShownByTheButtonAndByItsKeys();
+    void aboutIsShownByItsButton();
     void theFolderIsShownAndOpened();
     void aLongFolderMakesNoWideWindow();
     void theVersionHasTheWholeOneAsItsTip();
@@ -95,8 +96,8 @@ void FrmMainTest::everyControlIsThereUnderItsName() {
           "tlBottomText_2", "tlBottomText_3", "tlProgVers", "imgProgName", "imgBGround", "lblDebug"}) {
         QVERIFY2(rig->window.findChild<QLabel*>(QLatin1String(name)) != nullptr, name);
     }
-    for (const char* name :
-         {"pbStartStop", "pbSetup", "pbFolder", "pbHide", "pbShutDown", "pbTransfers", "pbOpenFolder"}) {
+    for (const char* name : {"pbStartStop", "pbSetup", "pbFolder", "pbHide", "pbShutDown", "pbTransfers",
+                             "pbAbout", "pbOpenFolder"}) {
         QVERIFY2(rig->window.findChild<QPushButton*>(QLatin1String(name)) != nullptr, name);
     }
 }
@@ -327,6 +328,11 @@ void FrmMainTest::transfersAreShownByTheButtonAndByItsKeys() {
     QCOMPARE(rig->transferWindows, 2);
 }
 
+void FrmMainTest::aboutIsShownByItsButton() {
+    click("pbAbout");
+    QCOMPARE(rig->abouts, 1);
+}
+
 void FrmMainTest::theFolderIsShownAndOpened() {
     rig->window.showFolder("/home/anna/psion");
     const QString folder = QDir::toNativeSeparators(QStringLiteral("/home/anna/psion"));
@@ -509,12 +515,12 @@ void FrmMainTest::everyControlIsNamedAndInTheKeyboardsOrder() {
 
     QStringList order;
     button("pbStartStop")->setFocus();
-    for (int i = 0; i < 8; ++i) {
+    for (int i = 0; i < 9; ++i) {
         order.append(rig->window.focusWidget()->objectName());
         QTest::keyClick(rig->window.focusWidget(), Qt::Key_Tab);
     }
     QCOMPARE(order, QStringList({"pbStartStop", "pbSetup", "pbFolder", "pbHide", "pbShutDown", "pbTransfers",
-                                 "pbOpenFolder", "lblDebug"}));
+                                 "pbAbout", "pbOpenFolder", "lblDebug"}));
     QCOMPARE(rig->window.focusWidget(), button("pbStartStop"));
 }
 

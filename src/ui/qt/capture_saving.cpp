@@ -1,0 +1,41 @@
+#include "ui/qt/capture_saving.h"
+
+#include <QDir>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QSaveFile>
+
+namespace velmora {
+
+bool saveCapture(QWidget& window, const QString& path, const std::string& bytes) {
+    QSaveFile file(path);
+    file.setDirectWriteFallback(true);
+    if (file.open(QIODevice::WriteOnly) && file.write(bytes.data(), static_cast<qint64>(bytes.size())) >= 0 &&
+        file.commit()) {
+        return true;
+    }
+    QMessageBox box(
+        QMessageBox::Critical, window.windowTitle(),
+        QStringLiteral("The capture could not be saved in\n%1\n\n%2\n\nChoose another folder or name.")
+            .arg(QDir::toNativeSeparators(path), file.errorString()),
+        QMessageBox::Ok, &window);
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
+    return false;
+}
+
+QString askAndSaveCapture(QWidget& window, const std::string& bytes) {
+    QFileDialog dialog(&window, QStringLiteral("Save capture"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setNameFilters({QStringLiteral("Captures (*.pcapng)"), QStringLiteral("All files (*)")});
+    dialog.setDefaultSuffix(QStringLiteral("pcapng"));
+    while (dialog.exec() == QDialog::Accepted) {
+        QString path = dialog.selectedFiles().constFirst();
+        if (saveCapture(window, path, bytes)) {
+            return path;
+        }
+    }
+    return {};
+}
+
+}  // namespace velmora
