@@ -69,8 +69,7 @@ std::string DesktopAbout::settings() const {
     NoUserBox box([](const std::string&) {});
     try {
         clsIniFile ini(platform_.profiles, platform_.rules, box, windowsFolder());
-        ini.setIniFile(
-            configurationPath(platform_.rules, platform_.folders.applicationData(), overrides_));
+        ini.setIniFile(configurationPath(platform_.rules, platform_.folders.applicationData(), overrides_));
         return utf8OfSystemText(printedSettings(effectiveSettings(
             ini, platform_.files, platform_.rules, platform_.folders.documents(), overrides_)));
     } catch (const RunTimeError& error) {
@@ -102,9 +101,7 @@ std::string DesktopAbout::report(const QString& capture) const {
 void DesktopAbout::show(QWidget& window) {
     frmAbout::Actions actions;
     actions.report = [this](const QString& capture) { return report(capture); };
-    actions.capture = [this] {
-        return pcapngFile(lastOf(maskedCapture(captured_.capture()), kCaptured));
-    };
+    actions.capture = [this] { return pcapngFile(lastOf(maskedCapture(captured_.capture()), kCaptured)); };
     frmAbout dialog(QString::fromStdString(programText()),
                     QString::fromStdString(aboutText(toolkitText(), places())), std::move(actions), &window);
     dialog.offerHelp(help_.about(dialog, HelpTopic::About));

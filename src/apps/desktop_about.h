@@ -15,7 +15,8 @@
 
 namespace velmora {
 
-/// The dialog about a running server, with a report of it for the clipboard. All that it is given must outlive it.
+/// The dialog about a running server, with a report of it for the clipboard. All that it is given must
+/// outlive it.
 class DesktopAbout {
   public:
     /// The server's trace is kept for the report from now on. `overrides`: those that the server was given.

@@ -22,6 +22,7 @@ void DesktopDialogs::runSetup(QWidget& window, SerialPort& port, ServerOptions& 
     frmSetup dialog(
         port, options, transfer, probe, [this] { return listPorts(portNames_); }, &window);
     dialog.offerHelp(help_.about(dialog, HelpTopic::Setup));
+    dialog.setFailureReason(failureReason_);
     dialog.setDeviceTip([&port](const std::string& device) { return latencyTip(device, port.Settings()); });
     if (!adapters.live() && !std::exchange(newsMissed_, true)) {
         dialog.setDeviceHint(

@@ -4,6 +4,7 @@
 #include <QWidget>
 #include <functional>
 #include <string>
+#include <utility>
 
 #include "apps/desktop_help.h"
 #include "base/clock.h"
@@ -28,6 +29,8 @@ class DesktopDialogs {
     /// Shows the setup dialog over the window until the user closes it.
     void runSetup(QWidget& window, SerialPort& port, ServerOptions& options, TransferSettings& transfer,
                   const SetupModel::Probe& probe, const AdapterEvents& adapters);
+    /// Why the port that was probed last cannot be used, for the setup dialog.
+    void setFailureReason(std::function<std::string()> reason) { failureReason_ = std::move(reason); }
     /// An adapter has come or gone: a setup dialog that is open shows it.
     void adaptersChanged();
     /// Asks for a folder; empty when the user cancels.
@@ -44,6 +47,7 @@ class DesktopDialogs {
   private:
     PortNames& portNames_;
     const DesktopHelp& help_;
+    std::function<std::string()> failureReason_;
     frmDebug debugWindow_;
     bool newsMissed_ = false;              // it was told that the system tells nothing of adapters
     AdapterFollower* follower_ = nullptr;  // of the setup dialog while it is open

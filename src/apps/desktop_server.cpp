@@ -6,6 +6,7 @@
 
 #include "arguments/version.h"
 #include "capture/pcapng_writer.h"
+#include "serial/open_diagnosis.h"
 #include "server/caption.h"
 #include "server/port_test.h"
 #include "ui/qt/desktop_files.h"
@@ -49,6 +50,8 @@ DesktopServer::DesktopServer(const RunOverrides& overrides)
     onHelpKey(transfers_.window(), help_.about(transfers_.window(), HelpTopic::Transfers));
     transfers_.follow(program_.core());
     program_.record(captured_);
+    dialogs_.setFailureReason(
+        [this] { return describeOpenFailure(program_.portDevice(), platform_.port.lastErrorNumber()); });
     dialogs_.offerCapture([this] { return pcapngFile(captured_.capture()); });
 
     QObject::connect(qApp, &QGuiApplication::commitDataRequest, &session_,

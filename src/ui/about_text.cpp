@@ -13,7 +13,8 @@ namespace {
 
 constexpr std::string_view kLicence =
     "Copyright (c) 2026 The Velmora developers\n"
-    "Velmora is free software under the MIT licence: use it, copy it, change it and pass it on. It comes without any "
+    "Velmora is free software under the MIT licence: use it, copy it, change it and pass it on. It comes "
+    "without any "
     "warranty.\n";
 
 struct Library {
@@ -42,8 +43,8 @@ std::string compared(std::string_view text) {
 
 /// Whether a name may go on with this letter; "<" begins one that the trace has no character for.
 bool belongsToAName(char letter) {
-    return static_cast<unsigned char>(letter) >= 0x80 || isLetter(letter) || isDigit(letter) || letter == '_' ||
-           letter == '-' || letter == '<';
+    return static_cast<unsigned char>(letter) >= 0x80 || isLetter(letter) || isDigit(letter) ||
+           letter == '_' || letter == '-' || letter == '<';
 }
 
 /// Puts "~" for a folder and all that lies in it, however its separators and letters are written.

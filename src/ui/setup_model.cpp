@@ -131,6 +131,7 @@ void SetupModel::portTextPressed() {
 }
 
 void SetupModel::pbCheckPort_Click() {
+    checkFailed_ = false;
     if (portText_.empty()) {
         call(dialog_.beep);
         return;
@@ -146,6 +147,7 @@ void SetupModel::pbCheckPort_Click() {
         port_.setCommPort(portAtOpening_);
         return;
     }
+    checkFailed_ = status >= kStatusInUse;
     ShowPortStatus(kOtherPort, status);
     statusText_ = mark(kOtherPort).toolTip;
     changed();

@@ -83,6 +83,8 @@ class SetupModel {
     /// Colour and tool-tip of obPort(index), 1 to 5.
     const PortMark& mark(int index) const { return marks_[static_cast<std::size_t>(index - 1)]; }
     const std::string& portText() const { return portText_; }
+    /// Whether the last pbCheckPort_Click found a port that cannot be opened or used.
+    bool checkFailed() const { return checkFailed_; }
     /// Whether txtPortNo and pbCheckPort are enabled.
     bool portTextEnabled() const { return selected_ == kOtherPort; }
     bool okEnabled() const { return okEnabled_; }
@@ -128,6 +130,7 @@ class SetupModel {
     std::int32_t fileType_ = 0;
     WksDialect wksDialect_ = WksDialect::Own;
     bool probing_ = false;
+    bool checkFailed_ = false;
     bool closed_ = false;
 };
 

@@ -19,7 +19,8 @@ using namespace std::string_literals;
 class RecentTraceTest : public testing::Test {
   protected:
     void keep(std::size_t entries) {
-        recent.keep(time, [this] { return state; }, entries);
+        recent.keep(
+            time, [this] { return state; }, entries);
     }
 
     test::FakeTime time;
@@ -54,8 +55,8 @@ TEST_F(RecentTraceTest, ALineReadsAsInTheTraceWithItsTimeOfDay) {
     state = LinkState::Ready;
     recent.trace("STATE", {}, {});
     state = LinkState::Idle;
-    EXPECT_THAT(recent.lines(), ElementsAre("19:39:35.02\topen port \tCOM5 9600,N,8,1",
-                                            "19:39:35.02\t\tStatus=ready     "));
+    EXPECT_THAT(recent.lines(),
+                ElementsAre("19:39:35.02\topen port \tCOM5 9600,N,8,1", "19:39:35.02\t\tStatus=ready     "));
 }
 
 TEST_F(RecentTraceTest, ContentsOfDataFramesAreMasked) {

@@ -3,6 +3,8 @@
 #include <QLayout>
 #include <QLinearGradient>
 #include <QPainter>
+#include <QPolygonF>
+#include <QStyle>
 
 /// Makes the pictures known that are linked in with this library. The macro wants the global namespace.
 static void loadPictures() {
@@ -17,6 +19,9 @@ constexpr QColor kFrameTop(0x3A, 0x3E, 0x42);
 constexpr QColor kFrameBottom(0x24, 0x27, 0x2A);
 constexpr QColor kFrameEdge(0x5B, 0x61, 0x66);
 constexpr qreal kFrameRadius = 8;
+constexpr QColor kSignGround(0xF9, 0xC5, 0x2E);
+constexpr QColor kSignEdge(0xC7, 0x8A, 0x0A);
+constexpr QColor kSignMark(0x2A, 0x21, 0x05);
 
 }  // namespace
 
@@ -42,6 +47,23 @@ QSize NameImage::sizeHint() const {
 void NameImage::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     name_.paint(&painter, rect(), Qt::AlignLeft | Qt::AlignVCenter);
+}
+
+QSize WarningSign::sizeHint() const {
+    const int size = style()->pixelMetric(QStyle::PM_LargeIconSize);
+    return {size, size};
+}
+
+void WarningSign::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setWindow(0, 0, 32, 32);
+    painter.setPen(QPen(kSignEdge, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setBrush(kSignGround);
+    painter.drawPolygon(QPolygonF({{16, 3}, {30, 28}, {2, 28}}));
+    painter.setPen(QPen(kSignMark, 3.2, Qt::SolidLine, Qt::RoundCap));
+    painter.drawLine(QPointF(16, 12), QPointF(16, 18.5));
+    painter.drawPoint(QPointF(16, 23.8));
 }
 
 // A label's own hint knows its text only; this one is as large as what is laid out in it.

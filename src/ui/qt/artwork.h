@@ -26,6 +26,21 @@ class NameImage : public QLabel {
     QIcon name_;
 };
 
+/// The sign of a warning, as large as the desktop's large icons and sharp at each scale: the toolkit has a
+/// picture of one size.
+class WarningSign : public QLabel {
+    Q_OBJECT
+
+  public:
+    using QLabel::QLabel;
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+};
+
 /// The background of the display: the dark frame that the glass sits in.
 class DisplayFrame : public QLabel {
     Q_OBJECT

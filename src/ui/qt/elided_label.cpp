@@ -2,6 +2,7 @@
 
 #include <QEvent>
 #include <QResizeEvent>
+#include <QStringList>
 
 namespace velmora {
 
@@ -27,6 +28,14 @@ void ElidedLabel::changeEvent(QEvent* event) {
     if (event->type() == QEvent::FontChange) {
         elide();
     }
+}
+
+QString elideWords(const QString& text, const QFontMetrics& metrics, int width) {
+    QStringList words = text.split(QLatin1Char(' '));
+    for (QString& word : words) {
+        word = metrics.elidedText(word, Qt::ElideMiddle, width);
+    }
+    return words.join(QLatin1Char(' '));
 }
 
 void ElidedLabel::elide() {

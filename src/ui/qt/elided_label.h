@@ -26,4 +26,8 @@ class ElidedLabel : public QLabel {
     QString whole_;
 };
 
+/// A text in which each word that is wider than so many device-independent pixels has dots in its middle. A
+/// label breaks its lines at blanks only, and grows with its widest word.
+QString elideWords(const QString& text, const QFontMetrics& metrics, int width);
+
 }  // namespace velmora

@@ -9,7 +9,6 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QShortcut>
-#include <QStyle>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -92,9 +91,8 @@ void frmMain::makeDisplay() {
 
 void frmMain::makeMessages() {
     messageArea_ = new QWidget(this);
-    warningSign_ = new QLabel(messageArea_);
-    const int size = style()->pixelMetric(QStyle::PM_LargeIconSize);
-    warningSign_->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(size, size));
+    warningSign_ = new WarningSign(messageArea_);
+    warningSign_->setObjectName(QStringLiteral("imgWarning"));
     warningSign_->setAccessibleName(tr("Warning"));
     warningSign_->hide();
     tlWarning = new QLabel(tr("Error"), messageArea_);
@@ -230,7 +228,8 @@ void frmMain::arrange() {
     auto* heading = new QHBoxLayout;
     heading->addWidget(imgProgName);
     heading->addStretch();
-    heading->addWidget(lblDebug);
+    heading->addWidget(lblDebug, 0, Qt::AlignBottom);
+    tlProgVers->setMargin(lblDebug->margin());  // both stand on one line
     heading->addWidget(tlProgVers, 0, Qt::AlignBottom);
 
     auto* rule = new QFrame(this);
@@ -327,12 +326,18 @@ void frmMain::showMessages(const MessageLines& messages) {
 }
 
 void frmMain::showAdvice(const std::string& text) {
-    advice_->setText(qtSystemText(text));
-    advice_->setAccessibleName(advice_->text());
+    const QString whole = qtSystemText(text);
     const QRect room(0, 0, messageWidth(warningSign_->isVisibleTo(this)), 0);
+    advice_->setText(elideWords(whole, advice_->fontMetrics(), room.width()));
+    advice_->setToolTip(advice_->text() == whole ? QString() : whole);
+    advice_->setAccessibleName(whole);
     advice_->setFixedHeight(
         advice_->fontMetrics().boundingRect(room, Qt::TextWordWrap, advice_->text()).height());
     advice_->setVisible(!text.empty());
+    if (!text.empty()) {
+        // The room of a second line would part the advice from what it is about.
+        tlBottomText[1]->fitToText();
+    }
 }
 
 // The width of a message line, known also while the lines or the window are hidden.

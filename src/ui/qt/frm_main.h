@@ -23,6 +23,7 @@ class ElidedLabel;
 class LcdLine;
 class MessageLabel;
 class NameImage;
+class WarningSign;
 
 /// Shows what the server controller tells it, and hands over what the user does. It decides nothing.
 class frmMain : public QWidget, public MainView {
@@ -112,7 +113,7 @@ class frmMain : public QWidget, public MainView {
     DisplayFrame* imgBGround;
     std::array<LcdLine*, 2> tlDisplay{};
     QWidget* messageArea_;
-    QLabel* warningSign_;
+    WarningSign* warningSign_;
     QLabel* tlWarning;
     std::array<MessageLabel*, 3> tlBottomText{};
     QLabel* advice_;

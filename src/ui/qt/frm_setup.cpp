@@ -46,14 +46,15 @@ double contrast(const QColor& one, const QColor& other) {
 // The marks' colours are fixed and the desktop's are not: a ground on which the mark is readable, its own
 // where that will do.
 QColor groundFor(const QColor& mark, const QColor& own) {
-    // The same words stand beside in the desktop's own colour, so a mark only has to be seen. A ground of its
-    // own is for colours that would all but vanish.
+    // The same words stand beside in the desktop's own colour, so on a light one a mark only has to be seen:
+    // bright colours are readable on black alone, which would shout there. On a dark one black is at home.
     constexpr double kVisible = 2.0;
-    if (contrast(mark, own) >= kVisible) {
+    constexpr double kReadable = 4.5;
+    const bool dark = contrast(own, Qt::white) > contrast(own, Qt::black);
+    if (contrast(mark, own) >= (dark ? kReadable : kVisible)) {
         return own;
     }
-    const QColor dark(0x1B, 0x1B, 0x1B);
-    return contrast(mark, Qt::white) > contrast(mark, dark) ? QColor(Qt::white) : dark;
+    return contrast(mark, Qt::white) > contrast(mark, Qt::black) ? Qt::white : Qt::black;
 }
 
 QString describe(const PortIdentity& device) {
@@ -276,10 +277,9 @@ void frmSetup::connectControls() {
     }
     connect(obBaud_other, &QRadioButton::clicked, this,
             [this] { model_.selectBaud(model_.otherBaud().value_or(SetupModel::kBaudRates[0])); });
-    connect(txtPortNo, &QLineEdit::textEdited, this,
-            [this](const QString& text) { model_.setPortText(fromUtf8(text.toStdString()).value_or("?")); });
+    connect(txtPortNo, &QLineEdit::textEdited, this, [this](const QString& text) { portTextEdited(text); });
     txtPortNo->installEventFilter(this);
-    connect(pbCheckPort, &QPushButton::clicked, this, [this] { model_.pbCheckPort_Click(); });
+    connect(pbCheckPort, &QPushButton::clicked, this, &frmSetup::checkPort);
     connect(cboPresentPorts, &QComboBox::activated, this, &frmSetup::deviceChosen);
     connect(pbRefreshPorts, &QPushButton::clicked, this, &frmSetup::fillDevices);
     connect(cbAutoStart, &QCheckBox::clicked, this, [this](bool on) { model_.setAutoStart(on); });
@@ -427,6 +427,21 @@ void frmSetup::offerHelp(const std::function<void()>& help) {
     connect(pbHelp, &QPushButton::clicked, this, help);
     onHelpKey(*this, help);
     pbHelp->show();
+}
+
+void frmSetup::portTextEdited(const QString& text) {
+    if (std::exchange(reasonShown_, false)) {
+        setDeviceHint({});  // it was another port's
+    }
+    model_.setPortText(fromUtf8(text.toStdString()).value_or("?"));
+}
+
+void frmSetup::checkPort() {
+    model_.pbCheckPort_Click();
+    if (model_.checkFailed() && failureReason_ && !model_.closed()) {
+        setDeviceHint(qtSystemText(failureReason_()));
+        reasonShown_ = true;
+    }
 }
 
 void frmSetup::setDeviceTip(DeviceTip tip) {

@@ -44,6 +44,9 @@ class frmSetup : public QDialog {
     void setBeep(std::function<void()> beep) { beep_ = std::move(beep); }
     /// What the Help button and F1 do; without it there is no such button.
     void offerHelp(const std::function<void()>& help);
+    /// Why the port that was probed last cannot be used, for whoever presses "check"; without it nothing is
+    /// said.
+    void setFailureReason(std::function<std::string()> reason) { failureReason_ = std::move(reason); }
     /// What is said beside a device of the list; empty for nothing. Without it nothing is.
     void setDeviceTip(DeviceTip tip);
     /// What is said below the list until a device is chosen or the list changes.
@@ -67,6 +70,8 @@ class frmSetup : public QDialog {
     void showState();
     void showPortMark(int port);
     void showBaud();
+    void checkPort();
+    void portTextEdited(const QString& text);
     void fillDevices();
     void showDevices(std::vector<PortIdentity> devices);
     void showHint(const PortIdentity& device);
@@ -78,6 +83,8 @@ class frmSetup : public QDialog {
     ListDevices listDevices_;
     std::function<void()> beep_;
     DeviceTip deviceTip_;
+    std::function<std::string()> failureReason_;
+    bool reasonShown_ = false;
     std::vector<PortIdentity> devices_;
     bool shownOnce_ = false;
     bool loading_ = false;

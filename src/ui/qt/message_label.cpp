@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "ui/qt/elided_label.h"
 #include "ui/qt/qt_text.h"
 
 namespace velmora {
@@ -13,15 +14,21 @@ MessageLabel::MessageLabel(QWidget* parent) : QLabel(parent) {
 
 void MessageLabel::show(const MessageLine& line, int width) {
     lines_ = line.twoLines ? 2 : 1;
-    setText(qtText(line.text));
-    setAccessibleName(text());
+    const QString whole = qtText(line.text);
+    setText(elideWords(whole, fontMetrics(), width));
+    setToolTip(text() == whole ? QString() : whole);
+    setAccessibleName(whole);
     setAlignment((line.centred ? Qt::AlignHCenter : Qt::AlignLeft) | Qt::AlignTop);
     const QFontMetrics metrics = fontMetrics();
-    const int wrapped =
+    textHeight_ =
         metrics.boundingRect(QRect(0, 0, width, 0), Qt::TextWordWrap | Qt::AlignLeft, text()).height();
     // A line without a text takes no room, so that what follows stands close.
-    setFixedHeight(line.text.empty() ? 0 : std::max(lines_ * metrics.lineSpacing(), wrapped));
+    setFixedHeight(line.text.empty() ? 0 : std::max(lines_ * metrics.lineSpacing(), textHeight_));
     setVisible(line.visible);
+}
+
+void MessageLabel::fitToText() {
+    setFixedHeight(text().isEmpty() ? 0 : textHeight_);
 }
 
 }  // namespace velmora

@@ -24,8 +24,9 @@ class FrmAboutTest : public QObject {
         helps = 0;
         dialog = std::make_unique<frmAbout>(
             "Velmora 0.1.0", "Licences\n",
-            frmAbout::Actions{[](const QString& capture) { return "a report \xC3\xA9 " + capture.toStdString(); },
-                              [] { return std::string("a capture"); }});
+            frmAbout::Actions{
+                [](const QString& capture) { return "a report \xC3\xA9 " + capture.toStdString(); },
+                [] { return std::string("a capture"); }});
         dialog->offerHelp([this] { ++helps; });
         dialog->show();
         dialog->activateWindow();

@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QSet>
+#include <QStyle>
 #include <QTest>
 #include <QWindow>
 
@@ -46,6 +47,11 @@ class FrmMainTest : public QObject {
     void welcomeComesFirstAndOfflineAfterAStop();
     void failedLinkStopsTheServerWithTheNextPoll();
     void adviceGoesWithTheMessages();
+    void adviceStandsCloseToTheWarning();
+    void noPathMakesTheWindowWide_data();
+    void noPathMakesTheWindowWide();
+    void theWarningSignIsSharpAtEachScale();
+    void theDebugSwitchStandsOnTheLineOfTheVersion();
     void startAndStopByClickAndKey();
     void setupIsClosedToTheUserWhileTheServerRuns();
     void noPortLeavesOnlySetup();
@@ -285,6 +291,65 @@ void FrmMainTest::adviceGoesWithTheMessages() {
     QCOMPARE(label("lblAdvice")->text(), QStringLiteral("Plug the adapter in."));
     rig->controller.ShowClear();
     QVERIFY(!label("lblAdvice")->isVisible());
+}
+
+void FrmMainTest::adviceStandsCloseToTheWarning() {
+    rig->controller.ShowWarning("Port COM5 is not accessible!", "");
+    rig->window.showAdvice("Plug the adapter in.");
+    QCoreApplication::processEvents();
+    const QLabel* warning = label("tlBottomText_2");
+    QVERIFY(label("lblAdvice")->y() <= warning->y() + warning->fontMetrics().lineSpacing());
+    // Without advice the line has the room of two again.
+    rig->controller.ShowWarning("Port COM5 is not accessible!", "");
+    QVERIFY(warning->height() >= 2 * warning->fontMetrics().lineSpacing());
+}
+
+void FrmMainTest::noPathMakesTheWindowWide_data() {
+    QTest::addColumn<bool>("asAdvice");
+    QTest::newRow("warning") << false;
+    QTest::newRow("advice") << true;
+}
+
+void FrmMainTest::noPathMakesTheWindowWide() {
+    QFETCH(bool, asAdvice);
+    const int width = rig->window.width();
+    const std::string path = "/home/" + std::string(170, 'x') + " is not there any more.";
+    rig->controller.ShowWarning(asAdvice ? "Port COM5 is not accessible!" : path, "");
+    rig->window.showAdvice(asAdvice ? path : "");
+    QCoreApplication::processEvents();
+    QCOMPARE(rig->window.width(), width);
+    const QLabel* shown = label(asAdvice ? "lblAdvice" : "tlBottomText_2");
+    QVERIFY2(shown->text().startsWith(QStringLiteral("/home/x")) && shown->text().contains(QChar(0x2026)) &&
+                 shown->text().endsWith(QStringLiteral("x is not there any more.")),
+             qPrintable(shown->text()));
+    QCOMPARE(shown->toolTip(), QString::fromStdString(path));
+    QCOMPARE(shown->accessibleName(), QString::fromStdString(path));
+}
+
+void FrmMainTest::theWarningSignIsSharpAtEachScale() {
+    rig->controller.ShowWarning("a", "b");
+    QCoreApplication::processEvents();
+    QLabel* sign = label("imgWarning");
+    QVERIFY(sign->isVisible());
+    const QImage picture = sign->grab().toImage();
+    QVERIFY(picture.pixelColor(picture.rect().center()) != picture.pixelColor(0, 0));
+    const int scale = qRound(rig->window.devicePixelRatioF());
+    QCOMPARE(picture.width(), scale * sign->width());
+    if (scale > 1) {
+        // It is more than a small one with each dot drawn several times.
+        const QImage small = picture.scaled(sign->size());
+        QVERIFY(small.scaled(picture.size()) != picture);
+    }
+}
+
+void FrmMainTest::theDebugSwitchStandsOnTheLineOfTheVersion() {
+    rig->window.setVersion("beta3", "build 1");
+    rig->controller.setDebugMode(true);
+    QCoreApplication::processEvents();
+    const auto bottomOfText = [](const QLabel* shown) {
+        return shown->geometry().bottom() - shown->margin();
+    };
+    QCOMPARE(bottomOfText(label("lblDebug")), bottomOfText(label("tlProgVers")));
 }
 
 void FrmMainTest::startAndStopByClickAndKey() {

@@ -9,6 +9,8 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTest>
+#include <algorithm>
+#include <cmath>
 #include <map>
 #include <memory>
 
@@ -25,6 +27,19 @@ const QColor kGreen(0, 128, 0);
 const QColor kOrange(255, 128, 0);
 const QColor kRed(255, 0, 0);
 const QColor kDarkRed(192, 0, 0);
+
+/// As WCAG 2.1 has it: 1 to 21.
+double contrastOf(const QColor& one, const QColor& other) {
+    const auto luminance = [](const QColor& colour) {
+        const auto linear = [](double part) {
+            return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+        };
+        return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
+               0.0722 * linear(colour.blueF());
+    };
+    const auto [dark, light] = std::minmax({luminance(one), luminance(other)});
+    return (light + 0.05) / (dark + 0.05);
+}
 
 }  // namespace
 
@@ -179,6 +194,38 @@ class FrmSetupTest : public QObject {
         button(2)->click();
         QVERIFY(button(1)->autoFillBackground());
         QVERIFY(button(1)->palette().color(QPalette::Window).lightness() < 64);
+    }
+    void everyMarkIsReadableOnADarkDesktop_data() { statusIsMarked_data(); }
+    void everyMarkIsReadableOnADarkDesktop() {
+        QFETCH(int, status);
+        statuses[1] = status;
+        open();
+        QPalette dark;
+        dark.setColor(QPalette::Window, QColor(0x2B, 0x2D, 0x30));
+        dark.setColor(QPalette::WindowText, QColor(0xE6, 0xE6, 0xE6));
+        dialog->setPalette(dark);
+        button(2)->click();
+        const double contrast = contrastOf(colourOf(1), button(1)->palette().color(QPalette::Window));
+        QVERIFY2(contrast >= 4.5, qPrintable(QString::number(contrast)));
+    }
+    void checkSaysWhyAPortCannotBeUsed() {
+        open();
+        dialog->setFailureReason([] { return std::string("/dev/ttyUSB4 is no serial port."); });
+        other()->click();
+        statuses[9] = kStatusError;
+        QTest::keyClicks(text(), "9");
+        auto* hint = find<QLabel>("lblDeviceHint");
+        QVERIFY(!hint->isVisible());
+        find<QPushButton>("pbCheckPort")->click();
+        QCOMPARE(find<QLabel>("lblStatus")->text(), QString("COM9 reports error"));
+        QVERIFY(hint->isVisible());
+        QCOMPARE(hint->text(), QString("/dev/ttyUSB4 is no serial port."));
+        // Another number has another reason, or none.
+        QTest::keyClick(text(), Qt::Key_1);
+        QVERIFY(!hint->isVisible());
+        statuses[91] = kStatusAvailable;
+        find<QPushButton>("pbCheckPort")->click();
+        QVERIFY(!hint->isVisible());
     }
     void anUncheckedPortHasNoMark() {
         statuses[2] = kStatusNotChecked;
