@@ -86,6 +86,51 @@ std::string replaced(std::string text, const std::string& what, const std::strin
     return text;
 }
 
+/// Whether somebody is to type this, rather than to read it.
+bool isShellCommand(const std::string& line) {
+    static const std::set<std::string> kStarters{"sudo",  "systemctl", "journalctl", "apt",   "cmake",
+                                                 "mkdir", "ln",        "cp",         "tshark"};
+    return kStarters.contains(programOf(line)) || programOf(line).starts_with("velmora") ||
+           line.starts_with("scripts/");
+}
+
+/// What is not run by these tests, and why: another test runs it, or it takes what no test machine has.
+struct RunElsewhere {
+    std::string begin;  ///< of the line
+    std::string where;  ///< a file of this project that has `word`, or nothing
+    std::string word;
+};
+
+const std::vector<RunElsewhere>& linesRunElsewhere() {
+    static const std::vector<RunElsewhere> kLines{
+        {"scripts/demo.sh", "scripts/test-bare.sh", "scripts/demo.sh"},
+        {"scripts/test.sh", ".ci/run", "scripts/test.sh"},
+        {"scripts/run.sh", "", "stays open until its user closes it"},
+        {"scripts/simulate.sh", "scripts/test.sh", "simulate.sh"},
+        {"scripts/fuzz.sh --hours", "", "takes hours"},
+        {"scripts/fuzz.sh", "scripts/test.sh", "scripts/fuzz.sh 10"},
+        {"scripts/coverage.sh", "scripts/test.sh", "scripts/coverage.sh"},
+        {"scripts/mutate.sh", "",
+         "builds once for each change; tests/scripts/mutants_test.py tests what it changes"},
+        {"velmora-doctor", "tests/e2e/cable_doctor_test.cpp", "velmora-doctor"},
+        {"sudo apt install ./velmora", "scripts/try-packages.sh", "apt-get install"},
+        {"cmake -S . -B", "scripts/build.sh", "cmake -S . -B"},
+        {"cmake --build", "scripts/build.sh", "cmake --build"},
+        {"sudo cmake --install", "tests/packaging/install_test.py", "--install"},
+        {"sudo systemd-sysusers", "", "changes the machine"},
+        {"sudo systemd-tmpfiles", "", "changes the machine"},
+        {"sudo systemctl", "", "takes a machine that systemd has started"},
+        {"journalctl", "", "takes a machine that systemd has started"},
+        {"sudo usermod", "", "changes the machine"},
+    };
+    return kLines;
+}
+
+bool isRunElsewhere(const std::string& line) {
+    return std::ranges::any_of(linesRunElsewhere(),
+                               [&line](const RunElsewhere& each) { return line.starts_with(each.begin); });
+}
+
 /// The documents speak of the first adapter as the server's and of the second as the Organiser's, and of
 /// files that their reader has.
 class DocumentExamples : public ServerFixture {
@@ -106,6 +151,9 @@ class DocumentExamples : public ServerFixture {
         typed = replaced(typed, "/dev/ttyUSB1", organiserPort);
         typed = replaced(typed, "~/psion", psion.string());
         typed = replaced(typed, "build/bin/", "");
+        const std::string dissector = VELMORA_SOURCE_DIR "/packaging/wireshark";
+        typed = replaced(typed, "/usr/share/velmora/wireshark/Velmora", dissector + "/profile");
+        typed = replaced(typed, "/usr/share/velmora/wireshark", dissector);
         std::map<std::string, std::string> environment = organiserSide->environment(home, zone);
         environment["PATH"] = nativePrograms().string() + ":" + nativeTools().string() + ":/usr/bin:/bin";
         return std::make_unique<Process>(
@@ -136,6 +184,7 @@ TEST_F(DocumentExamples, EveryConfigurationStartsTheServerAndIsLeftAsItIs) {
 }
 
 TEST_F(DocumentExamples, EveryCommandDoesItsWork) {
+    const std::set<std::string> kPlainPrograms{"velmora-files", "tshark", "mkdir", "ln", "cp"};
     std::set<std::string> tried;
     for (const CodeBlock& block : codeBlocks()) {
         if (std::ranges::any_of(block.lines, [](const std::string& line) { return line.ends_with('&'); })) {
@@ -163,17 +212,29 @@ TEST_F(DocumentExamples, EveryCommandDoesItsWork) {
                 EXPECT_EQ(done.status, 0) << done.error;
                 stopServer();
                 EXPECT_EQ(server->wait(), 0) << server->error();
-            } else if (program == "velmora-files") {
+            } else if (kPlainPrograms.contains(program)) {
                 const Finished done = finished(*type(line));
                 EXPECT_EQ(done.status, 0) << done.error;
             } else {
+                EXPECT_TRUE(!isShellCommand(line) || isRunElsewhere(line)) << "nothing runs this line";
                 continue;
             }
             tried.insert(program);
         }
     }
-    EXPECT_EQ(tried,
-              (std::set<std::string>{"velmora-cable", "velmora-files", "velmora-organiser", "velmorad"}));
+    std::set<std::string> expected = kPlainPrograms;
+    expected.insert({"velmora-cable", "velmora-organiser", "velmorad"});
+    EXPECT_EQ(tried, expected);
+}
+
+TEST_F(DocumentExamples, WhatIsSaidToBeRunElsewhereIsThere) {
+    for (const RunElsewhere& line : linesRunElsewhere()) {
+        if (!line.where.empty()) {
+            EXPECT_NE(contentsOf(fs::path(VELMORA_SOURCE_DIR) / line.where).find(line.word),
+                      std::string::npos)
+                << line.begin;
+        }
+    }
 }
 
 /// The last cells of a table's rows that hold nothing but a command.
