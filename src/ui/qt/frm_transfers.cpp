@@ -74,7 +74,10 @@ void frmTransfers::buildTable() {
         header->resizeSection(column,
                               fontMetrics().horizontalAdvance(widest) + 2 * fontMetrics().averageCharWidth());
     }
-    connect(tblTransfers, &QTableView::doubleClicked, this, &frmTransfers::openFile);
+    connect(tblTransfers, &QTableView::doubleClicked, this, [this] {
+        offerActions();
+        mnuOpen->trigger();
+    });
     connect(tblTransfers->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &frmTransfers::offerActions);
     connect(tblTransfers, &QTableView::customContextMenuRequested, this, [this](const QPoint& at) {
@@ -92,7 +95,13 @@ QAction* frmTransfers::addEntry(const QString& name, const QString& text, const 
     entry->setObjectName(name);
     entry->setShortcut(keys);
     entry->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-    connect(entry, &QAction::triggered, this, deed);
+    connect(entry, &QAction::triggered, this, [this, entry, deed] {
+        // The transfer may be dropped while the menu is open.
+        offerActions();
+        if (entry->isEnabled()) {
+            (this->*deed)();
+        }
+    });
     menu_->addAction(entry);
     tblTransfers->addAction(entry);
     return entry;
@@ -132,10 +141,10 @@ void frmTransfers::hideEvent(QHideEvent* event) {
     tell({});
 }
 
-/// The transfer that the user means; null when none is selected.
+/// The transfer that the user means; null when none is selected, or the selected one is just dropped.
 const ListedTransfer* frmTransfers::selected() const {
     const QModelIndexList rows = tblTransfers->selectionModel()->selectedRows();
-    return rows.isEmpty() ? nullptr : &table_.transfer(rows.constFirst().row());
+    return rows.isEmpty() ? nullptr : table_.transfer(rows.constFirst().row());
 }
 
 void frmTransfers::offerActions() {
@@ -151,10 +160,7 @@ void frmTransfers::offerActions() {
 }
 
 void frmTransfers::openFile() {
-    offerActions();
-    if (mnuOpen->isEnabled()) {
-        tell(actions_.open(selected()->transfer.path));
-    }
+    tell(actions_.open(selected()->transfer.path));
 }
 
 void frmTransfers::showInFolder() {

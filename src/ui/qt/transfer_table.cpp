@@ -74,6 +74,10 @@ void TransferTable::update() {
     }
 }
 
+const ListedTransfer* TransferTable::transfer(int row) const {
+    return listRow(row) < list_.size() ? &list_.at(listRow(row)) : nullptr;
+}
+
 QString TransferTable::details(int row) const {
     return qtText(list_.details(listRow(row)));
 }
@@ -87,8 +91,7 @@ int TransferTable::columnCount(const QModelIndex& parent) const {
 }
 
 QVariant TransferTable::data(const QModelIndex& index, int role) const {
-    // A row that the list has dropped stands in the table until the next batch.
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid) || listRow(index.row()) >= list_.size()) {
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid) || transfer(index.row()) == nullptr) {
         return {};
     }
     switch (role) {

@@ -22,9 +22,10 @@ class TransferTable : public QAbstractTableModel, private TransferListView {
     /// Takes over what is new.
     void update();
 
-    /// The transfer of a row of the table. Requires: the row is there.
-    const ListedTransfer& transfer(int row) const { return list_.at(listRow(row)); }
-    /// All that is known of it.
+    /// The transfer of a row of the table; null when the list has dropped it, and the row goes with the next
+    /// batch. Requires: the row is there.
+    const ListedTransfer* transfer(int row) const;
+    /// All that is known of it. Requires: it is not dropped.
     QString details(int row) const;
 
     int rowCount(const QModelIndex& parent = {}) const override;

@@ -106,6 +106,19 @@ class FrmTransfersTest : public QObject {
         }
         QTRY_COMPARE(cell(int{TransferList::kMost} - 1, TransferList::Name), QStringLiteral("New.odb"));
     }
+    void aSelectedTransferThatIsDroppedBeforeItsRowGoesHasNoFile() {
+        open(std::vector<EndedTransfer>(TransferList::kMost, {transferOf("Memo.odb", 1), {}}));
+        table()->selectRow(int{TransferList::kMost} - 1);
+        QGuiApplication::clipboard()->setText(QStringLiteral("before"));
+        list->transferEnded(transferOf("Next.odb", 2), {});
+        for (const char* each :
+             {"mnuOpen", "mnuShowInFolder", "mnuOpenEarlierCopy", "mnuCopyPath", "mnuCopyDetails"}) {
+            entry(each)->trigger();
+        }
+        QCOMPARE(opened, QStringList());
+        QCOMPARE(shown, QStringList());
+        QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("before"));
+    }
     void doubleClickAndEnterOpenTheFile() {
         list->transferEnded(transferOf("Memo.odb"), {});
         QTRY_COMPARE(table()->model()->rowCount(), 1);
