@@ -3,6 +3,28 @@ set(bugtracker "")
 if(VELMORA_CONTACT)
   set(bugtracker "\n  <url type=\"bugtracker\">${VELMORA_CONTACT}</url>")
 endif()
+# Catalogues fetch the pictures themselves, so they want addresses.
+set(VELMORA_PICTURES "" CACHE STRING "Web address of a folder with the pictures of docs/images, for software catalogues")
+set(screenshots "")
+if(VELMORA_PICTURES)
+  foreach(picture "main-window|The main window while a file arrives" "transfers|What was transferred"
+      "setup|The choice of the port" "protocol-monitor|The protocol monitor")
+    string(REGEX MATCH "^([^|]*)\\|(.*)$" picture "${picture}")
+    set(kind "")
+    if(NOT screenshots)
+      set(kind " type=\"default\"")
+    endif()
+    if(NOT EXISTS ${PROJECT_SOURCE_DIR}/docs/images/${CMAKE_MATCH_1}.png)
+      message(FATAL_ERROR "docs/images has no ${CMAKE_MATCH_1}.png")
+    endif()
+    string(APPEND screenshots "
+    <screenshot${kind}>
+      <caption>${CMAKE_MATCH_2}</caption>
+      <image>${VELMORA_PICTURES}/${CMAKE_MATCH_1}.png</image>
+    </screenshot>")
+  endforeach()
+  set(screenshots "\n  <screenshots>${screenshots}\n  </screenshots>")
+endif()
 # The releases are those of the changelog, whose headings are "## VERSION (YEAR-MONTH-DAY)" or "## VERSION (unreleased)".
 string(TIMESTAMP today "%Y-%m-%d" UTC)
 file(STRINGS ${PROJECT_SOURCE_DIR}/CHANGELOG.md headings REGEX "^## ")

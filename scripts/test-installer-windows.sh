@@ -144,6 +144,20 @@ check 'velmora-organiser runs from there' prints 'velmora-organiser' "$folder/ve
 [[ -z $desktop ]] || check 'where its source is' grep -q "Velmora-$version-windows-source.tar" "$folder/licences/third-party.txt"
 [[ -z $desktop ]] || check 'velmorad runs from there' prints "velmorad $version" "$folder/velmorad.exe" --version
 
+if [[ -n $desktop ]]; then
+  echo '-- The server as a task'
+  task="$WINEPREFIX/drive_c/windows/system32/tasks/Velmora"
+  check 'velmorad makes its task' exits_with 0 "$folder/velmorad.exe" --port COM5 --wait --install-task
+  wineserver -w
+  # Wine forgets what the task starts; the unit tests look at that.
+  check 'which says what it is' bash -c 'tr -d "\0" < "$1" | grep -qF "Psion Organiser"' - "$task"
+  check 'and removes it' exits_with 0 "$folder/velmorad.exe" --remove-task
+  check 'the task is gone' absent "$task"
+  check 'a second time there is none to remove' exits_with 1 "$folder/velmorad.exe" --remove-task
+  check 'it is made again' exits_with 0 "$folder/velmorad.exe" --install-task
+  wineserver -w
+fi
+
 echo '-- The same once more, with links that were chosen before'
 echo 'of the older version' > "$startup/Velmora.lnk"
 check 'the installer ends well' run "$work/setup.exe" /S
@@ -151,6 +165,7 @@ if [[ -n $desktop ]]; then
   check 'the chosen link is made anew' bash -c '! grep -q older "$1"' - "$startup/Velmora.lnk"
 fi
 check 'and no other' absent "$desk/Velmora.lnk"
+[[ -z $desktop ]] || check 'the task stays' [ -e "$task" ]
 check 'the files are the same' holds_exactly "$folder" "$(printf '%s\n' "$expected" "$mine" | sort)"
 
 echo '-- Into another folder'
@@ -172,6 +187,7 @@ check 'only the user'\''s own files are left' holds_exactly "$other" ./notes.txt
 check 'nothing is registered' not_registered
 check 'the start menu is as before' absent "$menu"
 check 'nothing starts with Windows' absent "$startup/Velmora.lnk"
+[[ -z $desktop ]] || check 'and no task' absent "$task"
 check 'the settings stay' grep -q 'Port=7' "$settings"
 rm "$other/notes.txt"
 check 'the installer ends well' run "$work/setup.exe" /S "${to_other[@]}"

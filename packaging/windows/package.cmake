@@ -13,6 +13,10 @@ velmora_pages(pages user-guide windows configuration messages formats headless o
 install(FILES ${pages} DESTINATION docs)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs/images DESTINATION docs FILES_MATCHING PATTERN "*.png")
 
+# Wireshark looks for neither of them there; docs/windows.md says where to put them.
+install(FILES ${CMAKE_CURRENT_LIST_DIR}/../wireshark/organiser.lua DESTINATION wireshark)
+install(DIRECTORY ${CMAKE_CURRENT_LIST_DIR}/../wireshark/profile/ DESTINATION wireshark/Velmora)
+
 # Plain texts get the line ends and the ending that the Notepad goes by.
 function(velmora_install_text input name)
   configure_file(${input} ${PROJECT_BINARY_DIR}/documents/${name} @ONLY NEWLINE_STYLE DOS)

@@ -121,6 +121,17 @@ void addListing(CommandSyntax& syntax, ServerArguments& result) {
     syntax.flag("--json", "With --list-ports: as JSON", result.json);
 }
 
+#ifdef _WIN32
+/// Other systems have services for it.
+void addTaskOptions(CommandSyntax& syntax, ServerArguments& result) {
+    syntax.flag(
+        "--install-task",
+        "Have Windows start the server, with the other\noptions of this command line, whenever you log on",
+        result.installTask);
+    syntax.flag("--remove-task", "Remove what --install-task has made", result.removeTask);
+}
+#endif
+
 /// The syntax of the whole command line. What is read goes into the result.
 class ServerSyntax : public ProgramSyntax {
   public:
@@ -133,6 +144,9 @@ class ServerSyntax : public ProgramSyntax {
         addTraceOptions(*this, result);
         addCaptureOptions(*this, result);
         addListing(*this, result);
+#ifdef _WIN32
+        addTaskOptions(*this, result);
+#endif
         note("Options hold for this run and are not saved.");
         exitStatuses({{0, "stopped (by a signal or by the Organiser)"},
                       {1, "the port cannot be opened or failed (without --wait)"},
@@ -152,7 +166,18 @@ ServerArguments readServerArguments(const std::vector<std::string>& arguments) {
     if (result.capture.path.empty() && (result.capture.masked || result.capture.limit != CaptureLimit{})) {
         throw UsageError("--capture-limit and --mask go with --capture");
     }
+    if (result.installTask && (result.removeTask || result.listPorts || result.printConfig)) {
+        throw UsageError("--install-task goes with the options of a server only");
+    }
+    if (result.removeTask && arguments.size() > 1) {
+        throw UsageError("--remove-task stands alone");
+    }
     return result;
+}
+
+std::vector<std::string> argumentsOfTask(std::vector<std::string> arguments) {
+    std::erase(arguments, "--install-task");
+    return arguments;
 }
 
 ProgramOutline serverOutline() {

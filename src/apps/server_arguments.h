@@ -24,6 +24,8 @@ struct ServerArguments {
     bool listPorts = false;                ///< print the ports and end
     bool printConfig = false;              ///< print the settings and end
     bool json = false;                     ///< them as JSON
+    bool installTask = false;              ///< make the task that starts the server; Windows only
+    bool removeTask = false;               ///< remove it
     LogFormat logFormat = LogFormat::Text;
     bool quiet = false;                     ///< print errors only
     std::optional<std::string> onTransfer;  ///< program to run after each complete file
@@ -36,6 +38,9 @@ struct ServerArguments {
 /// Reads the arguments behind the program's name. Throws UsageError, and RequestedText for --help and
 /// --version.
 ServerArguments readServerArguments(const std::vector<std::string>& arguments);
+
+/// What the task starts the server with, when these asked to install it.
+std::vector<std::string> argumentsOfTask(std::vector<std::string> arguments);
 
 /// What readServerArguments takes.
 ProgramOutline serverOutline();

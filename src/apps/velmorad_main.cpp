@@ -13,6 +13,9 @@
 #include "eventloop/stop_signals.h"
 #include "platform/console_output.h"
 #include "platform/file_size_limit.h"
+#ifdef _WIN32
+#include "apps/logon_task_win32.h"
+#endif
 
 namespace {
 
@@ -46,6 +49,14 @@ int main(int argc, char** argv) {
         if (arguments.printConfig) {
             return printConfiguration(arguments, std::cout, std::cerr);
         }
+#ifdef _WIN32
+        if (arguments.installTask) {
+            throw RequestedText{installLogonTask(argumentsOfTask(utf8Arguments(argc, argv)))};
+        }
+        if (arguments.removeTask) {
+            throw RequestedText{removeLogonTask()};
+        }
+#endif
         return serve(arguments, argc, argv);
     });
 }

@@ -8,6 +8,7 @@ import subprocess
 import sys
 import tempfile
 import unittest
+import xml.etree.ElementTree
 
 SOURCES = sys.argv[1]
 # What a machine does not have, as CMake is told.
@@ -23,8 +24,8 @@ class PlainBuild(unittest.TestCase):
         done = subprocess.run(["cmake", "-S", SOURCES, "-B", folder.name, "-G", "Ninja", *options],
                               capture_output=True, text=True)
         self.assertEqual(done.returncode, 0, done.stderr)
-        build = pathlib.Path(folder.name)
-        return (build / "build.ninja").read_text() + (build / "CMakeFiles/rules.ninja").read_text()
+        self.build = pathlib.Path(folder.name)
+        return (self.build / "build.ninja").read_text() + (self.build / "CMakeFiles/rules.ninja").read_text()
 
     def test_the_programs_need_nothing_of_the_tests(self):
         self.assertTrue("build bin/velmora:" in self.configure(*WITHOUT_TESTS), "build bin/velmora:")
@@ -45,6 +46,15 @@ class PlainBuild(unittest.TestCase):
         rules = self.configure("-DCMAKE_CXX_COMPILER_LAUNCHER=/usr/bin/nice", *WITHOUT_TESTS)
         self.assertTrue("/usr/bin/nice" in rules, "/usr/bin/nice")
         self.assertFalse("ccache" in rules, "ccache")
+
+    def test_catalogues_are_given_the_pictures_that_somebody_publishes(self):
+        self.configure("-DVELMORA_PICTURES=https://example.org/pictures", *WITHOUT_TESTS)
+        metainfo = self.build / "packaging/org.velmora.Velmora.metainfo.xml"
+        done = subprocess.run(["appstreamcli", "validate", "--no-net", metainfo], capture_output=True, text=True)
+        self.assertEqual(done.returncode, 0, done.stdout)
+        pictures = xml.etree.ElementTree.parse(metainfo).findall("screenshots/screenshot/image")
+        self.assertEqual(len(pictures), 4)
+        self.assertEqual(pictures[0].text, "https://example.org/pictures/main-window.png")
 
 
 if __name__ == "__main__":
