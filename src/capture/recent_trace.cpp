@@ -21,9 +21,9 @@ class Lines : public TraceSink {
     std::string line;
 };
 
-std::string timeOfDay(double seconds) {
-    const int whole = static_cast<int>(seconds);
-    const int hundredths = static_cast<int>((seconds - whole) * 100);
+std::string timeOfDay(double sinceMidnight) {
+    const int whole = static_cast<int>(sinceMidnight);
+    const int hundredths = static_cast<int>((sinceMidnight - whole) * 100);
     DateTime moment;
     moment.hour = whole / 3600;
     moment.minute = whole / 60 % 60;
