@@ -129,6 +129,9 @@ void ServerController::windowShown() {
 
 void ServerController::windowResized(bool minimised) {
     if (minimised) {
+        if (parts_.options.AutoHide) {
+            showStateAsCaption();  // it may have been shown for a moment since the state was entered
+        }
         return;
     }
     parts_.view.setCaption(kProgramName);

@@ -215,7 +215,8 @@ class ServerController : public ServerWindow {
     void portFails(bool gone = false);
     bool stopWaiting();
     void reportPortError(const CommError& error);
-    void tellOfFailedRead();
+    void tellOfFailedPort();
+    void showStateAsCaption();
     std::string whatIsLost() const;
     std::string portName() const;
 

@@ -95,10 +95,17 @@ void ServerController::reportPortError(const CommError& error) {
     }
 }
 
-/// A read that fails inside the link is reported as LinkFailed and nothing more.
-void ServerController::tellOfFailedRead() {
-    if (linkCalls_ > 0 && warnings_ == warningsBeforeRead_) {
-        ShowWarning(portName() + ": The port failed.", whatIsLost());
+/// A read that fails inside the link is reported as LinkFailed and nothing more, a write by a warning, which
+/// does not know what was under way.
+void ServerController::tellOfFailedPort() {
+    if (linkCalls_ == 0) {
+        return;
+    }
+    const std::string lost = whatIsLost();
+    if (warnings_ == warningsBeforeRead_) {
+        ShowWarning(portName() + ": The port failed.", lost);
+    } else if (!lost.empty()) {
+        ShowWarning(messages_.lines[1].text + ": " + messages_.lines[2].text, lost);
     }
 }
 

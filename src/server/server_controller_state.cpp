@@ -58,7 +58,7 @@ void ServerController::changeState(std::int32_t next) {
     } else {
         enableButton(MainButton::StartStop, true);
         if (next == LinkFailed) {
-            tellOfFailedRead();
+            tellOfFailedPort();
             portFails();
         } else if (next < WaitLink) {
             if (!stopServer(next)) {
@@ -178,13 +178,16 @@ void ServerController::storeState(std::int32_t next) {
     pacePoll();
     waitOrNot();
     if (parts_.view.isMinimised()) {
-        parts_.view.setCaption(
-            minimisedCaption(parts_.strings.DisplayStrings[static_cast<std::size_t>(next)]));
+        showStateAsCaption();
     }
     parts_.view.showState(next);
     if (!running()) {
         withdrawMootQuestions();
     }
+}
+
+void ServerController::showStateAsCaption() {
+    parts_.view.setCaption(minimisedCaption(parts_.strings.DisplayStrings[static_cast<std::size_t>(state_)]));
 }
 
 }  // namespace velmora

@@ -143,8 +143,20 @@ TEST_F(Poll, AReadThatFailsInTheLinkIsToldToo) {
     EXPECT_EQ(view.warning(), "COM1: The port failed.");
 }
 
-TEST_F(Poll, AWriteThatFailsWhileReadingHasItsOwnWarning) {
+TEST_F(Poll, AWriteThatFailsAmidAFileTellsWhatIsLost) {
     reach(Downld);
+    link.onReceive = [this] {
+        controller.ShowWarning("Send error -1", "gone");
+        controller.setState(LinkFailed);
+    };
+    bytesArrive();
+    tick();
+    EXPECT_EQ(view.warning(), "Send error -1: gone");
+    EXPECT_EQ(view.messages.lines[2].text, "The transfer is lost.");
+}
+
+TEST_F(Poll, AWriteThatFailsWhileReadingHasItsOwnWarning) {
+    reach(Connect);
     link.onReceive = [this] {
         controller.ShowWarning("Send error 5", "gone");
         controller.setState(LinkFailed);

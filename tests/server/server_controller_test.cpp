@@ -254,6 +254,16 @@ TEST_F(Controller, ARestoredWindowHasItsOwnTitleAndTheFocusOnStart) {
     EXPECT_EQ(view.focus, std::vector<MainButton>{MainButton::StartStop});
 }
 
+// A window manager may show a window for a moment that begins minimised.
+TEST_F(Controller, AnAutomaticallyHiddenWindowHasItsStateAsTitleHoweverItGotThere) {
+    options.AutoHide = true;
+    reach(WaitLink);
+    controller.windowResized(false);
+    EXPECT_EQ(view.caption, "Velmora");
+    controller.windowResized(true);
+    EXPECT_EQ(view.caption, "Velmora - Waiting for link ");
+}
+
 TEST_F(Controller, ARestoredWindowGivesNoFocusToADisabledButton) {
     reach(NoPort);
     controller.windowResized(false);
