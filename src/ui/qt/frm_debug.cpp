@@ -21,6 +21,7 @@
 #include <QSaveFile>
 #include <QShortcut>
 #include <QShowEvent>
+#include <QSignalBlocker>
 #include <QVBoxLayout>
 #include <utility>
 
@@ -112,7 +113,7 @@ QBoxLayout* frmDebug::buildFind() {
     txtFind->setObjectName("txtFind");
     auto* label = new QLabel(QStringLiteral("F&ind:"));
     label->setBuddy(txtFind);
-    connect(txtFind, &QLineEdit::textEdited, this, [this] { tellFound({}); });
+    connect(txtFind, &QLineEdit::textChanged, this, [this] { tellFound({}); });
     connect(txtFind, &QLineEdit::returnPressed, this, [this] { find(LogLines::Direction::Forward); });
     auto* next = new QPushButton(QStringLiteral("Ne&xt"));
     next->setObjectName("cbFindNext");
@@ -142,20 +143,28 @@ QBoxLayout* frmDebug::buildFilters() {
     for (std::size_t i = 0; i < names.size(); ++i) {
         obShowWhat[i] = new QRadioButton(QString::fromLatin1(names[i]));
         obShowWhat[i]->setObjectName(QStringLiteral("obShowWhat_%1").arg(i + 1));
-        connect(obShowWhat[i], &QRadioButton::clicked, this,
-                [this, i] { model_.obShowWhat_Click(static_cast<DebugLogModel::ShowWhat>(i + 1)); });
+        obShowWhat[i]->setChecked(i == 0);
+        connect(obShowWhat[i], &QRadioButton::toggled, this, [this, i](bool on) {
+            if (on) {
+                model_.obShowWhat_Click(static_cast<DebugLogModel::ShowWhat>(i + 1));
+            }
+        });
         modes->addWidget(obShowWhat[i]);
     }
-    obShowWhat[0]->setChecked(true);
     auto* detected = new QGroupBox(QStringLiteral("Auto-detected"));
     auto* boxes = new QHBoxLayout(detected);
     for (std::size_t i = 0; i < chkShowWhat.size(); ++i) {
         chkShowWhat[i] = new QCheckBox;
         chkShowWhat[i]->setObjectName(QStringLiteral("chkShowWhat_%1").arg(i));
         chkShowWhat[i]->hide();
-        // A box that is on, active or greyed, goes off; the toolkit's own third state plays no part.
+        connect(chkShowWhat[i], &QCheckBox::pressed, this, [this] { toggled_ = false; });
+        connect(chkShowWhat[i], &QCheckBox::toggled, this, [this, i] {
+            toggled_ = true;
+            switchCategory(i);
+        });
+        // A click on a greyed box toggles nothing, and one that toggles leaves its own look behind.
         connect(chkShowWhat[i], &QCheckBox::clicked, this,
-                [this, i] { model_.chkShowWhat_Click(i, model_.category(i).value == DebugLogModel::kOff); });
+                [this, i] { toggled_ ? categoryChanged(i) : switchCategory(i); });
         boxes->addWidget(chkShowWhat[i]);
     }
     boxes->addStretch();
@@ -163,6 +172,11 @@ QBoxLayout* frmDebug::buildFilters() {
     filters->addWidget(showWhat);
     filters->addWidget(detected, 1);
     return filters;
+}
+
+/// A box that is on, active or greyed, goes off; the toolkit's own third state plays no part.
+void frmDebug::switchCategory(std::size_t index) {
+    model_.chkShowWhat_Click(index, model_.category(index).value == DebugLogModel::kOff);
 }
 
 QBoxLayout* frmDebug::buildLastRow() {
@@ -340,6 +354,7 @@ void frmDebug::tellFound(const QString& words) {
 void frmDebug::categoryChanged(std::size_t index) {
     const DebugLogModel::Category& category = model_.category(index);
     QCheckBox* box = chkShowWhat[index];
+    const QSignalBlocker shownOnly(box);
     box->setText(qtText(category.caption));
     box->setVisible(category.visible);
     // The third state is there only while it is shown: a box that is not tristate never looks greyed.

@@ -4,6 +4,7 @@
 #include <QTimer>
 #include <QWidget>
 #include <array>
+#include <cstddef>
 #include <functional>
 #include <string>
 #include <vector>
@@ -67,6 +68,7 @@ class frmDebug : public QWidget, private DebugLogView {
 
     void saveAs();
     void saveCaptureAs();
+    void switchCategory(std::size_t index);
     void showFailedSave(const QString& words);
     void copySelection();
     void copyAll();
@@ -80,6 +82,7 @@ class frmDebug : public QWidget, private DebugLogView {
     LogLines lines_;
     std::vector<std::string> waiting_;
     QTimer flushTimer_;
+    bool toggled_ = false;  // the press that goes on has toggled its box
     QAction* mnuSaveCapture = nullptr;
     LogView* txtLog = nullptr;
     QWidget* findBar = nullptr;

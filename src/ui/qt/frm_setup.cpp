@@ -14,6 +14,7 @@
 #include <QRadioButton>
 #include <QRegularExpression>
 #include <QRegularExpressionValidator>
+#include <QScopedValueRollback>
 #include <QTimer>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -268,23 +269,27 @@ void frmSetup::orderControls() {
 
 void frmSetup::connectControls() {
     for (int i = 1; i <= SetupModel::kOtherPort; ++i) {
-        connect(obPort[static_cast<std::size_t>(i - 1)], &QRadioButton::clicked, this,
-                [this, i] { model_.selectPort(i); });
+        connect(obPort[static_cast<std::size_t>(i - 1)], &QRadioButton::toggled, this,
+                chosen([this, i] { model_.selectPort(i); }));
     }
     for (std::size_t i = 0; i < obBaud.size(); ++i) {
-        connect(obBaud[i], &QRadioButton::clicked, this,
-                [this, i] { model_.selectBaud(SetupModel::kBaudRates[i]); });
+        connect(obBaud[i], &QRadioButton::toggled, this,
+                chosen([this, i] { model_.selectBaud(SetupModel::kBaudRates[i]); }));
     }
-    connect(obBaud_other, &QRadioButton::clicked, this,
-            [this] { model_.selectBaud(model_.otherBaud().value_or(SetupModel::kBaudRates[0])); });
-    connect(txtPortNo, &QLineEdit::textEdited, this, [this](const QString& text) { portTextEdited(text); });
+    connect(obBaud_other, &QRadioButton::toggled, this,
+            chosen([this] { model_.selectBaud(model_.otherBaud().value_or(SetupModel::kBaudRates[0])); }));
+    connect(txtPortNo, &QLineEdit::textChanged, this, [this](const QString& text) { portTextChanged(text); });
     txtPortNo->installEventFilter(this);
     connect(pbCheckPort, &QPushButton::clicked, this, &frmSetup::checkPort);
+    connect(cboPresentPorts, &QComboBox::currentIndexChanged, this, &frmSetup::deviceChosen);
+    // The device that is chosen already may be taken again in place of a number that was typed.
     connect(cboPresentPorts, &QComboBox::activated, this, &frmSetup::deviceChosen);
     connect(pbRefreshPorts, &QPushButton::clicked, this, &frmSetup::fillDevices);
-    connect(cbAutoStart, &QCheckBox::clicked, this, [this](bool on) { model_.setAutoStart(on); });
-    connect(cboFileType, &QComboBox::activated, this, [this](int type) { model_.setFileType(type); });
-    connect(cboWksDialect, &QComboBox::activated, this,
+    // The model has these already where the dialog itself sets them.
+    connect(cbAutoStart, &QCheckBox::toggled, this, [this](bool on) { model_.setAutoStart(on); });
+    connect(cboFileType, &QComboBox::currentIndexChanged, this,
+            [this](int type) { model_.setFileType(type); });
+    connect(cboWksDialect, &QComboBox::currentIndexChanged, this,
             [this](int dialect) { model_.setWksDialect(static_cast<WksDialect>(dialect)); });
     connect(pbOK, &QPushButton::clicked, this, [this] {
         accepting_ = true;
@@ -323,7 +328,18 @@ void frmSetup::load() {
     model_.activated();
 }
 
+/// What follows when the user, or a tool of his, chooses an option button; not when the dialog shows the
+/// choice.
+std::function<void(bool)> frmSetup::chosen(std::function<void()> choice) {
+    return [this, choice = std::move(choice)](bool on) {
+        if (on && !showing_) {
+            choice();
+        }
+    };
+}
+
 void frmSetup::showState() {
+    const QScopedValueRollback showing(showing_, true);
     // What is chosen while the ports are probed would be overwritten by the result.
     grpPort->setEnabled(!loading_);
     for (int port = 1; port <= SetupModel::kOtherPort; ++port) {
@@ -403,12 +419,14 @@ void frmSetup::refreshDevices() {
         return describe(device) == chosen;
     });
     if (found != devices_.end()) {
+        const QScopedValueRollback showing(showing_, true);
         cboPresentPorts->setCurrentIndex(static_cast<int>(found - devices_.begin()));
         showHint(*found);
     }
 }
 
 void frmSetup::showDevices(std::vector<PortIdentity> devices) {
+    const QScopedValueRollback showing(showing_, true);
     devices_ = std::move(devices);
     model_.setPresentPorts(devices_);
     cboPresentPorts->clear();
@@ -429,7 +447,10 @@ void frmSetup::offerHelp(const std::function<void()>& help) {
     pbHelp->show();
 }
 
-void frmSetup::portTextEdited(const QString& text) {
+void frmSetup::portTextChanged(const QString& text) {
+    if (showing_) {
+        return;
+    }
     if (std::exchange(reasonShown_, false)) {
         setDeviceHint({});  // it was another port's
     }
@@ -458,10 +479,15 @@ void frmSetup::showDeviceTips() {
 }
 
 void frmSetup::deviceChosen(int row) {
-    if (row < 0 || static_cast<std::size_t>(row) >= devices_.size()) {
+    if (showing_ || row < 0 || static_cast<std::size_t>(row) >= devices_.size()) {
         return;
     }
     const PortIdentity& device = devices_[static_cast<std::size_t>(row)];
+    if (model_.selectedPort() == SetupModel::kOtherPort &&
+        model_.portText() == std::to_string(device.number)) {
+        showHint(device);
+        return;
+    }
     // The arrow keys choose too: the focus stays in the list.
     keepFocus_ = true;
     model_.setPortText(std::to_string(device.number));

@@ -71,7 +71,8 @@ class frmSetup : public QDialog {
     void showPortMark(int port);
     void showBaud();
     void checkPort();
-    void portTextEdited(const QString& text);
+    void portTextChanged(const QString& text);
+    std::function<void(bool)> chosen(std::function<void()> choice);
     void fillDevices();
     void showDevices(std::vector<PortIdentity> devices);
     void showHint(const PortIdentity& device);
@@ -91,6 +92,7 @@ class frmSetup : public QDialog {
     bool loaded_ = false;
     bool accepting_ = false;
     bool keepFocus_ = false;
+    bool showing_ = false;  // the dialog sets its controls itself
 
     QGroupBox* grpPort = nullptr;
     std::array<QRadioButton*, SetupModel::kOtherPort> obPort{};

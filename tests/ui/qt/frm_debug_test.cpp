@@ -20,6 +20,7 @@
 #include <memory>
 
 #include "support/accessibility_walk.h"
+#include "support/assistive_actions.h"
 #include "support/fake_timers.h"
 
 namespace velmora {
@@ -501,6 +502,17 @@ class FrmDebugTest : public QObject {
         const QImage after = log->viewport()->grab(log->visualRect(log->model()->index(2, 0))).toImage();
         QVERIFY(before.pixelColor(before.width() - 3, 2) == log->palette().color(QPalette::Base));
         QVERIFY(after.pixelColor(after.width() - 3, 2) != log->palette().color(QPalette::Base));
+    }
+
+    void choicesOfAssistiveToolsCount() {
+        QVERIFY(window->model().categoryEnabled("DATA"));
+        test::toggleAssisted(*child<QRadioButton>("obShowWhat_3"));
+        QCOMPARE(window->model().showWhat(), DebugLogModel::ShowWhat::Custom);
+        QCOMPARE(window->model().category(DebugLogModel::kDataBox).value, DebugLogModel::kOff);
+        test::toggleAssisted(*category(DebugLogModel::kDataBox));
+        QCOMPARE(window->model().category(DebugLogModel::kDataBox).value, DebugLogModel::kOn);
+        test::toggleAssisted(*category(DebugLogModel::kDataBox));
+        QCOMPARE(window->model().category(DebugLogModel::kDataBox).value, DebugLogModel::kOff);
     }
 
   private:

@@ -15,6 +15,7 @@
 #include <memory>
 
 #include "support/accessibility_walk.h"
+#include "support/assistive_actions.h"
 #include "support/fake_timers.h"
 #include "support/scripted_port.h"
 #include "ui/adapter_follower.h"
@@ -226,6 +227,37 @@ class FrmSetupTest : public QObject {
         statuses[91] = kStatusAvailable;
         find<QPushButton>("pbCheckPort")->click();
         QVERIFY(!hint->isVisible());
+    }
+    void choicesOfAssistiveToolsCount() {
+        devices = {adapter(6, "/dev/ttyUSB1", "BBBB1234")};
+        open();
+        test::toggleAssisted(*find<QRadioButton>("obBaud_1200"));
+        test::toggleAssisted(*find<QCheckBox>("cbAutoStart"));
+        find<QComboBox>("cboFileType")->setCurrentIndex(2);
+        find<QComboBox>("cboWksDialect")->setCurrentIndex(1);
+        test::toggleAssisted(*other());
+        QVERIFY(!ok()->isEnabled());
+        find<QComboBox>("cboPresentPorts")->setCurrentIndex(0);
+        QCOMPARE(text()->text(), QString("6"));
+        test::setAssisted(*text(), "7");
+        QVERIFY(ok()->isEnabled());
+        ok()->click();
+        QCOMPARE(port.number, std::int16_t(7));
+        QCOMPARE(port.Settings(), std::string("1200,N,8,1"));
+        QVERIFY(options.AutoStart);
+        QCOMPARE(transfer.DataFileType, std::int32_t(2));
+        QCOMPARE(transfer.sheets.wksDialect, WksDialect::Common);
+    }
+    void aDeviceMayBeChosenAgain() {
+        devices = {adapter(6, "/dev/ttyUSB1", "BBBB1234")};
+        open();
+        auto* list = find<QComboBox>("cboPresentPorts");
+        QTest::keyClick(list, Qt::Key_Down);
+        text()->setFocus();
+        QTest::keyClicks(text(), "1");
+        QCOMPARE(text()->text(), QString("61"));
+        list->activated(0);
+        QCOMPARE(text()->text(), QString("6"));
     }
     void anUncheckedPortHasNoMark() {
         statuses[2] = kStatusNotChecked;
