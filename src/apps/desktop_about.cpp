@@ -103,7 +103,7 @@ void DesktopAbout::show(QWidget& window) {
     actions.report = [this](const QString& capture) { return report(capture); };
     actions.capture = [this] { return pcapngFile(lastOf(maskedCapture(captured_.capture()), kCaptured)); };
     frmAbout dialog(QString::fromStdString(programText()),
-                    QString::fromStdString(aboutText(toolkitText(), places())), std::move(actions), &window);
+                    QString::fromStdString(aboutText(qVersion(), places())), std::move(actions), &window);
     dialog.offerHelp(help_.about(dialog, HelpTopic::About));
     dialog.exec();
 }

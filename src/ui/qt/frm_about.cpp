@@ -40,7 +40,7 @@ frmAbout::frmAbout(const QString& program, const QString& text, Actions actions,
     txtAbout->setTabChangesFocus(true);
     txtAbout->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     txtAbout->setMinimumWidth(fontMetrics().averageCharWidth() * 76);
-    txtAbout->setMinimumHeight(fontMetrics().lineSpacing() * 17);
+    txtAbout->setMinimumHeight(fontMetrics().lineSpacing() * 20);
 
     lblTold =
         new QLabel(QStringLiteral("Copy details puts a report of a fault onto the clipboard: what runs here, "

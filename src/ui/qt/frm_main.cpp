@@ -13,6 +13,7 @@
 #include <algorithm>
 
 #include "server/caption.h"
+#include "ui/qt/alert_area.h"
 #include "ui/qt/artwork.h"
 #include "ui/qt/debug_switch.h"
 #include "ui/qt/elided_label.h"
@@ -47,6 +48,7 @@ QString withMnemonic(const QString& caption, QChar letter) {
 }  // namespace
 
 frmMain::frmMain(QWidget* parent) : QWidget(parent) {
+    installAccessibleRoles();
     setObjectName(QStringLiteral("frmMain"));
     setWindowTitle(QString::fromLatin1(kProgramName));
     setWindowIcon(programIcon());
@@ -90,7 +92,8 @@ void frmMain::makeDisplay() {
 }
 
 void frmMain::makeMessages() {
-    messageArea_ = new QWidget(this);
+    messageArea_ = new AlertArea(this);
+    messageArea_->hide();
     warningSign_ = new WarningSign(messageArea_);
     warningSign_->setObjectName(QStringLiteral("imgWarning"));
     warningSign_->setAccessibleName(tr("Warning"));
@@ -319,9 +322,12 @@ void frmMain::showMessages(const MessageLines& messages) {
     for (std::size_t i = 0; i < tlBottomText.size(); ++i) {
         tlBottomText[i]->show(messages.lines[i], messageWidth(messages.warning));
     }
-    if (messages.warning) {
-        QAccessibleEvent event(tlBottomText[1], QAccessible::Alert);
-        QAccessible::updateAccessibility(&event);
+    const bool any = std::any_of(messages.lines.begin(), messages.lines.end(),
+                                 [](const MessageLine& line) { return line.visible && !line.text.empty(); });
+    if (any || messages.warning) {
+        messageArea_->announce();
+    } else {
+        messageArea_->hide();
     }
 }
 
@@ -335,6 +341,7 @@ void frmMain::showAdvice(const std::string& text) {
         advice_->fontMetrics().boundingRect(room, Qt::TextWordWrap, advice_->text()).height());
     advice_->setVisible(!text.empty());
     if (!text.empty()) {
+        messageArea_->announce();
         // The room of a second line would part the advice from what it is about.
         tlBottomText[1]->fitToText();
     }

@@ -17,6 +17,7 @@ class QShowEvent;
 
 namespace velmora {
 
+class AlertArea;
 class DebugSwitch;
 class DisplayFrame;
 class ElidedLabel;
@@ -112,7 +113,7 @@ class frmMain : public QWidget, public MainView {
     DebugSwitch* lblDebug;
     DisplayFrame* imgBGround;
     std::array<LcdLine*, 2> tlDisplay{};
-    QWidget* messageArea_;
+    AlertArea* messageArea_;
     WarningSign* warningSign_;
     QLabel* tlWarning;
     std::array<MessageLabel*, 3> tlBottomText{};

@@ -51,6 +51,7 @@ class FrmMainTest : public QObject {
     void noPathMakesTheWindowWide_data();
     void noPathMakesTheWindowWide();
     void theWarningSignIsSharpAtEachScale();
+    void screenReadersAreToldOfAWindowAndOfEachWarning();
     void theDebugSwitchStandsOnTheLineOfTheVersion();
     void startAndStopByClickAndKey();
     void setupIsClosedToTheUserWhileTheServerRuns();
@@ -324,6 +325,33 @@ void FrmMainTest::noPathMakesTheWindowWide() {
              qPrintable(shown->text()));
     QCOMPARE(shown->toolTip(), QString::fromStdString(path));
     QCOMPARE(shown->accessibleName(), QString::fromStdString(path));
+}
+
+/// Counts how often a widget begins to show.
+class Shows : public QObject {
+  public:
+    explicit Shows(QWidget& widget) { widget.installEventFilter(this); }
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+        count += event->type() == QEvent::Show ? 1 : 0;
+        return false;
+    }
+
+    int count = 0;
+};
+
+void FrmMainTest::screenReadersAreToldOfAWindowAndOfEachWarning() {
+    QCOMPARE(QAccessible::queryAccessibleInterface(&rig->window)->role(), QAccessible::Window);
+    QWidget* area = label("tlBottomText_2")->parentWidget();
+    QCOMPARE(QAccessible::queryAccessibleInterface(area)->role(), QAccessible::AlertMessage);
+    QVERIFY(!area->isVisible());
+    const Shows shows(*area);
+    rig->controller.ShowWarning("Port COM5 is not accessible!", "");
+    QCOMPARE(shows.count, 1);
+    rig->controller.ShowWarning("Port COM6 is not accessible!", "");
+    QCOMPARE(shows.count, 2);
+    rig->controller.ShowClear();
+    QCOMPARE(shows.count, 2);
+    QVERIFY(!area->isVisible());
 }
 
 void FrmMainTest::theWarningSignIsSharpAtEachScale() {

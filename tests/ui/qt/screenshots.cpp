@@ -1,6 +1,6 @@
 // velmora-screenshots FOLDER: pictures of the main window in its states, as real calls of the controller
-// bring them about, of the setup dialog, the protocol monitor and the transfers. For the documents, and for a
-// look at what a change does.
+// bring them about, and of the dialogs and windows beside it. For the documents, and for a look at what a
+// change does.
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
@@ -22,6 +22,9 @@
 #include "support/example_adapter.h"
 #include "support/scripted_port.h"
 #include "support/window_rig.h"
+#include "ui/about_text.h"
+#include "ui/qt/artwork.h"
+#include "ui/qt/frm_about.h"
 #include "ui/qt/frm_debug.h"
 #include "ui/qt/frm_setup.h"
 #include "ui/qt/frm_transfers.h"
@@ -226,6 +229,18 @@ bool saveTransfers(const QDir& folder, const char* name) {
     return save(window, folder, name);
 }
 
+bool saveAbout(const QDir& folder, const char* name) {
+    const std::string text =
+        aboutText("6.4.2", {{"Settings", "/home/anna/.config/Velmora.ini"},
+                            {"Download folder", "/home/anna/Documents/Psion Files"},
+                            {"Earlier copies", "/home/anna/.local/share/Velmora/Earlier copies"}});
+    frmAbout dialog(QStringLiteral("Velmora 0.1.0 (1a2b3c4)"), QString::fromStdString(text), {});
+    dialog.offerHelp([] {});
+    dialog.show();
+    QApplication::processEvents();
+    return save(dialog, folder, name);
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -235,6 +250,7 @@ int main(int argc, char** argv) {
         return 2;
     }
     const QDir folder(QString::fromLocal8Bit(argv[1]));
+    QApplication::setWindowIcon(programIcon());
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     const QPalette light = QApplication::palette();
     for (const Scene& scene : scenes()) {
@@ -259,7 +275,8 @@ int main(int argc, char** argv) {
     if (!saveSetup(folder, "setup-no-adapter", {})) {
         return 1;
     }
-    if (!saveMonitor(folder, "protocol-monitor") || !saveTransfers(folder, "transfers")) {
+    if (!saveAbout(folder, "about") || !saveMonitor(folder, "protocol-monitor") ||
+        !saveTransfers(folder, "transfers")) {
         return 1;
     }
     QApplication::setPalette(darkPalette());

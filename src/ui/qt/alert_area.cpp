@@ -1,0 +1,42 @@
+#include "ui/qt/alert_area.h"
+
+#include <QAccessible>
+#include <QAccessibleWidget>
+#include <QDialog>
+
+namespace velmora {
+namespace {
+
+QAccessibleInterface* withRole(const QString& className, QObject* object) {
+    auto* widget = qobject_cast<QWidget*>(object);
+    if (widget == nullptr || !className.startsWith(QLatin1String("velmora::"))) {
+        return nullptr;
+    }
+    if (qobject_cast<AlertArea*>(widget) != nullptr) {
+        return new QAccessibleWidget(widget, QAccessible::AlertMessage);
+    }
+    // The toolkit knows dialogs itself.
+    if (widget->isWindow() && qobject_cast<QDialog*>(widget) == nullptr) {
+        return new QAccessibleWidget(widget, QAccessible::Window);
+    }
+    return nullptr;
+}
+
+}  // namespace
+
+AlertArea::AlertArea(QWidget* parent) : QWidget(parent) {
+    QSizePolicy policy = sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    setSizePolicy(policy);
+}
+
+void AlertArea::announce() {
+    hide();
+    show();
+}
+
+void installAccessibleRoles() {
+    QAccessible::installFactory(withRole);
+}
+
+}  // namespace velmora

@@ -1,0 +1,23 @@
+// What screen readers take windows and warnings for.
+#pragma once
+
+#include <QWidget>
+
+namespace velmora {
+
+/// Holds words that a screen reader speaks when they begin to show. It keeps its room while it is hidden.
+class AlertArea : public QWidget {
+    Q_OBJECT
+
+  public:
+    explicit AlertArea(QWidget* parent = nullptr);
+
+    /// Begins to show, also when it is shown already: what it holds is new.
+    void announce();
+};
+
+/// Gives our windows the role of a window, in place of a mere part, and alert areas that of an alert. For all
+/// that is asked for later; calling it again does nothing.
+void installAccessibleRoles();
+
+}  // namespace velmora
