@@ -11,7 +11,7 @@ struct LogonTask {
     std::string user;                    ///< "COMPUTER\name"
     std::string program;                 ///< its full path
     std::vector<std::string> arguments;  ///< behind the program's name
-    std::string folder;                  ///< in which it runs: relative paths among the arguments mean this one
+    std::string folder;  ///< in which it runs: relative paths among the arguments mean this one
 };
 
 /// The task as the Task Scheduler takes it: XML of its schema 1.2. It starts once per logon of its user, with

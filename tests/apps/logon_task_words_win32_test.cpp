@@ -24,9 +24,12 @@ std::vector<std::string> wordsOf(const std::string& line) {
 }
 
 TEST(WindowsCommandLine, WindowsTakesItApartIntoTheSameWords) {
-    const std::vector<std::string> words{"--folder", R"(C:\My "old" files\)", "",        R"(\\server\share)",
-                                         R"(a\\"b)", "tab\there",             R"(\)",    R"(\\" \)",
-                                         "--wait",   "Gr\xC3\xBC\xC3\x9F",    R"("""")", "end"};
+    const std::vector<std::string> words{"--folder", R"(C:\My "old" files\)",
+                                         "",         R"(\\server\share)",
+                                         R"(a\\"b)", "tab\there",
+                                         R"(\)",     R"(\\" \)",
+                                         "--wait",   "Gr\xC3\xBC\xC3\x9F",
+                                         R"("""")",  "end"};
     EXPECT_EQ(wordsOf(windowsCommandLine(words)), words);
 }
 

@@ -55,7 +55,8 @@ void require(HRESULT result) {
     if (FAILED(result)) {
         std::array<char, 9> number{};
         std::snprintf(number.data(), number.size(), "%08X", static_cast<unsigned>(result));
-        throw std::runtime_error("The Task Scheduler refuses with error 0x" + std::string(number.data()) + ".");
+        throw std::runtime_error("The Task Scheduler refuses with error 0x" + std::string(number.data()) +
+                                 ".");
     }
 }
 
@@ -71,8 +72,8 @@ VARIANT nothing() {
 
 ComPointer<ITaskFolder> topFolder() {
     ITaskService* made = nullptr;
-    require(CoCreateInstance(__uuidof(TaskScheduler), nullptr, CLSCTX_INPROC_SERVER,
-                             __uuidof(ITaskService), reinterpret_cast<void**>(&made)));
+    require(CoCreateInstance(__uuidof(TaskScheduler), nullptr, CLSCTX_INPROC_SERVER, __uuidof(ITaskService),
+                             reinterpret_cast<void**>(&made)));
     const ComPointer<ITaskService> service(made);
     require(service->Connect(nothing(), nothing(), nothing(), nothing()));
     ITaskFolder* folder = nullptr;
