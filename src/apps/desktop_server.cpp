@@ -165,6 +165,12 @@ int DesktopServer::run() {
     return 0;
 }
 
+void DesktopServer::present() {
+    window_.show();
+    window_.restore();
+    window_.bringToFront();
+}
+
 void DesktopServer::stop() {
     queryUnload(CloseReason::Terminated);
     quit();

@@ -32,6 +32,8 @@ class DesktopServer {
     bool start(const std::string& commandLine);
     /// Serves; returns the exit status of the program once the window has closed.
     int run();
+    /// Brings the window to the front, wherever it is.
+    void present();
     /// Ends serving: closes the file and the port, saves nothing, asks nothing. For signals.
     void stop();
 

@@ -8,8 +8,11 @@
 #include "apps/desktop_arguments.h"
 #include "apps/desktop_server.h"
 #include "arguments/program.h"
+#include "eventloop/only_instance.h"
 #include "eventloop/stop_signals.h"
 #include "platform/file_size_limit.h"
+#include "platform/native.h"
+#include "startup/start_paths.h"
 #include "ui/qt/artwork.h"
 
 namespace {
@@ -28,7 +31,14 @@ int serve(int argc, char** argv) {
     const DesktopArguments arguments = readDesktopArguments({argv + 1, argv + argc});
     RunOverrides overrides;
     overrides.configPath = arguments.config;
+    // Two with one configuration would want one port.
+    OnlyInstance instance(
+        configurationPath(NativePaths(currentFolder()), NativeFolders().applicationData(), overrides));
+    if (!instance.first()) {
+        return 0;
+    }
     DesktopServer server(overrides);
+    instance.onAnother([&server] { server.present(); });
     const StopSignals stopSignals(held, [&server] { server.stop(); });
     const int status = server.start(arguments.commandLine) ? server.run() : 1;
     held.keepToTheEnd();

@@ -63,5 +63,49 @@ TEST_F(DesktopTest, TheConfigurationFileMayBeAnother) {
     EXPECT_NE(contentsOf(other).find("AutoStart=True"), std::string::npos);
 }
 
+/// A login session that programs can find each other in.
+class DesktopSessionTest : public DesktopFixture {
+  protected:
+    void SetUp() override {
+        ASSERT_NO_FATAL_FAILURE(DesktopFixture::SetUp());
+        if (serverSide->windows() || IsSkipped()) {
+            return;
+        }
+        const std::string address = "unix:path=" + (home / "session-bus").string();
+        bus = std::make_unique<Process>(std::vector<std::string>{"dbus-daemon", "--session", "--nofork",
+                                                                 "--print-address", "--address=" + address});
+        ASSERT_TRUE(bus->waitForOutput(address)) << bus->error();
+        session["DBUS_SESSION_BUS_ADDRESS"] = address;
+    }
+
+    std::unique_ptr<Process> bus;
+};
+
+TEST_F(DesktopSessionTest, ASecondStartLeavesThePortToTheFirst) {
+    writeIni("[OnExit]\r\nAskUser=False\r\nAllowShutdown=True\r\n");
+    startDesktop();
+    save("NAMES", "one\r\n");
+    const auto second = desktopProcess({});
+    EXPECT_EQ(second->wait(), 0) << second->error();
+    save("NAMES", "two\r\n");
+    EXPECT_EQ(contentsOf(psion / "Names.odb"), "two\r\n");
+    organiser({"shutdown"});
+    EXPECT_EQ(server->wait(), 0);
+}
+
+TEST_F(DesktopSessionTest, OneWithAnotherConfigurationIsNoSecond) {
+    writeIni();
+    const std::filesystem::path other = home / "Other.ini";
+    std::filesystem::rename(ini(), other);
+    writeFile(ini(), "[Settings]\r\nPort=0\r\n");
+    server = desktopProcess({});
+    const auto first = std::move(server);
+    startDesktop({"--config", serverPath(other)});
+    save("NAMES", "one\r\n");
+    EXPECT_EQ(contentsOf(psion / "Names.odb"), "one\r\n");
+    serverSide->stop(*first);
+    EXPECT_EQ(first->wait(), 0) << first->error();
+}
+
 }  // namespace
 }  // namespace velmora::e2e

@@ -16,6 +16,7 @@ OTHER_TEXTS = {
     "apps/*_arguments.cpp": "the help",
     "apps/desktop_about.cpp": "names in a report",
     "ui/about_text.cpp": "licences",
+    "eventloop/bus_activation_posix.h": "the name of an interface",
     "apps/logon_task.cpp": "a definition for the system",
     "doctor/doctor_arguments.cpp": "the help",
     "organiser/tour.cpp": "what a tour goes through",

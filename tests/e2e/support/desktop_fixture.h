@@ -44,13 +44,16 @@ class DesktopFixture : public ServerFixture {
     }
     std::filesystem::path ini() const { return serverSide->configuration(home); }
 
-    void startDesktop(const std::vector<std::string>& options = {}) {
+    void startDesktop(const std::vector<std::string>& options = {}) { server = desktopProcess(options); }
+    /// The program, started beside whatever runs.
+    std::unique_ptr<Process> desktopProcess(const std::vector<std::string>& options) const {
         std::map<std::string, std::string> variables = serverSide->environment(home, zone);
+        variables.insert(session.begin(), session.end());
         if (display) {
             variables["QT_QPA_PLATFORM"] = "xcb";
             variables["DISPLAY"] = display->name();
         }
-        server = std::make_unique<Process>(serverSide->command("velmora", options), variables);
+        return std::make_unique<Process>(serverSide->command("velmora", options), variables);
     }
     /// Saves a file through the Organiser, which keeps asking for the link until the server is there.
     void save(const std::string& name, const std::string& contents) {
@@ -79,6 +82,7 @@ class DesktopFixture : public ServerFixture {
         EXPECT_NE(query.output.find("XPos"), std::string::npos) << query.output;
     }
 
+    std::map<std::string, std::string> session;  // more variables, of a login session
     std::unique_ptr<XServer> display;
     std::string port = "40";  // as the configuration names it
     std::string ports;        // the section that says which device it is

@@ -52,6 +52,7 @@ class DesktopServerTest : public QObject {
     void cleanup();
     void startsByItselfAndShowsIt();
     void withoutAPortItSaysWhatToDoNext();
+    void isBroughtBackWhereverItsWindowIs();
     void aFolderThatIsGoneIsToldInsteadOfOpened();
     void helpOpensTheGuideAtTheWindowOrSaysWhereItIs();
     void pulledCableStopsTheServerUntilItIsBack();
@@ -174,6 +175,16 @@ void DesktopServerTest::startsByItselfAndShowsIt() {
     QCOMPARE(label("lblFolder")->accessibleDescription(), home->filePath(QStringLiteral("psion")));
     QCOMPARE(startStop()->text(), QStringLiteral("&Stop"));
     QVERIFY(!label("lblDebug")->isVisible());
+}
+
+void DesktopServerTest::isBroughtBackWhereverItsWindowIs() {
+    QVERIFY(server->start(""));
+    server->window().showMinimized();
+    server->present();
+    QVERIFY(!server->window().isMinimized());
+    server->window().hide();
+    server->present();
+    QVERIFY(server->window().isVisible());
 }
 
 void DesktopServerTest::withoutAPortItSaysWhatToDoNext() {
