@@ -2,9 +2,13 @@
 
 #include <utility>
 
+#include "doctor/port_examination.h"
+#include "eventloop/qt_event_yield.h"
 #include "eventloop/qt_timer.h"
 #include "serial/adapter_latency.h"
+#include "serial/mode_string.h"
 #include "serial/port_list.h"
+#include "ui/qt/frm_cable_check.h"
 #include "ui/qt/frm_setup.h"
 #include "ui/qt/help_key.h"
 #include "ui/qt/native_folder_browser.h"
@@ -12,18 +16,20 @@
 namespace velmora {
 
 DesktopDialogs::DesktopDialogs(const Clock& clock, PortNames& portNames, const DesktopHelp& help)
-    : portNames_(portNames), help_(help), debugWindow_(clock) {
+    : clock_(clock), portNames_(portNames), help_(help), debugWindow_(clock) {
     onHelpKey(debugWindow_, help_.about(debugWindow_, HelpTopic::Monitor));
 }
 
 void DesktopDialogs::runSetup(QWidget& window, SerialPort& port, ServerOptions& options,
                               TransferSettings& transfer, const SetupModel::Probe& probe,
-                              const AdapterEvents& adapters) {
+                              const AdapterEvents& adapters, const std::function<bool()>& ended) {
     frmSetup dialog(
         port, options, transfer, probe, [this] { return listPorts(portNames_); }, &window);
     dialog.offerHelp(help_.about(dialog, HelpTopic::Setup));
     dialog.setFailureReason(failureReason_);
     dialog.setDeviceTip([&port](const std::string& device) { return latencyTip(device, port.Settings()); });
+    dialog.setCheckCable(
+        [&](int number, const std::string& mode) { checkCable(dialog, number, mode, ended); });
     if (!adapters.live() && !std::exchange(newsMissed_, true)) {
         dialog.setDeviceHint(
             QStringLiteral("The system tells nothing of adapters: the list is looked up twice a second."));
@@ -33,6 +39,23 @@ void DesktopDialogs::runSetup(QWidget& window, SerialPort& port, ServerOptions& 
     follower_ = &follower;
     dialog.exec();
     follower_ = nullptr;
+}
+
+/// The server is stopped while the setup dialog is open, so the port is free.
+void DesktopDialogs::checkCable(QWidget& setup, int number, const std::string& mode,
+                                const std::function<bool()>& ended) {
+    const std::string device = portNames_.device(number).value_or("COM" + std::to_string(number));
+    const LineSettings settings = parseModeString(mode).value_or(LineSettings());
+    frmCableCheck dialog(
+        device, settings,
+        [&](StepObserver& observer, const std::function<bool()>& stopWanted) {
+            QtEventYield yield;
+            return examinePort({portNames_, number, device, settings},
+                               {yield, [this] { return clock_.monotonic(); }, &observer,
+                                [&] { return stopWanted() || ended(); }});
+        },
+        &setup);
+    dialog.exec();
 }
 
 void DesktopDialogs::adaptersChanged() {

@@ -26,9 +26,11 @@ class DesktopDialogs {
   public:
     DesktopDialogs(const Clock& clock, PortNames& portNames, const DesktopHelp& help);
 
-    /// Shows the setup dialog over the window until the user closes it.
+    /// Shows the setup dialog over the window until the user closes it. A cable that is checked there is
+    /// left alone once `ended` holds.
     void runSetup(QWidget& window, SerialPort& port, ServerOptions& options, TransferSettings& transfer,
-                  const SetupModel::Probe& probe, const AdapterEvents& adapters);
+                  const SetupModel::Probe& probe, const AdapterEvents& adapters,
+                  const std::function<bool()>& ended);
     /// Why the port that was probed last cannot be used, for the setup dialog.
     void setFailureReason(std::function<std::string()> reason) { failureReason_ = std::move(reason); }
     /// An adapter has come or gone: a setup dialog that is open shows it.
@@ -45,6 +47,9 @@ class DesktopDialogs {
     void closeDebugWindow();
 
   private:
+    void checkCable(QWidget& setup, int number, const std::string& mode, const std::function<bool()>& ended);
+
+    const Clock& clock_;
     PortNames& portNames_;
     const DesktopHelp& help_;
     std::function<std::string()> failureReason_;

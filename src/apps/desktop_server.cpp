@@ -37,6 +37,7 @@ DesktopServer::DesktopServer(const RunOverrides& overrides)
                  }},
                 {},
                 [this] { return waitFor(); },
+                "Stop the server; Check cable in Setup finds out why.",
                 [this] { dialogs_.adaptersChanged(); }}),
       about_(platform_, program_, overrides, captured_, help_),
       registry_(positions_) {
@@ -104,7 +105,8 @@ bool DesktopServer::queryUnload(CloseReason reason) {
 void DesktopServer::openSetup() {
     dialogs_.runSetup(
         window_, platform_.port, program_.core().options, program_.core().transfer,
-        [this](std::int16_t port) { return controller().checkPort(port, kProbeModem); }, platform_.adapters);
+        [this](std::int16_t port) { return controller().checkPort(port, kProbeModem); }, platform_.adapters,
+        [this] { return controller().closed(); });
 }
 
 /// A server without a port can do nothing, and shows that only in its display.

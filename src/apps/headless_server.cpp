@@ -48,7 +48,8 @@ HeadlessServer::HeadlessServer(const ServerArguments& arguments)
                 traceSink_,
                 {},
                 [this](const std::string& line) { log_.message(line); },
-                [this] { return arguments_.wait ? WaitFor::AnyPort : WaitFor::Nothing; }}),
+                [this] { return arguments_.wait ? WaitFor::AnyPort : WaitFor::Nothing; },
+                "Stop the server and run velmora-doctor to find out why."}),
       searched_(platform_.portNames, gatherDeviceFacts),
       search_(
           searchTimer_, [this] { return searched_.look(); },

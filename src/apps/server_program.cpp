@@ -32,7 +32,7 @@ ServerProgram::ServerProgram(PlatformParts& platform, RunOverrides overrides, co
              ServerCoreParts::SleepWatching{platform_.sleep, platform_.SleepTimer}}),
       slowPort_(core_.controller(), recent_),
       lineWatch_({core_.crc, platform.clock, [this] { return core_.link().linkState(); },
-                  [this] { return platform_.port.Settings(); },
+                  [this] { return platform_.port.Settings(); }, face.findOut,
                   [this](const std::string& text2, const std::string& text3) {
                       controller().ShowPassing(text2, text3);
                   }}),

@@ -33,6 +33,8 @@ struct ServerFace {
     std::function<void(const std::string& line)> tell;
     /// What to do about a port that the server cannot have.
     std::function<WaitFor()> waitFor;
+    /// What helps when nothing comes from the Organiser, one sentence.
+    std::string findOut;
     /// An adapter has come or gone; may be missing.
     std::function<void()> adaptersChanged = {};
 };

@@ -5,11 +5,9 @@
 #include "apps/console.h"
 #include "arguments/program.h"
 #include "base/event_yield.h"
-#include "doctor/comm_examined_line.h"
-#include "doctor/device_lookup.h"
 #include "doctor/doctor_arguments.h"
 #include "doctor/doctor_report.h"
-#include "doctor/line_doctor.h"
+#include "doctor/port_examination.h"
 #include "platform/console_output.h"
 #include "platform/native.h"
 #include "serial/named_port.h"
@@ -26,14 +24,10 @@ class PrintedFindings : public StepObserver {
 };
 
 Diagnosis examine(PortNames& names, const std::string& port, StepObserver* observer) {
-    const int number = placeNamedPort(names, port);
-    const ExaminedDevice device = lookUpDevice(names, number, port);
-    const auto comm = makeCommDevice(names);
     const NativeClock clock;
     NoEvents noEvents;
-    CommExaminedLine line(*comm, "COM" + std::to_string(number), device.name, noEvents,
-                          [&clock] { return clock.monotonic(); });
-    return LineDoctor(device, line, LineSettings(), observer).examine();
+    return examinePort({names, placeNamedPort(names, port), port, {}},
+                       {noEvents, [&clock] { return clock.monotonic(); }, observer});
 }
 
 Diagnosis noPort() {

@@ -3,28 +3,35 @@
 #include <array>
 #include <cstddef>
 #include <nlohmann/json.hpp>
-#include <string_view>
 
 #include "base/system_text.h"
 
 namespace velmora {
 
+std::string_view markOf(StepStatus status) {
+    constexpr std::array<std::string_view, 4> kMarks = {"ok", "note", "FAULT", "?"};
+    return kMarks.at(static_cast<std::size_t>(status));
+}
+
 std::string findingLine(const StepFinding& finding) {
-    constexpr std::array<std::string_view, 4> kMarks = {"ok     ", "note   ", "FAULT  ", "?      "};
-    return "  " + std::string(kMarks.at(static_cast<std::size_t>(finding.status))) + finding.text;
+    constexpr std::size_t kMarkWidth = 7;
+    std::string mark(markOf(finding.status));
+    mark.resize(kMarkWidth, ' ');
+    return "  " + mark + finding.text;
+}
+
+std::string findingWithDetail(const Verdict& verdict) {
+    return std::string(wordsOf(verdict.cause).finding) + (verdict.detail.empty() ? "" : ' ' + verdict.detail);
 }
 
 std::string verdictText(const Verdict& verdict) {
-    const CauseWords& words = wordsOf(verdict.cause);
-    std::string text(words.finding);
+    const std::string text = findingWithDetail(verdict) + '\n';
     if (verdict.cause == Cause::None) {
-        return text + '\n';
+        return text;
     }
-    if (!verdict.detail.empty()) {
-        text += ' ' + verdict.detail;
-    }
-    return text + "\nWhat helps: " + std::string(words.advice) + "\nCause: " + std::string(words.name) +
-           ", " + std::to_string(verdict.confidence) + " % sure\n";
+    const CauseWords& words = wordsOf(verdict.cause);
+    return text + "What helps: " + std::string(words.advice) + "\nCause: " + std::string(words.name) + ", " +
+           std::to_string(verdict.confidence) + " % sure\n";
 }
 
 std::string diagnosisAsJson(const std::string& port, const Diagnosis& diagnosis) {

@@ -2,13 +2,20 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "doctor/diagnosis.h"
 
 namespace velmora {
 
+/// How a step went, as reports mark it: "ok", "note", "FAULT" or "?".
+std::string_view markOf(StepStatus status);
+
 /// One line for a step, without a line end: "  ok     The device is set to 9600 baud."
 std::string findingLine(const StepFinding& finding);
+
+/// The cause and what the line shows of it, one or two sentences.
+std::string findingWithDetail(const Verdict& verdict);
 
 /// The cause and what helps, a few lines that end in a line end.
 std::string verdictText(const Verdict& verdict);

@@ -8,6 +8,7 @@
 #include "doctor/answers.h"
 #include "doctor/device_findings.h"
 #include "doctor/echo_test.h"
+#include "doctor/stoppable_line.h"
 #include "doctor/unframed.h"
 
 namespace velmora {
@@ -37,9 +38,21 @@ Diagnosis LineDoctor::examine() {
     } catch (const LineLost& lost) {
         findings_.add({DoctorStep::Device, StepStatus::Fault, lost.what()});
         diagnosis.verdict = {Cause::DeviceFailed, 90, lost.what()};
+    } catch (const ExaminationStopped&) {
+        leave();
+        throw;
     }
     diagnosis.findings = findings_.take();
     return diagnosis;
+}
+
+/// Takes down what link there may be, so that the Organiser does not wait for us.
+void LineDoctor::leave() {
+    try {
+        probe_.hangUp();
+    } catch (const LineLost&) {
+        return;  // nobody waits
+    }
 }
 
 Verdict LineDoctor::firstCause() {

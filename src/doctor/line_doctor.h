@@ -21,12 +21,13 @@ class LineDoctor {
     LineDoctor(const ExaminedDevice& device, ExaminedLine& line, const LineSettings& wanted,
                StepObserver* observer = nullptr);
 
-    /// Runs the steps, once.
+    /// Runs the steps, once. What is thrown by a line that is a StoppableLine passes through.
     Diagnosis examine();
 
   private:
     using Found = std::optional<Verdict>;
 
+    void leave();
     Verdict firstCause();
     Found examineDevice();
     Found examineSettings();

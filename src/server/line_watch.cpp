@@ -51,8 +51,7 @@ void LineWatch::portWriting(std::string_view /*bytes*/) {
         tellOfStrangeBytes();
     } else if (!everHeard_ && !silenceTold_ && silent >= kSilentTime) {
         silenceTold_ = true;
-        parts_.tell("Nothing has come for a minute.",
-                    "Stop the server and run velmora-doctor to find out why.");
+        parts_.tell("Nothing has come for a minute.", parts_.findOut);
     }
 }
 

@@ -24,6 +24,7 @@ struct LineWatchParts {
     const Clock& clock;
     std::function<LinkState()> linkState;
     std::function<std::string()> settings;  ///< the port's mode string
+    std::string findOut;                    ///< what helps when nothing comes, one sentence
     /// Shows two lines to the user.
     std::function<void(const std::string& text2, const std::string& text3)> tell;
 };

@@ -157,12 +157,11 @@ void SetupModel::pbOK_Click() {
     if (probing_ || closed_ || !okEnabled_) {
         return;
     }
-    const std::int16_t number =
-        selected_ == kOtherPort ? otherPortNumber() : static_cast<std::int16_t>(selected_);
+    const std::int16_t number = chosenPort();
     keepAdapter(number);
     port_.setCommPort(number);
     if (baud_) {
-        port_.setSettings(std::to_string(*baud_) + ",N,8,1");
+        port_.setSettings(chosenSettings());
     }
     options_.AutoStart = autoStart_;
     options_.AutoSelectPort = false;
@@ -200,6 +199,14 @@ void SetupModel::ShowPortStatus(int index, std::int32_t status) {
 
 void SetupModel::showStatusOfSelected() {
     statusText_ = mark(selected_).toolTip;
+}
+
+std::int16_t SetupModel::chosenPort() const {
+    return selected_ == kOtherPort ? otherPortNumber() : static_cast<std::int16_t>(selected_);
+}
+
+std::string SetupModel::chosenSettings() const {
+    return baud_ ? std::to_string(*baud_) + ",N,8,1" : port_.Settings();
 }
 
 // A number too large for a port number is answered as the largest one is: there is no such port.

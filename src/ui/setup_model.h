@@ -85,6 +85,10 @@ class SetupModel {
     const std::string& portText() const { return portText_; }
     /// Whether the last pbCheckPort_Click found a port that cannot be opened or used.
     bool checkFailed() const { return checkFailed_; }
+    /// The number of the selected port; 0 or less when there is none.
+    std::int16_t chosenPort() const;
+    /// The mode string that OK would set.
+    std::string chosenSettings() const;
     /// Whether txtPortNo and pbCheckPort are enabled.
     bool portTextEnabled() const { return selected_ == kOtherPort; }
     bool okEnabled() const { return okEnabled_; }

@@ -4,6 +4,7 @@ velmora_library(qt_dialogs
     capture_saving.cpp
     desktop_files.cpp
     frm_about.cpp
+    frm_cable_check.cpp
     frm_debug.cpp
     frm_setup.cpp
     frm_transfers.cpp

@@ -188,7 +188,13 @@ void frmSetup::addDevices(QGridLayout& ports) {
     strong.setBold(true);
     lblStatus->setFont(strong);
     lblStatus->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("COM99  wasn't checked yet")));
-    ports.addWidget(lblStatus, 7, 0, 1, 4);
+    ports.addWidget(lblStatus, 7, 0, 1, 3);
+    pbCheckCable = new QPushButton(QStringLiteral("Check ca&ble…"));
+    pbCheckCable->setObjectName("pbCheckCable");
+    pbCheckCable->setToolTip(QStringLiteral("Finds out why nothing comes from the Organiser."));
+    pbCheckCable->setAutoDefault(false);
+    pbCheckCable->hide();
+    ports.addWidget(pbCheckCable, 7, 3, Qt::AlignRight);
 }
 
 QGroupBox* frmSetup::makeRates() {
@@ -260,8 +266,8 @@ void frmSetup::orderControls() {
     QWidget* before = obPort[0];
     for (QWidget* next : std::initializer_list<QWidget*>{
              obPort[1], obPort[2], obPort[3], obPort[4], txtPortNo, pbCheckPort, cboPresentPorts,
-             pbRefreshPorts, obBaud[0], obBaud[1], obBaud[2], obBaud_other, cbAutoStart, cboFileType,
-             cboWksDialect, pbOK, pbCancel, pbHelp}) {
+             pbRefreshPorts, pbCheckCable, obBaud[0], obBaud[1], obBaud[2], obBaud_other, cbAutoStart,
+             cboFileType, cboWksDialect, pbOK, pbCancel, pbHelp}) {
         setTabOrder(before, next);
         before = next;
     }
@@ -285,6 +291,8 @@ void frmSetup::connectControls() {
     // The device that is chosen already may be taken again in place of a number that was typed.
     connect(cboPresentPorts, &QComboBox::activated, this, &frmSetup::deviceChosen);
     connect(pbRefreshPorts, &QPushButton::clicked, this, &frmSetup::fillDevices);
+    connect(pbCheckCable, &QPushButton::clicked, this,
+            [this] { checkCable_(model_.chosenPort(), model_.chosenSettings()); });
     // The model has these already where the dialog itself sets them.
     connect(cbAutoStart, &QCheckBox::toggled, this, [this](bool on) { model_.setAutoStart(on); });
     connect(cboFileType, &QComboBox::currentIndexChanged, this,
@@ -353,6 +361,7 @@ void frmSetup::showState() {
     txtPortNo->setFocusPolicy(model_.portTextEnabled() ? Qt::StrongFocus : Qt::ClickFocus);
     pbCheckPort->setEnabled(model_.portTextEnabled());
     lblStatus->setText(qtText(model_.statusText()));
+    pbCheckCable->setEnabled(model_.chosenPort() > 0 && !model_.probing());
     showBaud();
     cbAutoStart->setChecked(model_.autoStart());
     cboFileType->setCurrentIndex(model_.fileType());
@@ -468,6 +477,11 @@ void frmSetup::checkPort() {
 void frmSetup::setDeviceTip(DeviceTip tip) {
     deviceTip_ = std::move(tip);
     showDeviceTips();
+}
+
+void frmSetup::setCheckCable(CheckCable check) {
+    checkCable_ = std::move(check);
+    pbCheckCable->setVisible(checkCable_ != nullptr);
 }
 
 void frmSetup::showDeviceTips() {

@@ -29,6 +29,8 @@ class frmSetup : public QDialog {
 
   public:
     using DeviceTip = std::function<std::string(const std::string& device)>;
+    /// Checks the cable at a port, with the settings of a mode string, over this dialog.
+    using CheckCable = std::function<void(int port, const std::string& mode)>;
     using ListDevices = std::function<std::vector<PortIdentity>()>;
 
     /// The references must outlive the dialog; `listDevices` names the devices that are present.
@@ -49,6 +51,8 @@ class frmSetup : public QDialog {
     void setFailureReason(std::function<std::string()> reason) { failureReason_ = std::move(reason); }
     /// What is said beside a device of the list; empty for nothing. Without it nothing is.
     void setDeviceTip(DeviceTip tip);
+    /// What "Check cable" does; without it there is no such button.
+    void setCheckCable(CheckCable check);
     /// What is said below the list until a device is chosen or the list changes.
     void setDeviceHint(const QString& hint);
 
@@ -86,6 +90,7 @@ class frmSetup : public QDialog {
     DeviceTip deviceTip_;
     std::function<std::string()> failureReason_;
     bool reasonShown_ = false;
+    CheckCable checkCable_;
     std::vector<PortIdentity> devices_;
     bool shownOnce_ = false;
     bool loading_ = false;
@@ -103,6 +108,7 @@ class frmSetup : public QDialog {
     QPushButton* pbRefreshPorts = nullptr;
     QLabel* lblDeviceHint = nullptr;
     QLabel* lblStatus = nullptr;
+    QPushButton* pbCheckCable = nullptr;
     QGroupBox* grpBaud = nullptr;
     std::array<QRadioButton*, SetupModel::kBaudRates.size()> obBaud{};
     QRadioButton* obBaud_other = nullptr;  // shown when the rate is none of these

@@ -6,11 +6,13 @@
 #include <memory>
 #include <vector>
 
+#include "doctor/stoppable_line.h"
 #include "e2e/support/x_server.h"
 #include "support/scripted_port.h"
 #include "support/window_frame.h"
 #include "support/window_rig.h"
 #include "ui/qt/c_sh_folder.h"
+#include "ui/qt/frm_cable_check.h"
 #include "ui/qt/frm_setup.h"
 
 namespace velmora {
@@ -83,6 +85,21 @@ class ClosingTest : public QObject {
         QVERIFY(focusWaitsAtCancel);
         QCOMPARE(probed, std::vector<int>{1});
         QCOMPARE(port.number, std::int16_t(3));
+    }
+    void closingACheckOfTheCableByItsFrameEndsTheCheckFirst() {
+        bool closedAmid = true;
+        std::unique_ptr<frmCableCheck> check;
+        check = std::make_unique<frmCableCheck>(
+            "COM7", LineSettings(),
+            [&](StepObserver& /*observer*/, const std::function<bool()>& stopWanted) -> Diagnosis {
+                test::pressCloseButton(*check);
+                [&] { QTRY_VERIFY(stopWanted()); }();
+                closedAmid = !check->isVisible();
+                throw ExaminationStopped();
+            });
+        check->show();
+        QTRY_VERIFY(!check->isVisible());
+        QVERIFY(!closedAmid);
     }
 
   private:

@@ -11,13 +11,16 @@
 #include <QProcess>
 #include <QPushButton>
 #include <QTableView>
+#include <QTableWidget>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 #include <QUrl>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <memory>
+#include <utility>
 
 #include "capture/pcapng_reader.h"
 #include "support/pty_pair.h"
@@ -58,6 +61,7 @@ class DesktopServerTest : public QObject {
     void pulledCableStopsTheServerUntilItIsBack();
     void whileItWaitsForItsCableItCanBeStopped();
     void missingDeviceTellsWhatToDo();
+    void aCableThatIsCheckedFromSetupTellsOfAPortThatVanishes();
     void displayStatisticsAndFileAgree();
     void aTransferIsListedAndRememberedOverStarts();
     void theMonitorSavesWhatPassedOverTheLine();
@@ -125,6 +129,39 @@ class DesktopServerTest : public QObject {
     static QString transferText(int column) {
         return transfers()->findChild<QTableView*>()->model()->index(0, column).data().toString();
     }
+    /// Stops the server, checks the cable from the setup dialog and closes both; returns what the check came
+    /// to. `amid` is called once some steps are done.
+    QString checkCable(const std::function<void()>& amid) {
+        QTest::mouseClick(startStop(), Qt::LeftButton);
+        QString result;
+        bool reached = false;
+        // Each look asks for the next one first: the dialogs' own loops run within it.
+        QObject ends;
+        std::function<void()> look = [&] {
+            QTimer::singleShot(10, &ends, [&look] { look(); });
+            auto* top = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            auto* begin =
+                top != nullptr ? top->findChild<QPushButton*>(QStringLiteral("pbCheckCable")) : nullptr;
+            auto* steps = top != nullptr ? top->findChild<QTableWidget*>() : nullptr;
+            if (begin != nullptr && !result.isEmpty()) {
+                top->reject();
+            } else if (begin != nullptr && begin->isEnabled()) {
+                begin->click();
+            } else if (steps != nullptr && steps->rowCount() >= 4 && !std::exchange(reached, true)) {
+                amid();
+            } else if (steps != nullptr) {
+                result = top->findChild<QLabel*>(QStringLiteral("lblResult"))->text();
+                if (!result.isEmpty()) {
+                    top->reject();
+                }
+            }
+        };
+        look();
+        QTest::mouseClick(server->window().findChild<QPushButton*>(QStringLiteral("pbSetup")),
+                          Qt::LeftButton);
+        return result;
+    }
+
   public Q_SLOTS:
     void takeAddress(const QUrl& url) { told = url.fileName() + QLatin1Char('#') + url.fragment(); }
 
@@ -273,6 +310,15 @@ void DesktopServerTest::missingDeviceTellsWhatToDo() {
     QCOMPARE(server->controller().state(), int{Offline});
     QCOMPARE(label("tlBottomText_2")->text(), QStringLiteral("Port COM40 is not accessible!"));
     QVERIFY(label("lblAdvice")->text().contains(QString::fromStdString(port.string())));
+    plug();
+    QTest::mouseClick(startStop(), Qt::LeftButton);
+    QCOMPARE(server->controller().state(), int{WaitLink});
+}
+
+void DesktopServerTest::aCableThatIsCheckedFromSetupTellsOfAPortThatVanishes() {
+    QVERIFY(server->start(""));
+    const QString result = checkCable([this] { pty.reset(); });
+    QVERIFY2(result.startsWith(QStringLiteral("The device fails")), qPrintable(result));
     plug();
     QTest::mouseClick(startStop(), Qt::LeftButton);
     QCOMPARE(server->controller().state(), int{WaitLink});

@@ -95,6 +95,24 @@ class FrmSetupTest : public QObject {
         QCOMPARE(list->currentIndex(), -1);
         QCOMPARE(text()->text(), QString("6"));
     }
+    void theCableIsCheckedAtTheChosenPortAndRate() {
+        devices = {adapter(6, "/dev/ttyUSB1", "BBBB1234")};
+        open();
+        auto* check = find<QPushButton>("pbCheckCable");
+        QVERIFY(!check->isVisible());
+        QStringList checked;
+        dialog->setCheckCable([&](int number, const std::string& mode) {
+            checked.append(QString::number(number) + " " + QString::fromStdString(mode));
+        });
+        QTest::keyClick(find<QComboBox>("cboPresentPorts"), Qt::Key_Down);
+        find<QRadioButton>("obBaud_1200")->click();
+        QTest::mouseClick(check, Qt::LeftButton);
+        QCOMPARE(checked, QStringList("6 1200,N,8,1"));
+        isForEverybody();
+        text()->clear();
+        QTest::keyClick(text(), Qt::Key_0);
+        QVERIFY(!check->isEnabled());
+    }
     void aHintStandsBelowTheListUntilADeviceIsChosen() {
         devices = {adapter(6, "/dev/ttyUSB1", "BBBB1234")};
         open();

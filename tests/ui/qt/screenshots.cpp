@@ -10,6 +10,7 @@
 #include <QStyleFactory>
 #include <cstdio>
 #include <functional>
+#include <initializer_list>
 #include <memory>
 #include <string_view>
 #include <vector>
@@ -25,6 +26,7 @@
 #include "ui/about_text.h"
 #include "ui/qt/artwork.h"
 #include "ui/qt/frm_about.h"
+#include "ui/qt/frm_cable_check.h"
 #include "ui/qt/frm_debug.h"
 #include "ui/qt/frm_setup.h"
 #include "ui/qt/frm_transfers.h"
@@ -134,6 +136,7 @@ bool saveSetup(const QDir& folder, const char* name, const std::vector<PortIdent
         return present.empty() ? kStatusNotAccessible : kStatusAvailable;
     };
     frmSetup dialog(port, options, transfer, probe, [&present] { return present; });
+    dialog.setCheckCable([](int, const std::string&) {});
     dialog.show();
     constexpr int kAllPorts = 5;
     while (probes < kAllPorts) {
@@ -241,6 +244,33 @@ bool saveAbout(const QDir& folder, const char* name) {
     return save(dialog, folder, name);
 }
 
+// A check that has found its cause.
+bool saveCableCheck(const QDir& folder, const char* name) {
+    frmCableCheck dialog(
+        "/dev/ttyUSB0", LineSettings(), [](StepObserver& observer, const std::function<bool()>& /*stop*/) {
+            using Status = StepStatus;
+            for (const StepFinding& step : std::initializer_list<StepFinding>{
+                     {DoctorStep::Device, Status::Well, "/dev/ttyUSB0 is there and may be opened."},
+                     {DoctorStep::Adapter, Status::Well, "FT232R, driver ftdi_sio."},
+                     {DoctorStep::Settings, Status::Well, "The device is set to 9600 baud."},
+                     {DoctorStep::ModemLines, Status::Noted,
+                      "No line is on: nothing is connected or switched on, or the cable has only three "
+                      "wires."},
+                     {DoctorStep::Echo, Status::Well, "What is sent does not come back."},
+                     {DoctorStep::Listening, Status::Fault, "231 bytes came that make no frame."},
+                     {DoctorStep::OtherRates, Status::Fault,
+                      "The Organiser uses 1200 baud, and the server 9600 baud."}}) {
+                observer.found(step);
+            }
+            return Diagnosis{
+                {Cause::WrongRate, 95, "The Organiser uses 1200 baud, and the server 9600 baud."}, {}};
+        });
+    dialog.show();
+    QApplication::processEvents();
+    QApplication::processEvents();
+    return save(dialog, folder, name);
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -268,6 +298,12 @@ int main(int argc, char** argv) {
     for (const auto& [name, dark] : {Picture{"setup", false}, Picture{"setup-dark", true}}) {
         QApplication::setPalette(dark ? darkPalette() : light);
         if (!saveSetup(folder, name, {test::exampleAdapter()})) {
+            return 1;
+        }
+    }
+    for (const auto& [name, dark] : {Picture{"cable-check", false}, Picture{"cable-check-dark", true}}) {
+        QApplication::setPalette(dark ? darkPalette() : light);
+        if (!saveCableCheck(folder, name)) {
             return 1;
         }
     }

@@ -1,0 +1,199 @@
+#include "ui/qt/frm_cable_check.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QTimer>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <utility>
+
+#include "doctor/doctor_report.h"
+#include "doctor/unframed.h"
+#include "ui/qt/qt_text.h"
+
+namespace velmora {
+namespace {
+
+enum Column { Mark, Text, kColumns };
+
+QLabel* makeWrapped(const char* name) {
+    auto* label = new QLabel;
+    label->setObjectName(QLatin1String(name));
+    label->setTextFormat(Qt::PlainText);
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    label->setWordWrap(true);
+    return label;
+}
+
+/// Ticks say it at a glance, words without colours or a good eye.
+QString shownMark(StepStatus status) {
+    const QString words = QString::fromStdString(std::string(markOf(status)));
+    switch (status) {
+        case StepStatus::Well:
+            return QStringLiteral("\u2713 ") + words;
+        case StepStatus::Fault:
+            return QStringLiteral("\u2717 ") + words;
+        case StepStatus::Noted:
+        case StepStatus::Unknown:
+            break;
+    }
+    return words;
+}
+
+}  // namespace
+
+frmCableCheck::frmCableCheck(const std::string& port, const LineSettings& settings,
+                             CableCheck::Examine examine, QWidget* parent)
+    : QDialog(parent), check_(port, std::move(examine), [this] { showState(); }) {
+    setObjectName(QStringLiteral("frmCableCheck"));
+    setWindowTitle(QStringLiteral("Velmora Check Cable"));
+    build(port, settings);
+    showState();
+}
+
+void frmCableCheck::build(const std::string& port, const LineSettings& settings) {
+    auto* lblWhat = makeWrapped("lblWhat");
+    lblWhat->setText(
+        qtSystemText(port) + QStringLiteral(" at ") + QString::fromStdString(settingsInWords(settings)) +
+        QStringLiteral(". Start a transfer on the Organiser, so that it calls; the check takes up "
+                       "to a minute and changes nothing there."));
+    tblSteps = new QTableWidget(0, kColumns);
+    tblSteps->setObjectName(QStringLiteral("tblSteps"));
+    tblSteps->setAccessibleName(QStringLiteral("Steps of the check"));
+    tblSteps->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    tblSteps->setSelectionBehavior(QAbstractItemView::SelectRows);
+    tblSteps->setSelectionMode(QAbstractItemView::SingleSelection);
+    tblSteps->setTabKeyNavigation(false);
+    tblSteps->setShowGrid(false);
+    tblSteps->verticalHeader()->hide();
+    tblSteps->verticalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    tblSteps->horizontalHeader()->hide();
+    tblSteps->horizontalHeader()->setStretchLastSection(true);
+    tblSteps->setColumnWidth(Mark, fontMetrics().horizontalAdvance(QStringLiteral("\u2717 FAULT  ")) +
+                                       2 * fontMetrics().averageCharWidth());
+    pbrBusy = new QProgressBar;
+    pbrBusy->setObjectName(QStringLiteral("pbrBusy"));
+    pbrBusy->setAccessibleName(QStringLiteral("The check goes on"));
+    pbrBusy->setRange(0, 0);
+    pbrBusy->setTextVisible(false);
+    lblResult = makeWrapped("lblResult");
+    QFont strong = font();
+    strong.setBold(true);
+    lblResult->setFont(strong);
+    lblAdvice = makeWrapped("lblAdvice");
+    pbStop = new QPushButton;
+    pbStop->setObjectName(QStringLiteral("pbStop"));
+    pbStop->setAutoDefault(false);
+    pbCopy = new QPushButton(QStringLiteral("Cop&y the result"));
+    pbCopy->setObjectName(QStringLiteral("pbCopy"));
+    pbCopy->setToolTip(QStringLiteral("One line for the clipboard, for whoever is asked for help."));
+    pbCopy->setAutoDefault(false);
+    pbClose = new QPushButton(QStringLiteral("&Close"));
+    pbClose->setObjectName(QStringLiteral("pbClose"));
+    pbClose->setDefault(true);
+    auto* buttons = new QHBoxLayout;
+    buttons->addWidget(pbStop);
+    buttons->addStretch(1);
+    buttons->addWidget(pbCopy);
+    buttons->addWidget(pbClose);
+    auto* all = new QVBoxLayout(this);
+    all->addWidget(lblWhat);
+    all->addWidget(tblSteps, 1);
+    all->addWidget(pbrBusy);
+    all->addWidget(lblResult);
+    all->addWidget(lblAdvice);
+    all->addLayout(buttons);
+    resize(fontMetrics().averageCharWidth() * 92, fontMetrics().height() * 26);
+    pbClose->setFocus();
+    connect(pbStop, &QPushButton::clicked, this, &frmCableCheck::stopOrCheckAgain);
+    connect(pbCopy, &QPushButton::clicked, this, &frmCableCheck::copyLine);
+    connect(pbClose, &QPushButton::clicked, this, &frmCableCheck::reject);
+}
+
+void frmCableCheck::showEvent(QShowEvent* event) {
+    QDialog::showEvent(event);
+    if (!std::exchange(shownOnce_, true)) {
+        QTimer::singleShot(0, this, &frmCableCheck::check);
+    }
+}
+
+/// Returns when the check is over; events run in it.
+void frmCableCheck::check() {
+    if (running() || !isVisible()) {
+        return;
+    }
+    stopping_ = false;
+    check_.run();
+    if (std::exchange(closing_, false)) {
+        done(Rejected);
+    }
+}
+
+void frmCableCheck::stopOrCheckAgain() {
+    if (running()) {
+        stop();
+    } else {
+        // Not within the button's own event, which would last as long as the check.
+        QTimer::singleShot(0, this, &frmCableCheck::check);
+    }
+}
+
+void frmCableCheck::reject() {
+    if (!running()) {
+        done(Rejected);
+        return;
+    }
+    closing_ = true;
+    stop();
+}
+
+void frmCableCheck::stop() {
+    stopping_ = true;
+    check_.stop();
+    showState();
+}
+
+void frmCableCheck::copyLine() const {
+    QGuiApplication::clipboard()->setText(qtSystemText(check_.line()));
+}
+
+void frmCableCheck::showState() {
+    showSteps();
+    pbrBusy->setVisible(running());
+    lblResult->setText(qtSystemText(check_.result()));
+    lblResult->setVisible(!lblResult->text().isEmpty());
+    lblAdvice->setText(qtSystemText(check_.advice()));
+    lblAdvice->setVisible(!lblAdvice->text().isEmpty());
+    const bool over =
+        check_.state() == CableCheck::State::Done || check_.state() == CableCheck::State::Stopped;
+    pbStop->setText(over ? QStringLiteral("Check a&gain") : QStringLiteral("&Stop"));
+    pbStop->setEnabled(over || (running() && !stopping_));
+    pbCopy->setEnabled(!check_.line().empty());
+}
+
+/// Adds the rows that are missing; a check that begins anew has none.
+void frmCableCheck::showSteps() {
+    const auto& steps = check_.steps();
+    tblSteps->setRowCount(std::min(tblSteps->rowCount(), static_cast<int>(steps.size())));
+    for (auto row = tblSteps->rowCount(); row < static_cast<int>(steps.size()); ++row) {
+        const StepFinding& step = steps[static_cast<std::size_t>(row)];
+        tblSteps->insertRow(row);
+        tblSteps->setItem(row, Mark, new QTableWidgetItem(shownMark(step.status)));
+        tblSteps->setItem(row, Text, new QTableWidgetItem(qtSystemText(step.text)));
+        if (step.status == StepStatus::Fault) {
+            QFont strong = font();
+            strong.setBold(true);
+            tblSteps->item(row, Mark)->setFont(strong);
+            tblSteps->item(row, Text)->setFont(strong);
+        }
+        tblSteps->scrollToBottom();
+    }
+}
+
+}  // namespace velmora
