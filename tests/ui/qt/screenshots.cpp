@@ -137,6 +137,7 @@ bool saveSetup(const QDir& folder, const char* name, const std::vector<PortIdent
     };
     frmSetup dialog(port, options, transfer, probe, [&present] { return present; });
     dialog.setCheckCable([](int, const std::string&) {});
+    dialog.offerHelp([] {});
     dialog.show();
     constexpr int kAllPorts = 5;
     while (probes < kAllPorts) {
