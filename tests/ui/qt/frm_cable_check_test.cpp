@@ -52,6 +52,14 @@ class FrmCableCheckTest : public QObject {
         QVERIFY(find<QLabel>("lblWhat")->text().startsWith(QStringLiteral("/dev/ttyUSB0 at 9600 baud.")));
         isForEverybody();
     }
+    void shownOnceMoreItChecksNothingByItself() {
+        dialog->show();
+        QTRY_VERIFY(button("pbCopy")->isEnabled());
+        dialog->hide();
+        dialog->show();
+        QCoreApplication::processEvents();
+        QCOMPARE(examinations, 1);
+    }
     void theResultIsOneLineForTheClipboard() {
         dialog->show();
         QTRY_VERIFY(button("pbCopy")->isEnabled());

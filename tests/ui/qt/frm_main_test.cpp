@@ -67,6 +67,8 @@ class FrmMainTest : public QObject {
     void shutDownButtonEndsTheProgram();
     void requestedShutdownEndsTheProgramAfterHalfASecond();
     void portThatFailsStopsTheServerUntilStartIsPressedAgain();
+    void eachButtonIsTakenAndGivenByItsOwnName();
+    void hiddenLinesAreNoMessage();
     void debugSwitchAppearsAndWorksByMouseAndKey();
     void theMonitorIsSwitchedByItsKeysWithoutTheDebugSwitch();
     void debugSwitchShowsThatItHasTheFocus();
@@ -419,6 +421,32 @@ void FrmMainTest::transfersAreShownByTheButtonAndByItsKeys() {
     QCOMPARE(rig->transferWindows, 1);
     QTest::keyClick(button("pbStartStop"), Qt::Key_T, Qt::ControlModifier);
     QCOMPARE(rig->transferWindows, 2);
+}
+
+void FrmMainTest::eachButtonIsTakenAndGivenByItsOwnName() {
+    const std::initializer_list<std::pair<MainButton, const char*>> buttons = {
+        {MainButton::StartStop, "pbStartStop"},
+        {MainButton::Setup, "pbSetup"},
+        {MainButton::Folder, "pbFolder"},
+        {MainButton::Hide, "pbHide"},
+        {MainButton::ShutDown, "pbShutDown"}};
+    for (const auto& [which, name] : buttons) {
+        rig->window.setButtonEnabled(which, false);
+        QVERIFY2(!button(name)->isEnabled(), name);
+        rig->window.setButtonEnabled(which, true);
+        QVERIFY2(button(name)->isEnabled(), name);
+    }
+}
+
+void FrmMainTest::hiddenLinesAreNoMessage() {
+    MessageLines messages;
+    messages.lines[0].text = "of the time before";
+    messages.lines[1].visible = true;
+    rig->window.showMessages(messages);
+    QVERIFY(!label("tlBottomText_2")->parentWidget()->isVisible());
+    messages.lines[1].text = "Waiting for link";
+    rig->window.showMessages(messages);
+    QVERIFY(label("tlBottomText_2")->parentWidget()->isVisible());
 }
 
 void FrmMainTest::aboutIsShownByItsButton() {
