@@ -22,14 +22,13 @@ DesktopDialogs::DesktopDialogs(const Clock& clock, PortNames& portNames, const D
 
 void DesktopDialogs::runSetup(QWidget& window, SerialPort& port, ServerOptions& options,
                               TransferSettings& transfer, const SetupModel::Probe& probe,
-                              const AdapterEvents& adapters, const std::function<bool()>& ended) {
+                              const AdapterEvents& adapters) {
     frmSetup dialog(
         port, options, transfer, probe, [this] { return listPorts(portNames_); }, &window);
     dialog.offerHelp(help_.about(dialog, HelpTopic::Setup));
     dialog.setFailureReason(failureReason_);
     dialog.setDeviceTip([&port](const std::string& device) { return latencyTip(device, port.Settings()); });
-    dialog.setCheckCable(
-        [&](int number, const std::string& mode) { checkCable(dialog, number, mode, ended); });
+    dialog.setCheckCable([&](int number, const std::string& mode) { checkCable(dialog, number, mode); });
     if (!adapters.live() && !std::exchange(newsMissed_, true)) {
         dialog.setDeviceHint(
             QStringLiteral("The system tells nothing of adapters: the list is looked up twice a second."));
@@ -42,8 +41,7 @@ void DesktopDialogs::runSetup(QWidget& window, SerialPort& port, ServerOptions& 
 }
 
 /// The server is stopped while the setup dialog is open, so the port is free.
-void DesktopDialogs::checkCable(QWidget& setup, int number, const std::string& mode,
-                                const std::function<bool()>& ended) {
+void DesktopDialogs::checkCable(QWidget& setup, int number, const std::string& mode) {
     const std::string device = portNames_.device(number).value_or("COM" + std::to_string(number));
     const LineSettings settings = parseModeString(mode).value_or(LineSettings());
     frmCableCheck dialog(
@@ -52,7 +50,7 @@ void DesktopDialogs::checkCable(QWidget& setup, int number, const std::string& m
             QtEventYield yield;
             return examinePort({portNames_, number, device, settings},
                                {yield, [this] { return clock_.monotonic(); }, &observer,
-                                [&] { return stopWanted() || ended(); }});
+                                [&] { return stopWanted() || (ended_ && ended_()); }});
         },
         &setup);
     dialog.exec();

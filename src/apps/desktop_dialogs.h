@@ -26,11 +26,11 @@ class DesktopDialogs {
   public:
     DesktopDialogs(const Clock& clock, PortNames& portNames, const DesktopHelp& help);
 
-    /// Shows the setup dialog over the window until the user closes it. A cable that is checked there is
-    /// left alone once `ended` holds.
+    /// Shows the setup dialog over the window until the user closes it.
     void runSetup(QWidget& window, SerialPort& port, ServerOptions& options, TransferSettings& transfer,
-                  const SetupModel::Probe& probe, const AdapterEvents& adapters,
-                  const std::function<bool()>& ended);
+                  const SetupModel::Probe& probe, const AdapterEvents& adapters);
+    /// Whether the program ends, for a cable that is checked in the setup dialog.
+    void setEnded(std::function<bool()> ended) { ended_ = std::move(ended); }
     /// Why the port that was probed last cannot be used, for the setup dialog.
     void setFailureReason(std::function<std::string()> reason) { failureReason_ = std::move(reason); }
     /// An adapter has come or gone: a setup dialog that is open shows it.
@@ -47,12 +47,13 @@ class DesktopDialogs {
     void closeDebugWindow();
 
   private:
-    void checkCable(QWidget& setup, int number, const std::string& mode, const std::function<bool()>& ended);
+    void checkCable(QWidget& setup, int number, const std::string& mode);
 
     const Clock& clock_;
     PortNames& portNames_;
     const DesktopHelp& help_;
     std::function<std::string()> failureReason_;
+    std::function<bool()> ended_;
     frmDebug debugWindow_;
     bool newsMissed_ = false;              // it was told that the system tells nothing of adapters
     AdapterFollower* follower_ = nullptr;  // of the setup dialog while it is open

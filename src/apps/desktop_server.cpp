@@ -51,6 +51,7 @@ DesktopServer::DesktopServer(const RunOverrides& overrides)
     onHelpKey(transfers_.window(), help_.about(transfers_.window(), HelpTopic::Transfers));
     transfers_.follow(program_.core());
     program_.record(captured_);
+    dialogs_.setEnded([this] { return controller().closed(); });
     dialogs_.setFailureReason(
         [this] { return describeOpenFailure(program_.portDevice(), platform_.port.lastErrorNumber()); });
     dialogs_.offerCapture([this] { return pcapngFile(captured_.capture()); });
@@ -105,8 +106,7 @@ bool DesktopServer::queryUnload(CloseReason reason) {
 void DesktopServer::openSetup() {
     dialogs_.runSetup(
         window_, platform_.port, program_.core().options, program_.core().transfer,
-        [this](std::int16_t port) { return controller().checkPort(port, kProbeModem); }, platform_.adapters,
-        [this] { return controller().closed(); });
+        [this](std::int16_t port) { return controller().checkPort(port, kProbeModem); }, platform_.adapters);
 }
 
 /// A server without a port can do nothing, and shows that only in its display.

@@ -25,7 +25,7 @@ std::string findingWithDetail(const Verdict& verdict) {
 }
 
 std::string verdictText(const Verdict& verdict) {
-    const std::string text = findingWithDetail(verdict) + '\n';
+    std::string text = findingWithDetail(verdict) + '\n';
     if (verdict.cause == Cause::None) {
         return text;
     }

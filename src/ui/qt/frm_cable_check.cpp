@@ -33,7 +33,7 @@ QLabel* makeWrapped(const char* name) {
 
 /// Ticks say it at a glance, words without colours or a good eye.
 QString shownMark(StepStatus status) {
-    const QString words = QString::fromStdString(std::string(markOf(status)));
+    QString words = QString::fromStdString(std::string(markOf(status)));
     switch (status) {
         case StepStatus::Well:
             return QStringLiteral("\u2713 ") + words;
@@ -87,6 +87,18 @@ void frmCableCheck::build(const std::string& port, const LineSettings& settings)
     strong.setBold(true);
     lblResult->setFont(strong);
     lblAdvice = makeWrapped("lblAdvice");
+    auto* all = new QVBoxLayout(this);
+    all->addWidget(lblWhat);
+    all->addWidget(tblSteps, 1);
+    all->addWidget(pbrBusy);
+    all->addWidget(lblResult);
+    all->addWidget(lblAdvice);
+    all->addLayout(makeButtons());
+    pbClose->setFocus();
+    resize(fontMetrics().averageCharWidth() * 92, fontMetrics().height() * 26);
+}
+
+QHBoxLayout* frmCableCheck::makeButtons() {
     pbStop = new QPushButton;
     pbStop->setObjectName(QStringLiteral("pbStop"));
     pbStop->setAutoDefault(false);
@@ -102,18 +114,10 @@ void frmCableCheck::build(const std::string& port, const LineSettings& settings)
     buttons->addStretch(1);
     buttons->addWidget(pbCopy);
     buttons->addWidget(pbClose);
-    auto* all = new QVBoxLayout(this);
-    all->addWidget(lblWhat);
-    all->addWidget(tblSteps, 1);
-    all->addWidget(pbrBusy);
-    all->addWidget(lblResult);
-    all->addWidget(lblAdvice);
-    all->addLayout(buttons);
-    resize(fontMetrics().averageCharWidth() * 92, fontMetrics().height() * 26);
-    pbClose->setFocus();
     connect(pbStop, &QPushButton::clicked, this, &frmCableCheck::stopOrCheckAgain);
     connect(pbCopy, &QPushButton::clicked, this, &frmCableCheck::copyLine);
     connect(pbClose, &QPushButton::clicked, this, &frmCableCheck::reject);
+    return buttons;
 }
 
 void frmCableCheck::showEvent(QShowEvent* event) {

@@ -7,6 +7,7 @@
 #include "serial/mode_string.h"
 #include "ui/cable_check.h"
 
+class QHBoxLayout;
 class QLabel;
 class QProgressBar;
 class QPushButton;
@@ -31,6 +32,7 @@ class frmCableCheck : public QDialog {
 
   private:
     void build(const std::string& port, const LineSettings& settings);
+    QHBoxLayout* makeButtons();
     void check();
     void showState();
     void showSteps();

@@ -62,6 +62,7 @@ class DesktopServerTest : public QObject {
     void whileItWaitsForItsCableItCanBeStopped();
     void missingDeviceTellsWhatToDo();
     void aCableThatIsCheckedFromSetupTellsOfAPortThatVanishes();
+    void theEndOfTheProgramEndsACheckOfTheCable();
     void displayStatisticsAndFileAgree();
     void aTransferIsListedAndRememberedOverStarts();
     void theMonitorSavesWhatPassedOverTheLine();
@@ -322,6 +323,12 @@ void DesktopServerTest::aCableThatIsCheckedFromSetupTellsOfAPortThatVanishes() {
     plug();
     QTest::mouseClick(startStop(), Qt::LeftButton);
     QCOMPARE(server->controller().state(), int{WaitLink});
+}
+
+void DesktopServerTest::theEndOfTheProgramEndsACheckOfTheCable() {
+    QVERIFY(server->start(""));
+    const QString result = checkCable([this] { server->controller().queryUnload(CloseReason::Terminated); });
+    QCOMPARE(result, QStringLiteral("The check was stopped."));
 }
 
 void DesktopServerTest::displayStatisticsAndFileAgree() {
