@@ -22,8 +22,19 @@ std::string definitionWith(const std::string& description) {
 
 class TaskScheduler : public ::testing::Test {
   protected:
-    TaskScheduler() { deleteTask(kName); }
-    ~TaskScheduler() override { deleteTask(kName); }
+    /// Wine's scheduler does not start on a server of Wine that was started by itself.
+    void SetUp() override {
+        try {
+            deleteTask(kName);
+        } catch (const std::runtime_error& refusal) {
+            GTEST_SKIP() << refusal.what();
+        }
+    }
+    void TearDown() override {
+        if (!IsSkipped()) {
+            deleteTask(kName);
+        }
+    }
 };
 
 TEST_F(TaskScheduler, KeepsATaskUntilItIsDeleted) {
