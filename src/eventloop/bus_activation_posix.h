@@ -9,8 +9,8 @@
 
 namespace velmora {
 
-/// Takes a name on a bus and is activated under it as a desktop program is: org.freedesktop.Application of
-/// the Desktop Entry Specification. `activated` runs on the event loop.
+/// Takes a name on a bus and is activated under it as a desktop program is, by the interface
+/// org.freedesktop.Application. `activated` runs on the event loop.
 class BusActivation : public QObject {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")

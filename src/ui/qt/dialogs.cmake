@@ -11,6 +11,7 @@ velmora_library(qt_dialogs
     help_key.cpp
     log_lines.cpp
     log_view.cpp
+    readable_ground.cpp
     transfer_table.cpp
   LIBS velmora_ui velmora_serial velmora_base Qt6::Widgets)
 if(WIN32)
