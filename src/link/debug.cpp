@@ -7,7 +7,6 @@ namespace velmora {
 namespace {
 
 constexpr std::string_view kHeader("\x16\x10\x02", kHeaderLength);
-constexpr std::size_t kTypeIndex = kHeaderLength + 1;  // behind the lead byte
 constexpr std::size_t kDataIndex = kTypeIndex + 1;
 constexpr std::size_t kFrameOverhead = kDataIndex + kTrailerLength;
 
@@ -78,7 +77,16 @@ std::string linkStateName(LinkState state) {
 }
 
 void Debug::trace(std::string_view categories, std::string_view label, std::string_view data) {
-    if (sink_.logging() && wanted(categories)) {
+    if (!sink_.logging()) {
+        return;
+    }
+    const bool polling = polling_.covers(categories, label, data, state());
+    if (!wanted(categories)) {
+        return;
+    }
+    if (polling) {
+        sink_.addPollingLine(line(categories, label, data));
+    } else {
         sink_.addline(line(categories, label, data));
     }
 }
@@ -95,13 +103,9 @@ std::string Debug::line(std::string_view categories, std::string_view label, std
     const bool repeatsAFrame = label == "recv" || label == "resend";
     const bool stateAlone = label.empty() && data.empty() && hasCategory(categories, "STATE");
     if (stateAlone || (!repeatsAFrame && hasCategory(categories, "STATUS"))) {
-        return hexEscaped(label) + "\tStatus=" + stateText();
+        return hexEscaped(label) + "\tStatus=" + linkStateName(state());
     }
     return hexEscaped(label) + " \t" + dataText(data);
-}
-
-std::string Debug::stateText() const {
-    return linkStateName(linkState_ ? linkState_() : LinkState::Idle);
 }
 
 }  // namespace velmora

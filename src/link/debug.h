@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "link/idle_polling.h"
 #include "link/link_state.h"
 #include "link/trace.h"
 
@@ -23,6 +24,9 @@ class TraceSink {
     virtual bool categoryEnabled(std::string_view category) = 0;
     /// Takes one line, without an end of line.
     virtual void addline(const std::string& text) = 0;
+    /// Takes one that tells of the polling of an idle link (IdlePolling); a sink that does not tell these
+    /// apart takes it as any other.
+    virtual void addPollingLine(const std::string& text) { addline(text); }
 };
 
 /// Describes a frame as on the wire: its type with the sequence number, for DATA the length, and the bytes of
@@ -47,9 +51,10 @@ class Debug : public Trace {
   private:
     bool wanted(std::string_view categories);
     std::string line(std::string_view categories, std::string_view label, std::string_view data) const;
-    std::string stateText() const;
+    LinkState state() const { return linkState_ ? linkState_() : LinkState::Idle; }
 
     TraceSink& sink_;
+    IdlePolling polling_;
     std::function<LinkState()> linkState_;
 };
 

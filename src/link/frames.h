@@ -19,8 +19,9 @@ constexpr char kDle = 0x10;
 constexpr char kStx = 0x02;
 constexpr char kEtx = 0x03;
 
-constexpr std::size_t kHeaderLength = 3;       ///< SYN DLE STX
-constexpr std::size_t kTrailerLength = 2 + 2;  ///< DLE ETX, check
+constexpr std::size_t kHeaderLength = 3;               ///< SYN DLE STX
+constexpr std::size_t kTrailerLength = 2 + 2;          ///< DLE ETX, check
+constexpr std::size_t kTypeIndex = kHeaderLength + 1;  ///< type + sequence, behind the lead byte
 constexpr std::size_t kSequenceModulus = 8;
 
 /// Frame types: the upper five bits of the type-and-sequence byte.

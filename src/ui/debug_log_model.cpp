@@ -30,8 +30,8 @@ void DebugLogModel::startlog() {
     startTime_ = toInt32(clock_.secondsSinceMidnight());
 }
 
-void DebugLogModel::addline(const std::string& text) {
-    view_.appendLine(secondsText(clock_.secondsSinceMidnight() - startTime_) + "\t" + text);
+void DebugLogModel::stamp(const std::string& text, bool polling) {
+    view_.appendLine(secondsText(clock_.secondsSinceMidnight() - startTime_) + "\t" + text, polling);
 }
 
 bool DebugLogModel::categoryEnabled(std::string_view category) {

@@ -17,8 +17,9 @@ class DebugLogView {
   public:
     virtual ~DebugLogView() = default;
 
-    /// Adds a line at the end, without its line end. Called for each trace entry, so it must be cheap.
-    virtual void appendLine(const std::string& line) = 0;
+    /// Adds a line at the end, without its line end; `polling`: it tells of the polling of an idle link.
+    /// Called for each trace entry, so it must be cheap.
+    virtual void appendLine(const std::string& line, bool polling) = 0;
     virtual void clearLog() = 0;
     /// A check box changed: see DebugLogModel::category.
     virtual void categoryChanged(std::size_t index) = 0;
@@ -57,7 +58,8 @@ class DebugLogModel : public TraceSink {
     void startlog();
     /// Appends a line: seconds since the start time ("######0.00"), a tab, the text. After midnight the
     /// seconds are negative.
-    void addline(const std::string& text) override;
+    void addline(const std::string& text) override { stamp(text, false); }
+    void addPollingLine(const std::string& text) override { stamp(text, true); }
 
     /// Whether anybody sees the log: lines are to be produced only then. A minimised window shows nothing.
     bool logging() const override { return shown_ && windowState_ != WindowState::Minimised; }
@@ -85,6 +87,7 @@ class DebugLogModel : public TraceSink {
     const Category& category(std::size_t index) const { return categories_[index]; }
 
   private:
+    void stamp(const std::string& text, bool polling);
     std::size_t boxOf(std::string_view category);
     void applyMode(std::size_t index);
 

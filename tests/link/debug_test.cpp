@@ -123,6 +123,30 @@ TEST_F(DebugTest, OneEnabledCategoryIsEnough) {
     EXPECT_THAT(sink.asked, ElementsAre("COM", "DATA", "COM", "ERROR", "COM"));
 }
 
+/// A sink that tells polling apart.
+class TellingSink : public FakeSink {
+  public:
+    void addPollingLine(const std::string& text) override { addline("polling: " + text); }
+};
+
+TEST_F(DebugTest, PollingIsToldApartWhateverIsShownOfIt) {
+    TellingSink telling;
+    telling.shown = {"STATE"};
+    Debug traced(telling);
+    traced.showStateOf([] { return LinkState::WaitLink; });
+    traced.trace("STATE", {}, {});
+    traced.trace("PLP", "1", "timeout");
+    traced.trace("STATE", {}, {});
+    traced.trace("PLP", "PLP stopping", {});
+    traced.trace("STATE", {}, {});
+    EXPECT_THAT(telling.lines,
+                ElementsAre("\tStatus=wait link ", "polling: \tStatus=wait link ", "\tStatus=wait link "));
+}
+
+TEST_F(DebugTest, ASinkThatTellsNothingApartTakesPollingAsAnyOtherLine) {
+    EXPECT_EQ(lineOf("PLP", "1", "timeout"), "1 \ttimeout");
+}
+
 TEST_F(DebugTest, CategoriesAreComparedInCapitals) {
     sink.shown = {"PLP"};
     debug.trace("plp", "x", {});

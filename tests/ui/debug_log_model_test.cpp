@@ -15,10 +15,14 @@ using WindowState = DebugLogModel::WindowState;
 
 class RecordingLog : public DebugLogView {
   public:
-    void appendLine(const std::string& line) override { lines.push_back(line); }
+    void appendLine(const std::string& line, bool polling) override {
+        lines.push_back(line);
+        newestPolls = polling;
+    }
     void clearLog() override { lines.clear(); }
     void categoryChanged(std::size_t index) override { changed.push_back(index); }
     std::vector<std::string> lines;
+    bool newestPolls = false;
     std::vector<std::size_t> changed;
 };
 
@@ -40,6 +44,17 @@ class DebugLog : public testing::Test {
     RecordingLog log;
     DebugLogModel model{time, log};
 };
+
+TEST_F(DebugLog, APollingLineIsStampedAsAnyOtherAndToldApart) {
+    clockReads(100);
+    model.startlog();
+    clockReads(101.5);
+    model.addPollingLine("text");
+    EXPECT_EQ(log.lines.back(), "1.50\ttext");
+    EXPECT_TRUE(log.newestPolls);
+    model.addline("text");
+    EXPECT_FALSE(log.newestPolls);
+}
 
 struct TimeRow {
     const char* name;

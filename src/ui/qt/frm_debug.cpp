@@ -185,6 +185,11 @@ QBoxLayout* frmDebug::buildLastRow() {
     chkFollow->setChecked(txtLog->following());
     connect(chkFollow, &QCheckBox::toggled, txtLog, &LogView::setFollowing);
     connect(txtLog, &LogView::followingChanged, chkFollow, &QCheckBox::setChecked);
+    chkHidePolling = new QCheckBox(tr("&Hide idle polling"));
+    chkHidePolling->setObjectName("chkHidePolling");
+    chkHidePolling->setToolTip(tr(
+        "Leave out what passes while nothing happens. It is kept, shown again when asked for, and saved."));
+    connect(chkHidePolling, &QCheckBox::toggled, this, &frmDebug::hidePolling);
     chkLogToDisk = new QCheckBox(QStringLiteral("&Log to disk"));
     chkLogToDisk->setObjectName("chkLogToDisk");
     connect(chkLogToDisk, &QCheckBox::toggled, this, [this](bool on) { model_.setLogToDisk(on); });
@@ -193,6 +198,7 @@ QBoxLayout* frmDebug::buildLastRow() {
     connect(cbClear, &QPushButton::clicked, this, [this] { model_.cbClear_Click(); });
     auto* last = new QHBoxLayout;
     last->addWidget(chkFollow);
+    last->addWidget(chkHidePolling);
     last->addWidget(chkLogToDisk);
     last->addStretch();
     last->addWidget(cbClear);
@@ -227,8 +233,8 @@ void frmDebug::changeEvent(QEvent* event) {
     }
 }
 
-void frmDebug::appendLine(const std::string& line) {
-    waiting_.push_back(line);
+void frmDebug::appendLine(const std::string& line, bool polling) {
+    waiting_.push_back({line, polling});
     if (!flushTimer_.isActive()) {
         flushTimer_.start();
     }
@@ -237,6 +243,27 @@ void frmDebug::appendLine(const std::string& line) {
 void frmDebug::showWaiting() {
     flushTimer_.stop();
     lines_.append(std::exchange(waiting_, {}));
+}
+
+/// A held view stays at the line that it begins with, and keeps the current one; the end is followed on.
+void frmDebug::hidePolling(bool hidden) {
+    showWaiting();
+    const auto placeOf = [this](const QModelIndex& line) {
+        return line.isValid() ? std::optional(lines_.place(line.row())) : std::nullopt;
+    };
+    const auto current = placeOf(txtLog->currentIndex());
+    const auto top = placeOf(txtLog->indexAt(QPoint()));
+    lines_.setPollingHidden(hidden);
+    const auto lineAt = [this](std::size_t place) { return lines_.index(lines_.rowFrom(place), 0); };
+    if (txtLog->following()) {
+        return;
+    }
+    if (current) {
+        txtLog->setCurrentIndex(lineAt(*current));
+    }
+    if (top) {
+        txtLog->scrollTo(lineAt(*top), QAbstractItemView::PositionAtTop);
+    }
 }
 
 void frmDebug::clearLog() {
@@ -277,8 +304,8 @@ bool frmDebug::saveTo(const QString& path) {
     QSaveFile file(path);
     file.setDirectWriteFallback(true);
     bool written = file.open(QIODevice::WriteOnly | QIODevice::Text);
-    for (int row = 0; written && row < lines_.rowCount(); ++row) {
-        const std::string line = toUtf8(lines_.line(row)) + '\n';
+    for (auto each = lines_.lines().begin(); written && each != lines_.lines().end(); ++each) {
+        const std::string line = toUtf8(each->text) + '\n';
         written = file.write(line.data(), static_cast<qint64>(line.size())) >= 0;
     }
     if (written && file.commit()) {

@@ -40,8 +40,8 @@ class frmDebug : public QWidget, private DebugLogView {
     void toggle();
     /// Puts the lines on the screen that wait for the next batch.
     void showWaiting();
-    /// Writes the whole log, UTF-8 with this system's line ends. A failure is shown in a box and leaves the
-    /// file that was there.
+    /// Writes the whole log, hidden lines too, UTF-8 with this system's line ends. A failure is shown in a
+    /// box and leaves the file that was there.
     bool saveTo(const QString& path);
     /// Offers to save what passed over the line; `capture` gives the bytes of the file. Without it there is
     /// no such entry.
@@ -55,7 +55,7 @@ class frmDebug : public QWidget, private DebugLogView {
     void changeEvent(QEvent* event) override;
 
   private:
-    void appendLine(const std::string& line) override;
+    void appendLine(const std::string& line, bool polling) override;
     void clearLog() override;
     void categoryChanged(std::size_t index) override;
     void build();
@@ -69,6 +69,7 @@ class frmDebug : public QWidget, private DebugLogView {
     void saveAs();
     void saveCaptureAs();
     void switchCategory(std::size_t index);
+    void hidePolling(bool hidden);
     void showFailedSave(const QString& words);
     void copySelection();
     void copyAll();
@@ -80,7 +81,7 @@ class frmDebug : public QWidget, private DebugLogView {
     std::function<std::string()> capture_;
     DebugLogModel model_;
     LogLines lines_;
-    std::vector<std::string> waiting_;
+    std::vector<LogLines::Line> waiting_;
     QTimer flushTimer_;
     bool toggled_ = false;  // the press that goes on has toggled its box
     QAction* mnuSaveCapture = nullptr;
@@ -89,6 +90,7 @@ class frmDebug : public QWidget, private DebugLogView {
     QLineEdit* txtFind = nullptr;
     QLabel* lblFound = nullptr;
     QCheckBox* chkFollow = nullptr;
+    QCheckBox* chkHidePolling = nullptr;
     std::array<QRadioButton*, 3> obShowWhat{};
     std::array<QCheckBox*, DebugLogModel::kCategories> chkShowWhat{};
     QCheckBox* chkLogToDisk = nullptr;

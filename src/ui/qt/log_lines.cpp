@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <functional>
 #include <iterator>
 
 #include "ui/qt/qt_text.h"
@@ -31,7 +32,7 @@ bool containsFolded(const FoldTable& fold, const std::string& line, std::string_
 }  // namespace
 
 int LogLines::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(lines_.size());
+    return parent.isValid() ? 0 : static_cast<int>(pollingHidden_ ? shown_.size() : lines_.size());
 }
 
 QVariant LogLines::data(const QModelIndex& index, int role) const {
@@ -39,24 +40,55 @@ QVariant LogLines::data(const QModelIndex& index, int role) const {
     return known && role == Qt::DisplayRole ? QVariant(qtText(line(index.row()))) : QVariant();
 }
 
-void LogLines::append(std::vector<std::string> batch) {
-    if (batch.empty()) {
-        return;
-    }
+void LogLines::append(std::vector<Line> batch) {
+    const auto hidden = [this](const Line& line) { return pollingHidden_ && line.polling; };
+    const auto rows = std::count_if(batch.begin(), batch.end(), std::not_fn(hidden));
     const int first = rowCount();
-    beginInsertRows({}, first, first + static_cast<int>(batch.size()) - 1);
-    for (std::string& line : batch) {
-        longest_ = std::max(longest_, line.size());
+    if (rows > 0) {
+        beginInsertRows({}, first, first + static_cast<int>(rows) - 1);
+    }
+    for (Line& line : batch) {
+        longest_ = std::max(longest_, line.text.size());
+        if (pollingHidden_ && !line.polling) {
+            shown_.push_back(lines_.size());
+        }
         lines_.push_back(std::move(line));
     }
-    endInsertRows();
+    if (rows > 0) {
+        endInsertRows();
+    }
 }
 
 void LogLines::clear() {
     beginResetModel();
     lines_.clear();
+    shown_.clear();
     longest_ = 0;
     endResetModel();
+}
+
+void LogLines::setPollingHidden(bool hidden) {
+    beginResetModel();
+    pollingHidden_ = hidden;
+    shown_.clear();
+    for (std::size_t place = 0; hidden && place < lines_.size(); ++place) {
+        if (!lines_[place].polling) {
+            shown_.push_back(place);
+        }
+    }
+    endResetModel();
+}
+
+std::size_t LogLines::place(int row) const {
+    const auto index = static_cast<std::size_t>(row);
+    return pollingHidden_ ? shown_[index] : index;
+}
+
+int LogLines::rowFrom(std::size_t place) const {
+    if (!pollingHidden_) {
+        return static_cast<int>(std::min(place, lines_.size()));
+    }
+    return static_cast<int>(std::lower_bound(shown_.begin(), shown_.end(), place) - shown_.begin());
 }
 
 std::optional<int> LogLines::find(std::string_view part, int from, Direction direction) const {

@@ -314,6 +314,65 @@ class FrmDebugTest : public QObject {
         QCOMPARE(clipboard(), QString("0.40\tone\n0.40\ttwo\n"));
     }
 
+    void hidesIdlePollingAndShowsItAgain() {
+        const QAbstractItemModelTester tester(log->model());
+        addPolledLines(2);
+        QCOMPARE(texts(), QStringList({"line 0", "poll", "line 1", "poll"}));
+        hidePolling()->click();
+        QCOMPARE(texts(), QStringList({"line 0", "line 1"}));
+        addPolledLines(1);
+        window->model().addPollingLine("poll");
+        QCOMPARE(texts(), QStringList({"line 0", "line 1", "line 0"}));
+        test::toggleAssisted(*hidePolling());
+        QCOMPARE(texts(), QStringList({"line 0", "poll", "line 1", "poll", "line 0", "poll", "poll"}));
+    }
+    void whatIsHiddenIsSavedButNotCopied() {
+        const QTemporaryDir folder;
+        addPolledLines(1);
+        hidePolling()->click();
+        choose("mnuCopyAll");
+        QCOMPARE(clipboard(), QString("0.40\tline 0\n"));
+        QVERIFY(window->saveTo(folder.filePath("log.txt")));
+        QCOMPARE(contentOf(folder.filePath("log.txt")), QByteArray("0.40\tline 0\n0.40\tpoll\n"));
+    }
+    void hidingFollowsTheEndOn() {
+        addPolledLines(200);
+        hidePolling()->click();
+        QVERIFY(atEnd());
+        QVERIFY(follow()->isChecked());
+        hidePolling()->click();
+        QVERIFY(atEnd());
+        QVERIFY(follow()->isChecked());
+    }
+    void hidingStaysAtTheLineThatAHeldViewBeginsWith() {
+        addPolledLines(200);
+        log->setCurrentIndex(log->model()->index(104, 0));
+        log->scrollTo(log->model()->index(100, 0), QAbstractItemView::PositionAtTop);
+        QVERIFY(!follow()->isChecked());
+        hidePolling()->click();
+        QCOMPARE(log->verticalScrollBar()->value(), 50);
+        QCOMPARE(log->currentIndex().row(), 52);
+        hidePolling()->click();
+        QCOMPARE(log->verticalScrollBar()->value(), 100);
+        QCOMPARE(log->currentIndex().row(), 104);
+    }
+    void whatIsHiddenIsNotFound() {
+        addPolledLines(2);
+        hidePolling()->click();
+        QTest::keyClick(window.get(), Qt::Key_F, Qt::ControlModifier);
+        QTest::keyClicks(child<QLineEdit>("txtFind"), "poll");
+        QTest::keyClick(child<QLineEdit>("txtFind"), Qt::Key_Return);
+        QCOMPARE(found(), QString("Not found"));
+    }
+    void clearingWhileHiddenEmptiesTheLog() {
+        addPolledLines(2);
+        hidePolling()->click();
+        child<QPushButton>("cbClear")->click();
+        QCOMPARE(texts(), QStringList(kStart));
+        hidePolling()->click();
+        QCOMPARE(texts(), QStringList(kStart));
+    }
+
     void savesTheLogAsUtf8UnderTheChosenName() {
         const QTemporaryDir folder;
         window->model().addline("10 \x80");
@@ -537,6 +596,17 @@ class FrmDebugTest : public QObject {
             window->model().addline("line " + std::to_string(line));
         }
         window->showWaiting();
+    }
+    /// Lines with a poll of the idle link behind each.
+    void addPolledLines(int count) {
+        for (int line = 0; line < count; ++line) {
+            window->model().addline("line " + std::to_string(line));
+            window->model().addPollingLine("poll");
+        }
+        window->showWaiting();
+    }
+    QCheckBox* hidePolling() {
+        return child<QCheckBox>("chkHidePolling");
     }
     QString lineAt(int row) {
         return log->model()->index(row, 0).data().toString();
