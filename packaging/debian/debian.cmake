@@ -53,6 +53,8 @@ computer and loads them back: data files, which become text or CSV on the
 way, procedures, and spreadsheets with their formulas. One window mirrors
 the Organiser's display and says what to do when something is wrong.")
   set(CPACK_DEBIAN_DESKTOP_PACKAGE_DEPENDS "velmora-server (= ${PROJECT_VERSION})")
+  # What the toolkit's own dialogs say in other languages.
+  set(CPACK_DEBIAN_DESKTOP_PACKAGE_RECOMMENDS qt6-translations-l10n)
   set(CPACK_DEBIAN_DESKTOP_PACKAGE_SUGGESTS velmora-doc)
 endif()
 foreach(component ${CPACK_COMPONENTS_ALL})

@@ -1,10 +1,27 @@
 #include "apps/desktop_arguments.h"
 
+#include <algorithm>
+#include <string_view>
+
+#include "arguments/argument_values.h"
 #include "arguments/syntax.h"
 #include "base/byte_text.h"
+#include "ui/languages.h"
 
 namespace velmora {
 namespace {
+
+std::string knownLanguage(const std::string& code) {
+    const std::vector<std::string_view>& known = knownLanguages();
+    if (std::ranges::find(known, code) != known.end()) {
+        return code;
+    }
+    std::string list;
+    for (const std::string_view one : known) {
+        list += (list.empty() ? "" : one == known.back() ? " or " : ", ") + std::string(one);
+    }
+    wrongValue("--language", code, list);
+}
 
 class DesktopSyntax : public ProgramSyntax {
   public:
@@ -13,6 +30,9 @@ class DesktopSyntax : public ProgramSyntax {
         option("--config", "<file>",
                "Configuration file (default: Velmora.ini in\nthe user's configuration folder)",
                [&result](const std::string& file) { result.config = file; });
+        option("--language", "<code>",
+               "Language of the windows: en, de, es, fr, it or nl\n(default: the desktop's, else English)",
+               [&result](const std::string& code) { result.language = knownLanguage(code); });
         note(
             "velmora -debug, in any case and with nothing else, offers the protocol monitor. The toolkit's "
             "own\n"

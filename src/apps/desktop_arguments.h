@@ -15,8 +15,9 @@ void answerWithoutDisplay(const std::vector<std::string>& arguments);
 
 /// What a command line says.
 struct DesktopArguments {
-    std::string commandLine = {};            ///< as start-up wants it: the debug switch when that is all
-    std::optional<std::string> config = {};  ///< the configuration file
+    std::string commandLine = {};              ///< as start-up wants it: the debug switch when that is all
+    std::optional<std::string> config = {};    ///< the configuration file
+    std::optional<std::string> language = {};  ///< of the windows, a code; without it the desktop's
 };
 
 /// Reads the arguments that the toolkit has left. UsageError for what makes no sense.

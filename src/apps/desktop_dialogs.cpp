@@ -1,5 +1,6 @@
 #include "apps/desktop_dialogs.h"
 
+#include <QCoreApplication>
 #include <utility>
 
 #include "doctor/port_examination.h"
@@ -30,8 +31,8 @@ void DesktopDialogs::runSetup(QWidget& window, SerialPort& port, ServerOptions& 
     dialog.setDeviceTip([&port](const std::string& device) { return latencyTip(device, port.Settings()); });
     dialog.setCheckCable([&](int number, const std::string& mode) { checkCable(dialog, number, mode); });
     if (!adapters.live() && !std::exchange(newsMissed_, true)) {
-        dialog.setDeviceHint(
-            QStringLiteral("The system tells nothing of adapters: the list is looked up twice a second."));
+        dialog.setDeviceHint(QCoreApplication::translate(
+            "DesktopDialogs", "The system tells nothing of adapters: the list is looked up twice a second."));
     }
     QtTimer timer;
     AdapterFollower follower(timer, adapters.live(), [&dialog] { dialog.refreshDevices(); });

@@ -112,7 +112,8 @@ void DesktopServer::openSetup() {
 /// A server without a port can do nothing, and shows that only in its display.
 void DesktopServer::adviseOnPort() {
     if (controller().state() == NoPort) {
-        window_.showAdvice("Plug in the adapter, then click Setup.");
+        window_.showAdvice(systemPath(
+            QCoreApplication::translate("DesktopServer", "Plug in the adapter, then click Setup.")));
     }
 }
 

@@ -13,7 +13,9 @@
 #include "platform/file_size_limit.h"
 #include "platform/native.h"
 #include "startup/start_paths.h"
+#include "ui/languages.h"
 #include "ui/qt/artwork.h"
+#include "ui/qt/translation.h"
 
 namespace {
 
@@ -29,6 +31,8 @@ int serve(int argc, char** argv) {
     // The main window ends the program, also when it is minimised while another window closes.
     QApplication::setQuitOnLastWindowClosed(false);
     const DesktopArguments arguments = readDesktopArguments({argv + 1, argv + argc});
+    const Translation translation(arguments.language ? *arguments.language
+                                                     : bestLanguage(desktopLanguages()));
     RunOverrides overrides;
     overrides.configPath = arguments.config;
     // Two with one configuration would want one port.

@@ -9,6 +9,7 @@
 #include <utility>
 #include <vector>
 
+#include "base/translatable.h"
 #include "serial/port_identity.h"
 #include "serial/serial_port.h"
 #include "server/port_status.h"
@@ -29,12 +30,16 @@ class SetupModel {
     static constexpr int kLastSearchedPort = 32;
     static constexpr std::array<int, 3> kBaudRates{9600, 2400, 1200};
     /// The entries of cboFileType; the index is the data file type.
-    static constexpr std::array<const char*, 4> kFileTypes{"ODB (tab-delimited)", "TXT (tab-delimited)",
-                                                           "CSV (comma)", "CSV (semicolon)"};
+    static constexpr std::array<const char*, 4> kFileTypes{
+        translatable("velmora::frmSetup", "ODB (tab-delimited)"),
+        translatable("velmora::frmSetup", "TXT (tab-delimited)"),
+        translatable("velmora::frmSetup", "CSV (comma)"),
+        translatable("velmora::frmSetup", "CSV (semicolon)")};
 
     /// The entries of cboWksDialect; the index is the dialect of worksheets in WKS format.
-    static constexpr std::array<const char*, 2> kWksDialects{"as the Organiser's own",
-                                                             "for spreadsheet programs"};
+    static constexpr std::array<const char*, 2> kWksDialects{
+        translatable("velmora::frmSetup", "as the Organiser's own"),
+        translatable("velmora::frmSetup", "for spreadsheet programs")};
 
     /// Tests a port and returns its PortStatusNumber; checkPort with its modem probe forced.
     using Probe = std::function<std::int32_t(std::int16_t port)>;

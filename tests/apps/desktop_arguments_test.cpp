@@ -1,6 +1,6 @@
 #include "apps/desktop_arguments.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include "arguments/syntax.h"
 #include "arguments/usage_error.h"
@@ -28,6 +28,18 @@ TEST(DesktopArguments, TheConfigurationFileMayBeNamed) {
     EXPECT_EQ(readDesktopArguments({"--config=Other.ini"}).commandLine, "");
     EXPECT_THROW(readDesktopArguments({"--config"}), UsageError);
     EXPECT_THROW(readDesktopArguments({"--config", "Other.ini", "-debug"}), UsageError);
+}
+
+TEST(DesktopArguments, TheLanguageIsOneOfThoseThatAreKnown) {
+    EXPECT_EQ(readDesktopArguments({}).language, std::nullopt);
+    EXPECT_EQ(readDesktopArguments({"--language", "en"}).language, "en");
+    EXPECT_THROW(readDesktopArguments({"--language="}), UsageError);
+    try {
+        readDesktopArguments({"--language", "tlh"});
+        FAIL() << "an unknown language was taken";
+    } catch (const UsageError& error) {
+        EXPECT_THAT(error.what(), testing::StartsWith("--language: \"tlh\" is not en"));
+    }
 }
 
 TEST(DesktopArguments, AnythingElseIsWrongUsage) {

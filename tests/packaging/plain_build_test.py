@@ -4,6 +4,7 @@ plain_build_test.py SOURCE_FOLDER
 """
 
 import pathlib
+import shutil
 import subprocess
 import sys
 import tempfile
@@ -41,6 +42,21 @@ class PlainBuild(unittest.TestCase):
         for made in ("Velmora.ini.5", "documents/user-guide.html"):
             self.assertFalse(made in rules, made)
         self.assertTrue("manual/velmorad.1" in rules, "manual/velmorad.1")
+
+    def test_windows_can_be_in_english_only(self):
+        rules = self.configure("-DVELMORA_TRANSLATIONS=OFF", *WITHOUT_TESTS)
+        self.assertFalse("velmora_de.qm" in rules, "velmora_de.qm")
+        self.assertTrue("build bin/velmora:" in rules, "build bin/velmora:")
+
+    def test_a_missing_tool_of_translators_is_told(self):
+        options = ("-DVELMORA_TRANSLATIONS=ON", "-DVELMORA_LRELEASE=VELMORA_LRELEASE-NOTFOUND",
+                   "-DCMAKE_IGNORE_PATH=/usr/lib/qt6/bin;/usr/bin", "-DCMAKE_CXX_COMPILER=/usr/bin/c++",
+                   "-DCMAKE_MAKE_PROGRAM=" + shutil.which("ninja"))
+        with tempfile.TemporaryDirectory() as build:
+            done = subprocess.run(["cmake", "-S", SOURCES, "-B", build, "-G", "Ninja", *options],
+                                  capture_output=True, text=True)
+        self.assertNotEqual(done.returncode, 0)
+        self.assertIn("qt6-l10n-tools", done.stderr)
 
     def test_the_packagers_launcher_is_left_alone(self):
         rules = self.configure("-DCMAKE_CXX_COMPILER_LAUNCHER=/usr/bin/nice", *WITHOUT_TESTS)

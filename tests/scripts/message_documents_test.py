@@ -24,6 +24,7 @@ OTHER_TEXTS = {
     "ui/debug_log_model.h": "the trace",
     "ui/folder_choice.h": "a prompt that programs replace",
     "ui/qt/lcd_line.cpp": "names of fonts",
+    "ui/qt/toolkit_texts.cpp": "the toolkit's own captions",
     "ui/qt/log_view.cpp": "names of fonts",
 }
 # Calls of the toolkit whose texts are captions and hints.

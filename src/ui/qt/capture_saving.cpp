@@ -1,5 +1,6 @@
 #include "ui/qt/capture_saving.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileDialog>
 #include <QMessageBox>
@@ -16,7 +17,8 @@ bool saveCapture(QWidget& window, const QString& path, const std::string& bytes)
     }
     QMessageBox box(
         QMessageBox::Critical, window.windowTitle(),
-        QStringLiteral("The capture could not be saved in\n%1\n\n%2\n\nChoose another folder or name.")
+        QCoreApplication::translate(
+            "CaptureSaving", "The capture could not be saved in\n%1\n\n%2\n\nChoose another folder or name.")
             .arg(QDir::toNativeSeparators(path), file.errorString()),
         QMessageBox::Ok, &window);
     box.setTextFormat(Qt::PlainText);
@@ -25,9 +27,10 @@ bool saveCapture(QWidget& window, const QString& path, const std::string& bytes)
 }
 
 QString askAndSaveCapture(QWidget& window, const std::string& bytes) {
-    QFileDialog dialog(&window, QStringLiteral("Save capture"));
+    QFileDialog dialog(&window, QCoreApplication::translate("CaptureSaving", "Save capture"));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setNameFilters({QStringLiteral("Captures (*.pcapng)"), QStringLiteral("All files (*)")});
+    dialog.setNameFilters({QCoreApplication::translate("CaptureSaving", "Captures (*.pcapng)"),
+                           QCoreApplication::translate("CaptureSaving", "All files (*)")});
     dialog.setDefaultSuffix(QStringLiteral("pcapng"));
     while (dialog.exec() == QDialog::Accepted) {
         QString path = dialog.selectedFiles().constFirst();

@@ -1,5 +1,6 @@
 #include "ui/qt/desktop_files.h"
 
+#include <QCoreApplication>
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
@@ -24,7 +25,8 @@ bool selectInFolder([[maybe_unused]] const QString& path) {
 }
 
 QString tellMissing(const QString& path) {
-    return QStringLiteral("%1 is not there any more.").arg(QDir::toNativeSeparators(path));
+    return QCoreApplication::translate("DesktopFiles", "%1 is not there any more.")
+        .arg(QDir::toNativeSeparators(path));
 }
 
 QString handOver(const QString& path, const QString& anchor = {}) {
@@ -35,7 +37,8 @@ QString handOver(const QString& path, const QString& anchor = {}) {
     if (QDesktopServices::openUrl(place)) {
         return {};
     }
-    return QStringLiteral("No program opens %1.").arg(QDir::toNativeSeparators(path));
+    return QCoreApplication::translate("DesktopFiles", "No program opens %1.")
+        .arg(QDir::toNativeSeparators(path));
 }
 
 }  // namespace

@@ -19,7 +19,7 @@ FolderDialog::FolderDialog(Options options, QWidget* owner)
     setOption(DontUseNativeDialog);
     setFileMode(Directory);
     setOption(ShowDirsOnly, !options_.files);
-    setLabelText(Accept, QStringLiteral("OK"));
+    setLabelText(Accept, tr("OK"));
     lblFault->setObjectName("lblFault");
     lblFault->setWordWrap(true);
     lblFault->hide();
@@ -130,7 +130,7 @@ void FolderDialog::accept() {
         done(Accepted);
         return;
     }
-    lblFault->setText(QDir::toNativeSeparators(path) + QStringLiteral(" is no folder to choose"));
+    lblFault->setText(tr("%1 is no folder to choose").arg(QDir::toNativeSeparators(path)));
     lblFault->show();
     Q_EMIT validationFailed();
 }

@@ -18,7 +18,7 @@ namespace velmora {
 frmAbout::frmAbout(const QString& program, const QString& text, Actions actions, QWidget* parent)
     : QDialog(parent), actions_(std::move(actions)) {
     setObjectName(QStringLiteral("frmAbout"));
-    setWindowTitle(QStringLiteral("About Velmora"));
+    setWindowTitle(tr("About Velmora"));
     auto* icon = new QLabel;
     constexpr int kIconSize = 48;
     icon->setPixmap(QApplication::windowIcon().pixmap(QSize(kIconSize, kIconSize), devicePixelRatioF()));
@@ -35,7 +35,7 @@ frmAbout::frmAbout(const QString& program, const QString& text, Actions actions,
 
     auto* txtAbout = new QPlainTextEdit(text);
     txtAbout->setObjectName(QStringLiteral("txtAbout"));
-    txtAbout->setAccessibleName(QStringLiteral("About Velmora"));
+    txtAbout->setAccessibleName(tr("About Velmora"));
     txtAbout->setReadOnly(true);
     txtAbout->setTabChangesFocus(true);
     txtAbout->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
@@ -43,9 +43,9 @@ frmAbout::frmAbout(const QString& program, const QString& text, Actions actions,
     txtAbout->setMinimumHeight(fontMetrics().lineSpacing() * 20);
 
     lblTold =
-        new QLabel(QStringLiteral("Copy details puts a report of a fault onto the clipboard: what runs here, "
-                                  "with which settings, and what passed "
-                                  "over the line last. It names files, and has none of their contents."));
+        new QLabel(tr("Copy details puts a report of a fault onto the clipboard: what runs here, "
+                      "with which settings, and what passed "
+                      "over the line last. It names files, and has none of their contents."));
     lblTold->setObjectName(QStringLiteral("lblTold"));
     lblTold->setTextFormat(Qt::PlainText);
     lblTold->setWordWrap(true);
@@ -69,14 +69,14 @@ QHBoxLayout* frmAbout::makeButtons() {
         buttons->addWidget(button);
         return button;
     };
-    connect(addButton("pbCopyDetails", QStringLiteral("&Copy details")), &QPushButton::clicked, this,
+    connect(addButton("pbCopyDetails", tr("&Copy details")), &QPushButton::clicked, this,
             &frmAbout::copyDetails);
-    connect(addButton("pbSaveCapture", QStringLiteral("Save ca&pture…")), &QPushButton::clicked, this,
+    connect(addButton("pbSaveCapture", tr("Save ca&pture…")), &QPushButton::clicked, this,
             &frmAbout::saveCaptureAs);
     buttons->addStretch();
-    pbHelp = addButton("pbHelp", QStringLiteral("&Help"));
+    pbHelp = addButton("pbHelp", tr("&Help"));
     pbHelp->hide();
-    auto* pbClose = addButton("pbClose", QStringLiteral("Close"));
+    auto* pbClose = addButton("pbClose", tr("Close"));
     pbClose->setDefault(true);
     connect(pbClose, &QPushButton::clicked, this, &frmAbout::accept);
     return buttons;
@@ -91,9 +91,8 @@ void frmAbout::offerHelp(const std::function<void()>& help) {
 void frmAbout::copyDetails() {
     QApplication::clipboard()->setText(QString::fromStdString(actions_.report(savedCapture_)));
     tell(savedCapture_.isEmpty()
-             ? QStringLiteral("The report is on the clipboard: paste it into your mail.")
-             : QStringLiteral(
-                   "The report is on the clipboard: paste it into your mail, and attach the capture."));
+             ? tr("The report is on the clipboard: paste it into your mail.")
+             : tr("The report is on the clipboard: paste it into your mail, and attach the capture."));
 }
 
 void frmAbout::saveCaptureAs() {
@@ -112,7 +111,7 @@ bool frmAbout::saveCaptureTo(const QString& path) {
 
 void frmAbout::captureSaved(const QString& path) {
     savedCapture_ = path;
-    tell(QStringLiteral("The last minute of the line, without the contents of files, is in %1.")
+    tell(tr("The last minute of the line, without the contents of files, is in %1.")
              .arg(QDir::toNativeSeparators(path)));
 }
 

@@ -52,7 +52,7 @@ frmCableCheck::frmCableCheck(const std::string& port, const LineSettings& settin
                              CableCheck::Examine examine, QWidget* parent)
     : QDialog(parent), check_(port, std::move(examine), [this] { showState(); }) {
     setObjectName(QStringLiteral("frmCableCheck"));
-    setWindowTitle(QStringLiteral("Velmora Check Cable"));
+    setWindowTitle(tr("Velmora Check Cable"));
     build(port, settings);
     showState();
 }
@@ -60,12 +60,12 @@ frmCableCheck::frmCableCheck(const std::string& port, const LineSettings& settin
 void frmCableCheck::build(const std::string& port, const LineSettings& settings) {
     auto* lblWhat = makeWrapped("lblWhat");
     lblWhat->setText(
-        qtSystemText(port) + QStringLiteral(" at ") + QString::fromStdString(settingsInWords(settings)) +
-        QStringLiteral(". Start a transfer on the Organiser, so that it calls; the check takes up "
-                       "to a minute and changes nothing there."));
+        tr("%1 at %2. Start a transfer on the Organiser, so that it calls; the check takes up to a "
+           "minute and changes nothing there.")
+            .arg(qtSystemText(port), QString::fromStdString(settingsInWords(settings))));
     tblSteps = new QTableWidget(0, kColumns);
     tblSteps->setObjectName(QStringLiteral("tblSteps"));
-    tblSteps->setAccessibleName(QStringLiteral("Steps of the check"));
+    tblSteps->setAccessibleName(tr("Steps of the check"));
     tblSteps->setEditTriggers(QAbstractItemView::NoEditTriggers);
     tblSteps->setSelectionBehavior(QAbstractItemView::SelectRows);
     tblSteps->setSelectionMode(QAbstractItemView::SingleSelection);
@@ -79,7 +79,7 @@ void frmCableCheck::build(const std::string& port, const LineSettings& settings)
                                        2 * fontMetrics().averageCharWidth());
     pbrBusy = new QProgressBar;
     pbrBusy->setObjectName(QStringLiteral("pbrBusy"));
-    pbrBusy->setAccessibleName(QStringLiteral("The check goes on"));
+    pbrBusy->setAccessibleName(tr("The check goes on"));
     pbrBusy->setRange(0, 0);
     pbrBusy->setTextVisible(false);
     lblResult = makeWrapped("lblResult");
@@ -102,11 +102,11 @@ QHBoxLayout* frmCableCheck::makeButtons() {
     pbStop = new QPushButton;
     pbStop->setObjectName(QStringLiteral("pbStop"));
     pbStop->setAutoDefault(false);
-    pbCopy = new QPushButton(QStringLiteral("Cop&y the result"));
+    pbCopy = new QPushButton(tr("Cop&y the result"));
     pbCopy->setObjectName(QStringLiteral("pbCopy"));
-    pbCopy->setToolTip(QStringLiteral("One line for the clipboard, for whoever is asked for help."));
+    pbCopy->setToolTip(tr("One line for the clipboard, for whoever is asked for help."));
     pbCopy->setAutoDefault(false);
-    pbClose = new QPushButton(QStringLiteral("&Close"));
+    pbClose = new QPushButton(tr("&Close"));
     pbClose->setObjectName(QStringLiteral("pbClose"));
     pbClose->setDefault(true);
     auto* buttons = new QHBoxLayout;
@@ -176,7 +176,7 @@ void frmCableCheck::showState() {
     lblAdvice->setVisible(!lblAdvice->text().isEmpty());
     const bool over =
         check_.state() == CableCheck::State::Done || check_.state() == CableCheck::State::Stopped;
-    pbStop->setText(over ? QStringLiteral("Check a&gain") : QStringLiteral("&Stop"));
+    pbStop->setText(over ? tr("Check a&gain") : tr("&Stop"));
     pbStop->setEnabled(over || (running() && !stopping_));
     pbCopy->setEnabled(!check_.line().empty());
 }

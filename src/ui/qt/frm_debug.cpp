@@ -39,7 +39,7 @@ constexpr int kFlushMilliseconds = 50;
 
 frmDebug::frmDebug(const Clock& clock, QWidget* parent) : QWidget(parent, Qt::Window), model_(clock, *this) {
     setObjectName(QStringLiteral("frmDebug"));
-    setWindowTitle(QStringLiteral("Velmora PLP Monitor"));
+    setWindowTitle(tr("Velmora PLP Monitor"));
     build();
     flushTimer_.setSingleShot(true);
     flushTimer_.setInterval(kFlushMilliseconds);
@@ -63,7 +63,7 @@ void frmDebug::build() {
 void frmDebug::buildLog() {
     txtLog = new LogView(lines_, this);
     txtLog->setObjectName("txtLog");
-    txtLog->setAccessibleName(QStringLiteral("Log"));
+    txtLog->setAccessibleName(tr("Log"));
     txtLog->setContextMenuPolicy(Qt::ActionsContextMenu);
 }
 
@@ -75,31 +75,30 @@ QAction* frmDebug::addEntry(const QString& name, const QString& text, const QKey
 }
 
 QMenuBar* frmDebug::buildMenus() {
-    auto* save = addEntry("mnuSave", QStringLiteral("&Save log as…"), QKeySequence::Save);
+    auto* save = addEntry("mnuSave", tr("&Save log as…"), QKeySequence::Save);
     connect(save, &QAction::triggered, this, &frmDebug::saveAs);
-    auto* copy = addEntry("mnuCopy", QStringLiteral("&Copy"), QKeySequence::Copy);
+    auto* copy = addEntry("mnuCopy", tr("&Copy"), QKeySequence::Copy);
     connect(copy, &QAction::triggered, this, &frmDebug::copySelection);
     auto* copyEverything =
-        addEntry("mnuCopyAll", QStringLiteral("Copy &all"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C));
+        addEntry("mnuCopyAll", tr("Copy &all"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C));
     connect(copyEverything, &QAction::triggered, this, &frmDebug::copyAll);
-    auto* select = addEntry("mnuSelectAll", QStringLiteral("Select a&ll"), QKeySequence::SelectAll);
+    auto* select = addEntry("mnuSelectAll", tr("Select a&ll"), QKeySequence::SelectAll);
     connect(select, &QAction::triggered, this, [this] {
         showWaiting();
         txtLog->selectAll();
     });
-    auto* find = addEntry("mnuFind", QStringLiteral("&Find…"), QKeySequence(Qt::CTRL | Qt::Key_F));
+    auto* find = addEntry("mnuFind", tr("&Find…"), QKeySequence(Qt::CTRL | Qt::Key_F));
     connect(find, &QAction::triggered, this, &frmDebug::showFind);
-    auto* next = addEntry("mnuFindNext", QStringLiteral("Find &next"), QKeySequence(Qt::Key_F3));
+    auto* next = addEntry("mnuFindNext", tr("Find &next"), QKeySequence(Qt::Key_F3));
     connect(next, &QAction::triggered, this, [this] { this->find(LogLines::Direction::Forward); });
-    auto* previous =
-        addEntry("mnuFindPrevious", QStringLiteral("Find &previous"), QKeySequence(Qt::SHIFT | Qt::Key_F3));
+    auto* previous = addEntry("mnuFindPrevious", tr("Find &previous"), QKeySequence(Qt::SHIFT | Qt::Key_F3));
     connect(previous, &QAction::triggered, this, [this] { this->find(LogLines::Direction::Backward); });
     auto* bar = new QMenuBar;
-    mnuSaveCapture = addEntry("mnuSaveCapture", QStringLiteral("Save ca&pture…"), {});
+    mnuSaveCapture = addEntry("mnuSaveCapture", tr("Save ca&pture…"), {});
     mnuSaveCapture->setVisible(false);
     connect(mnuSaveCapture, &QAction::triggered, this, &frmDebug::saveCaptureAs);
-    bar->addMenu(QStringLiteral("&File"))->addActions({save, mnuSaveCapture});
-    QMenu* edit = bar->addMenu(QStringLiteral("&Edit"));
+    bar->addMenu(tr("&File"))->addActions({save, mnuSaveCapture});
+    QMenu* edit = bar->addMenu(tr("&Edit"));
     edit->addActions({copy, copyEverything, select});
     edit->addSeparator();
     edit->addActions({find, next, previous});
@@ -111,14 +110,14 @@ QMenuBar* frmDebug::buildMenus() {
 QBoxLayout* frmDebug::buildFind() {
     txtFind = new QLineEdit;
     txtFind->setObjectName("txtFind");
-    auto* label = new QLabel(QStringLiteral("F&ind:"));
+    auto* label = new QLabel(tr("F&ind:"));
     label->setBuddy(txtFind);
     connect(txtFind, &QLineEdit::textChanged, this, [this] { tellFound({}); });
     connect(txtFind, &QLineEdit::returnPressed, this, [this] { find(LogLines::Direction::Forward); });
-    auto* next = new QPushButton(QStringLiteral("Ne&xt"));
+    auto* next = new QPushButton(tr("Ne&xt"));
     next->setObjectName("cbFindNext");
     connect(next, &QPushButton::clicked, this, [this] { find(LogLines::Direction::Forward); });
-    auto* previous = new QPushButton(QStringLiteral("&Previous"));
+    auto* previous = new QPushButton(tr("&Previous"));
     previous->setObjectName("cbFindPrevious");
     connect(previous, &QPushButton::clicked, this, [this] { find(LogLines::Direction::Backward); });
     lblFound = new QLabel;
@@ -137,11 +136,11 @@ QBoxLayout* frmDebug::buildFind() {
 }
 
 QBoxLayout* frmDebug::buildFilters() {
-    auto* showWhat = new QGroupBox(QStringLiteral("Show what?"));
+    auto* showWhat = new QGroupBox(tr("Show what?"));
     auto* modes = new QHBoxLayout(showWhat);
-    const std::array<const char*, 3> names{"Everything", "Data", "Custom"};
+    const std::array<QString, 3> names{tr("Everything"), tr("Data"), tr("Custom")};
     for (std::size_t i = 0; i < names.size(); ++i) {
-        obShowWhat[i] = new QRadioButton(QString::fromLatin1(names[i]));
+        obShowWhat[i] = new QRadioButton(names[i]);
         obShowWhat[i]->setObjectName(QStringLiteral("obShowWhat_%1").arg(i + 1));
         obShowWhat[i]->setChecked(i == 0);
         connect(obShowWhat[i], &QRadioButton::toggled, this, [this, i](bool on) {
@@ -151,7 +150,7 @@ QBoxLayout* frmDebug::buildFilters() {
         });
         modes->addWidget(obShowWhat[i]);
     }
-    auto* detected = new QGroupBox(QStringLiteral("Auto-detected"));
+    auto* detected = new QGroupBox(tr("Auto-detected"));
     auto* boxes = new QHBoxLayout(detected);
     for (std::size_t i = 0; i < chkShowWhat.size(); ++i) {
         chkShowWhat[i] = new QCheckBox;
@@ -180,7 +179,7 @@ void frmDebug::switchCategory(std::size_t index) {
 }
 
 QBoxLayout* frmDebug::buildLastRow() {
-    chkFollow = new QCheckBox(QStringLiteral("Follow the e&nd"));
+    chkFollow = new QCheckBox(tr("Follow the e&nd"));
     chkFollow->setObjectName("chkFollow");
     chkFollow->setChecked(txtLog->following());
     connect(chkFollow, &QCheckBox::toggled, txtLog, &LogView::setFollowing);
@@ -190,10 +189,10 @@ QBoxLayout* frmDebug::buildLastRow() {
     chkHidePolling->setToolTip(tr(
         "Leave out what passes while nothing happens. It is kept, shown again when asked for, and saved."));
     connect(chkHidePolling, &QCheckBox::toggled, this, &frmDebug::hidePolling);
-    chkLogToDisk = new QCheckBox(QStringLiteral("&Log to disk"));
+    chkLogToDisk = new QCheckBox(tr("&Log to disk"));
     chkLogToDisk->setObjectName("chkLogToDisk");
     connect(chkLogToDisk, &QCheckBox::toggled, this, [this](bool on) { model_.setLogToDisk(on); });
-    cbClear = new QPushButton(QStringLiteral("&Clear"));
+    cbClear = new QPushButton(tr("&Clear"));
     cbClear->setObjectName("cbClear");
     connect(cbClear, &QPushButton::clicked, this, [this] { model_.cbClear_Click(); });
     auto* last = new QHBoxLayout;
@@ -289,9 +288,9 @@ void frmDebug::copyAll() {
 }
 
 void frmDebug::saveAs() {
-    QFileDialog dialog(this, QStringLiteral("Save log"));
+    QFileDialog dialog(this, tr("Save log"));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setNameFilters({QStringLiteral("Text files (*.txt)"), QStringLiteral("All files (*)")});
+    dialog.setNameFilters({tr("Text files (*.txt)"), tr("All files (*)")});
     dialog.setDefaultSuffix(QStringLiteral("txt"));
     bool saved = false;
     while (!saved && dialog.exec() == QDialog::Accepted) {
@@ -311,7 +310,7 @@ bool frmDebug::saveTo(const QString& path) {
     if (written && file.commit()) {
         return true;
     }
-    showFailedSave(QStringLiteral("The log could not be saved in\n%1\n\n%2\n\nChoose another folder or name.")
+    showFailedSave(tr("The log could not be saved in\n%1\n\n%2\n\nChoose another folder or name.")
                        .arg(QDir::toNativeSeparators(path), file.errorString()));
     return false;
 }
@@ -358,7 +357,7 @@ void frmDebug::find(LogLines::Direction direction) {
     const auto part = fromUtf8(txtFind->text().toStdString());
     const auto row = part ? lines_.find(*part, from, direction) : std::nullopt;
     if (!row) {
-        tellFound(QStringLiteral("Not found"));
+        tellFound(tr("Not found"));
         return;
     }
     const QModelIndex index = lines_.index(*row, 0);
@@ -366,10 +365,12 @@ void frmDebug::find(LogLines::Direction direction) {
     txtLog->setCurrentIndex(index);
     txtLog->scrollTo(index, QAbstractItemView::PositionAtCenter);
     const bool round = from >= 0 && (forward ? *row <= from : *row >= from);
-    const QString end =
-        forward ? QStringLiteral(", from the beginning again") : QStringLiteral(", from the end again");
-    tellFound(QStringLiteral("Line %1 of %2").arg(*row + 1).arg(lines_.rowCount()) +
-              (round ? end : QString()));
+    QString words = tr("Line %1 of %2");
+    if (round) {
+        words =
+            forward ? tr("Line %1 of %2, from the beginning again") : tr("Line %1 of %2, from the end again");
+    }
+    tellFound(words.arg(*row + 1).arg(lines_.rowCount()));
 }
 
 // Beside the line and spoken with it.

@@ -8,6 +8,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QShortcut>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -35,14 +36,6 @@ void call(const std::function<void()>& action) {
 
 QString indexed(const char* name, std::size_t index) {
     return QStringLiteral("%1_%2").arg(QLatin1String(name)).arg(index + 1);
-}
-
-/// The same caption with the letter that Alt presses it by, where the caption has that letter.
-QString withMnemonic(const QString& caption, QChar letter) {
-    QString text = caption;
-    text.replace(QLatin1Char('&'), QLatin1String("&&"));
-    const qsizetype position = text.indexOf(letter, 0, Qt::CaseInsensitive);
-    return position < 0 ? text : text.insert(position, QLatin1Char('&'));
 }
 
 }  // namespace
@@ -168,17 +161,17 @@ void frmMain::makeButtons() {
     };
     pbStartStop =
         makeButton("pbStartStop", tr("&Start"), tr("Start or stop the server"), &Actions::pbStartStop_Click);
-    pbSetup = makeButton("pbSetup", tr("Set&up\u2026"),
-                         tr("Choose the serial port, its speed and the file type"), &Actions::pbSetup_Click);
+    pbSetup = makeButton("pbSetup", tr("Set&up…"), tr("Choose the serial port, its speed and the file type"),
+                         &Actions::pbSetup_Click);
     pbFolder =
-        makeButton("pbFolder", tr("&Folder\u2026"),
+        makeButton("pbFolder", tr("&Folder…"),
                    tr("Choose the folder that files are saved to and loaded from"), &Actions::pbFolder_Click);
     pbHide = makeButton("pbHide", tr("&Hide"), tr("Minimise the window; the server goes on"),
                         &Actions::pbHide_Click);
     pbShutDown = makeButton("pbShutDown", tr("Shut &down"), tr("Stop the server and end the program"),
                             &Actions::pbShutDown_Click);
-    pbTransfers = makeButton("pbTransfers", tr("&Transfers\u2026"),
-                             tr("Show what was saved and loaded (Ctrl+T)"), &Actions::pbTransfers_Click);
+    pbTransfers = makeButton("pbTransfers", tr("&Transfers…"), tr("Show what was saved and loaded (Ctrl+T)"),
+                             &Actions::pbTransfers_Click);
     pbAbout = makeButton("pbAbout", QStringLiteral("?"),
                          tr("What Velmora is made of, where its files are, and a report of a fault"),
                          &Actions::pbAbout_Click);
@@ -421,10 +414,19 @@ void frmMain::setButtonEnabled(MainButton which, bool enabled) {
     button(which)->setEnabled(enabled);
 }
 
+/// A caption of the controller as the button has it, with the letter that Alt presses it by.
+QString frmMain::withKey(const std::string& caption) {
+    if (caption == "Start") {
+        return tr("&Start");
+    }
+    return caption == "Stop" ? tr("&Stop") : qtText(caption).replace(QLatin1Char('&'), QLatin1String("&&"));
+}
+
 void frmMain::setButtonCaption(MainButton which, const std::string& caption) {
-    const QString text = qtText(caption);
-    button(which)->setText(withMnemonic(text, QLatin1Char('s')));
-    button(which)->setAccessibleName(text);
+    static const QRegularExpression mark(QStringLiteral("&(?!&)"));
+    const QString text = withKey(caption);
+    button(which)->setText(text);
+    button(which)->setAccessibleName(QString(text).remove(mark));
 }
 
 void frmMain::setFocus(MainButton which) {

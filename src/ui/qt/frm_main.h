@@ -101,6 +101,7 @@ class frmMain : public QWidget, public MainView {
     QGridLayout* arrangeStatistics();
     void arrange();
     int messageWidth(bool besideSign) const;
+    static QString withKey(const std::string& caption);
     void nameCounters();
     QLabel* counter(StatsLabel label) const;
     QPushButton* button(MainButton button) const;

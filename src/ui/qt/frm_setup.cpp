@@ -84,7 +84,7 @@ frmSetup::frmSetup(SerialPort& port, ServerOptions& options, TransferSettings& t
               [this] { beep_(); }, [this] { closeNow(); }}),
       listDevices_(std::move(listDevices)),
       beep_([] { QApplication::beep(); }) {
-    setWindowTitle(QStringLiteral("Velmora Setup"));
+    setWindowTitle(tr("Velmora Setup"));
     build();
     connectControls();
     fillDevices();
@@ -101,7 +101,7 @@ void frmSetup::build() {
 }
 
 QGroupBox* frmSetup::makePorts() {
-    grpPort = new QGroupBox(QStringLiteral("Port"));
+    grpPort = new QGroupBox(tr("Port"));
     grpPort->setObjectName("grpPort");
     auto* ports = new QGridLayout(grpPort);
     ports->setHorizontalSpacing(fontMetrics().horizontalAdvance('0'));
@@ -119,16 +119,16 @@ QGroupBox* frmSetup::makePorts() {
                          i == SetupModel::kOtherPort ? 1 : 3);
         portWords[static_cast<std::size_t>(i - 1)] = words;
     }
-    obPort.back()->setAccessibleName(QStringLiteral("Other port"));
+    obPort.back()->setAccessibleName(tr("Other port"));
     txtPortNo = new QLineEdit;
     txtPortNo->setObjectName("txtPortNo");
-    txtPortNo->setAccessibleName(QStringLiteral("Port number"));
+    txtPortNo->setAccessibleName(tr("Port number"));
     txtPortNo->setMaximumWidth(fontMetrics().horizontalAdvance('0') * 10);
     txtPortNo->setAttribute(Qt::WA_InputMethodEnabled, false);
     // What is pasted is held to the characters that may be typed.
     txtPortNo->setValidator(
         new QRegularExpressionValidator(QRegularExpression(QStringLiteral("[0-9%&'(.]*")), txtPortNo));
-    pbCheckPort = new QPushButton(QStringLiteral("chec&k"));
+    pbCheckPort = new QPushButton(tr("chec&k"));
     pbCheckPort->setObjectName("pbCheckPort");
     pbCheckPort->setAutoDefault(false);
     ports->addWidget(txtPortNo, 4, 1);
@@ -141,10 +141,10 @@ QGroupBox* frmSetup::makePorts() {
 void frmSetup::addDevices(QGridLayout& ports) {
     cboPresentPorts = new QComboBox;
     cboPresentPorts->setObjectName("cboPresentPorts");
-    cboPresentPorts->setAccessibleName(QStringLiteral("Serial devices that are present"));
+    cboPresentPorts->setAccessibleName(tr("Serial devices that are present"));
     cboPresentPorts->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     cboPresentPorts->setMinimumContentsLength(38);
-    pbRefreshPorts = new QPushButton(QStringLiteral("&Refresh"));
+    pbRefreshPorts = new QPushButton(tr("&Refresh"));
     pbRefreshPorts->setObjectName("pbRefreshPorts");
     pbRefreshPorts->setAutoDefault(false);
     ports.addWidget(cboPresentPorts, 5, 0, 1, 3);
@@ -160,16 +160,16 @@ void frmSetup::addDevices(QGridLayout& ports) {
     lblStatus->setFont(strong);
     lblStatus->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("COM99  wasn't checked yet")));
     ports.addWidget(lblStatus, 7, 0, 1, 3);
-    pbCheckCable = new QPushButton(QStringLiteral("Check ca&ble…"));
+    pbCheckCable = new QPushButton(tr("Check ca&ble…"));
     pbCheckCable->setObjectName("pbCheckCable");
-    pbCheckCable->setToolTip(QStringLiteral("Finds out why nothing comes from the Organiser."));
+    pbCheckCable->setToolTip(tr("Finds out why nothing comes from the Organiser."));
     pbCheckCable->setAutoDefault(false);
     pbCheckCable->hide();
     ports.addWidget(pbCheckCable, 7, 3, Qt::AlignRight);
 }
 
 QGroupBox* frmSetup::makeRates() {
-    grpBaud = new QGroupBox(QStringLiteral("Baud"));
+    grpBaud = new QGroupBox(tr("Baud"));
     grpBaud->setObjectName("grpBaud");
     auto* rates = new QHBoxLayout(grpBaud);
     for (std::size_t i = 0; i < obBaud.size(); ++i) {
@@ -180,23 +180,23 @@ QGroupBox* frmSetup::makeRates() {
     }
     obBaud_other = new QRadioButton;
     obBaud_other->setObjectName("obBaud_other");
-    obBaud_other->setToolTip(QStringLiteral("The Organiser knows none but the other rates."));
+    obBaud_other->setToolTip(tr("The Organiser knows none but the other rates."));
     obBaud_other->hide();
     rates->addWidget(obBaud_other);
     return grpBaud;
 }
 
 QGroupBox* frmSetup::makeOptions() {
-    auto* options = new QGroupBox(QStringLiteral("Options"));
+    auto* options = new QGroupBox(tr("Options"));
     auto* optionRows = new QGridLayout(options);
-    cbAutoStart = new QCheckBox(QStringLiteral("&Autostart"));
+    cbAutoStart = new QCheckBox(tr("&Autostart"));
     cbAutoStart->setObjectName("cbAutoStart");
     cboFileType = new QComboBox;
     cboFileType->setObjectName("cboFileType");
     for (const char* type : SetupModel::kFileTypes) {
-        cboFileType->addItem(QString::fromLatin1(type));
+        cboFileType->addItem(tr(type));
     }
-    auto* typeLabel = new QLabel(QStringLiteral("&Transfer data-files as"));
+    auto* typeLabel = new QLabel(tr("&Transfer data-files as"));
     typeLabel->setBuddy(cboFileType);
     optionRows->addWidget(cbAutoStart, 0, 0, 1, 2);
     optionRows->addWidget(typeLabel, 1, 0);
@@ -204,9 +204,9 @@ QGroupBox* frmSetup::makeOptions() {
     cboWksDialect = new QComboBox;
     cboWksDialect->setObjectName("cboWksDialect");
     for (const char* dialect : SetupModel::kWksDialects) {
-        cboWksDialect->addItem(QString::fromLatin1(dialect));
+        cboWksDialect->addItem(tr(dialect));
     }
-    auto* dialectLabel = new QLabel(QStringLiteral("&Worksheets (WKS)"));
+    auto* dialectLabel = new QLabel(tr("&Worksheets (WKS)"));
     dialectLabel->setBuddy(cboWksDialect);
     optionRows->addWidget(dialectLabel, 2, 0);
     optionRows->addWidget(cboWksDialect, 2, 1);
@@ -214,14 +214,14 @@ QGroupBox* frmSetup::makeOptions() {
 }
 
 QHBoxLayout* frmSetup::makeButtons() {
-    lblBusy = new QLabel(QStringLiteral("Testing the ports..."));
+    lblBusy = new QLabel(tr("Testing the ports..."));
     lblBusy->setObjectName("lblBusy");
-    pbOK = new QPushButton(QStringLiteral("OK"));
+    pbOK = new QPushButton(tr("OK"));
     pbOK->setObjectName("pbOK");
     pbOK->setDefault(true);
-    pbCancel = new QPushButton(QStringLiteral("Cancel"));
+    pbCancel = new QPushButton(tr("Cancel"));
     pbCancel->setObjectName("pbCancel");
-    pbHelp = new QPushButton(QStringLiteral("Help"));
+    pbHelp = new QPushButton(tr("Help"));
     pbHelp->setObjectName("pbHelp");
     pbHelp->setAutoDefault(false);
     pbHelp->hide();
@@ -338,7 +338,7 @@ void frmSetup::showState() {
     cboFileType->setCurrentIndex(model_.fileType());
     cboWksDialect->setCurrentIndex(static_cast<int>(model_.wksDialect()));
     pbOK->setEnabled(loaded_ && model_.okEnabled() && !model_.probing());
-    lblBusy->setText(model_.probing() || loading_ ? QStringLiteral("Testing the ports...") : QString());
+    lblBusy->setText(model_.probing() || loading_ ? tr("Testing the ports...") : QString());
 }
 
 void frmSetup::showPortMark(int port) {
@@ -410,8 +410,8 @@ void frmSetup::showDevices(std::vector<PortIdentity> devices) {
     devices_ = std::move(devices);
     model_.setPresentPorts(devices_);
     cboPresentPorts->clear();
-    cboPresentPorts->setPlaceholderText(devices_.empty() ? QStringLiteral("No serial device is present")
-                                                         : QStringLiteral("Devices that are present"));
+    cboPresentPorts->setPlaceholderText(devices_.empty() ? tr("No serial device is present")
+                                                         : tr("Devices that are present"));
     for (const PortIdentity& device : devices_) {
         cboPresentPorts->addItem(describe(device));
     }
@@ -484,10 +484,10 @@ void frmSetup::deviceChosen(int row) {
 void frmSetup::showHint(const PortIdentity& device) {
     QString hint;
     if (!device.mayOpen) {
-        hint = qtSystemText(device.device) + " may not be opened";
-        if (!device.groupToJoin.empty()) {
-            hint += ": join the group \"" + qtSystemText(device.groupToJoin) + "\" and log in again";
-        }
+        const QString name = qtSystemText(device.device);
+        hint = device.groupToJoin.empty() ? tr("%1 may not be opened").arg(name)
+                                          : tr("%1 may not be opened: join the group \"%2\" and log in again")
+                                                .arg(name, qtSystemText(device.groupToJoin));
     }
     setDeviceHint(hint);
 }

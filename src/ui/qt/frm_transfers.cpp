@@ -33,7 +33,7 @@ constexpr std::array<const char*, TransferList::kColumns> kWidest = {"2026-12-30
 frmTransfers::frmTransfers(TransferList& list, Actions actions, QWidget* parent)
     : QWidget(parent, Qt::Window), actions_(std::move(actions)), table_(list, this) {
     setObjectName(QStringLiteral("frmTransfers"));
-    setWindowTitle(QStringLiteral("Velmora Transfers"));
+    setWindowTitle(tr("Velmora Transfers"));
     buildTable();
     buildMenu();
     lblTold = new QLabel;
@@ -53,7 +53,7 @@ frmTransfers::frmTransfers(TransferList& list, Actions actions, QWidget* parent)
 void frmTransfers::buildTable() {
     tblTransfers = new QTableView;
     tblTransfers->setObjectName(QStringLiteral("tblTransfers"));
-    tblTransfers->setAccessibleName(QStringLiteral("Transfers"));
+    tblTransfers->setAccessibleName(tr("Transfers"));
     tblTransfers->setModel(&table_);
     tblTransfers->setSelectionBehavior(QAbstractItemView::SelectRows);
     tblTransfers->setSelectionMode(QAbstractItemView::SingleSelection);
@@ -84,7 +84,7 @@ void frmTransfers::buildTable() {
         offerActions();
         menu_->popup(tblTransfers->viewport()->mapToGlobal(at));
     });
-    lblNone = new QLabel(QStringLiteral("Nothing was transferred yet."), tblTransfers->viewport());
+    lblNone = new QLabel(tr("Nothing was transferred yet."), tblTransfers->viewport());
     lblNone->setObjectName(QStringLiteral("lblNone"));
     lblNone->move(12, 12);
 }
@@ -110,16 +110,14 @@ QAction* frmTransfers::addEntry(const QString& name, const QString& text, const 
 void frmTransfers::buildMenu() {
     menu_ = new QMenu(this);
     menu_->setObjectName(QStringLiteral("mnuTransfer"));
-    mnuOpen =
-        addEntry("mnuOpen", QStringLiteral("&Open"), QKeySequence(Qt::Key_Return), &frmTransfers::openFile);
-    mnuShowInFolder = addEntry("mnuShowInFolder", QStringLiteral("&Show in its folder"),
+    mnuOpen = addEntry("mnuOpen", tr("&Open"), QKeySequence(Qt::Key_Return), &frmTransfers::openFile);
+    mnuShowInFolder = addEntry("mnuShowInFolder", tr("&Show in its folder"),
                                QKeySequence(Qt::CTRL | Qt::Key_Return), &frmTransfers::showInFolder);
-    mnuOpenEarlierCopy = addEntry("mnuOpenEarlierCopy", QStringLiteral("Open the &earlier copy"), {},
-                                  &frmTransfers::openEarlierCopy);
+    mnuOpenEarlierCopy =
+        addEntry("mnuOpenEarlierCopy", tr("Open the &earlier copy"), {}, &frmTransfers::openEarlierCopy);
     menu_->addSeparator();
-    mnuCopyPath = addEntry("mnuCopyPath", QStringLiteral("Copy the &path"), QKeySequence::Copy,
-                           &frmTransfers::copyPath);
-    mnuCopyDetails = addEntry("mnuCopyDetails", QStringLiteral("Copy the &details"),
+    mnuCopyPath = addEntry("mnuCopyPath", tr("Copy the &path"), QKeySequence::Copy, &frmTransfers::copyPath);
+    mnuCopyDetails = addEntry("mnuCopyDetails", tr("Copy the &details"),
                               QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C), &frmTransfers::copyDetails);
 }
 

@@ -1,0 +1,12 @@
+// Texts that windows show in the user's language.
+#pragma once
+
+namespace velmora {
+
+/// The text as it is, marked for the files of translations. Whoever shows it looks it up under `context`,
+/// with the toolkit or with a Translator.
+constexpr const char* translatable([[maybe_unused]] const char* context, const char* text) {
+    return text;
+}
+
+}  // namespace velmora

@@ -1,0 +1,78 @@
+// What the toolkit's own buttons and menus say in our windows. It looks these texts up under its own
+// contexts; they stand here so that they are part of our translations.
+#include <array>
+
+#include "base/translatable.h"
+
+namespace velmora {
+
+// clang-format off
+[[maybe_unused]] constexpr auto kToolkitTexts = std::to_array<const char*>({
+    translatable("QPlatformTheme", "OK"),
+    translatable("QPlatformTheme", "Save"),
+    translatable("QPlatformTheme", "Open"),
+    translatable("QPlatformTheme", "&Yes"),
+    translatable("QPlatformTheme", "&No"),
+    translatable("QPlatformTheme", "Cancel"),
+    translatable("QPlatformTheme", "Close"),
+    translatable("QPlatformTheme", "Help"),
+    translatable("QPlatformTheme", "Discard"),
+    translatable("QPlatformTheme", "Apply"),
+    translatable("QPlatformTheme", "Retry"),
+    translatable("QPlatformTheme", "Ignore"),
+    translatable("QLineEdit", "&Undo"),
+    translatable("QLineEdit", "&Redo"),
+    translatable("QLineEdit", "Cu&t"),
+    translatable("QLineEdit", "&Copy"),
+    translatable("QLineEdit", "&Paste"),
+    translatable("QLineEdit", "Delete"),
+    translatable("QLineEdit", "Select All"),
+    translatable("QWidgetTextControl", "&Undo"),
+    translatable("QWidgetTextControl", "&Redo"),
+    translatable("QWidgetTextControl", "Cu&t"),
+    translatable("QWidgetTextControl", "&Copy"),
+    translatable("QWidgetTextControl", "Copy &Link Location"),
+    translatable("QWidgetTextControl", "&Paste"),
+    translatable("QWidgetTextControl", "Delete"),
+    translatable("QWidgetTextControl", "Select All"),
+    translatable("QFileDialog", "Look in:"),
+    translatable("QFileDialog", "File &name:"),
+    translatable("QFileDialog", "&File name:"),
+    translatable("QFileDialog", "Files of type:"),
+    translatable("QFileDialog", "Directory:"),
+    translatable("QFileDialog", "Folder"),
+    translatable("QFileDialog", "&Open"),
+    translatable("QFileDialog", "&Save"),
+    translatable("QFileDialog", "&Choose"),
+    translatable("QFileDialog", "Back"),
+    translatable("QFileDialog", "Forward"),
+    translatable("QFileDialog", "Parent Directory"),
+    translatable("QFileDialog", "Create New Folder"),
+    translatable("QFileDialog", "&New Folder"),
+    translatable("QFileDialog", "New Folder"),
+    translatable("QFileDialog", "List View"),
+    translatable("QFileDialog", "Detail View"),
+    translatable("QFileDialog", "Sidebar"),
+    translatable("QFileDialog", "All Files (*)"),
+    translatable("QFileDialog", "&Rename"),
+    translatable("QFileDialog", "&Delete"),
+    translatable("QFileDialog", "Show &hidden files"),
+    translatable("QFileDialog", "Find Directory"),
+    translatable("QFileDialog", "Remove"),
+    translatable("QFileDialog", "Recent Places"),
+    translatable("QFileDialog", "My Computer"),
+    translatable("QFileDialog", "%1 already exists.\nDo you want to replace it?"),
+    translatable("QFileDialog", "%1\nFile not found.\nPlease verify the correct file name was given."),
+    translatable("QFileDialog", "%1\nDirectory not found.\nPlease verify the correct directory name was given."),
+    translatable("QFileSystemModel", "Name"),
+    translatable("QFileSystemModel", "Size"),
+    translatable("QFileSystemModel", "Type"),
+    translatable("QFileSystemModel", "Date Modified"),
+    translatable("QFileSystemModel", "Computer"),
+    translatable("QShortcut", "Ctrl"),
+    translatable("QShortcut", "Shift"),
+    translatable("QShortcut", "Return"),
+});
+// clang-format on
+
+}  // namespace velmora
