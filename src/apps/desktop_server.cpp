@@ -10,6 +10,8 @@
 #include "server/caption.h"
 #include "server/port_test.h"
 #include "ui/qt/desktop_files.h"
+#include "ui/qt/dropped_files_box.h"
+#include "ui/qt/file_drop.h"
 #include "ui/qt/help_key.h"
 #include "ui/qt/qt_text.h"
 
@@ -39,6 +41,8 @@ DesktopServer::DesktopServer(const RunOverrides& overrides)
                 [this] { return waitFor(); },
                 "Stop the server; Check cable in Setup finds out why.",
                 [this] { dialogs_.adaptersChanged(); }}),
+      droppedFiles_(platform_.files, platform_.rules, program_.core().names(),
+                    [this](const std::string& path) { program_.core().earlierCopies().keep(path); }),
       about_(platform_, program_, overrides, captured_, help_),
       registry_(positions_) {
     controller().setClosingActions(
@@ -50,6 +54,7 @@ DesktopServer::DesktopServer(const RunOverrides& overrides)
     onHelpKey(window_, help_.about(window_, HelpTopic::MainWindow));
     onHelpKey(transfers_.window(), help_.about(transfers_.window(), HelpTopic::Transfers));
     transfers_.follow(program_.core());
+    new FileDrop(window_, [this](const std::vector<std::string>& paths) { copyDropped(paths); });
     program_.record(captured_);
     dialogs_.setEnded([this] { return controller().closed(); });
     dialogs_.setFailureReason(
@@ -124,6 +129,16 @@ void DesktopServer::showFolder() {
 void DesktopServer::openFolder() {
     if (const QString failure = openOnDesktop(program_.core().transfer.DownloadPath); !failure.isEmpty()) {
         window_.showAdvice(systemPath(failure));
+    }
+}
+
+void DesktopServer::copyDropped(const std::vector<std::string>& paths) {
+    const std::vector<DroppedFile> copied = droppedFiles_.copy(
+        paths, [this](const DroppedFiles::Question& question) { return askAboutTaken(window_, question); });
+    if (const QString sentence = copiedSentence(copied); !sentence.isEmpty()) {
+        window_.showAdvice(systemPath(sentence));
+    } else {
+        tellOfDropped(window_, copied);
     }
 }
 

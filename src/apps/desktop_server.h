@@ -3,6 +3,7 @@
 
 #include <QObject>
 #include <string>
+#include <vector>
 
 #include "apps/desktop_about.h"
 #include "apps/desktop_dialogs.h"
@@ -13,6 +14,7 @@
 #include "apps/server_program.h"
 #include "capture/capture_ring.h"
 #include "startup/run_overrides.h"
+#include "ui/dropped_files.h"
 #include "ui/qt/frm_main.h"
 #include "ui/qt/qt_message_box.h"
 #include "ui/qt/window_position.h"
@@ -50,6 +52,7 @@ class DesktopServer {
     void adviseOnPort();
     void showFolder();
     void openFolder();
+    void copyDropped(const std::vector<std::string>& paths);
     void closeOtherWindows();
     void placeWindow();
     void saveWindowPlace();
@@ -66,6 +69,7 @@ class DesktopServer {
     DesktopTransfers transfers_;
     CaptureRing captured_;  // for a fault that is looked into once it has happened
     ServerProgram program_;
+    DroppedFiles droppedFiles_;
     DesktopAbout about_;
     NativePositionStore positions_;
     Registry registry_;

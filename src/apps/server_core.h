@@ -108,6 +108,9 @@ class ServerCore {
     std::chrono::nanoseconds soonestFrame() const { return link_.soonestFrame(); }
     /// Adds somebody who hears of all transfers; it must outlive the server.
     void observe(TransferObserver& observer) { transfers_.observe(observer); }
+    /// What turns an Organiser's names into paths.
+    const FileNameMapper& names() const { return tools_; }
+    EarlierCopies& earlierCopies() { return earlierCopies_; }
     ServerController& controller() { return controller_; }
     const ServerController& controller() const { return controller_; }
     /// An adapter came, went or changed.

@@ -3,6 +3,8 @@ velmora_library(qt_dialogs
   SOURCES
     capture_saving.cpp
     desktop_files.cpp
+    dropped_files_box.cpp
+    file_drop.cpp
     frm_about.cpp
     frm_cable_check.cpp
     frm_debug.cpp

@@ -1,13 +1,18 @@
 // The desktop server on a real terminal: a cable that is pulled out and comes back.
 #include "apps/desktop_server.h"
 
+#include <QAbstractButton>
 #include <QClipboard>
 #include <QDateTime>
 #include <QDesktopServices>
+#include <QDir>
+#include <QDragEnterEvent>
+#include <QDropEvent>
 #include <QFile>
 #include <QLabel>
 #include <QLocale>
 #include <QMessageBox>
+#include <QMimeData>
 #include <QProcess>
 #include <QPushButton>
 #include <QTableView>
@@ -57,6 +62,7 @@ class DesktopServerTest : public QObject {
     void withoutAPortItSaysWhatToDoNext();
     void isBroughtBackWhereverItsWindowIs();
     void aFolderThatIsGoneIsToldInsteadOfOpened();
+    void filesThatAreDroppedOnTheWindowAreServed();
     void helpOpensTheGuideAtTheWindowOrSaysWhereItIs();
     void pulledCableStopsTheServerUntilItIsBack();
     void whileItWaitsForItsCableItCanBeStopped();
@@ -249,6 +255,41 @@ void DesktopServerTest::aFolderThatIsGoneIsToldInsteadOfOpened() {
                       Qt::LeftButton);
     QVERIFY(label("lblAdvice")->isVisible());
     QVERIFY(label("lblAdvice")->text().endsWith(QStringLiteral("psion is not there any more.")));
+}
+
+void DesktopServerTest::filesThatAreDroppedOnTheWindowAreServed() {
+    QVERIFY(server->start(""));
+    const QString dropped = home->filePath(QStringLiteral("Memo.odb"));
+    std::ofstream(dropped.toStdString(), std::ios::binary) << "text";
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(dropped)});
+    QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&server->window(), &enter);
+    QDropEvent drop({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&server->window(), &drop);
+    QTRY_COMPARE(label("lblAdvice")->text(), QStringLiteral("Memo.odb is in the download folder now."));
+    QFile copied(home->filePath(QStringLiteral("psion/Memo.odb")));
+    QVERIFY(copied.open(QIODevice::ReadOnly));
+    QCOMPARE(copied.readAll(), QByteArray("text"));
+    // A file that is replaced by another one is kept as a save keeps it.
+    std::ofstream(dropped.toStdString(), std::ios::binary) << "newer";
+    QCoreApplication::sendEvent(&server->window(), &enter);
+    QCoreApplication::sendEvent(&server->window(), &drop);
+    bool asked = false;
+    QTimer::singleShot(0, this, [&asked] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        QVERIFY(box);
+        asked = true;
+        for (QAbstractButton* button : box->buttons()) {
+            if (button->text().contains(QStringLiteral("Replace"))) {
+                button->click();
+                return;
+            }
+        }
+    });
+    QTRY_VERIFY(asked);
+    const QDir earlier(home->filePath(QStringLiteral(".local/share/Velmora/Earlier copies")));
+    QTRY_COMPARE(earlier.entryList({QStringLiteral("Memo (*).odb")}).size(), qsizetype{1});
 }
 
 void DesktopServerTest::helpOpensTheGuideAtTheWindowOrSaysWhereItIs() {

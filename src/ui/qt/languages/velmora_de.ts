@@ -56,6 +56,61 @@ Bitte einen anderen Ordner oder Namen wählen.</translation>
     </message>
 </context>
 <context>
+    <name>DroppedFiles</name>
+    <message>
+        <source>%1 is called %2 there, which the Organiser can type.</source>
+        <translation>%1 heißt dort %2, was der Organiser eingeben kann.</translation>
+    </message>
+    <message>
+        <source>%1 is in the download folder already.</source>
+        <translation>%1 ist schon im Empfangsordner.</translation>
+    </message>
+    <message>
+        <source>%1 is a folder; only files are copied.</source>
+        <translation>%1 ist ein Ordner; nur Dateien werden kopiert.</translation>
+    </message>
+    <message>
+        <source>%1 has more than 16 MB and was not copied.</source>
+        <translation>%1 hat mehr als 16 MB und wurde nicht kopiert.</translation>
+    </message>
+    <message>
+        <source>%1 was not copied: the download folder is not there.</source>
+        <translation>%1 wurde nicht kopiert: Der Empfangsordner ist nicht da.</translation>
+    </message>
+    <message>
+        <source>%1 was not copied: %2</source>
+        <translation>%1 wurde nicht kopiert: %2</translation>
+    </message>
+    <message>
+        <source>&amp;Replace it</source>
+        <translation>&amp;Ersetzen</translation>
+    </message>
+    <message>
+        <source>&amp;Copy as %1</source>
+        <translation>&amp;Kopieren als %1</translation>
+    </message>
+    <message>
+        <source>&amp;Skip</source>
+        <translation>Ü&amp;berspringen</translation>
+    </message>
+    <message>
+        <source>Skip &amp;all</source>
+        <translation>&amp;Alle überspringen</translation>
+    </message>
+    <message>
+        <source>%1 is in the download folder now.</source>
+        <translation>%1 ist jetzt im Empfangsordner.</translation>
+    </message>
+    <message>
+        <source>%1 files are in the download folder now.</source>
+        <translation>%1 Dateien sind jetzt im Empfangsordner.</translation>
+    </message>
+    <message>
+        <source>There are %1 more such files.</source>
+        <translation>Es gibt noch %1 solche Dateien.</translation>
+    </message>
+</context>
+<context>
     <name>QFileDialog</name>
     <message>
         <source>Look in:</source>

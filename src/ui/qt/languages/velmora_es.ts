@@ -56,6 +56,61 @@ Elija otra carpeta u otro nombre.</translation>
     </message>
 </context>
 <context>
+    <name>DroppedFiles</name>
+    <message>
+        <source>%1 is called %2 there, which the Organiser can type.</source>
+        <translation>%1 se llama allí %2, que el Organiser puede escribir.</translation>
+    </message>
+    <message>
+        <source>%1 is in the download folder already.</source>
+        <translation>%1 ya está en la carpeta de descarga.</translation>
+    </message>
+    <message>
+        <source>%1 is a folder; only files are copied.</source>
+        <translation>%1 es una carpeta; solo se copian archivos.</translation>
+    </message>
+    <message>
+        <source>%1 has more than 16 MB and was not copied.</source>
+        <translation>%1 tiene más de 16 MB y no se ha copiado.</translation>
+    </message>
+    <message>
+        <source>%1 was not copied: the download folder is not there.</source>
+        <translation>%1 no se ha copiado: no existe la carpeta de descarga.</translation>
+    </message>
+    <message>
+        <source>%1 was not copied: %2</source>
+        <translation>%1 no se ha copiado: %2</translation>
+    </message>
+    <message>
+        <source>&amp;Replace it</source>
+        <translation>&amp;Reemplazar</translation>
+    </message>
+    <message>
+        <source>&amp;Copy as %1</source>
+        <translation>&amp;Copiar como %1</translation>
+    </message>
+    <message>
+        <source>&amp;Skip</source>
+        <translation>&amp;Omitir</translation>
+    </message>
+    <message>
+        <source>Skip &amp;all</source>
+        <translation>Omitir &amp;todos</translation>
+    </message>
+    <message>
+        <source>%1 is in the download folder now.</source>
+        <translation>%1 está ahora en la carpeta de descarga.</translation>
+    </message>
+    <message>
+        <source>%1 files are in the download folder now.</source>
+        <translation>%1 archivos están ahora en la carpeta de descarga.</translation>
+    </message>
+    <message>
+        <source>There are %1 more such files.</source>
+        <translation>Hay %1 archivos más como estos.</translation>
+    </message>
+</context>
+<context>
     <name>QFileDialog</name>
     <message>
         <source>Look in:</source>

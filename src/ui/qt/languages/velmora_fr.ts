@@ -56,6 +56,61 @@ Veuillez choisir un autre dossier ou un autre nom.</translation>
     </message>
 </context>
 <context>
+    <name>DroppedFiles</name>
+    <message>
+        <source>%1 is called %2 there, which the Organiser can type.</source>
+        <translation>%1 s’y appelle %2, que l’Organiser peut taper.</translation>
+    </message>
+    <message>
+        <source>%1 is in the download folder already.</source>
+        <translation>%1 est déjà dans le dossier de réception.</translation>
+    </message>
+    <message>
+        <source>%1 is a folder; only files are copied.</source>
+        <translation>%1 est un dossier ; seuls les fichiers sont copiés.</translation>
+    </message>
+    <message>
+        <source>%1 has more than 16 MB and was not copied.</source>
+        <translation>%1 dépasse 16 Mo et n’a pas été copié.</translation>
+    </message>
+    <message>
+        <source>%1 was not copied: the download folder is not there.</source>
+        <translation>%1 n’a pas été copié : le dossier de réception est introuvable.</translation>
+    </message>
+    <message>
+        <source>%1 was not copied: %2</source>
+        <translation>%1 n’a pas été copié : %2</translation>
+    </message>
+    <message>
+        <source>&amp;Replace it</source>
+        <translation>&amp;Remplacer</translation>
+    </message>
+    <message>
+        <source>&amp;Copy as %1</source>
+        <translation>&amp;Copier sous le nom %1</translation>
+    </message>
+    <message>
+        <source>&amp;Skip</source>
+        <translation>&amp;Ignorer</translation>
+    </message>
+    <message>
+        <source>Skip &amp;all</source>
+        <translation>&amp;Tout ignorer</translation>
+    </message>
+    <message>
+        <source>%1 is in the download folder now.</source>
+        <translation>%1 est maintenant dans le dossier de réception.</translation>
+    </message>
+    <message>
+        <source>%1 files are in the download folder now.</source>
+        <translation>%1 fichiers sont maintenant dans le dossier de réception.</translation>
+    </message>
+    <message>
+        <source>There are %1 more such files.</source>
+        <translation>Il y a encore %1 fichiers de ce genre.</translation>
+    </message>
+</context>
+<context>
     <name>QFileDialog</name>
     <message>
         <source>Look in:</source>

@@ -56,6 +56,61 @@ Scegliere un’altra cartella o un altro nome.</translation>
     </message>
 </context>
 <context>
+    <name>DroppedFiles</name>
+    <message>
+        <source>%1 is called %2 there, which the Organiser can type.</source>
+        <translation>%1 lì si chiama %2, che l’Organiser può digitare.</translation>
+    </message>
+    <message>
+        <source>%1 is in the download folder already.</source>
+        <translation>%1 è già nella cartella di ricezione.</translation>
+    </message>
+    <message>
+        <source>%1 is a folder; only files are copied.</source>
+        <translation>%1 è una cartella; si copiano solo i file.</translation>
+    </message>
+    <message>
+        <source>%1 has more than 16 MB and was not copied.</source>
+        <translation>%1 supera i 16 MB e non è stato copiato.</translation>
+    </message>
+    <message>
+        <source>%1 was not copied: the download folder is not there.</source>
+        <translation>%1 non è stato copiato: la cartella di ricezione non c’è.</translation>
+    </message>
+    <message>
+        <source>%1 was not copied: %2</source>
+        <translation>%1 non è stato copiato: %2</translation>
+    </message>
+    <message>
+        <source>&amp;Replace it</source>
+        <translation>So&amp;stituisci</translation>
+    </message>
+    <message>
+        <source>&amp;Copy as %1</source>
+        <translation>&amp;Copia come %1</translation>
+    </message>
+    <message>
+        <source>&amp;Skip</source>
+        <translation>&amp;Ignora</translation>
+    </message>
+    <message>
+        <source>Skip &amp;all</source>
+        <translation>Ignora &amp;tutti</translation>
+    </message>
+    <message>
+        <source>%1 is in the download folder now.</source>
+        <translation>%1 è ora nella cartella di ricezione.</translation>
+    </message>
+    <message>
+        <source>%1 files are in the download folder now.</source>
+        <translation>%1 file sono ora nella cartella di ricezione.</translation>
+    </message>
+    <message>
+        <source>There are %1 more such files.</source>
+        <translation>Ci sono altri %1 file come questi.</translation>
+    </message>
+</context>
+<context>
     <name>QFileDialog</name>
     <message>
         <source>Look in:</source>

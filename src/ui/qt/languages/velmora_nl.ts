@@ -56,6 +56,61 @@ Kies een andere map of naam.</translation>
     </message>
 </context>
 <context>
+    <name>DroppedFiles</name>
+    <message>
+        <source>%1 is called %2 there, which the Organiser can type.</source>
+        <translation>%1 heet daar %2, wat de Organiser kan typen.</translation>
+    </message>
+    <message>
+        <source>%1 is in the download folder already.</source>
+        <translation>%1 staat al in de downloadmap.</translation>
+    </message>
+    <message>
+        <source>%1 is a folder; only files are copied.</source>
+        <translation>%1 is een map; alleen bestanden worden gekopieerd.</translation>
+    </message>
+    <message>
+        <source>%1 has more than 16 MB and was not copied.</source>
+        <translation>%1 is groter dan 16 MB en is niet gekopieerd.</translation>
+    </message>
+    <message>
+        <source>%1 was not copied: the download folder is not there.</source>
+        <translation>%1 is niet gekopieerd: de downloadmap is er niet.</translation>
+    </message>
+    <message>
+        <source>%1 was not copied: %2</source>
+        <translation>%1 is niet gekopieerd: %2</translation>
+    </message>
+    <message>
+        <source>&amp;Replace it</source>
+        <translation>Ve&amp;rvangen</translation>
+    </message>
+    <message>
+        <source>&amp;Copy as %1</source>
+        <translation>&amp;Kopiëren als %1</translation>
+    </message>
+    <message>
+        <source>&amp;Skip</source>
+        <translation>&amp;Overslaan</translation>
+    </message>
+    <message>
+        <source>Skip &amp;all</source>
+        <translation>&amp;Alles overslaan</translation>
+    </message>
+    <message>
+        <source>%1 is in the download folder now.</source>
+        <translation>%1 staat nu in de downloadmap.</translation>
+    </message>
+    <message>
+        <source>%1 files are in the download folder now.</source>
+        <translation>%1 bestanden staan nu in de downloadmap.</translation>
+    </message>
+    <message>
+        <source>There are %1 more such files.</source>
+        <translation>Er zijn nog %1 zulke bestanden.</translation>
+    </message>
+</context>
+<context>
     <name>QFileDialog</name>
     <message>
         <source>Look in:</source>
