@@ -43,6 +43,7 @@ if(VELMORA_DESKTOP)
   install(FILES ${here}/../velmora.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications COMPONENT desktop)
   install(FILES ${PROJECT_BINARY_DIR}/packaging/org.velmora.Velmora.metainfo.xml
     DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo COMPONENT desktop)
+  install(DIRECTORY ${here}/../languages DESTINATION ${CMAKE_INSTALL_DATADIR}/velmora COMPONENT desktop)
   set(icons ${CMAKE_INSTALL_DATADIR}/icons/hicolor)
   foreach(size 16 24 32 48 64 128 256)
     install(FILES ${PROJECT_SOURCE_DIR}/src/ui/qt/resources/velmora-${size}.png

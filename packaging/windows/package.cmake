@@ -7,6 +7,11 @@ else()
 endif()
 install(TARGETS ${programs} RUNTIME DESTINATION .)
 
+# Texts of Velmora.ini that are ready made; Setup offers them.
+if(VELMORA_TOOLKIT)
+  install(DIRECTORY ${CMAKE_CURRENT_LIST_DIR}/../languages DESTINATION .)
+endif()
+
 # A double click opens a page in the browser; Windows has nothing that opens Markdown.
 include(packaging/documents.cmake)
 velmora_pages(pages user-guide windows configuration messages formats headless organiser-tool cable-doctor)

@@ -5,6 +5,7 @@ velmora_library(desktop_server
     desktop_dialogs.cpp
     desktop_help.cpp
     desktop_server.cpp
+    desktop_texts.cpp
     desktop_transfers.cpp
   LIBS velmora_server_program velmora_ui_qt velmora_qt_dialogs velmora_arguments)
 
@@ -15,3 +16,9 @@ target_link_libraries(velmora PRIVATE
 set_target_properties(velmora PROPERTIES WIN32_EXECUTABLE ON)
 velmora_windows_resources(velmora "Velmora")
 add_dependencies(programs velmora)
+
+# Where a program that is not installed finds the ready-made texts.
+foreach(language en de es fr it nl)
+  configure_file(${PROJECT_SOURCE_DIR}/packaging/languages/Velmora.${language}.ini
+    ${PROJECT_BINARY_DIR}/languages/Velmora.${language}.ini COPYONLY)
+endforeach()

@@ -16,8 +16,9 @@
 
 namespace velmora {
 
-DesktopDialogs::DesktopDialogs(const Clock& clock, PortNames& portNames, const DesktopHelp& help)
-    : clock_(clock), portNames_(portNames), help_(help), debugWindow_(clock) {
+DesktopDialogs::DesktopDialogs(const Clock& clock, PortNames& portNames, const DesktopHelp& help,
+                               DesktopTexts& texts)
+    : clock_(clock), portNames_(portNames), help_(help), texts_(texts), debugWindow_(clock) {
     onHelpKey(debugWindow_, help_.about(debugWindow_, HelpTopic::Monitor));
 }
 
@@ -27,6 +28,7 @@ void DesktopDialogs::runSetup(QWidget& window, SerialPort& port, ServerOptions& 
     frmSetup dialog(
         port, options, transfer, probe, [this] { return listPorts(portNames_); }, &window);
     dialog.offerHelp(help_.about(dialog, HelpTopic::Setup));
+    dialog.offerTexts(texts_.names());
     dialog.setFailureReason(failureReason_);
     dialog.setDeviceTip([&port](const std::string& device) { return latencyTip(device, port.Settings()); });
     dialog.setCheckCable([&](int number, const std::string& mode) { checkCable(dialog, number, mode); });
@@ -37,8 +39,11 @@ void DesktopDialogs::runSetup(QWidget& window, SerialPort& port, ServerOptions& 
     QtTimer timer;
     AdapterFollower follower(timer, adapters.live(), [&dialog] { dialog.refreshDevices(); });
     follower_ = &follower;
-    dialog.exec();
+    const bool accepted = dialog.exec() == QDialog::Accepted;
     follower_ = nullptr;
+    if (const auto chosen = dialog.chosenTexts(); accepted && chosen) {
+        texts_.take(*chosen, window);
+    }
 }
 
 /// The server is stopped while the setup dialog is open, so the port is free.

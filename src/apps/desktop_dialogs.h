@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "apps/desktop_help.h"
+#include "apps/desktop_texts.h"
 #include "base/clock.h"
 #include "link/debug.h"
 #include "serial/adapter_events.h"
@@ -24,7 +25,7 @@ namespace velmora {
 /// The setup dialog, the folder choice and the debug window. All that it is given must outlive it.
 class DesktopDialogs {
   public:
-    DesktopDialogs(const Clock& clock, PortNames& portNames, const DesktopHelp& help);
+    DesktopDialogs(const Clock& clock, PortNames& portNames, const DesktopHelp& help, DesktopTexts& texts);
 
     /// Shows the setup dialog over the window until the user closes it.
     void runSetup(QWidget& window, SerialPort& port, ServerOptions& options, TransferSettings& transfer,
@@ -52,6 +53,7 @@ class DesktopDialogs {
     const Clock& clock_;
     PortNames& portNames_;
     const DesktopHelp& help_;
+    DesktopTexts& texts_;
     std::function<std::string()> failureReason_;
     std::function<bool()> ended_;
     frmDebug debugWindow_;

@@ -20,7 +20,8 @@ namespace velmora {
 DesktopServer::DesktopServer(const RunOverrides& overrides)
     : platform_([this] { controller().ComTimer_Tick(); }, [this] { return program_.core().soonestFrame(); }),
       help_(platform_),
-      dialogs_(platform_.clock, platform_.portNames, help_),
+      texts_(platform_, overrides),
+      dialogs_(platform_.clock, platform_.portNames, help_, texts_),
       box_(&window_),
       transfers_(platform_, dialogs_.traceSink()),
       program_(platform_, overrides,

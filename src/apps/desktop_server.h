@@ -63,6 +63,7 @@ class DesktopServer {
 
     PlatformParts platform_;
     DesktopHelp help_;
+    DesktopTexts texts_;
     DesktopDialogs dialogs_;
     frmMain window_;
     QtMessageBox box_;

@@ -14,4 +14,7 @@ const std::vector<std::string_view>& knownLanguages();
 /// none is.
 std::string_view bestLanguage(const std::vector<std::string>& wanted);
 
+/// What a language calls itself, in UTF-8; empty for another code.
+std::string_view nativeName(std::string_view language);
+
 }  // namespace velmora

@@ -60,6 +60,10 @@ class Install(unittest.TestCase):
         tool(self.find("bin/velmorad"), "--config", written, "--port", "/dev/null/none")
         self.assertEqual(example.read_bytes(), written.read_bytes())
 
+    def test_texts_are_ready_made_in_each_language(self):
+        for language in ("en", "de", "es", "fr", "it", "nl"):
+            self.find(f"share/velmora/languages/Velmora.{language}.ini")
+
     def test_wireshark_can_be_given_the_dissector_and_its_profile(self):
         for name in ("organiser.lua", "Velmora/colorfilters", "Velmora/preferences"):
             self.find("share/velmora/wireshark/" + name)

@@ -16,6 +16,14 @@ TEST(Languages, AnUnknownLanguageIsEnglish) {
     EXPECT_EQ(bestLanguage({"deutsch"}), "en");
 }
 
+TEST(Languages, EachCallsItselfByItsOwnName) {
+    for (const std::string_view language : knownLanguages()) {
+        EXPECT_NE(nativeName(language), "") << language;
+    }
+    EXPECT_EQ(nativeName("es"), "Español");
+    EXPECT_EQ(nativeName("tlh"), "");
+}
+
 TEST(Languages, TheFirstKnownOneOfThoseWantedCounts) {
     EXPECT_EQ(bestLanguage({"en-GB", "de-DE"}), "en");
     if (knownLanguages().size() == 1) {

@@ -210,6 +210,15 @@ QGroupBox* frmSetup::makeOptions() {
     dialectLabel->setBuddy(cboWksDialect);
     optionRows->addWidget(dialectLabel, 2, 0);
     optionRows->addWidget(cboWksDialect, 2, 1);
+    cboTexts = new QComboBox;
+    cboTexts->setObjectName("cboTexts");
+    cboTexts->addItem(tr("as they are"));
+    cboTexts->hide();
+    lblTexts = new QLabel(tr("Te&xts of the display"));
+    lblTexts->setBuddy(cboTexts);
+    lblTexts->hide();
+    optionRows->addWidget(lblTexts, 3, 0);
+    optionRows->addWidget(cboTexts, 3, 1);
     return options;
 }
 
@@ -236,9 +245,9 @@ QHBoxLayout* frmSetup::makeButtons() {
 void frmSetup::orderControls() {
     QWidget* before = obPort[0];
     for (QWidget* next : std::initializer_list<QWidget*>{
-             obPort[1], obPort[2], obPort[3], obPort[4], txtPortNo, pbCheckPort, cboPresentPorts,
-             pbRefreshPorts, pbCheckCable, obBaud[0], obBaud[1], obBaud[2], obBaud_other, cbAutoStart,
-             cboFileType, cboWksDialect, pbOK, pbCancel, pbHelp}) {
+             obPort[1],      obPort[2],     obPort[3], obPort[4], txtPortNo, pbCheckPort,  cboPresentPorts,
+             pbRefreshPorts, pbCheckCable,  obBaud[0], obBaud[1], obBaud[2], obBaud_other, cbAutoStart,
+             cboFileType,    cboWksDialect, cboTexts,  pbOK,      pbCancel,  pbHelp}) {
         setTabOrder(before, next);
         before = next;
     }
@@ -425,6 +434,17 @@ void frmSetup::offerHelp(const std::function<void()>& help) {
     connect(pbHelp, &QPushButton::clicked, this, help);
     onHelpKey(*this, help);
     pbHelp->show();
+}
+
+void frmSetup::offerTexts(const QStringList& names) {
+    cboTexts->addItems(names);
+    cboTexts->setVisible(!names.isEmpty());
+    lblTexts->setVisible(!names.isEmpty());
+}
+
+std::optional<int> frmSetup::chosenTexts() const {
+    const int behindFirst = cboTexts->currentIndex() - 1;
+    return behindFirst < 0 ? std::nullopt : std::optional(behindFirst);
 }
 
 void frmSetup::portTextChanged(const QString& text) {

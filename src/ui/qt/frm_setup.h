@@ -2,8 +2,10 @@
 #pragma once
 
 #include <QDialog>
+#include <QStringList>
 #include <array>
 #include <functional>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -53,6 +55,10 @@ class frmSetup : public QDialog {
     void setDeviceTip(DeviceTip tip);
     /// What "Check cable" does; without it there is no such button.
     void setCheckCable(CheckCable check);
+    /// Offers texts of the display that are ready made, by these names; without any there is no such choice.
+    void offerTexts(const QStringList& names);
+    /// Which of them the user has chosen; none while the texts are to stay as they are.
+    std::optional<int> chosenTexts() const;
     /// What is said below the list until a device is chosen or the list changes.
     void setDeviceHint(const QString& hint);
 
@@ -115,6 +121,8 @@ class frmSetup : public QDialog {
     QCheckBox* cbAutoStart = nullptr;
     QComboBox* cboFileType = nullptr;
     QComboBox* cboWksDialect = nullptr;
+    QComboBox* cboTexts = nullptr;
+    QLabel* lblTexts = nullptr;
     QLabel* lblBusy = nullptr;
     QPushButton* pbOK = nullptr;
     QPushButton* pbCancel = nullptr;

@@ -3,6 +3,7 @@
 
 #include <QAbstractButton>
 #include <QClipboard>
+#include <QComboBox>
 #include <QDateTime>
 #include <QDesktopServices>
 #include <QDir>
@@ -67,6 +68,8 @@ class DesktopServerTest : public QObject {
     void pulledCableStopsTheServerUntilItIsBack();
     void whileItWaitsForItsCableItCanBeStopped();
     void missingDeviceTellsWhatToDo();
+    void setupTakesReadyTextsOverAndSaysSo();
+    void textsThatCannotBeTakenOverAreTold();
     void aCableThatIsCheckedFromSetupTellsOfAPortThatVanishes();
     void theEndOfTheProgramEndsACheckOfTheCable();
     void displayStatisticsAndFileAgree();
@@ -167,6 +170,32 @@ class DesktopServerTest : public QObject {
         QTest::mouseClick(server->window().findChild<QPushButton*>(QStringLiteral("pbSetup")),
                           Qt::LeftButton);
         return result;
+    }
+
+    /// Chooses texts in the setup dialog; returns what is said then.
+    QString takeTexts(const QString& language) {
+        QTest::mouseClick(startStop(), Qt::LeftButton);
+        QString said;
+        QTimer look;
+        connect(&look, &QTimer::timeout, this, [&] {
+            QWidget* top = QApplication::activeModalWidget();
+            if (auto* box = qobject_cast<QMessageBox*>(top)) {
+                said = box->text();
+                box->accept();
+            } else if (auto* ok = top ? top->findChild<QPushButton*>("pbOK") : nullptr;
+                       ok && ok->isEnabled()) {
+                top->findChild<QComboBox*>("cboTexts")->setCurrentText(language);
+                ok->click();
+            }
+        });
+        look.start();
+        QTest::mouseClick(server->window().findChild<QPushButton*>(QStringLiteral("pbSetup")),
+                          Qt::LeftButton);
+        return said;
+    }
+    QByteArray configuration(const char* ending = "") const {
+        QFile file(home->filePath(QStringLiteral("Velmora.ini") + QLatin1String(ending)));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
 
   public Q_SLOTS:
@@ -355,6 +384,27 @@ void DesktopServerTest::missingDeviceTellsWhatToDo() {
     plug();
     QTest::mouseClick(startStop(), Qt::LeftButton);
     QCOMPARE(server->controller().state(), int{WaitLink});
+}
+
+void DesktopServerTest::setupTakesReadyTextsOverAndSaysSo() {
+    QVERIFY(server->start(""));
+    const QByteArray before = configuration();
+    const QString said = takeTexts(QStringLiteral("Deutsch"));
+    QVERIFY2(said.contains(QStringLiteral("Deutsch. The file as it was is kept as\n")), qPrintable(said));
+    QVERIFY(said.endsWith(QStringLiteral("Velmora.ini.old")));
+    QVERIFY(configuration().contains("Received=\"Empfangen\""));
+    QVERIFY(configuration().contains("COM40="));
+    QCOMPARE(configuration(".old"), before);
+}
+
+void DesktopServerTest::textsThatCannotBeTakenOverAreTold() {
+    QVERIFY(server->start(""));
+    const QString path = home->filePath(QStringLiteral("Velmora.ini"));
+    QVERIFY(QFile::remove(path));
+    QVERIFY(QDir().mkdir(path));
+    const QString said = takeTexts(QStringLiteral("Deutsch"));
+    QVERIFY2(said.startsWith(QStringLiteral("The texts could not be taken over: ")), qPrintable(said));
+    QVERIFY(QDir().rmdir(path));
 }
 
 void DesktopServerTest::aCableThatIsCheckedFromSetupTellsOfAPortThatVanishes() {

@@ -76,6 +76,17 @@ class FrmSetupTest : public QObject {
         QTRY_VERIFY(text()->hasFocus());
         isForEverybody();
     }
+    void readyTextsAreOfferedWhereThereAreSome() {
+        open();
+        auto* texts = find<QComboBox>("cboTexts");
+        dialog->offerTexts({});
+        QVERIFY(!texts->isVisible());
+        dialog->offerTexts({"Deutsch", "Nederlands"});
+        QVERIFY(texts->isVisible());
+        QCOMPARE(dialog->chosenTexts(), std::optional<int>());
+        texts->setCurrentText("Nederlands");
+        QCOMPARE(dialog->chosenTexts(), std::optional<int>(1));
+    }
     void theListFollowsAdaptersAndKeepsTheSelection() {
         devices = {adapter(6, "/dev/ttyUSB1", "BBBB1234")};
         open();

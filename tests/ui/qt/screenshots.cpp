@@ -1,9 +1,10 @@
-// velmora-screenshots FOLDER: pictures of the main window in its states, as real calls of the controller
-// bring them about, and of the dialogs and windows beside it. For the documents, and for a look at what a
-// change does.
+// velmora-screenshots FOLDER [LANGUAGE]: pictures of the main window in its states, as real calls of the
+// controller bring them about, and of the dialogs and windows beside it. For the documents, and for a look at
+// what a change does; with a language, every window in it, in light and dark.
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
+#include <QMessageBox>
 #include <QPalette>
 #include <QPixmap>
 #include <QPushButton>
@@ -12,6 +13,7 @@
 #include <functional>
 #include <initializer_list>
 #include <memory>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -30,6 +32,7 @@
 #include "ui/qt/frm_debug.h"
 #include "ui/qt/frm_setup.h"
 #include "ui/qt/frm_transfers.h"
+#include "ui/qt/translation.h"
 
 namespace {
 
@@ -103,11 +106,6 @@ const std::vector<Scene>& scenes() {
     return all;
 }
 
-struct Picture {
-    const char* name;
-    bool dark;
-};
-
 bool save(QWidget& window, const QDir& folder, const char* name) {
     const QString path = folder.filePath(QLatin1String(name) + QStringLiteral(".png"));
     if (!window.grab().save(path)) {
@@ -137,6 +135,7 @@ bool saveSetup(const QDir& folder, const char* name, const std::vector<PortIdent
     };
     frmSetup dialog(port, options, transfer, probe, [&present] { return present; });
     dialog.setCheckCable([](int, const std::string&) {});
+    dialog.offerTexts({QStringLiteral("English"), QStringLiteral("Deutsch")});
     dialog.offerHelp([] {});
     dialog.show();
     constexpr int kAllPorts = 5;
@@ -245,6 +244,15 @@ bool saveAbout(const QDir& folder, const char* name) {
     return save(dialog, folder, name);
 }
 
+bool saveQuestion(const QDir& folder, const char* name) {
+    QMessageBox box(QMessageBox::Question, QStringLiteral("Velmora"),
+                    QStringLiteral("Transaction in progress! Do you really want to stop the server?"),
+                    QMessageBox::Yes | QMessageBox::No);
+    box.show();
+    QApplication::processEvents();
+    return save(box, folder, name);
+}
+
 // A check that has found its cause.
 bool saveCableCheck(const QDir& folder, const char* name) {
     frmCableCheck dialog(
@@ -272,53 +280,95 @@ bool saveCableCheck(const QDir& folder, const char* name) {
     return save(dialog, folder, name);
 }
 
+struct Window {
+    const char* name;
+    std::function<bool(const QDir& folder, const char* name)> save;
+    bool inDocuments;
+    bool darkInDocuments;
+};
+
+const std::vector<Window>& windows() {
+    static const std::vector<Window> all = {
+        {"setup",
+         [](const QDir& folder, const char* name) {
+             return saveSetup(folder, name, {test::exampleAdapter()});
+         },
+         true, true},
+        {"setup-no-adapter", [](const QDir& folder, const char* name) { return saveSetup(folder, name, {}); },
+         true, false},
+        {"cable-check", saveCableCheck, true, true},
+        {"about", saveAbout, true, false},
+        {"protocol-monitor", saveMonitor, true, false},
+        {"transfers", saveTransfers, true, true},
+        {"question", saveQuestion, false, false},
+    };
+    return all;
+}
+
+bool saveScene(const Scene& scene, const QDir& folder, const char* name) {
+    WindowRig rig;
+    rig.window.setVersion("beta3", "build 1");
+    rig.window.showFolder("/home/anna/Documents/Psion Files");
+    rig.window.show();
+    scene.play(rig);
+    QApplication::processEvents();
+    return save(rig.window, folder, name);
+}
+
+/// The pictures that the documents have.
+bool savePictures(const QDir& folder) {
+    const QPalette light = QApplication::palette();
+    for (const Scene& scene : scenes()) {
+        QApplication::setPalette(scene.dark ? darkPalette() : light);
+        if (!saveScene(scene, folder, scene.name)) {
+            return false;
+        }
+    }
+    for (const Window& window : windows()) {
+        QApplication::setPalette(light);
+        if (window.inDocuments && !window.save(folder, window.name)) {
+            return false;
+        }
+        QApplication::setPalette(darkPalette());
+        const std::string dark = std::string(window.name) + "-dark";
+        if (window.darkInDocuments && !window.save(folder, dark.c_str())) {
+            return false;
+        }
+    }
+    return true;
+}
+
+/// Every window, in light and dark.
+bool saveEverything(const QDir& folder) {
+    const QPalette light = QApplication::palette();
+    for (const bool dark : {false, true}) {
+        QApplication::setPalette(dark ? darkPalette() : light);
+        const std::string ending = dark ? "-dark" : "";
+        for (const Scene& scene : scenes()) {
+            if (!scene.dark && !saveScene(scene, folder, (scene.name + ending).c_str())) {
+                return false;
+            }
+        }
+        for (const Window& window : windows()) {
+            if (!window.save(folder, (window.name + ending).c_str())) {
+                return false;
+            }
+        }
+    }
+    return true;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
-    if (argc != 2 || !QDir().mkpath(QString::fromLocal8Bit(argv[1]))) {
-        std::fputs("usage: velmora-screenshots FOLDER\n", stderr);
+    if (argc < 2 || argc > 3 || !QDir().mkpath(QString::fromLocal8Bit(argv[1]))) {
+        std::fputs("usage: velmora-screenshots FOLDER [LANGUAGE]\n", stderr);
         return 2;
     }
     const QDir folder(QString::fromLocal8Bit(argv[1]));
     QApplication::setWindowIcon(programIcon());
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-    const QPalette light = QApplication::palette();
-    for (const Scene& scene : scenes()) {
-        QApplication::setPalette(scene.dark ? darkPalette() : light);
-        WindowRig rig;
-        rig.window.setVersion("beta3", "build 1");
-        rig.window.showFolder("/home/anna/Documents/Psion Files");
-        rig.window.show();
-        scene.play(rig);
-        QApplication::processEvents();
-        if (!save(rig.window, folder, scene.name)) {
-            return 1;
-        }
-    }
-    for (const auto& [name, dark] : {Picture{"setup", false}, Picture{"setup-dark", true}}) {
-        QApplication::setPalette(dark ? darkPalette() : light);
-        if (!saveSetup(folder, name, {test::exampleAdapter()})) {
-            return 1;
-        }
-    }
-    for (const auto& [name, dark] : {Picture{"cable-check", false}, Picture{"cable-check-dark", true}}) {
-        QApplication::setPalette(dark ? darkPalette() : light);
-        if (!saveCableCheck(folder, name)) {
-            return 1;
-        }
-    }
-    QApplication::setPalette(light);
-    if (!saveSetup(folder, "setup-no-adapter", {})) {
-        return 1;
-    }
-    if (!saveAbout(folder, "about") || !saveMonitor(folder, "protocol-monitor") ||
-        !saveTransfers(folder, "transfers")) {
-        return 1;
-    }
-    QApplication::setPalette(darkPalette());
-    if (!saveTransfers(folder, "transfers-dark")) {
-        return 1;
-    }
-    return 0;
+    const Translation translation(argc == 3 ? argv[2] : "en");
+    return (argc == 3 ? saveEverything(folder) : savePictures(folder)) ? 0 : 1;
 }

@@ -143,6 +143,7 @@ class Shown {
             port_, options_, transfer_, [](std::int16_t) { return kStatusInUse; },
             [] { return std::vector<PortIdentity>{test::exampleAdapter()}; });
         setup->setCheckCable([](int, const std::string&) {});
+        setup->offerTexts({QStringLiteral("Nederlands")});
         setup->offerHelp([] {});
         own_ = std::move(setup);
     }

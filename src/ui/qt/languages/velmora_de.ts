@@ -56,6 +56,19 @@ Bitte einen anderen Ordner oder Namen wählen.</translation>
     </message>
 </context>
 <context>
+    <name>DesktopTexts</name>
+    <message>
+        <source>From the next start on, the texts of the display are in this language: %1. The file as it was is kept as
+%2</source>
+        <translation>Vom nächsten Start an sind die Texte der Anzeige in dieser Sprache: %1. Die bisherige Datei ist aufbewahrt als
+%2</translation>
+    </message>
+    <message>
+        <source>The texts could not be taken over: %1</source>
+        <translation>Die Texte konnten nicht übernommen werden: %1</translation>
+    </message>
+</context>
+<context>
     <name>DroppedFiles</name>
     <message>
         <source>%1 is called %2 there, which the Organiser can type.</source>
@@ -896,6 +909,14 @@ Bitte einen anderen Ordner oder Namen wählen.</translation>
     <message>
         <source>for spreadsheet programs</source>
         <translation>für Tabellenprogramme</translation>
+    </message>
+    <message>
+        <source>as they are</source>
+        <translation>wie sie sind</translation>
+    </message>
+    <message>
+        <source>Te&amp;xts of the display</source>
+        <translation>Te&amp;xte der Anzeige</translation>
     </message>
 </context>
 <context>

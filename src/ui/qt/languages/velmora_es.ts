@@ -56,6 +56,19 @@ Elija otra carpeta u otro nombre.</translation>
     </message>
 </context>
 <context>
+    <name>DesktopTexts</name>
+    <message>
+        <source>From the next start on, the texts of the display are in this language: %1. The file as it was is kept as
+%2</source>
+        <translation>A partir del próximo inicio, los textos de la pantalla estarán en este idioma: %1. El archivo anterior se conserva como
+%2</translation>
+    </message>
+    <message>
+        <source>The texts could not be taken over: %1</source>
+        <translation>No se pudieron tomar los textos: %1</translation>
+    </message>
+</context>
+<context>
     <name>DroppedFiles</name>
     <message>
         <source>%1 is called %2 there, which the Organiser can type.</source>
@@ -896,6 +909,14 @@ Elija otra carpeta u otro nombre.</translation>
     <message>
         <source>for spreadsheet programs</source>
         <translation>para programas de hojas de cálculo</translation>
+    </message>
+    <message>
+        <source>as they are</source>
+        <translation>como están</translation>
+    </message>
+    <message>
+        <source>Te&amp;xts of the display</source>
+        <translation>Te&amp;xtos de la pantalla</translation>
     </message>
 </context>
 <context>

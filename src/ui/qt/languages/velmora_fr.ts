@@ -56,6 +56,19 @@ Veuillez choisir un autre dossier ou un autre nom.</translation>
     </message>
 </context>
 <context>
+    <name>DesktopTexts</name>
+    <message>
+        <source>From the next start on, the texts of the display are in this language: %1. The file as it was is kept as
+%2</source>
+        <translation>À partir du prochain démarrage, les textes de l’écran seront dans cette langue : %1. Le fichier précédent est conservé sous
+%2</translation>
+    </message>
+    <message>
+        <source>The texts could not be taken over: %1</source>
+        <translation>Les textes n’ont pas pu être repris : %1</translation>
+    </message>
+</context>
+<context>
     <name>DroppedFiles</name>
     <message>
         <source>%1 is called %2 there, which the Organiser can type.</source>
@@ -896,6 +909,14 @@ Veuillez choisir un autre dossier ou un autre nom.</translation>
     <message>
         <source>for spreadsheet programs</source>
         <translation>pour les tableurs</translation>
+    </message>
+    <message>
+        <source>as they are</source>
+        <translation>tels quels</translation>
+    </message>
+    <message>
+        <source>Te&amp;xts of the display</source>
+        <translation>Te&amp;xtes de l’écran</translation>
     </message>
 </context>
 <context>

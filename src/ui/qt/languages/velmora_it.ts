@@ -56,6 +56,19 @@ Scegliere un’altra cartella o un altro nome.</translation>
     </message>
 </context>
 <context>
+    <name>DesktopTexts</name>
+    <message>
+        <source>From the next start on, the texts of the display are in this language: %1. The file as it was is kept as
+%2</source>
+        <translation>Dal prossimo avvio i testi dello schermo saranno in questa lingua: %1. Il file precedente è conservato come
+%2</translation>
+    </message>
+    <message>
+        <source>The texts could not be taken over: %1</source>
+        <translation>Impossibile riprendere i testi: %1</translation>
+    </message>
+</context>
+<context>
     <name>DroppedFiles</name>
     <message>
         <source>%1 is called %2 there, which the Organiser can type.</source>
@@ -896,6 +909,14 @@ Scegliere un’altra cartella o un altro nome.</translation>
     <message>
         <source>for spreadsheet programs</source>
         <translation>per i programmi di foglio elettronico</translation>
+    </message>
+    <message>
+        <source>as they are</source>
+        <translation>come sono</translation>
+    </message>
+    <message>
+        <source>Te&amp;xts of the display</source>
+        <translation>Te&amp;sti dello schermo</translation>
     </message>
 </context>
 <context>

@@ -56,6 +56,19 @@ Kies een andere map of naam.</translation>
     </message>
 </context>
 <context>
+    <name>DesktopTexts</name>
+    <message>
+        <source>From the next start on, the texts of the display are in this language: %1. The file as it was is kept as
+%2</source>
+        <translation>Vanaf de volgende start zijn de teksten van het scherm in deze taal: %1. Het vorige bestand is bewaard als
+%2</translation>
+    </message>
+    <message>
+        <source>The texts could not be taken over: %1</source>
+        <translation>De teksten konden niet worden overgenomen: %1</translation>
+    </message>
+</context>
+<context>
     <name>DroppedFiles</name>
     <message>
         <source>%1 is called %2 there, which the Organiser can type.</source>
@@ -896,6 +909,14 @@ Kies een andere map of naam.</translation>
     <message>
         <source>for spreadsheet programs</source>
         <translation>voor spreadsheetprogramma’s</translation>
+    </message>
+    <message>
+        <source>as they are</source>
+        <translation>zoals ze zijn</translation>
+    </message>
+    <message>
+        <source>Te&amp;xts of the display</source>
+        <translation>Te&amp;ksten van het scherm</translation>
     </message>
 </context>
 <context>
