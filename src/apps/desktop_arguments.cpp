@@ -6,6 +6,7 @@
 #include "arguments/argument_values.h"
 #include "arguments/syntax.h"
 #include "base/byte_text.h"
+#include "base/profile_name.h"
 #include "ui/languages.h"
 
 namespace velmora {
@@ -30,6 +31,14 @@ class DesktopSyntax : public ProgramSyntax {
         option("--config", "<file>",
                "Configuration file (default: Velmora.ini in\nthe user's configuration folder)",
                [&result](const std::string& file) { result.config = file; });
+        option("--profile", "<name>",
+               "Settings and a place of the window of its own, for\na second handheld: Velmora-<name>.ini",
+               [&result](const std::string& name) {
+                   if (!isProfileName(name)) {
+                       wrongValue("--profile", name, "a name that can be part of a file's");
+                   }
+                   result.profile = name;
+               });
         option("--language", "<code>",
                "Language of the windows: en, de, es, fr, it or nl\n(default: the desktop's, else English)",
                [&result](const std::string& code) { result.language = knownLanguage(code); });
@@ -53,6 +62,9 @@ DesktopArguments readDesktopArguments(const std::vector<std::string>& arguments)
     }
     DesktopArguments result;
     DesktopSyntax(result).read(arguments, ProgramSyntax::Unknown::Refused);
+    if (result.config && result.profile) {
+        throw UsageError("--config and --profile do not go together");
+    }
     return result;
 }
 

@@ -17,6 +17,7 @@ void answerWithoutDisplay(const std::vector<std::string>& arguments);
 struct DesktopArguments {
     std::string commandLine = {};              ///< as start-up wants it: the debug switch when that is all
     std::optional<std::string> config = {};    ///< the configuration file
+    std::optional<std::string> profile = {};   ///< whose settings and window place they are
     std::optional<std::string> language = {};  ///< of the windows, a code; without it the desktop's
 };
 

@@ -45,12 +45,16 @@ DesktopServer::DesktopServer(const RunOverrides& overrides)
       droppedFiles_(platform_.files, platform_.rules, program_.core().names(),
                     [this](const std::string& path) { program_.core().earlierCopies().keep(path); }),
       about_(platform_, program_, overrides, captured_, help_),
+      positions_(positionStore(overrides.profile)),
       registry_(positions_) {
     controller().setClosingActions(
         {&program_.settingsStore(), [this] { saveWindowPlace(); }, [this] { closeOtherWindows(); }});
     // The warning stands already; this adds why it is so, and what helps.
     controller().onPortFailure([this] { window_.showAdvice(portAdvice()); });
     window_.setActions(windowActions());
+    if (overrides.profile) {
+        window_.setProfile(*overrides.profile);
+    }
     window_.setFullVersion(std::string(kProgramName) + " " + fullVersion());
     onHelpKey(window_, help_.about(window_, HelpTopic::MainWindow));
     onHelpKey(transfers_.window(), help_.about(transfers_.window(), HelpTopic::Transfers));

@@ -35,6 +35,7 @@ int serve(int argc, char** argv) {
                                                      : bestLanguage(desktopLanguages()));
     RunOverrides overrides;
     overrides.configPath = arguments.config;
+    overrides.profile = arguments.profile;
     // Two with one configuration would want one port.
     OnlyInstance instance(
         configurationPath(NativePaths(currentFolder()), NativeFolders().applicationData(), overrides));

@@ -1,5 +1,6 @@
 #include "startup/start_paths.h"
 
+#include "base/profile_name.h"
 #include "startup/default_ini.h"
 
 namespace velmora {
@@ -18,7 +19,8 @@ std::string withoutFinalSeparator(std::string path, char separator) {
 
 std::string configurationPath(const PathRules& rules, const std::string& applicationData,
                               const RunOverrides& overrides) {
-    return rules.absolute(overrides.configPath.value_or(rules.join(applicationData, "Velmora.ini")));
+    const std::string name = overrides.profile ? profiledName("Velmora", *overrides.profile) : "Velmora";
+    return rules.absolute(overrides.configPath.value_or(rules.join(applicationData, name + ".ini")));
 }
 
 bool isConfiguration(const Files& files, const std::string& path) {

@@ -6,8 +6,6 @@
 
 namespace velmora {
 
-RegistryStore::RegistryStore() : RegistryStore(kSettingsKey) {}
-
 RegistryStore::RegistryStore(std::string key) : key_(std::move(key)) {}
 
 std::optional<StoredValue> RegistryStore::read(const std::string& name) {

@@ -11,9 +11,7 @@ namespace velmora {
 /// The values of one key below HKEY_CURRENT_USER, by the functions of platform/win32/registry_functions.h.
 class RegistryStore : public WindowPositionStore {
   public:
-    /// On the key of this program, `SOFTWARE\Quillbrook\Velmora`.
-    RegistryStore();
-    /// On a key of one's own, which must have no keys below it.
+    /// On a key, which must have no keys below it.
     explicit RegistryStore(std::string key);
 
     /// A value as a text; a number as "&h" and eight hexadecimal digits.

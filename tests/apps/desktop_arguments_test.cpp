@@ -30,6 +30,14 @@ TEST(DesktopArguments, TheConfigurationFileMayBeNamed) {
     EXPECT_THROW(readDesktopArguments({"--config", "Other.ini", "-debug"}), UsageError);
 }
 
+TEST(DesktopArguments, AProfileMayBeNamedInsteadOfTheFile) {
+    EXPECT_EQ(readDesktopArguments({}).profile, std::nullopt);
+    EXPECT_EQ(readDesktopArguments({"--profile", "attic"}).profile, "attic");
+    EXPECT_THROW(readDesktopArguments({"--profile"}), UsageError);
+    EXPECT_THROW(readDesktopArguments({"--profile", "../attic"}), UsageError);
+    EXPECT_THROW(readDesktopArguments({"--profile", "attic", "--config", "Other.ini"}), UsageError);
+}
+
 TEST(DesktopArguments, TheLanguageIsOneOfThoseThatAreKnown) {
     EXPECT_EQ(readDesktopArguments({}).language, std::nullopt);
     EXPECT_EQ(readDesktopArguments({"--language", "en"}).language, "en");

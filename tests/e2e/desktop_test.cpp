@@ -63,6 +63,18 @@ TEST_F(DesktopTest, TheConfigurationFileMayBeAnother) {
     EXPECT_NE(contentsOf(other).find("AutoStart=True"), std::string::npos);
 }
 
+TEST_F(DesktopTest, AProfileHasItsSettingsBesideTheUsualOnes) {
+    writeIni("[OnExit]\r\nAskUser=False\r\nAllowShutdown=True\r\n");
+    const std::filesystem::path other = ini().parent_path() / "Velmora-attic.ini";
+    std::filesystem::rename(ini(), other);
+    startDesktop({"--profile", "attic"});
+    save("NAMES", "one\r\n");
+    organiser({"shutdown"});
+    EXPECT_EQ(server->wait(), 0);
+    EXPECT_FALSE(std::filesystem::exists(ini())) << "the usual one is left alone";
+    EXPECT_NE(contentsOf(other).find("AutoStart=True"), std::string::npos);
+}
+
 /// A login session that programs can find each other in.
 class DesktopSessionTest : public DesktopFixture {
   protected:
@@ -86,6 +98,19 @@ TEST_F(DesktopSessionTest, ASecondStartLeavesThePortToTheFirst) {
     startDesktop();
     save("NAMES", "one\r\n");
     const auto second = desktopProcess({});
+    EXPECT_EQ(second->wait(), 0) << second->error();
+    save("NAMES", "two\r\n");
+    EXPECT_EQ(contentsOf(psion / "Names.odb"), "two\r\n");
+    organiser({"shutdown"});
+    EXPECT_EQ(server->wait(), 0);
+}
+
+TEST_F(DesktopSessionTest, ASecondStartOfAProfileLeavesThePortToTheFirst) {
+    writeIni("[OnExit]\r\nAskUser=False\r\nAllowShutdown=True\r\n");
+    std::filesystem::rename(ini(), ini().parent_path() / "Velmora-attic.ini");
+    startDesktop({"--profile", "attic"});
+    save("NAMES", "one\r\n");
+    const auto second = desktopProcess({"--profile", "attic"});
     EXPECT_EQ(second->wait(), 0) << second->error();
     save("NAMES", "two\r\n");
     EXPECT_EQ(contentsOf(psion / "Names.odb"), "two\r\n");

@@ -26,6 +26,12 @@ TEST_F(StartPaths, TheConfigurationLiesInTheUsersFolderOrWhereTheCommandLineSays
     EXPECT_EQ(configurationPath(rules, "/home/.config", overrides), "/etc/velmora/attic.ini");
 }
 
+TEST_F(StartPaths, AProfileHasAFileOfItsOwnBesideTheUsualOne) {
+    RunOverrides overrides;
+    overrides.profile = "attic";
+    EXPECT_EQ(configurationPath(rules, "/home/.config", overrides), "/home/.config/Velmora-attic.ini");
+}
+
 TEST_F(StartPaths, AStumpIsNoConfiguration) {
     EXPECT_FALSE(isConfiguration(files, "/a.ini"));
     files.addFile("/a.ini", std::string(99, 'x'));

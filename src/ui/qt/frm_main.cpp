@@ -433,8 +433,14 @@ void frmMain::setFocus(MainButton which) {
     button(which)->setFocus();
 }
 
+void frmMain::setProfile(const std::string& name) {
+    profile_ = qtSystemText(name);
+    setCaption(kProgramName);
+}
+
 void frmMain::setCaption(const std::string& caption) {
-    setWindowTitle(qtText(caption));
+    const QString title = qtText(caption);
+    setWindowTitle(profile_.isEmpty() ? title : QStringLiteral("%1 (%2)").arg(title, profile_));
 }
 
 // Before the window is shown its state is only noted, and it appears in that state.

@@ -56,6 +56,8 @@ class frmMain : public QWidget, public MainView {
 
     /// What the program calls itself in full, for a pointer that rests on the version.
     void setFullVersion(const std::string& version);
+    /// Names the profile behind each title of the window; in the system's encoding.
+    void setProfile(const std::string& name);
     /// The folder that files are saved to and loaded from; in the system's encoding.
     void showFolder(const std::string& path);
 
@@ -108,6 +110,7 @@ class frmMain : public QWidget, public MainView {
 
     Actions actions_;
     bool closingByProgram_ = false;
+    QString profile_;  // empty without one
 
     NameImage* imgProgName;
     QLabel* tlProgVers;

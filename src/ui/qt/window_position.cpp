@@ -21,7 +21,8 @@ QSize screenSize() {
 
 }  // namespace
 
-QtPositionStore::QtPositionStore() : settings_(QStringLiteral("Quillbrook"), QStringLiteral("Velmora")) {
+QtPositionStore::QtPositionStore(const QString& organisation, const QString& program)
+    : settings_(organisation, program) {
     settings_.setFallbacksEnabled(false);
 }
 

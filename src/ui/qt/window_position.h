@@ -10,11 +10,11 @@
 
 namespace velmora {
 
-/// The values in the user's settings of organisation "Quillbrook", program "Velmora", for systems without a
-/// registry: a file in the configuration folder.
+/// The values in the user's settings, for systems without a registry: a file in the configuration folder.
 class QtPositionStore : public WindowPositionStore {
   public:
-    QtPositionStore();
+    /// On the settings that a program has under an organisation's name.
+    QtPositionStore(const QString& organisation, const QString& program);
     /// On a settings file of one's own.
     explicit QtPositionStore(const QString& iniFile);
 

@@ -16,6 +16,7 @@
 #include <QMimeData>
 #include <QProcess>
 #include <QPushButton>
+#include <QSettings>
 #include <QTableView>
 #include <QTableWidget>
 #include <QTemporaryDir>
@@ -63,6 +64,7 @@ class DesktopServerTest : public QObject {
     void withoutAPortItSaysWhatToDoNext();
     void isBroughtBackWhereverItsWindowIs();
     void aFolderThatIsGoneIsToldInsteadOfOpened();
+    void aProfileHasItsTitleAndItsPlace();
     void filesThatAreDroppedOnTheWindowAreServed();
     void helpOpensTheGuideAtTheWindowOrSaysWhereItIs();
     void pulledCableStopsTheServerUntilItIsBack();
@@ -286,6 +288,22 @@ void DesktopServerTest::aFolderThatIsGoneIsToldInsteadOfOpened() {
     QVERIFY(label("lblAdvice")->text().endsWith(QStringLiteral("psion is not there any more.")));
 }
 
+void DesktopServerTest::aProfileHasItsTitleAndItsPlace() {
+    server.reset();
+    std::filesystem::copy_file(home->filePath(QStringLiteral("Velmora.ini")).toStdString(),
+                               home->filePath(QStringLiteral("Velmora-attic.ini")).toStdString());
+    RunOverrides overrides;
+    overrides.profile = "attic";
+    server = std::make_unique<DesktopServer>(overrides);
+    QCOMPARE(server->window().windowTitle(), QStringLiteral("Velmora (attic)"));
+    QVERIFY(server->start(""));
+    QCOMPARE(server->controller().state(), int{WaitLink});
+    QVERIFY(server->controller().queryUnload(CloseReason::User));
+    QSettings place(QStringLiteral("Quillbrook"), QStringLiteral("Velmora-attic"));
+    QVERIFY(place.contains(QStringLiteral("XPos")));
+    place.clear();
+}
+
 void DesktopServerTest::filesThatAreDroppedOnTheWindowAreServed() {
     QVERIFY(server->start(""));
     const QString dropped = home->filePath(QStringLiteral("Memo.odb"));
@@ -305,9 +323,12 @@ void DesktopServerTest::filesThatAreDroppedOnTheWindowAreServed() {
     QCoreApplication::sendEvent(&server->window(), &enter);
     QCoreApplication::sendEvent(&server->window(), &drop);
     bool asked = false;
-    QTimer::singleShot(0, this, [&asked] {
+    QTimer user;
+    connect(&user, &QTimer::timeout, this, [&asked] {
         auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-        QVERIFY(box);
+        if (box == nullptr) {
+            return;
+        }
         asked = true;
         for (QAbstractButton* button : box->buttons()) {
             if (button->text().contains(QStringLiteral("Replace"))) {
@@ -316,6 +337,7 @@ void DesktopServerTest::filesThatAreDroppedOnTheWindowAreServed() {
             }
         }
     });
+    user.start(1);
     QTRY_VERIFY(asked);
     const QDir earlier(home->filePath(QStringLiteral(".local/share/Velmora/Earlier copies")));
     QTRY_COMPARE(earlier.entryList({QStringLiteral("Memo (*).odb")}).size(), qsizetype{1});

@@ -64,6 +64,7 @@ class FrmMainTest : public QObject {
     void theVersionHasTheWholeOneAsItsTip();
     void hideButtonMinimises();
     void captionCarriesTheStateWhileMinimised();
+    void captionNamesTheProfile();
     void shutDownButtonEndsTheProgram();
     void requestedShutdownEndsTheProgramAfterHalfASecond();
     void portThatFailsStopsTheServerUntilStartIsPressedAgain();
@@ -500,6 +501,16 @@ void FrmMainTest::captionCarriesTheStateWhileMinimised() {
     QVERIFY(!rig->window.isMinimized());
     QCOMPARE(rig->window.windowTitle(), QStringLiteral("Velmora"));
     QCOMPARE(rig->window.focusWidget(), button("pbStartStop"));
+}
+
+void FrmMainTest::captionNamesTheProfile() {
+    rig->window.setProfile("attic");
+    QCOMPARE(rig->window.windowTitle(), QStringLiteral("Velmora (attic)"));
+    click("pbHide");
+    rig->reach(SendDir);
+    QCOMPARE(rig->window.windowTitle(), QStringLiteral("Velmora - Sending directory (attic)"));
+    rig->window.restore();
+    QCOMPARE(rig->window.windowTitle(), QStringLiteral("Velmora (attic)"));
 }
 
 void FrmMainTest::shutDownButtonEndsTheProgram() {
