@@ -23,6 +23,7 @@ OTHER_TEXTS = {
     "link/*": "the trace",
     "ui/debug_log_model.h": "the trace",
     "ui/folder_choice.h": "a prompt that programs replace",
+    "ui/qt/core_sentences.cpp": "the messages of other sources, for translators",
     "ui/qt/lcd_line.cpp": "names of fonts",
     "ui/qt/toolkit_texts.cpp": "the toolkit's own captions",
     "ui/qt/log_view.cpp": "names of fonts",

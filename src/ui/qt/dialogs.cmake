@@ -15,7 +15,7 @@ velmora_library(qt_dialogs
     log_view.cpp
     readable_ground.cpp
     transfer_table.cpp
-  LIBS velmora_ui velmora_serial velmora_base Qt6::Widgets)
+  LIBS velmora_ui_qt velmora_ui velmora_serial velmora_base Qt6::Widgets)
 if(WIN32)
   target_sources(velmora_qt_dialogs PRIVATE native_folder_browser_win32.cpp)
   target_link_libraries(velmora_qt_dialogs PUBLIC velmora_win32_folder_browser)

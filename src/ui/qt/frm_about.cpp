@@ -11,6 +11,7 @@
 #include <utility>
 
 #include "ui/qt/capture_saving.h"
+#include "ui/qt/core_texts.h"
 #include "ui/qt/help_key.h"
 
 namespace velmora {
@@ -33,7 +34,7 @@ frmAbout::frmAbout(const QString& program, const QString& text, Actions actions,
     heading->addWidget(icon);
     heading->addWidget(name, 1);
 
-    auto* txtAbout = new QPlainTextEdit(text);
+    auto* txtAbout = new QPlainTextEdit(coreText(text));
     txtAbout->setObjectName(QStringLiteral("txtAbout"));
     txtAbout->setAccessibleName(tr("About Velmora"));
     txtAbout->setReadOnly(true);

@@ -15,6 +15,7 @@
 
 #include "doctor/doctor_report.h"
 #include "doctor/unframed.h"
+#include "ui/qt/core_texts.h"
 #include "ui/qt/qt_text.h"
 
 namespace velmora {
@@ -33,7 +34,7 @@ QLabel* makeWrapped(const char* name) {
 
 /// Ticks say it at a glance, words without colours or a good eye.
 QString shownMark(StepStatus status) {
-    QString words = QString::fromStdString(std::string(markOf(status)));
+    QString words = coreText(QString::fromStdString(std::string(markOf(status))));
     switch (status) {
         case StepStatus::Well:
             return QStringLiteral("\u2713 ") + words;
@@ -62,7 +63,7 @@ void frmCableCheck::build(const std::string& port, const LineSettings& settings)
     lblWhat->setText(
         tr("%1 at %2. Start a transfer on the Organiser, so that it calls; the check takes up to a "
            "minute and changes nothing there.")
-            .arg(qtSystemText(port), QString::fromStdString(settingsInWords(settings))));
+            .arg(qtSystemText(port), coreText(QString::fromStdString(settingsInWords(settings)))));
     tblSteps = new QTableWidget(0, kColumns);
     tblSteps->setObjectName(QStringLiteral("tblSteps"));
     tblSteps->setAccessibleName(tr("Steps of the check"));
@@ -75,8 +76,9 @@ void frmCableCheck::build(const std::string& port, const LineSettings& settings)
     tblSteps->verticalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     tblSteps->horizontalHeader()->hide();
     tblSteps->horizontalHeader()->setStretchLastSection(true);
-    tblSteps->setColumnWidth(Mark, fontMetrics().horizontalAdvance(QStringLiteral("\u2717 FAULT  ")) +
-                                       2 * fontMetrics().averageCharWidth());
+    tblSteps->setColumnWidth(
+        Mark, fontMetrics().horizontalAdvance(shownMark(StepStatus::Fault) + QStringLiteral("  ")) +
+                  2 * fontMetrics().averageCharWidth());
     pbrBusy = new QProgressBar;
     pbrBusy->setObjectName(QStringLiteral("pbrBusy"));
     pbrBusy->setAccessibleName(tr("The check goes on"));
@@ -170,9 +172,9 @@ void frmCableCheck::copyLine() const {
 void frmCableCheck::showState() {
     showSteps();
     pbrBusy->setVisible(running());
-    lblResult->setText(qtSystemText(check_.result()));
+    lblResult->setText(coreText(qtSystemText(check_.result())));
     lblResult->setVisible(!lblResult->text().isEmpty());
-    lblAdvice->setText(qtSystemText(check_.advice()));
+    lblAdvice->setText(coreText(qtSystemText(check_.advice())));
     lblAdvice->setVisible(!lblAdvice->text().isEmpty());
     const bool over =
         check_.state() == CableCheck::State::Done || check_.state() == CableCheck::State::Stopped;
@@ -189,7 +191,7 @@ void frmCableCheck::showSteps() {
         const StepFinding& step = steps[static_cast<std::size_t>(row)];
         tblSteps->insertRow(row);
         tblSteps->setItem(row, Mark, new QTableWidgetItem(shownMark(step.status)));
-        tblSteps->setItem(row, Text, new QTableWidgetItem(qtSystemText(step.text)));
+        tblSteps->setItem(row, Text, new QTableWidgetItem(coreText(qtSystemText(step.text))));
         if (step.status == StepStatus::Fault) {
             QFont strong = font();
             strong.setBold(true);

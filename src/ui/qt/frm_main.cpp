@@ -16,6 +16,7 @@
 #include "server/caption.h"
 #include "ui/qt/alert_area.h"
 #include "ui/qt/artwork.h"
+#include "ui/qt/core_texts.h"
 #include "ui/qt/debug_switch.h"
 #include "ui/qt/elided_label.h"
 #include "ui/qt/lcd_line.h"
@@ -325,7 +326,7 @@ void frmMain::showMessages(const MessageLines& messages) {
 }
 
 void frmMain::showAdvice(const std::string& text) {
-    const QString whole = qtSystemText(text);
+    const QString whole = coreText(qtSystemText(text));
     const QRect room(0, 0, messageWidth(warningSign_->isVisibleTo(this)), 0);
     advice_->setText(elideWords(whole, advice_->fontMetrics(), room.width()));
     advice_->setToolTip(advice_->text() == whole ? QString() : whole);

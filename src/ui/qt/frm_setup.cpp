@@ -21,6 +21,7 @@
 #include <utility>
 
 #include "ui/port_key_filter.h"
+#include "ui/qt/core_texts.h"
 #include "ui/qt/help_key.h"
 #include "ui/qt/qt_text.h"
 #include "ui/qt/readable_ground.h"
@@ -340,7 +341,7 @@ void frmSetup::showState() {
     txtPortNo->setReadOnly(!model_.portTextEnabled());
     txtPortNo->setFocusPolicy(model_.portTextEnabled() ? Qt::StrongFocus : Qt::ClickFocus);
     pbCheckPort->setEnabled(model_.portTextEnabled());
-    lblStatus->setText(qtText(model_.statusText()));
+    lblStatus->setText(coreText(qtText(model_.statusText())));
     pbCheckCable->setEnabled(model_.chosenPort() > 0 && !model_.probing());
     showBaud();
     cbAutoStart->setChecked(model_.autoStart());
@@ -353,7 +354,7 @@ void frmSetup::showState() {
 void frmSetup::showPortMark(int port) {
     const auto index = static_cast<std::size_t>(port - 1);
     const PortMark& mark = model_.mark(port);
-    const QString tip = qtText(mark.toolTip);
+    const QString tip = coreText(qtText(mark.toolTip));
     QRadioButton* button = obPort[index];
     button->setChecked(model_.selectedPort() == port);
     button->setToolTip(tip);
@@ -460,7 +461,7 @@ void frmSetup::portTextChanged(const QString& text) {
 void frmSetup::checkPort() {
     model_.pbCheckPort_Click();
     if (model_.checkFailed() && failureReason_ && !model_.closed()) {
-        setDeviceHint(qtSystemText(failureReason_()));
+        setDeviceHint(coreText(qtSystemText(failureReason_())));
         reasonShown_ = true;
     }
 }

@@ -11,9 +11,12 @@
 #include <QShowEvent>
 #include <QTableView>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <array>
 #include <utility>
 
+#include "transfers/transfer_text.h"
+#include "ui/qt/core_texts.h"
 #include "ui/qt/qt_text.h"
 
 namespace velmora {
@@ -47,7 +50,10 @@ frmTransfers::frmTransfers(TransferList& list, Actions actions, QWidget* parent)
     connect(&table_, &TransferTable::rowsInserted, this, &frmTransfers::showWhetherEmpty);
     showWhetherEmpty();
     offerActions();
-    resize(860, 420);
+    const QString longest = coreText(QStringLiteral("refused: no such file (189)"));
+    const int wanted = tblTransfers->horizontalHeader()->sectionPosition(TransferList::Result) +
+                       fontMetrics().horizontalAdvance(longest) + 8 * fontMetrics().averageCharWidth();
+    resize(std::max(860, wanted), 420);
 }
 
 void frmTransfers::buildTable() {
@@ -70,9 +76,7 @@ void frmTransfers::buildTable() {
     header->setHighlightSections(false);
     header->setStretchLastSection(true);
     for (int column = 0; column < header->count() - 1; ++column) {
-        const auto widest = QLatin1String(kWidest[static_cast<std::size_t>(column)]);
-        header->resizeSection(column,
-                              fontMetrics().horizontalAdvance(widest) + 2 * fontMetrics().averageCharWidth());
+        header->resizeSection(column, columnWidth(column));
     }
     connect(tblTransfers, &QTableView::doubleClicked, this, [this] {
         offerActions();
@@ -87,6 +91,22 @@ void frmTransfers::buildTable() {
     lblNone = new QLabel(tr("Nothing was transferred yet."), tblTransfers->viewport());
     lblNone->setObjectName(QStringLiteral("lblNone"));
     lblNone->move(12, 12);
+}
+
+int frmTransfers::columnWidth(int column) const {
+    const QString widest = QLatin1String(kWidest[static_cast<std::size_t>(column)]);
+    int width = fontMetrics().horizontalAdvance(widest);
+    QStringList words{table_.headerData(column, Qt::Horizontal, Qt::DisplayRole).toString(),
+                      coreText(widest.trimmed())};
+    if (column == TransferList::Direction) {
+        for (const TransferDirection direction : {TransferDirection::Save, TransferDirection::Load}) {
+            words.append(coreText(QString::fromLatin1(nameOf(direction))));
+        }
+    }
+    for (const QString& word : words) {
+        width = std::max(width, fontMetrics().horizontalAdvance(word + QLatin1Char(' ')));
+    }
+    return width + 2 * fontMetrics().averageCharWidth();
 }
 
 QAction* frmTransfers::addEntry(const QString& name, const QString& text, const QKeySequence& keys,

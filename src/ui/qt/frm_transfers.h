@@ -38,6 +38,7 @@ class frmTransfers : public QWidget {
 
   private:
     void buildTable();
+    int columnWidth(int column) const;
     void buildMenu();
     QAction* addEntry(const QString& name, const QString& text, const QKeySequence& keys,
                       void (frmTransfers::*deed)());

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "ui/qt/core_texts.h"
 #include "ui/qt/elided_label.h"
 #include "ui/qt/qt_text.h"
 
@@ -14,7 +15,7 @@ MessageLabel::MessageLabel(QWidget* parent) : QLabel(parent) {
 
 void MessageLabel::show(const MessageLine& line, int width) {
     lines_ = line.twoLines ? 2 : 1;
-    const QString whole = qtText(line.text);
+    const QString whole = coreText(qtText(line.text));
     setText(elideWords(whole, fontMetrics(), width));
     setToolTip(text() == whole ? QString() : whole);
     setAccessibleName(whole);

@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 
+#include "ui/qt/core_texts.h"
 #include "ui/qt/qt_text.h"
 
 namespace velmora {
@@ -33,14 +34,14 @@ QWidget* QtMessageBox::parentOf() const {
 }
 
 void QtMessageBox::inform(BoxIcon icon, const std::string& title, const std::string& text) {
-    QMessageBox box(qtIcon(icon), qtText(title), qtText(text), QMessageBox::Ok, parentOf());
+    QMessageBox box(qtIcon(icon), qtText(title), coreText(qtText(text)), QMessageBox::Ok, parentOf());
     box.setTextFormat(Qt::PlainText);
     box.exec();
 }
 
 bool QtMessageBox::askYesNo(BoxIcon icon, const std::string& title, const std::string& text, bool defaultYes,
                             bool foreground) {
-    QMessageBox box(qtIcon(icon), qtText(title), qtText(text), QMessageBox::Yes | QMessageBox::No,
+    QMessageBox box(qtIcon(icon), qtText(title), coreText(qtText(text)), QMessageBox::Yes | QMessageBox::No,
                     parentOf());
     box.setTextFormat(Qt::PlainText);
     box.setDefaultButton(defaultYes ? QMessageBox::Yes : QMessageBox::No);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "ui/qt/core_texts.h"
 #include "ui/qt/qt_text.h"
 
 namespace velmora {
@@ -79,7 +80,7 @@ const ListedTransfer* TransferTable::transfer(int row) const {
 }
 
 QString TransferTable::details(int row) const {
-    return qtText(list_.details(listRow(row)));
+    return coreText(qtText(list_.details(listRow(row))));
 }
 
 int TransferTable::rowCount(const QModelIndex& parent) const {
@@ -90,13 +91,20 @@ int TransferTable::columnCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : int{TransferList::kColumns};
 }
 
+/// A file may be called as one of our words is; only what we say is in the user's language.
+QString TransferTable::shownText(const QModelIndex& index) const {
+    const TransferList::Column column = columnOf(index.column());
+    const QString text = qtText(list_.text(listRow(index.row()), column));
+    return column == TransferList::Name ? text : coreText(text);
+}
+
 QVariant TransferTable::data(const QModelIndex& index, int role) const {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid) || transfer(index.row()) == nullptr) {
         return {};
     }
     switch (role) {
         case Qt::DisplayRole:
-            return qtText(list_.text(listRow(index.row()), columnOf(index.column())));
+            return shownText(index);
         case Qt::ToolTipRole:
             return details(index.row());
         case Qt::TextAlignmentRole:
@@ -112,7 +120,7 @@ QVariant TransferTable::headerData(int section, Qt::Orientation orientation, int
     }
     switch (role) {
         case Qt::DisplayRole:
-            return QString::fromLatin1(TransferList::heading(columnOf(section)));
+            return coreText(QString::fromLatin1(TransferList::heading(columnOf(section))));
         case Qt::TextAlignmentRole:
             return int{isNumber(section) ? Qt::AlignRight : Qt::AlignLeft} | int{Qt::AlignVCenter};
         default:

@@ -34,6 +34,7 @@ class TransferTable : public QAbstractTableModel, private TransferListView {
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
   private:
+    QString shownText(const QModelIndex& index) const;
     void transferAdded() override;
     void transferChanged() override;
     void expect();

@@ -81,9 +81,11 @@ QChar letterOf(const QString& text) {
 
 // Words that a language has in common with English.
 const QStringList kAlike = {
-    "OK",     "Name",  "Type",    "Computer", "Ctrl",       "Shift", "Version",      "Version %1",
-    "Debug",  "Bytes", "Options", "&File",    "Transferts", "Error", "Help",         "&Help",
-    "&Start", "&Stop", "Data",    "&No",      "Setup",      "Hide",  "&Transferts…", "Apply",
+    "OK",         "Name",       "Type",           "Computer", "Ctrl",         "Shift",
+    "Version",    "Version %1", "Debug",          "Bytes",    "Options",      "&File",
+    "Transferts", "Error",      "Help",           "&Help",    "&Start",       "&Stop",
+    "Data",       "&No",        "Setup",          "Hide",     "&Transferts…", "Apply",
+    "%8 baud",    "%8 bytes/s", "%1, driver %2.",
 };
 
 /// A window as users meet it, with all of its controls, and what it stands on.

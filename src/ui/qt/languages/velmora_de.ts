@@ -31,6 +31,629 @@ Bitte einen anderen Ordner oder Namen wählen.</translation>
     </message>
 </context>
 <context>
+    <name>Core</name>
+    <message>
+        <source>COM%1 is available</source>
+        <translation>COM%1 ist frei</translation>
+    </message>
+    <message>
+        <source>COM%1 is used (modem)</source>
+        <translation>COM%1 ist belegt (Modem)</translation>
+    </message>
+    <message>
+        <source>COM%1 is used (device)</source>
+        <translation>COM%1 ist belegt (Gerät)</translation>
+    </message>
+    <message>
+        <source>COM%1 is in use</source>
+        <translation>COM%1 wird benutzt</translation>
+    </message>
+    <message>
+        <source>COM%1 is not accessible</source>
+        <translation>COM%1 ist nicht zugänglich</translation>
+    </message>
+    <message>
+        <source>COM%1 reports error</source>
+        <translation>COM%1 meldet einen Fehler</translation>
+    </message>
+    <message>
+        <source>Port %1 is used by a modem!</source>
+        <translation>Der Anschluss %1 wird von einem Modem benutzt!</translation>
+    </message>
+    <message>
+        <source>Port %1 is used by a device!</source>
+        <translation>Der Anschluss %1 wird von einem Gerät benutzt!</translation>
+    </message>
+    <message>
+        <source>Port %1 is in use by another application!</source>
+        <translation>Der Anschluss %1 wird von einem anderen Programm benutzt!</translation>
+    </message>
+    <message>
+        <source>Port %1 is not accessible!</source>
+        <translation>Der Anschluss %1 ist nicht zugänglich!</translation>
+    </message>
+    <message>
+        <source>Port %1 open error!</source>
+        <translation>Der Anschluss %1 lässt sich nicht öffnen!</translation>
+    </message>
+    <message>
+        <source>No port selected!</source>
+        <translation>Kein Anschluss gewählt!</translation>
+    </message>
+    <message>
+        <source>%1 does not exist; is the adapter plugged in, and is it the right port?</source>
+        <translation>%1 gibt es nicht; ist der Adapter eingesteckt, und ist es der richtige Anschluss?</translation>
+    </message>
+    <message>
+        <source>%1 has no serial hardware behind it; choose another port.</source>
+        <translation>Hinter %1 steckt keine serielle Schnittstelle; bitte einen anderen Anschluss wählen.</translation>
+    </message>
+    <message>
+        <source>%1 does not respond; is the adapter still plugged in?</source>
+        <translation>%1 antwortet nicht; ist der Adapter noch eingesteckt?</translation>
+    </message>
+    <message>
+        <source>%1 is not a serial port.</source>
+        <translation>%1 ist kein serieller Anschluss.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be opened.</source>
+        <translation>%1 lässt sich nicht öffnen.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be opened: error %2.</source>
+        <translation>%1 lässt sich nicht öffnen: Fehler %2.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be opened: %2</source>
+        <translation>%1 lässt sich nicht öffnen: %2</translation>
+    </message>
+    <message>
+        <source>%1 does not take these line settings; choose another speed.</source>
+        <translation>%1 nimmt diese Einstellungen nicht an; bitte eine andere Geschwindigkeit wählen.</translation>
+    </message>
+    <message>
+        <source>%1 is in use by another program.</source>
+        <translation>%1 wird von einem anderen Programm benutzt.</translation>
+    </message>
+    <message>
+        <source>%1 is in use by %2.</source>
+        <translation>%1 wird von %2 benutzt.</translation>
+    </message>
+    <message>
+        <source>No permission to open %1, which belongs to user %2 and group %3; the group may not open it either.</source>
+        <translation>Keine Berechtigung, %1 zu öffnen (Benutzer %2, Gruppe %3); auch die Gruppe darf es nicht.</translation>
+    </message>
+    <message>
+        <source>No permission to open %1, which belongs to user %2 and group %3; %4 is in that group, so something else forbids it.</source>
+        <translation>Keine Berechtigung, %1 zu öffnen (Benutzer %2, Gruppe %3); %4 ist in der Gruppe, also verbietet es etwas anderes.</translation>
+    </message>
+    <message>
+        <source>No permission to open %1, which belongs to user %2 and group %3; %4 is in that group from the next login on: log out and in again.</source>
+        <translation>Keine Berechtigung, %1 zu öffnen (Benutzer %2, Gruppe %3); %4 ist von der nächsten Anmeldung an in der Gruppe: bitte ab- und wieder anmelden.</translation>
+    </message>
+    <message>
+        <source>No permission to open %1, which belongs to user %2 and group %3; %4 is not in that group: run &quot;%5&quot;, then log out and in again.</source>
+        <translation>Keine Berechtigung, %1 zu öffnen (Benutzer %2, Gruppe %3); %4 ist nicht in der Gruppe: „%5“ ausführen, dann ab- und wieder anmelden.</translation>
+    </message>
+    <message>
+        <source>Velmora goes on when it is plugged in again.</source>
+        <translation>Velmora macht weiter, sobald er wieder eingesteckt ist.</translation>
+    </message>
+    <message>
+        <source>Velmora goes on when it is awake again.</source>
+        <translation>Velmora macht weiter, sobald der Computer wieder wach ist.</translation>
+    </message>
+    <message>
+        <source>%1: The computer goes to sleep.</source>
+        <translation>%1: Der Computer geht in den Ruhezustand.</translation>
+    </message>
+    <message>
+        <source>%1: The port failed.</source>
+        <translation>%1: Der Anschluss ist ausgefallen.</translation>
+    </message>
+    <message>
+        <source>%1: The line was cut or the device failed</source>
+        <translation>%1: Die Leitung wurde unterbrochen, oder das Gerät ist ausgefallen</translation>
+    </message>
+    <message>
+        <source>The transfer is lost.</source>
+        <translation>Die Übertragung ist verloren.</translation>
+    </message>
+    <message>
+        <source>Bytes come that make no frame.</source>
+        <translation>Es kommen Bytes, die keinen Rahmen ergeben.</translation>
+    </message>
+    <message>
+        <source>Nothing has come for a minute.</source>
+        <translation>Seit einer Minute ist nichts gekommen.</translation>
+    </message>
+    <message>
+        <source>Stop the server; Check cable in Setup finds out why.</source>
+        <translation>Den Server stoppen; „Kabel prüfen“ unter „Einrichten“ findet heraus, warum.</translation>
+    </message>
+    <message>
+        <source>The settings could not be saved: %1</source>
+        <translation>Die Einstellungen konnten nicht gespeichert werden: %1</translation>
+    </message>
+    <message>
+        <source>The folder is used, but could not be saved for the next start: %1</source>
+        <translation>Der Ordner wird benutzt, konnte aber nicht für den nächsten Start gespeichert werden: %1</translation>
+    </message>
+    <message>
+        <source>%1 has less than 100 bytes and is replaced by the default file; it is kept as %2</source>
+        <translation>%1 hat weniger als 100 Bytes und wird durch die Standarddatei ersetzt; aufbewahrt als %2</translation>
+    </message>
+    <message>
+        <source>The guide is not installed: it should be in %1. On Debian and Ubuntu it comes with the package velmora-doc, on Windows with the installer.</source>
+        <translation>Das Handbuch ist nicht installiert: es sollte in %1 liegen. Unter Debian und Ubuntu kommt es mit dem Paket velmora-doc, unter Windows mit dem Installationsprogramm.</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation>Richtung</translation>
+    </message>
+    <message>
+        <source>Bytes</source>
+        <translation>Bytes</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Dauer</translation>
+    </message>
+    <message>
+        <source>Rate</source>
+        <translation>Tempo</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Ergebnis</translation>
+    </message>
+    <message>
+        <source>save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>load</source>
+        <translation>Laden</translation>
+    </message>
+    <message>
+        <source>complete</source>
+        <translation>vollständig</translation>
+    </message>
+    <message>
+        <source>complete, 1 formula changed</source>
+        <translation>vollständig, 1 Formel geändert</translation>
+    </message>
+    <message>
+        <source>complete, %1 formulas changed</source>
+        <translation>vollständig, %1 Formeln geändert</translation>
+    </message>
+    <message>
+        <source>incomplete: %9</source>
+        <translation>unvollständig: %9</translation>
+    </message>
+    <message>
+        <source>refused: %9</source>
+        <translation>abgelehnt: %9</translation>
+    </message>
+    <message>
+        <source>under way</source>
+        <translation>läuft</translation>
+    </message>
+    <message>
+        <source>under way, %1 %, %2 left</source>
+        <translation>läuft, %1 %, noch %2</translation>
+    </message>
+    <message>
+        <source>under way, %1 %</source>
+        <translation>läuft, %1 %</translation>
+    </message>
+    <message>
+        <source>record too long</source>
+        <translation>Datensatz zu lang</translation>
+    </message>
+    <message>
+        <source>disk full</source>
+        <translation>Datenträger voll</translation>
+    </message>
+    <message>
+        <source>file exists</source>
+        <translation>Datei vorhanden</translation>
+    </message>
+    <message>
+        <source>no such file</source>
+        <translation>Datei nicht vorhanden</translation>
+    </message>
+    <message>
+        <source>invalid request</source>
+        <translation>ungültige Anforderung</translation>
+    </message>
+    <message>
+        <source>file in use</source>
+        <translation>Datei in Benutzung</translation>
+    </message>
+    <message>
+        <source>end of file</source>
+        <translation>Ende der Datei</translation>
+    </message>
+    <message>
+        <source>not possible</source>
+        <translation>nicht möglich</translation>
+    </message>
+    <message>
+        <source>record too long (%1)</source>
+        <translation>Datensatz zu lang (%1)</translation>
+    </message>
+    <message>
+        <source>disk full (%1)</source>
+        <translation>Datenträger voll (%1)</translation>
+    </message>
+    <message>
+        <source>file exists (%1)</source>
+        <translation>Datei vorhanden (%1)</translation>
+    </message>
+    <message>
+        <source>no such file (%1)</source>
+        <translation>Datei nicht vorhanden (%1)</translation>
+    </message>
+    <message>
+        <source>invalid request (%1)</source>
+        <translation>ungültige Anforderung (%1)</translation>
+    </message>
+    <message>
+        <source>file in use (%1)</source>
+        <translation>Datei in Benutzung (%1)</translation>
+    </message>
+    <message>
+        <source>end of file (%1)</source>
+        <translation>Ende der Datei (%1)</translation>
+    </message>
+    <message>
+        <source>not possible (%1)</source>
+        <translation>nicht möglich (%1)</translation>
+    </message>
+    <message>
+        <source>Earlier copy: %1</source>
+        <translation>Frühere Fassung: %1</translation>
+    </message>
+    <message>
+        <source>Velmora is free software under the MIT licence: use it, copy it, change it and pass it on. It comes without any warranty.</source>
+        <translation>Velmora ist freie Software unter der MIT-Lizenz: Sie darf benutzt, kopiert, geändert und weitergegeben werden. Eine Gewährleistung gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>Libraries</source>
+        <translation>Bibliotheken</translation>
+    </message>
+    <message>
+        <source>Places</source>
+        <translation>Orte</translation>
+    </message>
+    <message>
+        <source>Settings: %1</source>
+        <translation>Einstellungen: %1</translation>
+    </message>
+    <message>
+        <source>Download folder: %1</source>
+        <translation>Empfangsordner: %1</translation>
+    </message>
+    <message>
+        <source>Earlier copies: %1</source>
+        <translation>Frühere Fassungen: %1</translation>
+    </message>
+    <message>
+        <source>List of transfers: %1</source>
+        <translation>Liste der Übertragungen: %1</translation>
+    </message>
+    <message>
+        <source>ok</source>
+        <translation>gut</translation>
+    </message>
+    <message>
+        <source>note</source>
+        <translation>Hinweis</translation>
+    </message>
+    <message>
+        <source>FAULT</source>
+        <translation>FEHLER</translation>
+    </message>
+    <message>
+        <source>The check was stopped.</source>
+        <translation>Die Prüfung wurde abgebrochen.</translation>
+    </message>
+    <message>
+        <source>%1 is there and may be opened.</source>
+        <translation>%1 ist da und darf geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>%1, driver %2.</source>
+        <translation>%1, Treiber %2.</translation>
+    </message>
+    <message>
+        <source>The device does not tell what it is set to.</source>
+        <translation>Das Gerät sagt nicht, worauf es eingestellt ist.</translation>
+    </message>
+    <message>
+        <source>The system does not tell what is behind the port.</source>
+        <translation>Das System sagt nicht, was hinter dem Anschluss steckt.</translation>
+    </message>
+    <message>
+        <source>The device has no modem lines.</source>
+        <translation>Das Gerät hat keine Steuerleitungen.</translation>
+    </message>
+    <message>
+        <source>No line is on: nothing is connected or switched on, or the cable has only three wires.</source>
+        <translation>Keine Steuerleitung ist an: nichts ist angeschlossen oder eingeschaltet, oder das Kabel hat nur drei Adern.</translation>
+    </message>
+    <message>
+        <source>%1 on: something is connected and switched on at the other end.</source>
+        <translation>%1 an: am anderen Ende ist etwas angeschlossen und eingeschaltet.</translation>
+    </message>
+    <message>
+        <source>What is sent does not come back.</source>
+        <translation>Was gesendet wird, kommt nicht zurück.</translation>
+    </message>
+    <message>
+        <source>What is sent comes back.</source>
+        <translation>Was gesendet wird, kommt zurück.</translation>
+    </message>
+    <message>
+        <source>%1 bytes came that make no frame.</source>
+        <translation>%1 Bytes kamen, die keinen Rahmen ergeben.</translation>
+    </message>
+    <message>
+        <source>The Organiser is heard.</source>
+        <translation>Der Organiser ist zu hören.</translation>
+    </message>
+    <message>
+        <source>Nothing comes.</source>
+        <translation>Es kommt nichts.</translation>
+    </message>
+    <message>
+        <source>Something answers AT with OK.</source>
+        <translation>Etwas antwortet auf AT mit OK.</translation>
+    </message>
+    <message>
+        <source>Nothing answers AT.</source>
+        <translation>Nichts antwortet auf AT.</translation>
+    </message>
+    <message>
+        <source>No frames come at other rates either.</source>
+        <translation>Auch mit anderen Geschwindigkeiten kommen keine Rahmen.</translation>
+    </message>
+    <message>
+        <source>Other parities do not help.</source>
+        <translation>Andere Paritäten helfen nicht.</translation>
+    </message>
+    <message>
+        <source>The device has no parity to be tried.</source>
+        <translation>Das Gerät hat keine Parität, die sich erproben ließe.</translation>
+    </message>
+    <message>
+        <source>The link comes up: %1 of %2 requests were answered.</source>
+        <translation>Die Verbindung kommt zustande: %1 von %2 Anfragen wurden beantwortet.</translation>
+    </message>
+    <message>
+        <source>The line is well.</source>
+        <translation>Die Leitung ist in Ordnung.</translation>
+    </message>
+    <message>
+        <source>There is no such port.</source>
+        <translation>Diesen Anschluss gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>Plug the adapter in, or choose another port.</source>
+        <translation>Den Adapter einstecken oder einen anderen Anschluss wählen.</translation>
+    </message>
+    <message>
+        <source>This login may not open the port.</source>
+        <translation>Diese Anmeldung darf den Anschluss nicht öffnen.</translation>
+    </message>
+    <message>
+        <source>Join the group that owns the device, and log in again.</source>
+        <translation>Der Gruppe beitreten, der das Gerät gehört, und neu anmelden.</translation>
+    </message>
+    <message>
+        <source>Another program has the port open.</source>
+        <translation>Ein anderes Programm hat den Anschluss geöffnet.</translation>
+    </message>
+    <message>
+        <source>End that program, or stop the server, and check again.</source>
+        <translation>Dieses Programm beenden oder den Server stoppen, dann erneut prüfen.</translation>
+    </message>
+    <message>
+        <source>The device does not take the rate, or keeps other settings than it was given.</source>
+        <translation>Das Gerät nimmt die Geschwindigkeit nicht an oder behält andere Einstellungen als verlangt.</translation>
+    </message>
+    <message>
+        <source>Use another adapter, or install the driver that belongs to its chip.</source>
+        <translation>Einen anderen Adapter verwenden oder den Treiber installieren, der zum Chip gehört.</translation>
+    </message>
+    <message>
+        <source>The device fails: its driver reports errors, or it went away.</source>
+        <translation>Das Gerät fällt aus: sein Treiber meldet Fehler, oder es ist verschwunden.</translation>
+    </message>
+    <message>
+        <source>Plug the adapter in again, directly at the computer, and try another one.</source>
+        <translation>Den Adapter neu einstecken, direkt am Computer, und einen anderen versuchen.</translation>
+    </message>
+    <message>
+        <source>Nothing comes, and the adapter&apos;s chip is a copy that its driver refuses.</source>
+        <translation>Es kommt nichts, und der Chip des Adapters ist ein Nachbau, den der Treiber ablehnt.</translation>
+    </message>
+    <message>
+        <source>Use an adapter with a genuine chip, or install an older driver.</source>
+        <translation>Einen Adapter mit echtem Chip verwenden oder einen älteren Treiber installieren.</translation>
+    </message>
+    <message>
+        <source>Everything that is sent comes back, at every rate: pins 2 and 3 are joined.</source>
+        <translation>Alles Gesendete kommt zurück, mit jeder Geschwindigkeit: die Stifte 2 und 3 sind verbunden.</translation>
+    </message>
+    <message>
+        <source>The adapter and the cable are well as far as the joint; remove it and connect the Organiser.</source>
+        <translation>Adapter und Kabel sind bis zu dieser Verbindung in Ordnung; sie entfernen und den Organiser anschließen.</translation>
+    </message>
+    <message>
+        <source>What is sent comes back, and nothing else does.</source>
+        <translation>Was gesendet wird, kommt zurück, und sonst nichts.</translation>
+    </message>
+    <message>
+        <source>Something on the line repeats every byte; check that the cable ends at the Organiser, and that its wires do not touch.</source>
+        <translation>Etwas auf der Leitung wiederholt jedes Byte; prüfen, ob das Kabel am Organiser endet und seine Adern sich nicht berühren.</translation>
+    </message>
+    <message>
+        <source>A modem is on the line, not an Organiser: it answers AT.</source>
+        <translation>An der Leitung ist ein Modem, kein Organiser: es antwortet auf AT.</translation>
+    </message>
+    <message>
+        <source>Connect the Organiser&apos;s cable to this port, or choose the port that it is connected to.</source>
+        <translation>Das Kabel des Organisers an diesen Anschluss stecken oder den Anschluss wählen, an dem es steckt.</translation>
+    </message>
+    <message>
+        <source>The Organiser speaks at another rate than the server.</source>
+        <translation>Der Organiser spricht mit einer anderen Geschwindigkeit als der Server.</translation>
+    </message>
+    <message>
+        <source>Set BAUD in the Organiser&apos;s COMMS/SETUP menu to the server&apos;s rate, or the server to the Organiser&apos;s.</source>
+        <translation>BAUD im Menü COMMS/SETUP des Organisers auf die Geschwindigkeit des Servers stellen, oder den Server auf die des Organisers.</translation>
+    </message>
+    <message>
+        <source>The Organiser uses another parity or number of bits than the server.</source>
+        <translation>Der Organiser verwendet eine andere Parität oder Zahl von Bits als der Server.</translation>
+    </message>
+    <message>
+        <source>Set PARITY to NONE, BITS to 8 and STOP to 1 in the Organiser&apos;s COMMS/SETUP menu.</source>
+        <translation>Im Menü COMMS/SETUP des Organisers PARITY auf NONE, BITS auf 8 und STOP auf 1 stellen.</translation>
+    </message>
+    <message>
+        <source>The Organiser speaks, but not the protocol of the server.</source>
+        <translation>Der Organiser spricht, aber nicht das Protokoll des Servers.</translation>
+    </message>
+    <message>
+        <source>Set PROTOCOL to PSION in the Organiser&apos;s COMMS/SETUP menu.</source>
+        <translation>PROTOCOL im Menü COMMS/SETUP des Organisers auf PSION stellen.</translation>
+    </message>
+    <message>
+        <source>Only nulls come: the line is held low.</source>
+        <translation>Es kommen nur Nullen: die Leitung liegt fest auf Null.</translation>
+    </message>
+    <message>
+        <source>Check the plug for bent or touching pins, and try another cable.</source>
+        <translation>Den Stecker auf verbogene oder sich berührende Stifte prüfen und ein anderes Kabel versuchen.</translation>
+    </message>
+    <message>
+        <source>The line is interrupted again and again while bytes come.</source>
+        <translation>Die Leitung wird immer wieder unterbrochen, während Bytes kommen.</translation>
+    </message>
+    <message>
+        <source>Push the plugs home at both ends; if that does not help, try another cable.</source>
+        <translation>Die Stecker an beiden Enden fest einstecken; hilft das nicht, ein anderes Kabel versuchen.</translation>
+    </message>
+    <message>
+        <source>Bytes arrive damaged.</source>
+        <translation>Bytes kommen beschädigt an.</translation>
+    </message>
+    <message>
+        <source>Use a shorter cable away from power supplies, check its ground wire, or set a lower rate on both sides.</source>
+        <translation>Ein kürzeres Kabel fern von Netzteilen verwenden, seine Masseader prüfen oder auf beiden Seiten eine kleinere Geschwindigkeit wählen.</translation>
+    </message>
+    <message>
+        <source>The Organiser answers, but not every time.</source>
+        <translation>Der Organiser antwortet, aber nicht jedes Mal.</translation>
+    </message>
+    <message>
+        <source>Push the plugs home at both ends, and plug the adapter in directly at the computer.</source>
+        <translation>Die Stecker an beiden Enden fest einstecken und den Adapter direkt an den Computer stecken.</translation>
+    </message>
+    <message>
+        <source>The Organiser&apos;s answers come too late for the server.</source>
+        <translation>Die Antworten des Organisers kommen für den Server zu spät.</translation>
+    </message>
+    <message>
+        <source>Plug the adapter in directly at the computer, and leave out hubs, networks and radio links on the way.</source>
+        <translation>Den Adapter direkt an den Computer stecken, ohne Hubs, Netze und Funkstrecken dazwischen.</translation>
+    </message>
+    <message>
+        <source>The Organiser calls, but does not hear what is sent to it.</source>
+        <translation>Der Organiser ruft an, hört aber nicht, was ihm gesendet wird.</translation>
+    </message>
+    <message>
+        <source>Check the wire from pin 3 of the computer&apos;s plug to the Organiser, and that PARITY is NONE there; try another cable.</source>
+        <translation>Die Ader von Stift 3 des Computersteckers zum Organiser prüfen, und ob dort PARITY auf NONE steht; ein anderes Kabel versuchen.</translation>
+    </message>
+    <message>
+        <source>Nothing comes, and no line of the plug is on.</source>
+        <translation>Es kommt nichts, und keine Leitung des Steckers ist an.</translation>
+    </message>
+    <message>
+        <source>Plug the cable in at both ends, and switch the Organiser on.</source>
+        <translation>Das Kabel an beiden Enden einstecken und den Organiser einschalten.</translation>
+    </message>
+    <message>
+        <source>Nothing comes from the Organiser.</source>
+        <translation>Vom Organiser kommt nichts.</translation>
+    </message>
+    <message>
+        <source>Start a transfer on the Organiser; if it says that it waits, check the cable: join pins 2 and 3 at the Organiser&apos;s end and check again.</source>
+        <translation>Auf dem Organiser eine Übertragung starten; wenn er wartet, das Kabel prüfen: am Ende des Organisers die Stifte 2 und 3 verbinden und erneut prüfen.</translation>
+    </message>
+    <message>
+        <source>%7 of %8</source>
+        <translation>%7 von %8</translation>
+    </message>
+    <message>
+        <source>%8 bytes/s</source>
+        <translation>%8 Bytes/s</translation>
+    </message>
+    <message>
+        <source>and %8 more</source>
+        <translation>und %8 weitere</translation>
+    </message>
+    <message>
+        <source>The Organiser uses %8 baud.</source>
+        <translation>Der Organiser verwendet %8 Baud.</translation>
+    </message>
+    <message>
+        <source>the runtime libraries of GCC: GPL 3 with the GCC Runtime Library Exception</source>
+        <translation>die Laufzeitbibliotheken von GCC: GPL 3 mit der GCC Runtime Library Exception</translation>
+    </message>
+    <message>
+        <source>the runtime of mingw-w64: public domain and permissive licences</source>
+        <translation>die Laufzeit von mingw-w64: gemeinfrei und freizügige Lizenzen</translation>
+    </message>
+    <message>
+        <source>the GNU C library: LGPL 2.1 or later</source>
+        <translation>die GNU-C-Bibliothek: LGPL 2.1 oder neuer</translation>
+    </message>
+    <message>
+        <source>%1: LGPL 2.1 or later</source>
+        <translation>%1: LGPL 2.1 oder neuer</translation>
+    </message>
+    <message>
+        <source>Their texts are in the folder licences beside the program.</source>
+        <translation>Ihre Texte liegen im Ordner licences neben dem Programm.</translation>
+    </message>
+    <message>
+        <source>%8 baud</source>
+        <translation>%8 Baud</translation>
+    </message>
+    <message>
+        <source>The device is set to %8 baud.</source>
+        <translation>Das Gerät ist auf %8 Baud eingestellt.</translation>
+    </message>
+    <message>
+        <source>The Organiser uses %7 baud, and the server %8 baud.</source>
+        <translation>Der Organiser verwendet %7 Baud, der Server %8 Baud.</translation>
+    </message>
+</context>
+<context>
     <name>DesktopDialogs</name>
     <message>
         <source>The system tells nothing of adapters: the list is looked up twice a second.</source>

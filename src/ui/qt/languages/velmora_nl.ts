@@ -31,6 +31,629 @@ Kies een andere map of naam.</translation>
     </message>
 </context>
 <context>
+    <name>Core</name>
+    <message>
+        <source>COM%1 is available</source>
+        <translation>COM%1 is vrij</translation>
+    </message>
+    <message>
+        <source>COM%1 is used (modem)</source>
+        <translation>COM%1 is bezet (modem)</translation>
+    </message>
+    <message>
+        <source>COM%1 is used (device)</source>
+        <translation>COM%1 is bezet (apparaat)</translation>
+    </message>
+    <message>
+        <source>COM%1 is in use</source>
+        <translation>COM%1 is in gebruik</translation>
+    </message>
+    <message>
+        <source>COM%1 is not accessible</source>
+        <translation>COM%1 is niet toegankelijk</translation>
+    </message>
+    <message>
+        <source>COM%1 reports error</source>
+        <translation>COM%1 meldt een fout</translation>
+    </message>
+    <message>
+        <source>Port %1 is used by a modem!</source>
+        <translation>Poort %1 wordt door een modem gebruikt!</translation>
+    </message>
+    <message>
+        <source>Port %1 is used by a device!</source>
+        <translation>Poort %1 wordt door een apparaat gebruikt!</translation>
+    </message>
+    <message>
+        <source>Port %1 is in use by another application!</source>
+        <translation>Poort %1 wordt door een ander programma gebruikt!</translation>
+    </message>
+    <message>
+        <source>Port %1 is not accessible!</source>
+        <translation>Poort %1 is niet toegankelijk!</translation>
+    </message>
+    <message>
+        <source>Port %1 open error!</source>
+        <translation>Poort %1 kan niet worden geopend!</translation>
+    </message>
+    <message>
+        <source>No port selected!</source>
+        <translation>Geen poort gekozen!</translation>
+    </message>
+    <message>
+        <source>%1 does not exist; is the adapter plugged in, and is it the right port?</source>
+        <translation>%1 bestaat niet; is de adapter aangesloten, en is het de juiste poort?</translation>
+    </message>
+    <message>
+        <source>%1 has no serial hardware behind it; choose another port.</source>
+        <translation>Achter %1 zit geen seriële poort; kies een andere.</translation>
+    </message>
+    <message>
+        <source>%1 does not respond; is the adapter still plugged in?</source>
+        <translation>%1 reageert niet; is de adapter nog aangesloten?</translation>
+    </message>
+    <message>
+        <source>%1 is not a serial port.</source>
+        <translation>%1 is geen seriële poort.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be opened.</source>
+        <translation>%1 kan niet worden geopend.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be opened: error %2.</source>
+        <translation>%1 kan niet worden geopend: fout %2.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be opened: %2</source>
+        <translation>%1 kan niet worden geopend: %2</translation>
+    </message>
+    <message>
+        <source>%1 does not take these line settings; choose another speed.</source>
+        <translation>%1 neemt deze instellingen niet aan; kies een andere snelheid.</translation>
+    </message>
+    <message>
+        <source>%1 is in use by another program.</source>
+        <translation>%1 wordt door een ander programma gebruikt.</translation>
+    </message>
+    <message>
+        <source>%1 is in use by %2.</source>
+        <translation>%1 wordt door %2 gebruikt.</translation>
+    </message>
+    <message>
+        <source>No permission to open %1, which belongs to user %2 and group %3; the group may not open it either.</source>
+        <translation>Geen rechten om %1 te openen (gebruiker %2, groep %3); de groep mag het ook niet.</translation>
+    </message>
+    <message>
+        <source>No permission to open %1, which belongs to user %2 and group %3; %4 is in that group, so something else forbids it.</source>
+        <translation>Geen rechten om %1 te openen (gebruiker %2, groep %3); %4 zit in die groep, dus iets anders verbiedt het.</translation>
+    </message>
+    <message>
+        <source>No permission to open %1, which belongs to user %2 and group %3; %4 is in that group from the next login on: log out and in again.</source>
+        <translation>Geen rechten om %1 te openen (gebruiker %2, groep %3); %4 zit vanaf de volgende aanmelding in die groep: meld u af en weer aan.</translation>
+    </message>
+    <message>
+        <source>No permission to open %1, which belongs to user %2 and group %3; %4 is not in that group: run &quot;%5&quot;, then log out and in again.</source>
+        <translation>Geen rechten om %1 te openen (gebruiker %2, groep %3); %4 zit niet in die groep: voer ‘%5’ uit en meld u opnieuw aan.</translation>
+    </message>
+    <message>
+        <source>Velmora goes on when it is plugged in again.</source>
+        <translation>Velmora gaat verder zodra hij weer is aangesloten.</translation>
+    </message>
+    <message>
+        <source>Velmora goes on when it is awake again.</source>
+        <translation>Velmora gaat verder zodra de computer weer wakker is.</translation>
+    </message>
+    <message>
+        <source>%1: The computer goes to sleep.</source>
+        <translation>%1: De computer gaat slapen.</translation>
+    </message>
+    <message>
+        <source>%1: The port failed.</source>
+        <translation>%1: De poort is uitgevallen.</translation>
+    </message>
+    <message>
+        <source>%1: The line was cut or the device failed</source>
+        <translation>%1: De lijn is onderbroken of het apparaat is uitgevallen</translation>
+    </message>
+    <message>
+        <source>The transfer is lost.</source>
+        <translation>De overdracht is verloren.</translation>
+    </message>
+    <message>
+        <source>Bytes come that make no frame.</source>
+        <translation>Er komen bytes die geen frame vormen.</translation>
+    </message>
+    <message>
+        <source>Nothing has come for a minute.</source>
+        <translation>Er is al een minuut niets gekomen.</translation>
+    </message>
+    <message>
+        <source>Stop the server; Check cable in Setup finds out why.</source>
+        <translation>Stop de server; ‘Kabel testen’ bij ‘Instellen’ zoekt uit waarom.</translation>
+    </message>
+    <message>
+        <source>The settings could not be saved: %1</source>
+        <translation>De instellingen konden niet worden opgeslagen: %1</translation>
+    </message>
+    <message>
+        <source>The folder is used, but could not be saved for the next start: %1</source>
+        <translation>De map wordt gebruikt, maar kon niet voor de volgende start worden opgeslagen: %1</translation>
+    </message>
+    <message>
+        <source>%1 has less than 100 bytes and is replaced by the default file; it is kept as %2</source>
+        <translation>%1 heeft minder dan 100 bytes en wordt door het standaardbestand vervangen; het is bewaard als %2</translation>
+    </message>
+    <message>
+        <source>The guide is not installed: it should be in %1. On Debian and Ubuntu it comes with the package velmora-doc, on Windows with the installer.</source>
+        <translation>De handleiding is niet geïnstalleerd: ze hoort in %1 te staan. Op Debian en Ubuntu zit ze in het pakket velmora-doc, op Windows in het installatieprogramma.</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Tijd</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Naam</translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation>Richting</translation>
+    </message>
+    <message>
+        <source>Bytes</source>
+        <translation>Bytes</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Duur</translation>
+    </message>
+    <message>
+        <source>Rate</source>
+        <translation>Snelheid</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Resultaat</translation>
+    </message>
+    <message>
+        <source>save</source>
+        <translation>opslaan</translation>
+    </message>
+    <message>
+        <source>load</source>
+        <translation>laden</translation>
+    </message>
+    <message>
+        <source>complete</source>
+        <translation>volledig</translation>
+    </message>
+    <message>
+        <source>complete, 1 formula changed</source>
+        <translation>volledig, 1 formule gewijzigd</translation>
+    </message>
+    <message>
+        <source>complete, %1 formulas changed</source>
+        <translation>volledig, %1 formules gewijzigd</translation>
+    </message>
+    <message>
+        <source>incomplete: %9</source>
+        <translation>onvolledig: %9</translation>
+    </message>
+    <message>
+        <source>refused: %9</source>
+        <translation>geweigerd: %9</translation>
+    </message>
+    <message>
+        <source>under way</source>
+        <translation>bezig</translation>
+    </message>
+    <message>
+        <source>under way, %1 %, %2 left</source>
+        <translation>bezig, %1 %, nog %2</translation>
+    </message>
+    <message>
+        <source>under way, %1 %</source>
+        <translation>bezig, %1 %</translation>
+    </message>
+    <message>
+        <source>record too long</source>
+        <translation>record te lang</translation>
+    </message>
+    <message>
+        <source>disk full</source>
+        <translation>schijf vol</translation>
+    </message>
+    <message>
+        <source>file exists</source>
+        <translation>bestand bestaat al</translation>
+    </message>
+    <message>
+        <source>no such file</source>
+        <translation>geen bestand met die naam</translation>
+    </message>
+    <message>
+        <source>invalid request</source>
+        <translation>ongeldige aanvraag</translation>
+    </message>
+    <message>
+        <source>file in use</source>
+        <translation>bestand in gebruik</translation>
+    </message>
+    <message>
+        <source>end of file</source>
+        <translation>einde van het bestand</translation>
+    </message>
+    <message>
+        <source>not possible</source>
+        <translation>niet mogelijk</translation>
+    </message>
+    <message>
+        <source>record too long (%1)</source>
+        <translation>record te lang (%1)</translation>
+    </message>
+    <message>
+        <source>disk full (%1)</source>
+        <translation>schijf vol (%1)</translation>
+    </message>
+    <message>
+        <source>file exists (%1)</source>
+        <translation>bestand bestaat al (%1)</translation>
+    </message>
+    <message>
+        <source>no such file (%1)</source>
+        <translation>geen bestand met die naam (%1)</translation>
+    </message>
+    <message>
+        <source>invalid request (%1)</source>
+        <translation>ongeldige aanvraag (%1)</translation>
+    </message>
+    <message>
+        <source>file in use (%1)</source>
+        <translation>bestand in gebruik (%1)</translation>
+    </message>
+    <message>
+        <source>end of file (%1)</source>
+        <translation>einde van het bestand (%1)</translation>
+    </message>
+    <message>
+        <source>not possible (%1)</source>
+        <translation>niet mogelijk (%1)</translation>
+    </message>
+    <message>
+        <source>Earlier copy: %1</source>
+        <translation>Eerdere kopie: %1</translation>
+    </message>
+    <message>
+        <source>Velmora is free software under the MIT licence: use it, copy it, change it and pass it on. It comes without any warranty.</source>
+        <translation>Velmora is vrije software onder de MIT-licentie: gebruiken, kopiëren, wijzigen en doorgeven mag. Er is geen enkele garantie.</translation>
+    </message>
+    <message>
+        <source>Libraries</source>
+        <translation>Bibliotheken</translation>
+    </message>
+    <message>
+        <source>Places</source>
+        <translation>Locaties</translation>
+    </message>
+    <message>
+        <source>Settings: %1</source>
+        <translation>Instellingen: %1</translation>
+    </message>
+    <message>
+        <source>Download folder: %1</source>
+        <translation>Downloadmap: %1</translation>
+    </message>
+    <message>
+        <source>Earlier copies: %1</source>
+        <translation>Eerdere kopieën: %1</translation>
+    </message>
+    <message>
+        <source>List of transfers: %1</source>
+        <translation>Lijst van overdrachten: %1</translation>
+    </message>
+    <message>
+        <source>ok</source>
+        <translation>goed</translation>
+    </message>
+    <message>
+        <source>note</source>
+        <translation>opmerking</translation>
+    </message>
+    <message>
+        <source>FAULT</source>
+        <translation>FOUT</translation>
+    </message>
+    <message>
+        <source>The check was stopped.</source>
+        <translation>De test is gestopt.</translation>
+    </message>
+    <message>
+        <source>%1 is there and may be opened.</source>
+        <translation>%1 is er en mag worden geopend.</translation>
+    </message>
+    <message>
+        <source>%1, driver %2.</source>
+        <translation>%1, stuurprogramma %2.</translation>
+    </message>
+    <message>
+        <source>The device does not tell what it is set to.</source>
+        <translation>Het apparaat vertelt niet hoe het is ingesteld.</translation>
+    </message>
+    <message>
+        <source>The system does not tell what is behind the port.</source>
+        <translation>Het systeem vertelt niet wat er achter de poort zit.</translation>
+    </message>
+    <message>
+        <source>The device has no modem lines.</source>
+        <translation>Het apparaat heeft geen modemlijnen.</translation>
+    </message>
+    <message>
+        <source>No line is on: nothing is connected or switched on, or the cable has only three wires.</source>
+        <translation>Geen lijn staat aan: er is niets aangesloten of ingeschakeld, of de kabel heeft maar drie draden.</translation>
+    </message>
+    <message>
+        <source>%1 on: something is connected and switched on at the other end.</source>
+        <translation>%1 aan: aan het andere eind is iets aangesloten en ingeschakeld.</translation>
+    </message>
+    <message>
+        <source>What is sent does not come back.</source>
+        <translation>Wat verzonden wordt, komt niet terug.</translation>
+    </message>
+    <message>
+        <source>What is sent comes back.</source>
+        <translation>Wat verzonden wordt, komt terug.</translation>
+    </message>
+    <message>
+        <source>%1 bytes came that make no frame.</source>
+        <translation>Er kwamen %1 bytes die geen frame vormen.</translation>
+    </message>
+    <message>
+        <source>The Organiser is heard.</source>
+        <translation>De Organiser is te horen.</translation>
+    </message>
+    <message>
+        <source>Nothing comes.</source>
+        <translation>Er komt niets.</translation>
+    </message>
+    <message>
+        <source>Something answers AT with OK.</source>
+        <translation>Iets beantwoordt AT met OK.</translation>
+    </message>
+    <message>
+        <source>Nothing answers AT.</source>
+        <translation>Niets beantwoordt AT.</translation>
+    </message>
+    <message>
+        <source>No frames come at other rates either.</source>
+        <translation>Ook met andere snelheden komen er geen frames.</translation>
+    </message>
+    <message>
+        <source>Other parities do not help.</source>
+        <translation>Andere pariteiten helpen niet.</translation>
+    </message>
+    <message>
+        <source>The device has no parity to be tried.</source>
+        <translation>Het apparaat heeft geen pariteit om te proberen.</translation>
+    </message>
+    <message>
+        <source>The link comes up: %1 of %2 requests were answered.</source>
+        <translation>De verbinding komt tot stand: %1 van %2 aanvragen werden beantwoord.</translation>
+    </message>
+    <message>
+        <source>The line is well.</source>
+        <translation>De lijn is in orde.</translation>
+    </message>
+    <message>
+        <source>There is no such port.</source>
+        <translation>Deze poort bestaat niet.</translation>
+    </message>
+    <message>
+        <source>Plug the adapter in, or choose another port.</source>
+        <translation>Sluit de adapter aan of kies een andere poort.</translation>
+    </message>
+    <message>
+        <source>This login may not open the port.</source>
+        <translation>Deze aanmelding mag de poort niet openen.</translation>
+    </message>
+    <message>
+        <source>Join the group that owns the device, and log in again.</source>
+        <translation>Word lid van de groep van het apparaat en meld u opnieuw aan.</translation>
+    </message>
+    <message>
+        <source>Another program has the port open.</source>
+        <translation>Een ander programma heeft de poort open.</translation>
+    </message>
+    <message>
+        <source>End that program, or stop the server, and check again.</source>
+        <translation>Sluit dat programma of stop de server, en test opnieuw.</translation>
+    </message>
+    <message>
+        <source>The device does not take the rate, or keeps other settings than it was given.</source>
+        <translation>Het apparaat neemt de snelheid niet aan of houdt andere instellingen dan gevraagd.</translation>
+    </message>
+    <message>
+        <source>Use another adapter, or install the driver that belongs to its chip.</source>
+        <translation>Gebruik een andere adapter of installeer het stuurprogramma van de chip.</translation>
+    </message>
+    <message>
+        <source>The device fails: its driver reports errors, or it went away.</source>
+        <translation>Het apparaat valt uit: het stuurprogramma meldt fouten, of het is verdwenen.</translation>
+    </message>
+    <message>
+        <source>Plug the adapter in again, directly at the computer, and try another one.</source>
+        <translation>Sluit de adapter opnieuw aan, direct op de computer, en probeer een andere.</translation>
+    </message>
+    <message>
+        <source>Nothing comes, and the adapter&apos;s chip is a copy that its driver refuses.</source>
+        <translation>Er komt niets, en de chip van de adapter is een kopie die het stuurprogramma weigert.</translation>
+    </message>
+    <message>
+        <source>Use an adapter with a genuine chip, or install an older driver.</source>
+        <translation>Gebruik een adapter met een echte chip of installeer een ouder stuurprogramma.</translation>
+    </message>
+    <message>
+        <source>Everything that is sent comes back, at every rate: pins 2 and 3 are joined.</source>
+        <translation>Alles wat verzonden wordt komt terug, bij elke snelheid: pen 2 en 3 zijn verbonden.</translation>
+    </message>
+    <message>
+        <source>The adapter and the cable are well as far as the joint; remove it and connect the Organiser.</source>
+        <translation>Adapter en kabel zijn goed tot aan de verbinding; verwijder die en sluit de Organiser aan.</translation>
+    </message>
+    <message>
+        <source>What is sent comes back, and nothing else does.</source>
+        <translation>Wat verzonden wordt komt terug, en niets anders.</translation>
+    </message>
+    <message>
+        <source>Something on the line repeats every byte; check that the cable ends at the Organiser, and that its wires do not touch.</source>
+        <translation>Iets op de lijn herhaalt elke byte; controleer of de kabel bij de Organiser eindigt en of de draden elkaar niet raken.</translation>
+    </message>
+    <message>
+        <source>A modem is on the line, not an Organiser: it answers AT.</source>
+        <translation>Er zit een modem op de lijn, geen Organiser: het beantwoordt AT.</translation>
+    </message>
+    <message>
+        <source>Connect the Organiser&apos;s cable to this port, or choose the port that it is connected to.</source>
+        <translation>Sluit de kabel van de Organiser op deze poort aan, of kies de poort waarop hij zit.</translation>
+    </message>
+    <message>
+        <source>The Organiser speaks at another rate than the server.</source>
+        <translation>De Organiser spreekt met een andere snelheid dan de server.</translation>
+    </message>
+    <message>
+        <source>Set BAUD in the Organiser&apos;s COMMS/SETUP menu to the server&apos;s rate, or the server to the Organiser&apos;s.</source>
+        <translation>Zet BAUD in het menu COMMS/SETUP van de Organiser op de snelheid van de server, of de server op die van de Organiser.</translation>
+    </message>
+    <message>
+        <source>The Organiser uses another parity or number of bits than the server.</source>
+        <translation>De Organiser gebruikt een andere pariteit of een ander aantal bits dan de server.</translation>
+    </message>
+    <message>
+        <source>Set PARITY to NONE, BITS to 8 and STOP to 1 in the Organiser&apos;s COMMS/SETUP menu.</source>
+        <translation>Zet in het menu COMMS/SETUP van de Organiser PARITY op NONE, BITS op 8 en STOP op 1.</translation>
+    </message>
+    <message>
+        <source>The Organiser speaks, but not the protocol of the server.</source>
+        <translation>De Organiser spreekt, maar niet het protocol van de server.</translation>
+    </message>
+    <message>
+        <source>Set PROTOCOL to PSION in the Organiser&apos;s COMMS/SETUP menu.</source>
+        <translation>Zet PROTOCOL in het menu COMMS/SETUP van de Organiser op PSION.</translation>
+    </message>
+    <message>
+        <source>Only nulls come: the line is held low.</source>
+        <translation>Er komen alleen nullen: de lijn wordt laag gehouden.</translation>
+    </message>
+    <message>
+        <source>Check the plug for bent or touching pins, and try another cable.</source>
+        <translation>Controleer de stekker op gebogen of rakende pennen, en probeer een andere kabel.</translation>
+    </message>
+    <message>
+        <source>The line is interrupted again and again while bytes come.</source>
+        <translation>De lijn wordt telkens onderbroken terwijl er bytes komen.</translation>
+    </message>
+    <message>
+        <source>Push the plugs home at both ends; if that does not help, try another cable.</source>
+        <translation>Druk de stekkers aan beide kanten goed vast; helpt dat niet, probeer een andere kabel.</translation>
+    </message>
+    <message>
+        <source>Bytes arrive damaged.</source>
+        <translation>Bytes komen beschadigd aan.</translation>
+    </message>
+    <message>
+        <source>Use a shorter cable away from power supplies, check its ground wire, or set a lower rate on both sides.</source>
+        <translation>Gebruik een kortere kabel, uit de buurt van voedingen, controleer de massadraad, of kies aan beide kanten een lagere snelheid.</translation>
+    </message>
+    <message>
+        <source>The Organiser answers, but not every time.</source>
+        <translation>De Organiser antwoordt, maar niet elke keer.</translation>
+    </message>
+    <message>
+        <source>Push the plugs home at both ends, and plug the adapter in directly at the computer.</source>
+        <translation>Druk de stekkers aan beide kanten goed vast en sluit de adapter direct op de computer aan.</translation>
+    </message>
+    <message>
+        <source>The Organiser&apos;s answers come too late for the server.</source>
+        <translation>De antwoorden van de Organiser komen te laat voor de server.</translation>
+    </message>
+    <message>
+        <source>Plug the adapter in directly at the computer, and leave out hubs, networks and radio links on the way.</source>
+        <translation>Sluit de adapter direct op de computer aan, zonder hubs, netwerken of radioverbindingen ertussen.</translation>
+    </message>
+    <message>
+        <source>The Organiser calls, but does not hear what is sent to it.</source>
+        <translation>De Organiser roept, maar hoort niet wat hem gezonden wordt.</translation>
+    </message>
+    <message>
+        <source>Check the wire from pin 3 of the computer&apos;s plug to the Organiser, and that PARITY is NONE there; try another cable.</source>
+        <translation>Controleer de draad van pen 3 van de computerstekker naar de Organiser, en of PARITY daar op NONE staat; probeer een andere kabel.</translation>
+    </message>
+    <message>
+        <source>Nothing comes, and no line of the plug is on.</source>
+        <translation>Er komt niets, en geen lijn van de stekker staat aan.</translation>
+    </message>
+    <message>
+        <source>Plug the cable in at both ends, and switch the Organiser on.</source>
+        <translation>Sluit de kabel aan beide kanten aan en zet de Organiser aan.</translation>
+    </message>
+    <message>
+        <source>Nothing comes from the Organiser.</source>
+        <translation>Er komt niets van de Organiser.</translation>
+    </message>
+    <message>
+        <source>Start a transfer on the Organiser; if it says that it waits, check the cable: join pins 2 and 3 at the Organiser&apos;s end and check again.</source>
+        <translation>Start een overdracht op de Organiser; blijft hij wachten, controleer dan de kabel: verbind pen 2 en 3 aan de kant van de Organiser en test opnieuw.</translation>
+    </message>
+    <message>
+        <source>%7 of %8</source>
+        <translation>%7 van %8</translation>
+    </message>
+    <message>
+        <source>%8 bytes/s</source>
+        <translation>%8 bytes/s</translation>
+    </message>
+    <message>
+        <source>and %8 more</source>
+        <translation>en nog %8</translation>
+    </message>
+    <message>
+        <source>The Organiser uses %8 baud.</source>
+        <translation>De Organiser gebruikt %8 baud.</translation>
+    </message>
+    <message>
+        <source>the runtime libraries of GCC: GPL 3 with the GCC Runtime Library Exception</source>
+        <translation>de runtimebibliotheken van GCC: GPL 3 met de GCC Runtime Library Exception</translation>
+    </message>
+    <message>
+        <source>the runtime of mingw-w64: public domain and permissive licences</source>
+        <translation>de runtime van mingw-w64: publiek domein en ruime licenties</translation>
+    </message>
+    <message>
+        <source>the GNU C library: LGPL 2.1 or later</source>
+        <translation>de GNU C-bibliotheek: LGPL 2.1 of later</translation>
+    </message>
+    <message>
+        <source>%1: LGPL 2.1 or later</source>
+        <translation>%1: LGPL 2.1 of later</translation>
+    </message>
+    <message>
+        <source>Their texts are in the folder licences beside the program.</source>
+        <translation>De teksten ervan staan in de map licences naast het programma.</translation>
+    </message>
+    <message>
+        <source>%8 baud</source>
+        <translation>%8 baud</translation>
+    </message>
+    <message>
+        <source>The device is set to %8 baud.</source>
+        <translation>Het apparaat is ingesteld op %8 baud.</translation>
+    </message>
+    <message>
+        <source>The Organiser uses %7 baud, and the server %8 baud.</source>
+        <translation>De Organiser gebruikt %7 baud, en de server %8 baud.</translation>
+    </message>
+</context>
+<context>
     <name>DesktopDialogs</name>
     <message>
         <source>The system tells nothing of adapters: the list is looked up twice a second.</source>
