@@ -82,7 +82,7 @@ class frmDebug : public QWidget, private DebugLogView {
     DebugLogModel model_;
     LogLines lines_;
     std::vector<LogLines::Line> waiting_;
-    QTimer flushTimer_;
+    QTimer flushTimer_{this};
     bool toggled_ = false;  // the press that goes on has toggled its box
     QAction* mnuSaveCapture = nullptr;
     LogView* txtLog = nullptr;

@@ -41,7 +41,7 @@ class TransferTable : public QAbstractTableModel, private TransferListView {
     std::size_t listRow(int row) const { return static_cast<std::size_t>(row) + added_; }
 
     TransferList& list_;
-    QTimer timer_;
+    QTimer timer_{this};
     bool watched_ = false;
     std::size_t added_ = 0;  // transfers that are not in the table yet
     int rows_ = 0;

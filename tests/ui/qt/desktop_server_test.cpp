@@ -2,6 +2,7 @@
 #include "apps/desktop_server.h"
 
 #include <QAbstractButton>
+#include <QAbstractEventDispatcher>
 #include <QClipboard>
 #include <QComboBox>
 #include <QDateTime>
@@ -76,6 +77,7 @@ class DesktopServerTest : public QObject {
     void theEndOfTheProgramEndsACheckOfTheCable();
     void displayStatisticsAndFileAgree();
     void aTransferIsListedAndRememberedOverStarts();
+    void noTimerOfAWindowTicksWhileNothingMoves();
     void theMonitorSavesWhatPassedOverTheLine();
     void theReportHasWhatPassedOverTheLineWithoutItsContents();
     void cablePulledAmidAFileLosesItWhateverTheUserAnswers_data();
@@ -116,6 +118,19 @@ class DesktopServerTest : public QObject {
             }
         }
         return nullptr;
+    }
+    /// What in the windows waits for a time.
+    static QStringList waitingForATime() {
+        QStringList names;
+        for (const QWidget* window : QApplication::topLevelWidgets()) {
+            for (QObject* part : window->findChildren<QObject*>()) {
+                if (!QAbstractEventDispatcher::instance()->registeredTimers(part).isEmpty()) {
+                    names.append(window->objectName() + QLatin1String(": ") +
+                                 QLatin1String(part->parent()->metaObject()->className()));
+                }
+            }
+        }
+        return names;
     }
     static QWidget* transfers() { return windowCalled("frmTransfers"); }
     static void press(QWidget& window, Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
@@ -489,6 +504,21 @@ void DesktopServerTest::aTransferIsListedAndRememberedOverStarts() {
     server = std::make_unique<DesktopServer>();
     QCOMPARE(transferText(TransferList::Name), QStringLiteral("Notes.ob2"));
     QCOMPARE(transferText(TransferList::Time), began);
+    cable.closeWriteChannel();
+    QTRY_COMPARE(cable.state(), QProcess::NotRunning);
+}
+
+void DesktopServerTest::noTimerOfAWindowTicksWhileNothingMoves() {
+    layCable();
+    QVERIFY(server->start(""));
+    press(server->window(), Qt::Key_T, Qt::ControlModifier);
+    press(server->window(), Qt::Key_D, Qt::ControlModifier);
+    startSaving(3000);
+    QTRY_VERIFY(!waitingForATime().isEmpty());
+    QTRY_COMPARE_WITH_TIMEOUT(organiser.state(), QProcess::NotRunning, 30'000);
+    QTRY_COMPARE(transferText(TransferList::Result), QStringLiteral("complete"));
+    server->controller().pbStartStop_Click();
+    QTRY_COMPARE(waitingForATime(), QStringList());
     cable.closeWriteChannel();
     QTRY_COMPARE(cable.state(), QProcess::NotRunning);
 }
