@@ -6,6 +6,9 @@
 # The translations are written with Qt's Linguist, or any editor.
 set -euo pipefail
 cd "$(dirname "$0")/.."
+if [[ "${1:-}" != --check ]]; then
+  scripts/setup.sh
+fi
 lupdate=$(PATH=$PATH:/usr/lib/qt6/bin type -p lupdate) || { echo "translate.sh: lupdate is missing: scripts/setup.sh" >&2; exit 1; }
 
 # Without places, so that a line more in a source changes no translation.
