@@ -62,8 +62,12 @@ std::string writeFixedText(const SheetGrid& sheet, const NumberLocale& locale) {
     const std::vector<std::size_t> widths = columnWidths(sheet, locale);
     return writeRows(sheet, locale,
                      [&](std::string& out, const Cell& cell, const std::string& text, std::size_t column) {
-                         const std::string padding(widths[column] - text.size(), ' ');
-                         out += isNumber(cell) ? text + padding + ' ' : ' ' + padding + text;
+                         const std::size_t padding = widths[column] - text.size();
+                         if (isNumber(cell)) {
+                             out.append(text).append(padding + 1, ' ');
+                         } else {
+                             out.append(padding + 1, ' ').append(text);
+                         }
                      });
 }
 
