@@ -19,7 +19,8 @@ if(VELMORA_SANITIZE)
 endif()
 if(VELMORA_FUZZ)
   target_compile_options(velmora_flags INTERFACE
-    -fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=undefined)
+    -fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=undefined
+    -fsanitize-coverage-ignorelist=${CMAKE_SOURCE_DIR}/fuzz/uncounted.txt)
   target_link_options(velmora_flags INTERFACE -fsanitize=address,undefined)
 endif()
 
