@@ -1,7 +1,9 @@
 // velmora-doctor: finds out why a line does not work.
+#include <cstdint>
 #include <iostream>
 #include <string>
 
+#include "apps/configured_rate.h"
 #include "apps/console.h"
 #include "arguments/program.h"
 #include "base/event_yield.h"
@@ -10,6 +12,7 @@
 #include "doctor/port_examination.h"
 #include "platform/console_output.h"
 #include "platform/native.h"
+#include "serial/mode_string.h"
 #include "serial/named_port.h"
 #include "serial/port_list.h"
 
@@ -23,10 +26,10 @@ class PrintedFindings : public StepObserver {
     void found(const StepFinding& finding) override { std::cout << findingLine(finding) << std::endl; }
 };
 
-Diagnosis examine(PortNames& names, const std::string& port, StepObserver* observer) {
+Diagnosis examine(PortNames& names, const std::string& port, std::uint32_t rate, StepObserver* observer) {
     const NativeClock clock;
     NoEvents noEvents;
-    return examinePort({names, placeNamedPort(names, port), port, {}},
+    return examinePort({names, placeNamedPort(names, port), port, LineSettings{rate}},
                        {noEvents, [&clock] { return clock.monotonic(); }, observer});
 }
 
@@ -39,11 +42,12 @@ int run(const DoctorArguments& arguments) {
     PortNames names;
     const std::string port = arguments.port.empty() ? onlyPort(listPorts(names)) : arguments.port;
     PrintedFindings printed;
+    const std::uint32_t rate = configuredRate(std::cerr);
     if (!arguments.json && !port.empty()) {
-        std::cout << "Examining " << port << ", which takes up to a minute.\n";
+        std::cout << "Examining " << port << " at " << rate << " baud, which takes up to a minute.\n";
     }
     const Diagnosis diagnosis =
-        port.empty() ? noPort() : examine(names, port, arguments.json ? nullptr : &printed);
+        port.empty() ? noPort() : examine(names, port, rate, arguments.json ? nullptr : &printed);
     std::cout << (arguments.json ? diagnosisAsJson(port, diagnosis) : verdictText(diagnosis.verdict));
     return diagnosis.verdict.cause == Cause::None ? kStatusDone : kStatusFailed;
 }

@@ -16,7 +16,8 @@ class DoctorSyntax : public ProgramSyntax {
         : ProgramSyntax("velmora-doctor",
                         "Finds out why the Organiser is not heard: looks at the port, sends link requests as "
                         "the server does, listens at all usual rates, and says what is wrong and what helps. "
-                        "Nothing changes on the Organiser. Stop the server before, and start a transfer on "
+                        "Nothing changes on the Organiser. The server's rate is that of the user's "
+                        "Velmora.ini. Stop the server before, and start a transfer on "
                         "the Organiser.") {
         option("--port", "<port>",
                "Serial port, for example COM5, /dev/ttyUSB0 or\nusb:0403:6001:A50285BI (default: the only "

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <filesystem>
 #include <memory>
 #include <ostream>
 #include <string>
@@ -75,6 +76,19 @@ TEST_F(CableDoctorTest, AnotherRateIsNamed) {
     EXPECT_EQ(done.status, 1) << done.error;
     EXPECT_NE(done.output.find("The Organiser uses 1200 baud, and the server 9600 baud."), std::string::npos)
         << done.output;
+}
+
+TEST_F(CableDoctorTest, TheRateOfTheServersConfigurationIsWell) {
+    const std::filesystem::path configuration = serverSide->configuration(home);
+    std::filesystem::create_directories(configuration.parent_path());
+    // A very short file counts as one that was never written whole.
+    writeFile(configuration, "[Settings]\r\nPort=1\r\nBaud=1200\r\n;" + std::string(100, ' ') + "\r\n");
+    makeIll("rate=1200");
+    letOrganiserCall();
+    const Finished done = doctor();
+    EXPECT_NE(done.output.find(" at 1200 baud, which takes up to a minute.\n"), std::string::npos)
+        << done.output << done.error;
+    expectCause(Cause::None, done);
 }
 
 TEST_F(CableDoctorTest, AModemIsNamed) {
