@@ -59,6 +59,7 @@ DesktopServer::DesktopServer(const RunOverrides& overrides)
     onHelpKey(window_, help_.about(window_, HelpTopic::MainWindow));
     onHelpKey(transfers_.window(), help_.about(transfers_.window(), HelpTopic::Transfers));
     transfers_.follow(program_.core());
+    program_.core().observe(speech_);
     new FileDrop(window_, [this](const std::vector<std::string>& paths) { copyDropped(paths); });
     program_.record(captured_);
     dialogs_.setEnded([this] { return controller().closed(); });

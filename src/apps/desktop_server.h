@@ -18,6 +18,7 @@
 #include "ui/qt/frm_main.h"
 #include "ui/qt/qt_message_box.h"
 #include "ui/qt/window_position.h"
+#include "ui/transfer_speech.h"
 
 namespace velmora {
 
@@ -68,6 +69,7 @@ class DesktopServer {
     frmMain window_;
     QtMessageBox box_;
     DesktopTransfers transfers_;
+    TransferSpeech speech_{[this](const std::string& words) { window_.say(words); }};
     CaptureRing captured_;  // for a fault that is looked into once it has happened
     ServerProgram program_;
     DroppedFiles droppedFiles_;

@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "e2e/support/desktop_fixture.h"
+#include "e2e/support/desktop_session_fixture.h"
 
 namespace velmora::e2e {
 namespace {
@@ -75,23 +75,7 @@ TEST_F(DesktopTest, AProfileHasItsSettingsBesideTheUsualOnes) {
     EXPECT_NE(contentsOf(other).find("AutoStart=True"), std::string::npos);
 }
 
-/// A login session that programs can find each other in.
-class DesktopSessionTest : public DesktopFixture {
-  protected:
-    void SetUp() override {
-        ASSERT_NO_FATAL_FAILURE(DesktopFixture::SetUp());
-        if (serverSide->windows() || IsSkipped()) {
-            return;
-        }
-        const std::string address = "unix:path=" + (home / "session-bus").string();
-        bus = std::make_unique<Process>(std::vector<std::string>{"dbus-daemon", "--session", "--nofork",
-                                                                 "--print-address", "--address=" + address});
-        ASSERT_TRUE(bus->waitForOutput(address)) << bus->error();
-        session["DBUS_SESSION_BUS_ADDRESS"] = address;
-    }
-
-    std::unique_ptr<Process> bus;
-};
+using DesktopSessionTest = DesktopSessionFixture;
 
 TEST_F(DesktopSessionTest, ASecondStartLeavesThePortToTheFirst) {
     writeIni("[OnExit]\r\nAskUser=False\r\nAllowShutdown=True\r\n");

@@ -15,6 +15,7 @@
 
 #include "server/caption.h"
 #include "ui/qt/alert_area.h"
+#include "ui/qt/announcer.h"
 #include "ui/qt/artwork.h"
 #include "ui/qt/core_texts.h"
 #include "ui/qt/debug_switch.h"
@@ -54,6 +55,7 @@ frmMain::frmMain(QWidget* parent) : QWidget(parent) {
     tlProgVers->setObjectName(QStringLiteral("tlProgVers"));
     tlProgVers->setAccessibleName(tr("Version"));
 
+    announcer_ = new Announcer(this);
     makeDisplay();
     makeMessages();
     makeStatistics();
@@ -302,8 +304,13 @@ void frmMain::setDisplayLine(int line, const std::string& text) {
 void frmMain::showStatus(const std::string& text) {
     imgBGround->setToolTip(qtText(text));
     imgBGround->setAccessibleDescription(qtText(text));
+    say(text);
     QAccessibleEvent event(imgBGround, QAccessible::DescriptionChanged);
     QAccessible::updateAccessibility(&event);
+}
+
+void frmMain::say(const std::string& words) {
+    announcer_->say(qtText(words));
 }
 
 // The controller tells by text, captions and buttons what the state means for the window.

@@ -18,6 +18,7 @@ class QShowEvent;
 namespace velmora {
 
 class AlertArea;
+class Announcer;
 class DebugSwitch;
 class DisplayFrame;
 class ElidedLabel;
@@ -64,6 +65,9 @@ class frmMain : public QWidget, public MainView {
     /// A sentence under the messages that says what to do about the warning; it goes with the messages.
     /// In the system's encoding.
     void showAdvice(const std::string& text);
+
+    /// Has a screen reader speak what the window does not show. Words are Windows-1252 bytes.
+    void say(const std::string& words);
 
     // MainView
     void setDisplayLine(int line, const std::string& text) override;
@@ -117,6 +121,7 @@ class frmMain : public QWidget, public MainView {
     DebugSwitch* lblDebug;
     DisplayFrame* imgBGround;
     std::array<LcdLine*, 2> tlDisplay{};
+    Announcer* announcer_;
     AlertArea* messageArea_;
     WarningSign* warningSign_;
     QLabel* tlWarning;

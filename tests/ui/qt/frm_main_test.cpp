@@ -52,6 +52,8 @@ class FrmMainTest : public QObject {
     void noPathMakesTheWindowWide();
     void theWarningSignIsSharpAtEachScale();
     void screenReadersAreToldOfAWindowAndOfEachWarning();
+    void screenReadersAreToldOfEachState();
+    void wordsSaidOneAfterTheOtherAllStayForAWhile();
     void theDebugSwitchStandsOnTheLineOfTheVersion();
     void startAndStopByClickAndKey();
     void setupIsClosedToTheUserWhileTheServerRuns();
@@ -355,6 +357,50 @@ void FrmMainTest::screenReadersAreToldOfAWindowAndOfEachWarning() {
     rig->controller.ShowClear();
     QCOMPARE(shows.count, 2);
     QVERIFY(!area->isVisible());
+}
+
+/// What a widget's announcements say, each as it begins to show.
+class Announcements : public QObject {
+  public:
+    explicit Announcements(QWidget& window) {
+        for (QWidget* area : window.findChildren<QWidget*>(QStringLiteral("announcement"))) {
+            area->installEventFilter(this);
+        }
+    }
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        auto* area = qobject_cast<QWidget*>(watched);
+        if (event->type() == QEvent::Show) {
+            said << area->accessibleName();
+        }
+        return false;
+    }
+
+    QStringList said;
+};
+
+void FrmMainTest::screenReadersAreToldOfEachState() {
+    const Announcements announcements(rig->window);
+    auto* area = rig->window.findChild<QWidget*>(QStringLiteral("announcement"));
+    QCOMPARE(QAccessible::queryAccessibleInterface(area)->role(), QAccessible::AlertMessage);
+    rig->controller.setState(WaitLink);
+    rig->controller.setState(WaitLink);
+    rig->window.say("saved Journal.odb");
+    rig->window.say("saved Journal.odb");
+    rig->window.say("");
+    QCOMPARE(announcements.said,
+             QStringList({QStringLiteral("Waiting for link"), QStringLiteral("saved Journal.odb"),
+                          QStringLiteral("saved Journal.odb")}));
+}
+
+void FrmMainTest::wordsSaidOneAfterTheOtherAllStayForAWhile() {
+    rig->window.say("saved Journal.odb");
+    rig->window.say("Waiting for link");
+    QStringList standing;
+    for (const QWidget* area : rig->window.findChildren<QWidget*>(QStringLiteral("announcement"))) {
+        standing << area->accessibleName();
+    }
+    QVERIFY(standing.contains(QStringLiteral("saved Journal.odb")));
+    QVERIFY(standing.contains(QStringLiteral("Waiting for link")));
 }
 
 void FrmMainTest::theWarningSignIsSharpAtEachScale() {
