@@ -3,8 +3,7 @@
 
 namespace velmora {
 
-/// The text as it is, marked for the files of translations. Whoever shows it looks it up under `context`,
-/// with the toolkit or with a Translator.
+/// The text as it is, marked for the files of translations. Whoever shows it looks it up under `context`.
 constexpr const char* translatable([[maybe_unused]] const char* context, const char* text) {
     return text;
 }
