@@ -47,6 +47,16 @@ QString shownMark(StepStatus status) {
     return words;
 }
 
+/// The marks stand in one column.
+int widestMark(const QFontMetrics& metrics) {
+    int width = 0;
+    for (const StepStatus status :
+         {StepStatus::Well, StepStatus::Noted, StepStatus::Fault, StepStatus::Unknown}) {
+        width = std::max(width, metrics.horizontalAdvance(shownMark(status) + QStringLiteral("  ")));
+    }
+    return width;
+}
+
 }  // namespace
 
 frmCableCheck::frmCableCheck(const std::string& port, const LineSettings& settings,
@@ -76,9 +86,7 @@ void frmCableCheck::build(const std::string& port, const LineSettings& settings)
     tblSteps->verticalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     tblSteps->horizontalHeader()->hide();
     tblSteps->horizontalHeader()->setStretchLastSection(true);
-    tblSteps->setColumnWidth(
-        Mark, fontMetrics().horizontalAdvance(shownMark(StepStatus::Fault) + QStringLiteral("  ")) +
-                  2 * fontMetrics().averageCharWidth());
+    tblSteps->setColumnWidth(Mark, widestMark(fontMetrics()) + 2 * fontMetrics().averageCharWidth());
     pbrBusy = new QProgressBar;
     pbrBusy->setObjectName(QStringLiteral("pbrBusy"));
     pbrBusy->setAccessibleName(tr("The check goes on"));

@@ -9,6 +9,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QTableWidget>
 #include <QTest>
 #include <QXmlStreamReader>
 #include <algorithm>
@@ -289,6 +290,26 @@ class TranslationTest : public QObject {
         for (const QMenu* menu : shown.window().findChildren<QMenu*>()) {
             QCOMPARE(secondOfOneLetter(entriesOf(*menu)), QString());
         }
+    }
+
+    void noMarkOfTheCableCheckIsCutOff_data() { languages(); }
+    void noMarkOfTheCableCheckIsCutOff() {
+        QFETCH(QString, language);
+        const Translation translation(language.toStdString());
+        frmCableCheck check(
+            "/dev/ttyUSB0", LineSettings(), [](StepObserver& observer, const std::function<bool()>&) {
+                for (const StepStatus status :
+                     {StepStatus::Well, StepStatus::Noted, StepStatus::Fault, StepStatus::Unknown}) {
+                    observer.found({DoctorStep::Echo, status, "What is sent comes back."});
+                }
+                return Diagnosis();
+            });
+        check.show();
+        auto* const steps = check.findChild<QTableWidget*>("tblSteps");
+        QTRY_COMPARE(steps->rowCount(), 4);
+        const QAbstractItemView& view = *steps;
+        QVERIFY2(view.sizeHintForColumn(0) <= steps->columnWidth(0),
+                 QByteArray::number(view.sizeHintForColumn(0)));
     }
 
     void buttonsOfTheToolkitSpeakTheLanguage() {

@@ -16,9 +16,9 @@ foreach(language ${languages})
 endforeach()
 file(CONFIGURE OUTPUT ${made}/languages.qrc @ONLY
   CONTENT "<RCC>\n  <qresource prefix=\"/languages\">\n@entries@  </qresource>\n</RCC>\n")
-# Not with AUTORCC, which would look for the files before they are made.
+# Not with AUTORCC, which would look for the files before they are made. The toolkit for Windows has no zstd.
 add_custom_command(OUTPUT ${made}/languages.cpp
-  COMMAND Qt6::rcc --format-version 1 --name languages -o ${made}/languages.cpp ${made}/languages.qrc
+  COMMAND Qt6::rcc --format-version 1 --no-zstd --name languages -o ${made}/languages.cpp ${made}/languages.qrc
   DEPENDS ${compiled} ${made}/languages.qrc
   VERBATIM)
 set_source_files_properties(${made}/languages.cpp PROPERTIES SKIP_AUTOGEN ON)
