@@ -5,12 +5,10 @@
 #include <optional>
 #include <string>
 
-#include "base/profile_name.h"
-
 #ifdef _WIN32
-#include "platform/win32/registry_functions.h"
 #include "ui/registry_win32.h"
 #else
+#include "base/profile_name.h"
 #include "ui/qt/qt_text.h"
 #include "ui/qt/window_position.h"
 #endif
@@ -25,13 +23,11 @@ using NativePositionStore = QtPositionStore;
 
 /// The usual place, or that of a profile, whose name is in the system's encoding.
 inline NativePositionStore positionStore(const std::optional<std::string>& profile) {
-    const auto named = [&profile](const char* usual) {
-        return profile ? profiledName(usual, *profile) : std::string(usual);
-    };
 #ifdef _WIN32
-    return NativePositionStore(named(kSettingsKey));
+    return NativePositionStore(settingsKeyOf(profile));
 #else
-    return {QStringLiteral("Quillbrook"), qtSystemText(named("Velmora"))};
+    return {QStringLiteral("Quillbrook"),
+            qtSystemText(profile ? profiledName("Velmora", *profile) : std::string("Velmora"))};
 #endif
 }
 

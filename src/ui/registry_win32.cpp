@@ -2,9 +2,14 @@
 
 #include <utility>
 
+#include "base/profile_name.h"
 #include "platform/win32/registry_functions.h"
 
 namespace velmora {
+
+std::string settingsKeyOf(const std::optional<std::string>& profile) {
+    return profile ? profiledName(kSettingsKey, *profile) : kSettingsKey;
+}
 
 RegistryStore::RegistryStore(std::string key) : key_(std::move(key)) {}
 

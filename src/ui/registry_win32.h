@@ -8,6 +8,9 @@
 
 namespace velmora {
 
+/// The key that this program keeps its values in, `SOFTWARE\Quillbrook\Velmora`, or that of a profile.
+std::string settingsKeyOf(const std::optional<std::string>& profile);
+
 /// The values of one key below HKEY_CURRENT_USER, by the functions of platform/win32/registry_functions.h.
 class RegistryStore : public WindowPositionStore {
   public:

@@ -25,6 +25,11 @@ class RegistryPosition : public ::testing::Test {
     Registry registry_{store_};
 };
 
+TEST(SettingsKey, AProfileHasAKeyOfItsOwn) {
+    EXPECT_EQ(settingsKeyOf({}), "SOFTWARE\\Quillbrook\\Velmora");
+    EXPECT_EQ(settingsKeyOf("attic"), "SOFTWARE\\Quillbrook\\Velmora-attic");
+}
+
 TEST_F(RegistryPosition, TheFirstStartIsCentred) {
     FakeWindow window;
     registry_.LoadWindowPos(window);
