@@ -16,9 +16,10 @@ tidy() {
   fi
 }
 
-# units FOLDER: what a build compiles of src/: the sources one by one, or files that include several.
+# units FOLDER: what a build compiles of src/, but for what it makes itself: the sources one by one, or files that
+# include several.
 units() {
-  sed -n "s|^ *\"file\": \"\($PWD/\($1/\)\?src/.*\.c[px][px]\)\".*|\1|p" "$1/compile_commands.json" | grep -v _autogen/
+  sed -n "s|^ *\"file\": \"\($PWD/\($1/\)\?src/.*\.c[px][px]\)\".*|\1|p" "$1/compile_commands.json" | grep -v -e _autogen/ -e /generated/
 }
 
 if (($# > 0)); then

@@ -1,6 +1,6 @@
 # The translations of the windows, as resources of the program. scripts/translate.sh keeps their sources up to date.
 set(languages de es fr it nl)
-set(made ${CMAKE_CURRENT_BINARY_DIR}/languages)
+set(made ${CMAKE_CURRENT_BINARY_DIR}/generated)
 set(compiled "")
 set(entries "")
 foreach(language ${languages})
