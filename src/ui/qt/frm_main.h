@@ -100,6 +100,7 @@ class frmMain : public QWidget, public MainView {
     void showEvent(QShowEvent* event) override;
 
   private:
+    static void call(const std::function<void()>& action);
     void makeDisplay();
     void makeMessages();
     void makeStatistics();
