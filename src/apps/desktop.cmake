@@ -7,6 +7,7 @@ velmora_library(desktop_server
     desktop_server.cpp
     desktop_texts.cpp
     desktop_transfers.cpp
+    desktop_tray.cpp
   LIBS velmora_server_program velmora_ui_qt velmora_qt_dialogs velmora_arguments)
 
 add_executable(velmora velmora_main.cpp)

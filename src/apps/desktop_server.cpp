@@ -1,8 +1,9 @@
 #include "apps/desktop_server.h"
 
-#include <QGuiApplication>
+#include <QApplication>
 #include <QSessionManager>
 #include <QWindow>
+#include <utility>
 
 #include "arguments/version.h"
 #include "capture/pcapng_writer.h"
@@ -16,12 +17,23 @@
 #include "ui/qt/qt_text.h"
 
 namespace velmora {
+namespace {
 
-DesktopServer::DesktopServer(const RunOverrides& overrides)
+/// What the tray calls the program: its name, and the profile's behind it.
+QString shownName(const RunOverrides& overrides) {
+    const QString program = QString::fromLatin1(kProgramName);
+    return overrides.profile ? QStringLiteral("%1 (%2)").arg(program, qtSystemText(*overrides.profile))
+                             : program;
+}
+
+}  // namespace
+
+DesktopServer::DesktopServer(const RunOverrides& overrides, TrayIcon::Desktop desktop)
     : platform_([this] { controller().ComTimer_Tick(); }, [this] { return program_.core().soonestFrame(); }),
       help_(platform_),
       texts_(platform_, overrides),
       dialogs_(platform_.clock, platform_.portNames, help_, texts_),
+      tray_(window_, shownName(overrides), trayActions(), std::move(desktop)),
       box_(&window_),
       transfers_(platform_, dialogs_.traceSink()),
       program_(platform_, overrides,
@@ -50,7 +62,10 @@ DesktopServer::DesktopServer(const RunOverrides& overrides)
     controller().setClosingActions(
         {&program_.settingsStore(), [this] { saveWindowPlace(); }, [this] { closeOtherWindows(); }});
     // The warning stands already; this adds why it is so, and what helps.
-    controller().onPortFailure([this] { window_.showAdvice(portAdvice()); });
+    controller().onPortFailure([this] {
+        window_.showAdvice(portAdvice());
+        tray_.portFailed();
+    });
     window_.setActions(windowActions());
     if (overrides.profile) {
         window_.setProfile(*overrides.profile);
@@ -60,6 +75,7 @@ DesktopServer::DesktopServer(const RunOverrides& overrides)
     onHelpKey(transfers_.window(), help_.about(transfers_.window(), HelpTopic::Transfers));
     transfers_.follow(program_.core());
     program_.core().observe(speech_);
+    tray_.follow(program_);
     new FileDrop(window_, [this](const std::vector<std::string>& paths) { copyDropped(paths); });
     program_.record(captured_);
     dialogs_.setEnded([this] { return controller().closed(); });
@@ -96,6 +112,22 @@ frmMain::Actions DesktopServer::windowActions() {
     actions.closed = [this] { quit(); };
     actions.resized = [&controller](bool minimised) { controller.windowResized(minimised); };
     return actions;
+}
+
+TrayIcon::Actions DesktopServer::trayActions() {
+    return {[this] { present(); },
+            [this] { unlessADialogIsOpen([this] { controller().pbStartStop_Click(); }); },
+            [this] { unlessADialogIsOpen([this] { controller().pbShutDown_Click(); }); }};
+}
+
+/// The tray's menu can be used while a dialog holds the windows; the dialog is shown then.
+void DesktopServer::unlessADialogIsOpen(const std::function<void()>& action) {
+    sessionEnds_ = false;  // the user is here
+    if (QApplication::activeModalWidget() != nullptr) {
+        present();
+    } else {
+        action();
+    }
 }
 
 WaitFor DesktopServer::waitFor() {

@@ -9,6 +9,7 @@
 #include "apps/desktop_dialogs.h"
 #include "apps/desktop_help.h"
 #include "apps/desktop_transfers.h"
+#include "apps/desktop_tray.h"
 #include "apps/native_position_store.h"
 #include "apps/platform_parts.h"
 #include "apps/server_program.h"
@@ -25,8 +26,8 @@ namespace velmora {
 /// Serves behind a window until the window closes; needs a QApplication.
 class DesktopServer {
   public:
-    /// `overrides`: what the command line says instead of the configuration file.
-    explicit DesktopServer(const RunOverrides& overrides = {});
+    /// `overrides`: what the command line says instead of the configuration file. `desktop`: of the tray.
+    explicit DesktopServer(const RunOverrides& overrides = {}, TrayIcon::Desktop desktop = {});
     DesktopServer(const DesktopServer&) = delete;
     DesktopServer& operator=(const DesktopServer&) = delete;
 
@@ -45,6 +46,8 @@ class DesktopServer {
 
   private:
     frmMain::Actions windowActions();
+    TrayIcon::Actions trayActions();
+    void unlessADialogIsOpen(const std::function<void()>& action);
     WaitFor waitFor();
     std::string portAdvice();
     bool queryUnload(CloseReason reason);
@@ -67,6 +70,7 @@ class DesktopServer {
     DesktopTexts texts_;
     DesktopDialogs dialogs_;
     frmMain window_;
+    DesktopTray tray_;
     QtMessageBox box_;
     DesktopTransfers transfers_;
     TransferSpeech speech_{[this](const std::string& words) { window_.say(words); }};

@@ -78,6 +78,7 @@ std::vector<SettingRow> makeTable() {
             numberRow("EarlierCopies", kSettingsStep, "30", &Settings::EarlierCopies, daysOrDefault),
             stayInFolder,
             flagRow(kSettings, "Reconnect", &Options::Reconnect, true),
+            flagRow(kSettings, "HideToTray", &Options::HideToTray, false),
             portIdentity,
             flagRow(kOnExit, "RestoreWin", &Options::RestoreWin, true),
             flagRow(kOnExit, "HideWin", &Options::HideWin, false),

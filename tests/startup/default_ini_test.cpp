@@ -131,7 +131,7 @@ TEST_F(DefaultIni, HoldsEverySettingThatIsNotForTheFew) {
         const bool present = ini.GetString(std::string(row.key), "missing") != "missing";
         const bool forTheFew = row.key == "WksDialect" || row.key == "EarlierCopies" ||
                                row.key == "StayInFolder" || row.key == "Reconnect" ||
-                               row.key == "PortIdentity";
+                               row.key == "PortIdentity" || row.key == "HideToTray";
         EXPECT_EQ(present, !forTheFew) << row.key;
     }
     ini.setSectionName("Settings");

@@ -50,6 +50,12 @@ TEST_F(SettingsFile, TheAdapterIsATextAndReconnectingIsTheRule) {
     EXPECT_FALSE(readEntry("Reconnect=False").options.Reconnect);
 }
 
+TEST_F(SettingsFile, TheWindowGoesIntoTheTrayOnlyWhereThatIsWanted) {
+    EXPECT_FALSE(read("").options.HideToTray);
+    EXPECT_TRUE(readEntry("HideToTray=True").options.HideToTray);
+    EXPECT_EQ(errorOf("HideToTray=sometimes"), 13);
+}
+
 TEST_F(SettingsFile, APortOfTheCommandLineTakesThePlaceOfTheFilesAdapterToo) {
     RunOverrides overrides;
     EXPECT_FALSE(isOverridden(overrides, "Settings", "PortIdentity"));

@@ -1,4 +1,4 @@
-# The setup dialog, the protocol monitor, the transfers and the folder choice.
+# The setup dialog, the protocol monitor, the transfers, the folder choice and the icon in the tray.
 velmora_library(qt_dialogs
   SOURCES
     capture_saving.cpp
@@ -15,6 +15,7 @@ velmora_library(qt_dialogs
     log_view.cpp
     readable_ground.cpp
     transfer_table.cpp
+    tray_icon.cpp
   LIBS velmora_ui_qt velmora_ui velmora_serial velmora_base Qt6::Widgets)
 if(WIN32)
   target_sources(velmora_qt_dialogs PRIVATE native_folder_browser_win32.cpp)

@@ -9,6 +9,7 @@
 #include <QRegularExpression>
 #include <QShortcut>
 #include <algorithm>
+#include <utility>
 
 #include "server/caption.h"
 #include "ui/qt/alert_area.h"
@@ -100,14 +101,12 @@ void frmMain::showStatus(const std::string& text) {
     say(text);
     QAccessibleEvent event(imgBGround, QAccessible::DescriptionChanged);
     QAccessible::updateAccessibility(&event);
+    Q_EMIT statusShown(qtText(text));
 }
 
 void frmMain::say(const std::string& words) {
     announcer_->say(qtText(words));
 }
-
-// The controller tells by text, captions and buttons what the state means for the window.
-void frmMain::showState(std::int32_t /*state*/) {}
 
 void frmMain::showMessages(const MessageLines& messages) {
     warningSign_->setVisible(messages.warning);
@@ -213,6 +212,17 @@ void frmMain::showDebugLabel(bool visible) {
 
 void frmMain::setButtonEnabled(MainButton which, bool enabled) {
     button(which)->setEnabled(enabled);
+    tellOf(which);
+}
+
+const QAbstractButton& frmMain::startStopButton() const {
+    return *pbStartStop;
+}
+
+void frmMain::tellOf(MainButton changed) {
+    if (changed == MainButton::StartStop) {
+        Q_EMIT startStopChanged();
+    }
 }
 
 /// A caption of the controller as the button has it, with the letter that Alt presses it by.
@@ -228,6 +238,7 @@ void frmMain::setButtonCaption(MainButton which, const std::string& caption) {
     const QString text = withKey(caption);
     button(which)->setText(text);
     button(which)->setAccessibleName(QString(text).remove(mark));
+    tellOf(which);
 }
 
 void frmMain::setFocus(MainButton which) {
@@ -246,11 +257,19 @@ void frmMain::setCaption(const std::string& caption) {
 
 // Before the window is shown its state is only noted, and it appears in that state.
 void frmMain::minimise() {
+    if (hides_ && hides_()) {
+        putAway_ = true;
+        hide();
+        return;
+    }
     setWindowState(windowState() | Qt::WindowMinimized);
 }
 
 void frmMain::restore() {
     setWindowState(windowState() & ~(Qt::WindowMinimized | Qt::WindowMaximized | Qt::WindowFullScreen));
+    if (std::exchange(putAway_, false)) {
+        show();
+    }
 }
 
 void frmMain::bringToFront() {

@@ -9,6 +9,7 @@
 #include "server/main_view.h"
 #include "server/server_controller.h"
 
+class QAbstractButton;
 class QCloseEvent;
 class QGridLayout;
 class QLabel;
@@ -66,6 +67,11 @@ class frmMain : public QWidget, public MainView {
     /// In the system's encoding.
     void showAdvice(const std::string& text);
 
+    /// Has minimise() hide the window instead, whenever `when` says so; restore() brings it back.
+    void hideInsteadOfMinimising(std::function<bool()> when) { hides_ = std::move(when); }
+    /// The button that starts and stops the server, for what stands in for it.
+    const QAbstractButton& startStopButton() const;
+
     /// Has a screen reader speak what the window does not show. Words are Windows-1252 bytes.
     void say(const std::string& words);
 
@@ -73,7 +79,7 @@ class frmMain : public QWidget, public MainView {
     void setDisplayLine(int line, const std::string& text) override;
     void showStatus(const std::string& text) override;
     void showReport(const std::string&) override {}
-    void showState(std::int32_t state) override;
+    void showState(std::int32_t state) override { Q_EMIT stateShown(state); }
     void showMessages(const MessageLines& messages) override;
     std::string statsText(StatsLabel label) const override;
     void setStatsText(StatsLabel label, const std::string& text) override;
@@ -94,6 +100,14 @@ class frmMain : public QWidget, public MainView {
     void bringToFront() override;
     void close() override;
 
+  Q_SIGNALS:
+    /// What the display says, as one line.
+    void statusShown(const QString& status);
+    /// The server's state (ServerState).
+    void stateShown(std::int32_t state);
+    /// startStopButton() has another caption, or can be pressed or no longer.
+    void startStopChanged();
+
   protected:
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
@@ -112,10 +126,13 @@ class frmMain : public QWidget, public MainView {
     void nameCounters();
     QLabel* counter(StatsLabel label) const;
     QPushButton* button(MainButton button) const;
+    void tellOf(MainButton changed);
 
     Actions actions_;
     bool closingByProgram_ = false;
-    QString profile_;  // empty without one
+    std::function<bool()> hides_;
+    bool putAway_ = false;  // hidden by minimise()
+    QString profile_;       // empty without one
 
     NameImage* imgProgName;
     QLabel* tlProgVers;

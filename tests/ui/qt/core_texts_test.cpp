@@ -5,6 +5,7 @@
 
 #include "doctor/cause.h"
 #include "doctor/diagnosis.h"
+#include "link/server_state.h"
 #include "serial/comm_device.h"
 #include "serial/device_facts.h"
 #include "serial/open_diagnosis.h"
@@ -13,6 +14,7 @@
 #include "services/service_codes.h"
 #include "services/strings.h"
 #include "transfers/transfer_text.h"
+#include "ui/notices.h"
 #include "ui/qt/qt_text.h"
 #include "ui/qt/transfer_table.h"
 #include "ui/qt/translation.h"
@@ -145,6 +147,19 @@ class CoreTextsTest : public QObject {
         for (const TransferDirection direction : {TransferDirection::Save, TransferDirection::Load}) {
             isTranslated(nameOf(direction));
         }
+    }
+
+    void everyNoticeIsTranslated() {
+        const Translation german("de");
+        Notices notices([] { return false; }, [](const Notice& notice) { isTranslated(notice.text); });
+        notices.serverIs(OnExit);
+        notices.portLost("COM7");
+        Transfer transfer = transferCalled("My file. odb");
+        notices.transferEnded(transfer, {TransferResult::Incomplete, 186, "disk full"});
+        transfer.direction = TransferDirection::Load;
+        notices.transferEnded(transfer, {});
+        QCOMPARE(coreText("Save of My file. odb: incomplete: disk full (186)"),
+                 QStringLiteral("Speichern von My file. odb: unvollständig: Datenträger voll (186)"));
     }
 
     void everyReasonOfARefusalIsTranslated() {

@@ -3,6 +3,7 @@
 
 #include <QAbstractButton>
 #include <QAbstractEventDispatcher>
+#include <QAction>
 #include <QClipboard>
 #include <QComboBox>
 #include <QDateTime>
@@ -13,6 +14,7 @@
 #include <QFile>
 #include <QLabel>
 #include <QLocale>
+#include <QMenu>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QProcess>
@@ -32,6 +34,7 @@
 
 #include "capture/pcapng_reader.h"
 #include "support/pty_pair.h"
+#include "support/recording_tray.h"
 #include "ui/qt/frm_about.h"
 #include "ui/transfer_list.h"
 
@@ -64,6 +67,12 @@ class DesktopServerTest : public QObject {
     void startsByItselfAndShowsIt();
     void withoutAPortItSaysWhatToDoNext();
     void isBroughtBackWhereverItsWindowIs();
+    void hideGoesIntoTheTrayWhereThatIsWantedAndThereIsOne_data();
+    void hideGoesIntoTheTrayWhereThatIsWantedAndThereIsOne();
+    void aServerThatHidesByItselfGoesIntoTheTrayToo();
+    void theTraysMenuStopsStartsAndQuitsBehindAHiddenWindow();
+    void theTrayStartsNothingBehindADialog();
+    void theTrayTellsOfAFileAndOfALostPort();
     void aFolderThatIsGoneIsToldInsteadOfOpened();
     void aProfileHasItsTitleAndItsPlace();
     void filesThatAreDroppedOnTheWindowAreServed();
@@ -99,6 +108,18 @@ class DesktopServerTest : public QObject {
         handheld = QString::fromLocal8Bit(cable.readLine().trimmed());
         std::filesystem::remove(port);
         std::filesystem::create_symlink(device.toStdString(), port);
+    }
+    /// Another server, with a line more in [Settings], on a desktop with a tray.
+    void withTray(const QByteArray& setting) {
+        server.reset();
+        QFile file(home->filePath(QStringLiteral("Velmora.ini")));
+        const QByteArray ini = configuration().replace("AutoStart=True", "AutoStart=True\r\n" + setting);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(ini);
+        file.close();
+        tray.there = true;
+        tray.notices.clear();
+        server = std::make_unique<DesktopServer>(RunOverrides(), tray.desktop());
     }
     /// Starts an Organiser that saves a block file of so many bytes as NOTES.
     void startSaving(std::size_t size, const QStringList& faults = {}) {
@@ -219,9 +240,10 @@ class DesktopServerTest : public QObject {
     void takeAddress(const QUrl& url) { told = url.fileName() + QLatin1Char('#') + url.fragment(); }
 
   private:
-    QPushButton* startStop() const {
-        return server->window().findChild<QPushButton*>(QStringLiteral("pbStartStop"));
+    QPushButton* button(const char* name) const {
+        return server->window().findChild<QPushButton*>(QLatin1String(name));
     }
+    QPushButton* startStop() const { return button("pbStartStop"); }
 
     std::unique_ptr<QTemporaryDir> home;
     std::filesystem::path port;
@@ -230,6 +252,7 @@ class DesktopServerTest : public QObject {
     QString handheld;
     QString told;
     QProcess organiser;
+    test::RecordingTray tray;
     std::unique_ptr<DesktopServer> server;
 };
 
@@ -292,6 +315,112 @@ void DesktopServerTest::withoutAPortItSaysWhatToDoNext() {
     QCOMPARE(server->controller().state(), int{NoPort});
     QVERIFY(label("lblAdvice")->isVisible());
     QCOMPARE(label("lblAdvice")->text(), QStringLiteral("Plug in the adapter, then click Setup."));
+}
+
+void DesktopServerTest::hideGoesIntoTheTrayWhereThatIsWantedAndThereIsOne_data() {
+    QTest::addColumn<QByteArray>("setting");
+    QTest::addColumn<bool>("there");
+    QTest::addColumn<bool>("goes");
+    QTest::newRow("wanted") << QByteArray("HideToTray=True") << true << true;
+    QTest::newRow("no tray") << QByteArray("HideToTray=True") << false << false;
+    QTest::newRow("not wanted") << QByteArray() << true << false;
+}
+
+void DesktopServerTest::hideGoesIntoTheTrayWhereThatIsWantedAndThereIsOne() {
+    QFETCH(QByteArray, setting);
+    QFETCH(bool, there);
+    QFETCH(bool, goes);
+    withTray(setting);
+    tray.there = there;
+    QVERIFY(server->start(""));
+    const auto hide = [this] { QTest::mouseClick(button("pbHide"), Qt::LeftButton); };
+    hide();
+    QCOMPARE(server->window().isVisible(), !goes);
+    QCOMPARE(server->window().isMinimized(), !goes);
+    QCOMPARE(server->controller().state(), int{WaitLink});
+    server->present();
+    QVERIFY(server->window().isVisible() && !server->window().isMinimized());
+    QVERIFY(!server->window().windowTitle().contains(QStringLiteral("Waiting")));
+    // A transfer with AutoPopup, and an EXIT of the Organiser, bring it back like that.
+    hide();
+    server->window().restore();
+    QVERIFY(server->window().isVisible() && !server->window().isMinimized());
+}
+
+void DesktopServerTest::aServerThatHidesByItselfGoesIntoTheTrayToo() {
+    withTray("HideToTray=True\r\nAutoHide=True");
+    QVERIFY(server->start(""));
+    QCOMPARE(server->controller().state(), int{WaitLink});
+    QVERIFY(!server->window().isVisible());
+    Q_EMIT tray.icon->activated(QSystemTrayIcon::Trigger);
+    QVERIFY(server->window().isVisible());
+    QCOMPARE(tray.icon->toolTip(), QStringLiteral("Velmora: Waiting for link"));
+}
+
+void DesktopServerTest::theTraysMenuStopsStartsAndQuitsBehindAHiddenWindow() {
+    withTray("HideToTray=True");
+    QVERIFY(server->start(""));
+    QTest::mouseClick(button("pbHide"), Qt::LeftButton);
+    const QList<QAction*> entries = tray.icon->contextMenu()->actions();
+    QAction* startOrStop = entries.at(1);
+    QCOMPARE(startOrStop->text(), QStringLiteral("&Stop"));
+    startOrStop->trigger();
+    QCOMPARE(server->controller().state(), int{Offline});
+    QCOMPARE(startOrStop->text(), QStringLiteral("&Start"));
+    startOrStop->trigger();
+    QCOMPARE(server->controller().state(), int{WaitLink});
+    QVERIFY(!server->window().isVisible());
+    QTimer::singleShot(0, entries.last(), &QAction::trigger);
+    QCOMPARE(server->run(), 0);
+    QVERIFY(server->controller().closed());
+}
+
+void DesktopServerTest::theTrayStartsNothingBehindADialog() {
+    withTray("HideToTray=True");
+    QVERIFY(server->start(""));
+    QTest::mouseClick(startStop(), Qt::LeftButton);
+    bool asked = false;
+    QTimer user;
+    connect(&user, &QTimer::timeout, this, [this, &asked] {
+        auto* setup = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        if (setup == nullptr) {
+            return;
+        }
+        asked = true;
+        tray.icon->contextMenu()->actions().at(1)->trigger();
+        tray.icon->contextMenu()->actions().last()->trigger();
+        QCOMPARE(server->controller().state(), int{Offline});
+        QVERIFY(!server->controller().closed());
+        server->window().minimise();
+        QVERIFY(server->window().isVisible());  // a dialog is not left behind
+        setup->reject();
+    });
+    user.start(1);
+    // The setup dialog starts the server anew when it closes, as AutoStart says.
+    QTest::mouseClick(button("pbSetup"), Qt::LeftButton);
+    QVERIFY(asked);
+    QVERIFY(!server->controller().closed());
+}
+
+void DesktopServerTest::theTrayTellsOfAFileAndOfALostPort() {
+    layCable();
+    withTray("HideToTray=True");
+    QVERIFY(server->start(""));
+    QTest::mouseClick(button("pbHide"), Qt::LeftButton);
+    QTRY_VERIFY(QApplication::activeWindow() == nullptr);
+    startSaving(100);
+    QTRY_COMPARE_WITH_TIMEOUT(organiser.state(), QProcess::NotRunning, 30'000);
+    QTRY_COMPARE(tray.notices, QStringList({"Save of Notes.ob2: complete"}));
+    cable.kill();
+    QTRY_COMPARE(server->controller().state(), int{Offline});
+    QCOMPARE(tray.notices.last(), QStringLiteral("! The port COM40 is lost."));
+    QTRY_COMPARE(cable.state(), QProcess::NotRunning);
+    // One that is missing from the start is none that was lost.
+    const qsizetype before = tray.notices.size();
+    server->controller().pbStartStop_Click();
+    server->controller().pbStartStop_Click();
+    QCOMPARE(server->controller().state(), int{Offline});
+    QCOMPARE(tray.notices.size(), before);
 }
 
 void DesktopServerTest::aFolderThatIsGoneIsToldInsteadOfOpened() {

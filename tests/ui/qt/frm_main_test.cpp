@@ -65,6 +65,7 @@ class FrmMainTest : public QObject {
     void aLongFolderMakesNoWideWindow();
     void theVersionHasTheWholeOneAsItsTip();
     void hideButtonMinimises();
+    void hideButtonHidesWhereSomethingBringsTheWindowBack();
     void captionCarriesTheStateWhileMinimised();
     void captionNamesTheProfile();
     void shutDownButtonEndsTheProgram();
@@ -536,6 +537,20 @@ void FrmMainTest::theVersionHasTheWholeOneAsItsTip() {
 
 void FrmMainTest::hideButtonMinimises() {
     click("pbHide");
+    QVERIFY(rig->window.isMinimized());
+}
+
+void FrmMainTest::hideButtonHidesWhereSomethingBringsTheWindowBack() {
+    bool there = true;
+    rig->window.hideInsteadOfMinimising([&there] { return there; });
+    click("pbHide");
+    QVERIFY(!rig->window.isVisible());
+    QVERIFY(!rig->window.isMinimized());
+    rig->window.restore();
+    QVERIFY(rig->window.isVisible());
+    there = false;
+    click("pbHide");
+    QVERIFY(rig->window.isVisible());
     QVERIFY(rig->window.isMinimized());
 }
 

@@ -652,6 +652,22 @@ Bitte einen anderen Ordner oder Namen wählen.</translation>
         <source>The Organiser uses %7 baud, and the server %8 baud.</source>
         <translation>Der Organiser verwendet %7 Baud, der Server %8 Baud.</translation>
     </message>
+    <message>
+        <source>The port %1 is lost.</source>
+        <translation>Der Anschluss %1 ist verloren.</translation>
+    </message>
+    <message>
+        <source>The server was stopped by the Organiser.</source>
+        <translation>Der Organiser hat den Server angehalten.</translation>
+    </message>
+    <message>
+        <source>Save of %1: %9</source>
+        <translation>Speichern von %1: %9</translation>
+    </message>
+    <message>
+        <source>Load of %1: %9</source>
+        <translation>Laden von %1: %9</translation>
+    </message>
 </context>
 <context>
     <name>DesktopDialogs</name>
@@ -1039,6 +1055,17 @@ Bitte den Ordnernamen prüfen.</translation>
     <message>
         <source>%1 is no folder to choose</source>
         <translation>%1 ist kein Ordner, der sich wählen lässt</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::TrayIcon</name>
+    <message>
+        <source>S&amp;how</source>
+        <translation>&amp;Anzeigen</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Beenden</translation>
     </message>
 </context>
 <context>

@@ -652,6 +652,22 @@ Elija otra carpeta u otro nombre.</translation>
         <source>The Organiser uses %7 baud, and the server %8 baud.</source>
         <translation>El Organiser usa %7 baudios y el servidor %8 baudios.</translation>
     </message>
+    <message>
+        <source>The port %1 is lost.</source>
+        <translation>Se ha perdido el puerto %1.</translation>
+    </message>
+    <message>
+        <source>The server was stopped by the Organiser.</source>
+        <translation>El Organiser ha detenido el servidor.</translation>
+    </message>
+    <message>
+        <source>Save of %1: %9</source>
+        <translation>Guardado de %1: %9</translation>
+    </message>
+    <message>
+        <source>Load of %1: %9</source>
+        <translation>Lectura de %1: %9</translation>
+    </message>
 </context>
 <context>
     <name>DesktopDialogs</name>
@@ -1039,6 +1055,17 @@ Compruebe el nombre de la carpeta.</translation>
     <message>
         <source>%1 is no folder to choose</source>
         <translation>%1 no es una carpeta que se pueda elegir</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::TrayIcon</name>
+    <message>
+        <source>S&amp;how</source>
+        <translation>&amp;Mostrar</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Salir</translation>
     </message>
 </context>
 <context>

@@ -652,6 +652,22 @@ Veuillez choisir un autre dossier ou un autre nom.</translation>
         <source>The Organiser uses %7 baud, and the server %8 baud.</source>
         <translation>L’Organiser utilise %7 bauds, et le serveur %8 bauds.</translation>
     </message>
+    <message>
+        <source>The port %1 is lost.</source>
+        <translation>Le port %1 est perdu.</translation>
+    </message>
+    <message>
+        <source>The server was stopped by the Organiser.</source>
+        <translation>L’Organiser a arrêté le serveur.</translation>
+    </message>
+    <message>
+        <source>Save of %1: %9</source>
+        <translation>Enregistrement de %1 : %9</translation>
+    </message>
+    <message>
+        <source>Load of %1: %9</source>
+        <translation>Lecture de %1 : %9</translation>
+    </message>
 </context>
 <context>
     <name>DesktopDialogs</name>
@@ -1039,6 +1055,17 @@ Veuillez vérifier le nom du dossier.</translation>
     <message>
         <source>%1 is no folder to choose</source>
         <translation>%1 n’est pas un dossier que l’on puisse choisir</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::TrayIcon</name>
+    <message>
+        <source>S&amp;how</source>
+        <translation>A&amp;fficher</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Quitter</translation>
     </message>
 </context>
 <context>

@@ -652,6 +652,22 @@ Scegliere un’altra cartella o un altro nome.</translation>
         <source>The Organiser uses %7 baud, and the server %8 baud.</source>
         <translation>L’Organiser usa %7 baud, e il server %8 baud.</translation>
     </message>
+    <message>
+        <source>The port %1 is lost.</source>
+        <translation>La porta %1 è perduta.</translation>
+    </message>
+    <message>
+        <source>The server was stopped by the Organiser.</source>
+        <translation>L’Organiser ha fermato il server.</translation>
+    </message>
+    <message>
+        <source>Save of %1: %9</source>
+        <translation>Salvataggio di %1: %9</translation>
+    </message>
+    <message>
+        <source>Load of %1: %9</source>
+        <translation>Lettura di %1: %9</translation>
+    </message>
 </context>
 <context>
     <name>DesktopDialogs</name>
@@ -1039,6 +1055,17 @@ Verificare il nome della cartella.</translation>
     <message>
         <source>%1 is no folder to choose</source>
         <translation>%1 non è una cartella che si possa scegliere</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::TrayIcon</name>
+    <message>
+        <source>S&amp;how</source>
+        <translation>&amp;Mostra</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Esci</translation>
     </message>
 </context>
 <context>

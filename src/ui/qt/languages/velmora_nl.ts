@@ -652,6 +652,22 @@ Kies een andere map of naam.</translation>
         <source>The Organiser uses %7 baud, and the server %8 baud.</source>
         <translation>De Organiser gebruikt %7 baud, en de server %8 baud.</translation>
     </message>
+    <message>
+        <source>The port %1 is lost.</source>
+        <translation>De poort %1 is verloren.</translation>
+    </message>
+    <message>
+        <source>The server was stopped by the Organiser.</source>
+        <translation>De Organiser heeft de server gestopt.</translation>
+    </message>
+    <message>
+        <source>Save of %1: %9</source>
+        <translation>Opslaan van %1: %9</translation>
+    </message>
+    <message>
+        <source>Load of %1: %9</source>
+        <translation>Laden van %1: %9</translation>
+    </message>
 </context>
 <context>
     <name>DesktopDialogs</name>
@@ -1039,6 +1055,17 @@ Controleer de naam van de map.</translation>
     <message>
         <source>%1 is no folder to choose</source>
         <translation>%1 is geen map die gekozen kan worden</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::TrayIcon</name>
+    <message>
+        <source>S&amp;how</source>
+        <translation>&amp;Tonen</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Afsluiten</translation>
     </message>
 </context>
 <context>

@@ -1,0 +1,37 @@
+#include "ui/notices.h"
+
+#include "link/server_state.h"
+#include "transfers/transfer_text.h"
+
+namespace velmora {
+
+void Notices::transferBegan(const Transfer& /*transfer*/) {}
+
+void Notices::transferMoved(const Transfer& /*transfer*/) {}
+
+void Notices::transferEnded(const Transfer& transfer, const TransferEnd& end) {
+    const bool isFile = transfer.kind != TransferKind::Listing && transfer.kind != TransferKind::Clock;
+    if (isFile && end.result != TransferResult::Refused) {
+        const std::string deed = transfer.direction == TransferDirection::Save ? "Save of " : "Load of ";
+        tell({deed + transfer.name + ": " + resultText(transfer, end),
+              end.result == TransferResult::Incomplete});
+    }
+}
+
+void Notices::serverIs(std::int32_t state) {
+    if (state == OnExit || state == Shutdown) {
+        tell({"The server was stopped by the Organiser."});
+    }
+}
+
+void Notices::portLost(const std::string& port) {
+    tell({"The port " + port + " is lost.", true});
+}
+
+void Notices::tell(const Notice& notice) const {
+    if (!userLooks_()) {
+        show_(notice);
+    }
+}
+
+}  // namespace velmora
