@@ -10,8 +10,8 @@
 
 namespace velmora {
 
-TrayIcon::TrayIcon(const QString& name, const Actions& actions, Desktop desktop)
-    : name_(name), desktop_(std::move(desktop)), icon_(programIcon()) {
+TrayIcon::TrayIcon(QString name, const Actions& actions, Desktop desktop)
+    : name_(std::move(name)), desktop_(std::move(desktop)), icon_(programIcon()) {
     connect(menu_.addAction(tr("S&how")), &QAction::triggered, this, actions.show);
     startStop_ = menu_.addAction(QString());
     connect(startStop_, &QAction::triggered, this, actions.startStop);

@@ -36,7 +36,7 @@ class TrayIcon : public QObject {
     };
 
     /// `name`: what the program calls itself, in tips and above notices.
-    TrayIcon(const QString& name, const Actions& actions, Desktop desktop);
+    TrayIcon(QString name, const Actions& actions, Desktop desktop);
 
     /// Whether the desktop has a tray now, so that the icon can be seen.
     bool inTray() const { return desktop_.hasTray(); }
