@@ -21,6 +21,7 @@ add_custom_command(OUTPUT ${made}/languages.cpp
   COMMAND Qt6::rcc --format-version 1 --no-zstd --name languages -o ${made}/languages.cpp ${made}/languages.qrc
   DEPENDS ${compiled} ${made}/languages.qrc
   VERBATIM)
-set_source_files_properties(${made}/languages.cpp PROPERTIES SKIP_AUTOGEN ON)
+# Alone, so that the linter, which reads files of several sources whole, does not read this one.
+set_source_files_properties(${made}/languages.cpp PROPERTIES SKIP_AUTOGEN ON SKIP_UNITY_BUILD_INCLUSION ON)
 target_sources(velmora_ui_qt PRIVATE ${made}/languages.cpp)
 target_compile_definitions(velmora_ui_qt PRIVATE VELMORA_TRANSLATIONS)
