@@ -251,8 +251,7 @@ void frmMain::setProfile(const std::string& name) {
 }
 
 void frmMain::setCaption(const std::string& caption) {
-    const QString title = qtText(caption);
-    setWindowTitle(profile_.isEmpty() ? title : QStringLiteral("%1 (%2)").arg(title, profile_));
+    setWindowTitle(titleInProfile(qtText(caption), profile_));
 }
 
 // Before the window is shown its state is only noted, and it appears in that state.

@@ -24,4 +24,9 @@ inline std::string systemPath(const QString& path) {
     return QFile::encodeName(path).toStdString();
 }
 
+/// What a title becomes in a profile: "Velmora (attic)"; the title itself without one.
+inline QString titleInProfile(const QString& title, const QString& profile) {
+    return profile.isEmpty() ? title : QStringLiteral("%1 (%2)").arg(title, profile);
+}
+
 }  // namespace velmora
