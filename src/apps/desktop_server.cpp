@@ -19,11 +19,9 @@
 namespace velmora {
 namespace {
 
-/// What the tray calls the program: its name, and the profile's behind it.
+/// What the tray calls the program.
 QString shownName(const RunOverrides& overrides) {
-    const QString program = QString::fromLatin1(kProgramName);
-    return overrides.profile ? QStringLiteral("%1 (%2)").arg(program, qtSystemText(*overrides.profile))
-                             : program;
+    return titleInProfile(QString::fromLatin1(kProgramName), qtSystemText(overrides.profile.value_or("")));
 }
 
 }  // namespace

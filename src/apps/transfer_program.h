@@ -17,11 +17,8 @@ class TransferProgram : public TransferObserver {
   public:
     explicit TransferProgram(ProgramQueue& queue) : queue_(queue) {}
 
-    void transferBegan(const Transfer&) override {}
-    void transferMoved(const Transfer&) override {}
     void transferEnded(const Transfer& transfer, const TransferEnd& end) override {
-        const bool file = transfer.kind != TransferKind::Listing && transfer.kind != TransferKind::Clock;
-        if (!file || end.result != TransferResult::Complete) {
+        if (!movesFile(transfer) || end.result != TransferResult::Complete) {
             return;
         }
         const std::string name = toSystemText(transfer.name);

@@ -46,6 +46,11 @@ struct Transfer {
     std::vector<std::string> remarks = {};
 };
 
+/// Whether it moves a file's contents. Listings and the clock are asked for beside them.
+inline bool movesFile(const Transfer& transfer) {
+    return transfer.kind != TransferKind::Listing && transfer.kind != TransferKind::Clock;
+}
+
 /// How a transfer may end.
 enum class TransferResult {
     Complete,    ///< all of it arrived, and a saved file is on the disk
@@ -66,15 +71,15 @@ struct EndedTransfer {
     TransferEnd end;
 };
 
-/// Hears of every transfer, in the order of its life, between two messages of the link. Must neither throw
-/// nor wait, and not touch the server.
+/// Hears of every transfer, in the order of its life, between two messages of the link; of the way only where
+/// it wants to. Must neither throw nor wait, and not touch the server.
 class TransferObserver {
   public:
     virtual ~TransferObserver() = default;
 
-    virtual void transferBegan(const Transfer& transfer) = 0;
+    virtual void transferBegan(const Transfer& /*transfer*/) {}
     /// More bytes have moved. Called for every message.
-    virtual void transferMoved(const Transfer& transfer) = 0;
+    virtual void transferMoved(const Transfer& /*transfer*/) {}
     /// A refused transfer has not begun before.
     virtual void transferEnded(const Transfer& transfer, const TransferEnd& end) = 0;
 };

@@ -34,8 +34,6 @@ class TransferHistory : public TransferObserver {
     /// Writes what waits to be written.
     void save();
 
-    void transferBegan(const Transfer&) override {}
-    void transferMoved(const Transfer&) override {}
     void transferEnded(const Transfer& transfer, const TransferEnd& end) override;
 
     /// So many are remembered; the file may have twice as many until it is written anew.

@@ -5,13 +5,8 @@
 
 namespace velmora {
 
-void Notices::transferBegan(const Transfer& /*transfer*/) {}
-
-void Notices::transferMoved(const Transfer& /*transfer*/) {}
-
 void Notices::transferEnded(const Transfer& transfer, const TransferEnd& end) {
-    const bool isFile = transfer.kind != TransferKind::Listing && transfer.kind != TransferKind::Clock;
-    if (isFile && end.result != TransferResult::Refused) {
+    if (movesFile(transfer) && end.result != TransferResult::Refused) {
         const std::string deed = transfer.direction == TransferDirection::Save ? "Save of " : "Load of ";
         tell({deed + transfer.name + ": " + resultText(transfer, end),
               end.result == TransferResult::Incomplete});

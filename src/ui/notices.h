@@ -30,8 +30,6 @@ class Notices : public TransferObserver {
 
     Notices(UserLooks userLooks, Show show) : userLooks_(std::move(userLooks)), show_(std::move(show)) {}
 
-    void transferBegan(const Transfer& transfer) override;
-    void transferMoved(const Transfer& transfer) override;
     void transferEnded(const Transfer& transfer, const TransferEnd& end) override;
 
     /// The server's state (ServerState) after each change.

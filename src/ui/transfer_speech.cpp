@@ -4,12 +4,8 @@
 
 namespace velmora {
 
-void TransferSpeech::transferBegan(const Transfer& /*transfer*/) {}
-
-void TransferSpeech::transferMoved(const Transfer& /*transfer*/) {}
-
 void TransferSpeech::transferEnded(const Transfer& transfer, const TransferEnd& end) {
-    if (transfer.kind != TransferKind::Listing && transfer.kind != TransferKind::Clock) {
+    if (movesFile(transfer)) {
         say_(describe(transfer, end));
     }
 }

@@ -18,8 +18,6 @@ class TransferSpeech : public TransferObserver {
 
     explicit TransferSpeech(Say say) : say_(std::move(say)) {}
 
-    void transferBegan(const Transfer& transfer) override;
-    void transferMoved(const Transfer& transfer) override;
     void transferEnded(const Transfer& transfer, const TransferEnd& end) override;
 
   private:
