@@ -11,6 +11,7 @@
 #include <QRegularExpression>
 #include <QTableWidget>
 #include <QTest>
+#include <QWindow>
 #include <QXmlStreamReader>
 #include <algorithm>
 #include <memory>
@@ -129,7 +130,9 @@ class Shown {
 #endif
         window_ = own_ ? own_.get() : &rig_->window;
         window_->show();
-        QVERIFY(QTest::qWaitForWindowExposed(window_));
+        while (!window_->windowHandle()->isExposed()) {
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        }
         // What a check that has begun by now has changed.
         QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
     }
