@@ -3,6 +3,7 @@ velmora_library(qt_dialogs
   SOURCES
     capture_saving.cpp
     desktop_files.cpp
+    device_list.cpp
     dropped_files_box.cpp
     file_drop.cpp
     frm_about.cpp
@@ -13,6 +14,7 @@ velmora_library(qt_dialogs
     help_key.cpp
     log_lines.cpp
     log_view.cpp
+    port_number_box.cpp
     readable_ground.cpp
     transfer_table.cpp
     tray_icon.cpp

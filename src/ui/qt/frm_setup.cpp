@@ -6,71 +6,23 @@
 #include <QComboBox>
 #include <QGridLayout>
 #include <QGroupBox>
-#include <QKeyEvent>
-#include <QKeySequence>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QRegularExpression>
-#include <QRegularExpressionValidator>
 #include <QScopedValueRollback>
 #include <QTimer>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <utility>
 
-#include "ui/port_key_filter.h"
 #include "ui/qt/core_texts.h"
+#include "ui/qt/device_list.h"
 #include "ui/qt/help_key.h"
+#include "ui/qt/port_number_box.h"
 #include "ui/qt/qt_text.h"
 #include "ui/qt/readable_ground.h"
 
 namespace velmora {
-
-namespace {
-
-QString describe(const PortIdentity& device) {
-    QStringList parts{QStringLiteral("COM%1").arg(device.number)};
-    // On Windows the device is called as its port.
-    if (const QString name = qtSystemText(device.device); name != parts.front()) {
-        parts.append(name);
-    }
-    const QString product = qtSystemText(device.maker + " " + device.product).trimmed();
-    if (!product.isEmpty()) {
-        parts.append(product);
-    }
-    // Two adapters of one kind differ in the end of their serial numbers.
-    constexpr qsizetype kTold = 4;
-    if (const QString serial = qtSystemText(device.serial); !serial.isEmpty()) {
-        parts.append((serial.size() > kTold ? QStringLiteral("\u2026") : QString()) + serial.right(kTold));
-    }
-    return parts.join(QStringLiteral("  "));
-}
-
-// Keys without a character move the cursor or leave the box, and those of the clipboard have a meaning of
-// their own; they are no business of the filter.
-bool isEditingKey(const QKeyEvent& key) {
-    for (const auto command : {QKeySequence::SelectAll, QKeySequence::Copy, QKeySequence::Cut,
-                               QKeySequence::Paste, QKeySequence::Undo, QKeySequence::Redo}) {
-        if (key.matches(command)) {
-            return true;
-        }
-    }
-    switch (key.key()) {
-        case Qt::Key_Delete:
-        case Qt::Key_Return:
-        case Qt::Key_Enter:
-        case Qt::Key_Escape:
-        case Qt::Key_Tab:
-        case Qt::Key_Backtab:
-            return true;
-        default:
-            return key.text().isEmpty();
-    }
-}
-
-}  // namespace
 
 frmSetup::frmSetup(SerialPort& port, ServerOptions& options, TransferSettings& transfer,
                    SetupModel::Probe probe, ListDevices listDevices, QWidget* parent)
@@ -121,14 +73,10 @@ QGroupBox* frmSetup::makePorts() {
         portWords[static_cast<std::size_t>(i - 1)] = words;
     }
     obPort.back()->setAccessibleName(tr("Other port"));
-    txtPortNo = new QLineEdit;
+    txtPortNo = new PortNumberBox;
     txtPortNo->setObjectName("txtPortNo");
     txtPortNo->setAccessibleName(tr("Port number"));
     txtPortNo->setMaximumWidth(fontMetrics().horizontalAdvance('0') * 10);
-    txtPortNo->setAttribute(Qt::WA_InputMethodEnabled, false);
-    // What is pasted is held to the characters that may be typed.
-    txtPortNo->setValidator(
-        new QRegularExpressionValidator(QRegularExpression(QStringLiteral("[0-9%&'(.]*")), txtPortNo));
     pbCheckPort = new QPushButton(tr("chec&k"));
     pbCheckPort->setObjectName("pbCheckPort");
     pbCheckPort->setAutoDefault(false);
@@ -140,11 +88,8 @@ QGroupBox* frmSetup::makePorts() {
 }
 
 void frmSetup::addDevices(QGridLayout& ports) {
-    cboPresentPorts = new QComboBox;
+    cboPresentPorts = new DeviceList;
     cboPresentPorts->setObjectName("cboPresentPorts");
-    cboPresentPorts->setAccessibleName(tr("Serial devices that are present"));
-    cboPresentPorts->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    cboPresentPorts->setMinimumContentsLength(38);
     pbRefreshPorts = new QPushButton(tr("&Refresh"));
     pbRefreshPorts->setObjectName("pbRefreshPorts");
     pbRefreshPorts->setAutoDefault(false);
@@ -266,11 +211,10 @@ void frmSetup::connectControls() {
     connect(obBaud_other, &QRadioButton::toggled, this,
             chosen([this] { model_.selectBaud(model_.otherBaud().value_or(SetupModel::kBaudRates[0])); }));
     connect(txtPortNo, &QLineEdit::textChanged, this, [this](const QString& text) { portTextChanged(text); });
-    txtPortNo->installEventFilter(this);
+    connect(txtPortNo, &PortNumberBox::keyRefused, this, [this] { beep_(); });
+    connect(txtPortNo, &PortNumberBox::pressed, this, [this] { model_.portTextPressed(); });
     connect(pbCheckPort, &QPushButton::clicked, this, &frmSetup::checkPort);
-    connect(cboPresentPorts, &QComboBox::currentIndexChanged, this, &frmSetup::deviceChosen);
-    // The device that is chosen already may be taken again in place of a number that was typed.
-    connect(cboPresentPorts, &QComboBox::activated, this, &frmSetup::deviceChosen);
+    connect(cboPresentPorts, &DeviceList::chosen, this, &frmSetup::deviceChosen);
     connect(pbRefreshPorts, &QPushButton::clicked, this, &frmSetup::fillDevices);
     connect(pbCheckCable, &QPushButton::clicked, this,
             [this] { checkCable_(model_.chosenPort(), model_.chosenSettings()); });
@@ -391,44 +335,20 @@ void frmSetup::showBaud() {
 }
 
 void frmSetup::fillDevices() {
-    showDevices(listDevices_ ? listDevices_() : std::vector<PortIdentity>());
+    cboPresentPorts->setDevices(listDevices_ ? listDevices_() : std::vector<PortIdentity>());
+    devicesChanged();
 }
 
 void frmSetup::refreshDevices() {
-    std::vector<PortIdentity> present = listDevices_ ? listDevices_() : std::vector<PortIdentity>();
-    const auto same = [](const PortIdentity& one, const PortIdentity& other) {
-        return describe(one) == describe(other) && one.mayOpen == other.mayOpen;
-    };
-    if (std::equal(present.begin(), present.end(), devices_.begin(), devices_.end(), same)) {
-        return;
-    }
-    const int row = cboPresentPorts->currentIndex();
-    const QString chosen = row < 0 ? QString() : describe(devices_[static_cast<std::size_t>(row)]);
-    showDevices(std::move(present));
-    const auto found = std::find_if(devices_.begin(), devices_.end(), [&chosen](const PortIdentity& device) {
-        return describe(device) == chosen;
-    });
-    if (found != devices_.end()) {
-        const QScopedValueRollback showing(showing_, true);
-        cboPresentPorts->setCurrentIndex(static_cast<int>(found - devices_.begin()));
-        showHint(*found);
+    if (cboPresentPorts->refresh(listDevices_ ? listDevices_() : std::vector<PortIdentity>())) {
+        devicesChanged();
     }
 }
 
-void frmSetup::showDevices(std::vector<PortIdentity> devices) {
-    const QScopedValueRollback showing(showing_, true);
-    devices_ = std::move(devices);
-    model_.setPresentPorts(devices_);
-    cboPresentPorts->clear();
-    cboPresentPorts->setPlaceholderText(devices_.empty() ? tr("No serial device is present")
-                                                         : tr("Devices that are present"));
-    for (const PortIdentity& device : devices_) {
-        cboPresentPorts->addItem(describe(device));
-    }
-    showDeviceTips();
-    cboPresentPorts->setCurrentIndex(-1);
-    lblDeviceHint->clear();
-    lblDeviceHint->hide();
+void frmSetup::devicesChanged() {
+    model_.setPresentPorts(cboPresentPorts->devices());
+    const PortIdentity* selected = cboPresentPorts->selected();
+    setDeviceHint(selected ? DeviceList::hint(*selected) : QString());
 }
 
 void frmSetup::offerHelp(const std::function<void()>& help) {
@@ -466,9 +386,8 @@ void frmSetup::checkPort() {
     }
 }
 
-void frmSetup::setDeviceTip(DeviceTip tip) {
-    deviceTip_ = std::move(tip);
-    showDeviceTips();
+void frmSetup::setDeviceTip(DeviceList::Tip tip) {
+    cboPresentPorts->setTip(std::move(tip));
 }
 
 void frmSetup::setCheckCable(CheckCable check) {
@@ -476,48 +395,23 @@ void frmSetup::setCheckCable(CheckCable check) {
     pbCheckCable->setVisible(checkCable_ != nullptr);
 }
 
-void frmSetup::showDeviceTips() {
-    int row = 0;
-    for (const auto& device : devices_) {
-        cboPresentPorts->setItemData(row++, deviceTip_ ? qtSystemText(deviceTip_(device.device)) : QString(),
-                                     Qt::ToolTipRole);
+void frmSetup::deviceChosen(const PortIdentity& device) {
+    if (model_.selectedPort() != SetupModel::kOtherPort ||
+        model_.portText() != std::to_string(device.number)) {
+        // The arrow keys choose too: the focus stays in the list.
+        keepFocus_ = true;
+        model_.setPortText(std::to_string(device.number));
+        model_.selectPort(SetupModel::kOtherPort);
+        keepFocus_ = false;
     }
-}
-
-void frmSetup::deviceChosen(int row) {
-    if (showing_ || row < 0 || static_cast<std::size_t>(row) >= devices_.size()) {
-        return;
-    }
-    const PortIdentity& device = devices_[static_cast<std::size_t>(row)];
-    if (model_.selectedPort() == SetupModel::kOtherPort &&
-        model_.portText() == std::to_string(device.number)) {
-        showHint(device);
-        return;
-    }
-    // The arrow keys choose too: the focus stays in the list.
-    keepFocus_ = true;
-    model_.setPortText(std::to_string(device.number));
-    model_.selectPort(SetupModel::kOtherPort);
-    keepFocus_ = false;
-    showHint(device);
-}
-
-void frmSetup::showHint(const PortIdentity& device) {
-    QString hint;
-    if (!device.mayOpen) {
-        const QString name = qtSystemText(device.device);
-        hint = device.groupToJoin.empty() ? tr("%1 may not be opened").arg(name)
-                                          : tr("%1 may not be opened: join the group \"%2\" and log in again")
-                                                .arg(name, qtSystemText(device.groupToJoin));
-    }
-    setDeviceHint(hint);
+    setDeviceHint(DeviceList::hint(device));
 }
 
 void frmSetup::setDeviceHint(const QString& hint) {
     lblDeviceHint->setText(hint);
     lblDeviceHint->setVisible(!hint.isEmpty());
     // A wrapped hint does not make the window grow by itself.
-    if (layout()->hasHeightForWidth()) {
+    if (!hint.isEmpty() && layout()->hasHeightForWidth()) {
         resize(width(), std::max(height(), layout()->totalHeightForWidth(width())));
     }
 }
@@ -527,21 +421,6 @@ void frmSetup::changeEvent(QEvent* event) {
     if (event->type() == QEvent::ActivationChange && isActiveWindow() && loaded_) {
         model_.activated();
     }
-}
-
-bool frmSetup::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == txtPortNo && event->type() == QEvent::MouseButtonPress &&
-        static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) {
-        model_.portTextPressed();
-    }
-    if (watched == txtPortNo && event->type() == QEvent::KeyPress) {
-        const auto& key = *static_cast<QKeyEvent*>(event);
-        if (!isEditingKey(key) && !portKeyPasses(key.text().at(0).unicode())) {
-            beep_();
-            return true;
-        }
-    }
-    return QDialog::eventFilter(watched, event);
 }
 
 void frmSetup::reject() {

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "serial/port_identity.h"
+#include "ui/qt/device_list.h"
 #include "ui/setup_model.h"
 
 class QCheckBox;
@@ -18,11 +19,12 @@ class QGridLayout;
 class QGroupBox;
 class QHBoxLayout;
 class QLabel;
-class QLineEdit;
 class QPushButton;
 class QRadioButton;
 
 namespace velmora {
+
+class PortNumberBox;
 
 /// Shows a SetupModel. The ports are probed once the dialog is on the screen; the probe lets events run, so
 /// the dialog may be cancelled meanwhile.
@@ -30,7 +32,6 @@ class frmSetup : public QDialog {
     Q_OBJECT
 
   public:
-    using DeviceTip = std::function<std::string(const std::string& device)>;
     /// Checks the cable at a port, with the settings of a mode string, over this dialog.
     using CheckCable = std::function<void(int port, const std::string& mode)>;
     using ListDevices = std::function<std::vector<PortIdentity>()>;
@@ -52,7 +53,7 @@ class frmSetup : public QDialog {
     /// said.
     void setFailureReason(std::function<std::string()> reason) { failureReason_ = std::move(reason); }
     /// What is said beside a device of the list; empty for nothing. Without it nothing is.
-    void setDeviceTip(DeviceTip tip);
+    void setDeviceTip(DeviceList::Tip tip);
     /// What "Check cable" does; without it there is no such button.
     void setCheckCable(CheckCable check);
     /// Offers texts of the display that are ready made, by these names; without any there is no such choice.
@@ -65,7 +66,6 @@ class frmSetup : public QDialog {
   protected:
     void showEvent(QShowEvent* event) override;
     void changeEvent(QEvent* event) override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     void build();
@@ -84,20 +84,16 @@ class frmSetup : public QDialog {
     void portTextChanged(const QString& text);
     std::function<void(bool)> chosen(std::function<void()> choice);
     void fillDevices();
-    void showDevices(std::vector<PortIdentity> devices);
-    void showHint(const PortIdentity& device);
-    void showDeviceTips();
-    void deviceChosen(int row);
+    void devicesChanged();
+    void deviceChosen(const PortIdentity& device);
     void closeNow();
 
     SetupModel model_;
     ListDevices listDevices_;
     std::function<void()> beep_;
-    DeviceTip deviceTip_;
     std::function<std::string()> failureReason_;
     bool reasonShown_ = false;
     CheckCable checkCable_;
-    std::vector<PortIdentity> devices_;
     bool shownOnce_ = false;
     bool loading_ = false;
     bool loaded_ = false;
@@ -108,9 +104,9 @@ class frmSetup : public QDialog {
     QGroupBox* grpPort = nullptr;
     std::array<QRadioButton*, SetupModel::kOtherPort> obPort{};
     std::array<QLabel*, SetupModel::kOtherPort> portWords{};
-    QLineEdit* txtPortNo = nullptr;
+    PortNumberBox* txtPortNo = nullptr;
     QPushButton* pbCheckPort = nullptr;
-    QComboBox* cboPresentPorts = nullptr;
+    DeviceList* cboPresentPorts = nullptr;
     QPushButton* pbRefreshPorts = nullptr;
     QLabel* lblDeviceHint = nullptr;
     QLabel* lblStatus = nullptr;

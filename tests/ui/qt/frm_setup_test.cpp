@@ -1,9 +1,7 @@
 #include "ui/qt/frm_setup.h"
 
 #include <QCheckBox>
-#include <QClipboard>
 #include <QComboBox>
-#include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -335,45 +333,6 @@ class FrmSetupTest : public QObject {
         QCOMPARE(text()->text(), QString("12"));
         QCOMPARE(beeps, 5);
     }
-    void theEditingKeysCodesLetTheirCharactersThrough() {
-        port.number = 9;
-        open();
-        text()->clear();
-        QTest::keyClicks(text(), "%&'(.");
-        QCOMPARE(text()->text(), QString("%&'(."));
-        QTest::keyClick(text(), Qt::Key_Left);
-        QTest::keyClick(text(), Qt::Key_Delete);
-        QCOMPARE(text()->text(), QString("%&'("));
-        QCOMPARE(beeps, 0);
-    }
-    void theKeysOfTheClipboardWork() {
-        port.number = 9;
-        open();
-        text()->clear();
-        QTest::keyClicks(text(), "12");
-        QTest::keyClick(text(), Qt::Key_A, Qt::ControlModifier);
-        QCOMPARE(text()->selectedText(), QString("12"));
-        QTest::keyClick(text(), Qt::Key_C, Qt::ControlModifier);
-        QTest::keyClick(text(), Qt::Key_X, Qt::ControlModifier);
-        QCOMPARE(text()->text(), QString());
-        QTest::keyClick(text(), Qt::Key_V, Qt::ControlModifier);
-        QTest::keyClick(text(), Qt::Key_V, Qt::ControlModifier);
-        QCOMPARE(text()->text(), QString("1212"));
-        QTest::keyClick(text(), Qt::Key_Z, Qt::ControlModifier);
-        QCOMPARE(text()->text(), QString("12"));
-        QCOMPARE(beeps, 0);
-    }
-    void onlyWhatMayBeTypedIsPasted() {
-        port.number = 9;
-        open();
-        text()->clear();
-        QGuiApplication::clipboard()->setText("COM7");
-        QTest::keyClick(text(), Qt::Key_Insert, Qt::ShiftModifier);
-        QCOMPARE(text()->text(), QString());
-        QGuiApplication::clipboard()->setText("17");
-        QTest::keyClick(text(), Qt::Key_Insert, Qt::ShiftModifier);
-        QCOMPARE(text()->text(), QString("17"));
-    }
     void keysThatLeaveTheNumberAreNoCharacters_data() {
         QTest::addColumn<Qt::Key>("key");
         QTest::addColumn<bool>("stays");
@@ -420,15 +379,6 @@ class FrmSetupTest : public QObject {
         QCOMPARE(probed.size(), looks);
         QVERIFY(ok()->isEnabled());
     }
-    void devicesAreNamedByWhatIsKnownOfThem() {
-        devices = {device(5, "COM5"), adapter(6, "/dev/ttyUSB1", "B1")};
-        open();
-        auto* list = find<QComboBox>("cboPresentPorts");
-        QCOMPARE(list->itemText(0), QString("COM5"));
-        QCOMPARE(list->itemText(1), QString("COM6  /dev/ttyUSB1  FTDI FT232R USB UART  B1"));
-        dialog->refreshDevices();
-        QCOMPARE(list->count(), 2);
-    }
     void aRightThatIsGivenWhileSetupIsOpenTakesTheHintAway() {
         devices = {device(6, "/dev/ttyUSB1")};
         devices[0].mayOpen = false;
@@ -449,13 +399,6 @@ class FrmSetupTest : public QObject {
         auto* list = find<QComboBox>("cboPresentPorts");
         QCOMPARE(list->itemText(0), QString("COM7  /dev/ttyUSB2"));
         QCOMPARE(list->currentIndex(), -1);
-    }
-    void aDeviceThatNoGroupMayOpenSaysOnlyThat() {
-        devices = {device(6, "/dev/ttyUSB1")};
-        devices[0].mayOpen = false;
-        open();
-        QTest::keyClick(find<QComboBox>("cboPresentPorts"), Qt::Key_Down);
-        QCOMPARE(find<QLabel>("lblDeviceHint")->text(), QString("/dev/ttyUSB1 may not be opened"));
     }
     void aPressInTheNumberSelectsTheOtherPort() {
         open();

@@ -1047,6 +1047,29 @@ Bitte den Ordnernamen prüfen.</translation>
     </message>
 </context>
 <context>
+    <name>velmora::DeviceList</name>
+    <message>
+        <source>Serial devices that are present</source>
+        <translation>Vorhandene serielle Geräte</translation>
+    </message>
+    <message>
+        <source>No serial device is present</source>
+        <translation>Kein serielles Gerät vorhanden</translation>
+    </message>
+    <message>
+        <source>Devices that are present</source>
+        <translation>Vorhandene Geräte</translation>
+    </message>
+    <message>
+        <source>%1 may not be opened</source>
+        <translation>%1 darf nicht geöffnet werden</translation>
+    </message>
+    <message>
+        <source>%1 may not be opened: join the group &quot;%2&quot; and log in again</source>
+        <translation>%1 darf nicht geöffnet werden: der Gruppe „%2“ beitreten und neu anmelden</translation>
+    </message>
+</context>
+<context>
     <name>velmora::FolderDialog</name>
     <message>
         <source>OK</source>
@@ -1465,10 +1488,6 @@ Bitte einen anderen Ordner oder Namen wählen.</translation>
         <translation>&amp;prüfen</translation>
     </message>
     <message>
-        <source>Serial devices that are present</source>
-        <translation>Vorhandene serielle Geräte</translation>
-    </message>
-    <message>
         <source>&amp;Refresh</source>
         <translation>&amp;Aktualisieren</translation>
     </message>
@@ -1519,22 +1538,6 @@ Bitte einen anderen Ordner oder Namen wählen.</translation>
     <message>
         <source>Help</source>
         <translation>Hilfe</translation>
-    </message>
-    <message>
-        <source>No serial device is present</source>
-        <translation>Kein serielles Gerät vorhanden</translation>
-    </message>
-    <message>
-        <source>Devices that are present</source>
-        <translation>Vorhandene Geräte</translation>
-    </message>
-    <message>
-        <source>%1 may not be opened</source>
-        <translation>%1 darf nicht geöffnet werden</translation>
-    </message>
-    <message>
-        <source>%1 may not be opened: join the group &quot;%2&quot; and log in again</source>
-        <translation>%1 darf nicht geöffnet werden: der Gruppe „%2“ beitreten und neu anmelden</translation>
     </message>
     <message>
         <source>ODB (tab-delimited)</source>

@@ -1047,6 +1047,29 @@ Compruebe el nombre de la carpeta.</translation>
     </message>
 </context>
 <context>
+    <name>velmora::DeviceList</name>
+    <message>
+        <source>Serial devices that are present</source>
+        <translation>Dispositivos serie presentes</translation>
+    </message>
+    <message>
+        <source>No serial device is present</source>
+        <translation>No hay ningún dispositivo serie</translation>
+    </message>
+    <message>
+        <source>Devices that are present</source>
+        <translation>Dispositivos presentes</translation>
+    </message>
+    <message>
+        <source>%1 may not be opened</source>
+        <translation>%1 no se puede abrir</translation>
+    </message>
+    <message>
+        <source>%1 may not be opened: join the group &quot;%2&quot; and log in again</source>
+        <translation>%1 no se puede abrir: únase al grupo «%2» y vuelva a iniciar sesión</translation>
+    </message>
+</context>
+<context>
     <name>velmora::FolderDialog</name>
     <message>
         <source>OK</source>
@@ -1465,10 +1488,6 @@ Elija otra carpeta u otro nombre.</translation>
         <translation>&amp;comprobar</translation>
     </message>
     <message>
-        <source>Serial devices that are present</source>
-        <translation>Dispositivos serie presentes</translation>
-    </message>
-    <message>
         <source>&amp;Refresh</source>
         <translation>&amp;Actualizar</translation>
     </message>
@@ -1519,22 +1538,6 @@ Elija otra carpeta u otro nombre.</translation>
     <message>
         <source>Help</source>
         <translation>Ayuda</translation>
-    </message>
-    <message>
-        <source>No serial device is present</source>
-        <translation>No hay ningún dispositivo serie</translation>
-    </message>
-    <message>
-        <source>Devices that are present</source>
-        <translation>Dispositivos presentes</translation>
-    </message>
-    <message>
-        <source>%1 may not be opened</source>
-        <translation>%1 no se puede abrir</translation>
-    </message>
-    <message>
-        <source>%1 may not be opened: join the group &quot;%2&quot; and log in again</source>
-        <translation>%1 no se puede abrir: únase al grupo «%2» y vuelva a iniciar sesión</translation>
     </message>
     <message>
         <source>ODB (tab-delimited)</source>

@@ -1047,6 +1047,29 @@ Veuillez vérifier le nom du dossier.</translation>
     </message>
 </context>
 <context>
+    <name>velmora::DeviceList</name>
+    <message>
+        <source>Serial devices that are present</source>
+        <translation>Périphériques série présents</translation>
+    </message>
+    <message>
+        <source>No serial device is present</source>
+        <translation>Aucun périphérique série présent</translation>
+    </message>
+    <message>
+        <source>Devices that are present</source>
+        <translation>Périphériques présents</translation>
+    </message>
+    <message>
+        <source>%1 may not be opened</source>
+        <translation>%1 ne peut pas être ouvert</translation>
+    </message>
+    <message>
+        <source>%1 may not be opened: join the group &quot;%2&quot; and log in again</source>
+        <translation>%1 ne peut pas être ouvert : rejoignez le groupe « %2 » et reconnectez-vous</translation>
+    </message>
+</context>
+<context>
     <name>velmora::FolderDialog</name>
     <message>
         <source>OK</source>
@@ -1465,10 +1488,6 @@ Veuillez choisir un autre dossier ou un autre nom.</translation>
         <translation>&amp;vérifier</translation>
     </message>
     <message>
-        <source>Serial devices that are present</source>
-        <translation>Périphériques série présents</translation>
-    </message>
-    <message>
         <source>&amp;Refresh</source>
         <translation>&amp;Actualiser</translation>
     </message>
@@ -1519,22 +1538,6 @@ Veuillez choisir un autre dossier ou un autre nom.</translation>
     <message>
         <source>Help</source>
         <translation>Aide</translation>
-    </message>
-    <message>
-        <source>No serial device is present</source>
-        <translation>Aucun périphérique série présent</translation>
-    </message>
-    <message>
-        <source>Devices that are present</source>
-        <translation>Périphériques présents</translation>
-    </message>
-    <message>
-        <source>%1 may not be opened</source>
-        <translation>%1 ne peut pas être ouvert</translation>
-    </message>
-    <message>
-        <source>%1 may not be opened: join the group &quot;%2&quot; and log in again</source>
-        <translation>%1 ne peut pas être ouvert : rejoignez le groupe « %2 » et reconnectez-vous</translation>
     </message>
     <message>
         <source>ODB (tab-delimited)</source>

@@ -1047,6 +1047,29 @@ Verificare il nome della cartella.</translation>
     </message>
 </context>
 <context>
+    <name>velmora::DeviceList</name>
+    <message>
+        <source>Serial devices that are present</source>
+        <translation>Dispositivi seriali presenti</translation>
+    </message>
+    <message>
+        <source>No serial device is present</source>
+        <translation>Nessun dispositivo seriale presente</translation>
+    </message>
+    <message>
+        <source>Devices that are present</source>
+        <translation>Dispositivi presenti</translation>
+    </message>
+    <message>
+        <source>%1 may not be opened</source>
+        <translation>%1 non può essere aperto</translation>
+    </message>
+    <message>
+        <source>%1 may not be opened: join the group &quot;%2&quot; and log in again</source>
+        <translation>%1 non può essere aperto: entrare nel gruppo «%2» e accedere di nuovo</translation>
+    </message>
+</context>
+<context>
     <name>velmora::FolderDialog</name>
     <message>
         <source>OK</source>
@@ -1465,10 +1488,6 @@ Scegliere un’altra cartella o un altro nome.</translation>
         <translation>&amp;verifica</translation>
     </message>
     <message>
-        <source>Serial devices that are present</source>
-        <translation>Dispositivi seriali presenti</translation>
-    </message>
-    <message>
         <source>&amp;Refresh</source>
         <translation>&amp;Aggiorna</translation>
     </message>
@@ -1519,22 +1538,6 @@ Scegliere un’altra cartella o un altro nome.</translation>
     <message>
         <source>Help</source>
         <translation>Aiuto</translation>
-    </message>
-    <message>
-        <source>No serial device is present</source>
-        <translation>Nessun dispositivo seriale presente</translation>
-    </message>
-    <message>
-        <source>Devices that are present</source>
-        <translation>Dispositivi presenti</translation>
-    </message>
-    <message>
-        <source>%1 may not be opened</source>
-        <translation>%1 non può essere aperto</translation>
-    </message>
-    <message>
-        <source>%1 may not be opened: join the group &quot;%2&quot; and log in again</source>
-        <translation>%1 non può essere aperto: entrare nel gruppo «%2» e accedere di nuovo</translation>
     </message>
     <message>
         <source>ODB (tab-delimited)</source>

@@ -1047,6 +1047,29 @@ Controleer de naam van de map.</translation>
     </message>
 </context>
 <context>
+    <name>velmora::DeviceList</name>
+    <message>
+        <source>Serial devices that are present</source>
+        <translation>Aanwezige seriële apparaten</translation>
+    </message>
+    <message>
+        <source>No serial device is present</source>
+        <translation>Geen serieel apparaat aanwezig</translation>
+    </message>
+    <message>
+        <source>Devices that are present</source>
+        <translation>Aanwezige apparaten</translation>
+    </message>
+    <message>
+        <source>%1 may not be opened</source>
+        <translation>%1 mag niet worden geopend</translation>
+    </message>
+    <message>
+        <source>%1 may not be opened: join the group &quot;%2&quot; and log in again</source>
+        <translation>%1 mag niet worden geopend: word lid van de groep ‘%2’ en meld u opnieuw aan</translation>
+    </message>
+</context>
+<context>
     <name>velmora::FolderDialog</name>
     <message>
         <source>OK</source>
@@ -1465,10 +1488,6 @@ Kies een andere map of naam.</translation>
         <translation>&amp;testen</translation>
     </message>
     <message>
-        <source>Serial devices that are present</source>
-        <translation>Aanwezige seriële apparaten</translation>
-    </message>
-    <message>
         <source>&amp;Refresh</source>
         <translation>&amp;Vernieuwen</translation>
     </message>
@@ -1519,22 +1538,6 @@ Kies een andere map of naam.</translation>
     <message>
         <source>Help</source>
         <translation>Help</translation>
-    </message>
-    <message>
-        <source>No serial device is present</source>
-        <translation>Geen serieel apparaat aanwezig</translation>
-    </message>
-    <message>
-        <source>Devices that are present</source>
-        <translation>Aanwezige apparaten</translation>
-    </message>
-    <message>
-        <source>%1 may not be opened</source>
-        <translation>%1 mag niet worden geopend</translation>
-    </message>
-    <message>
-        <source>%1 may not be opened: join the group &quot;%2&quot; and log in again</source>
-        <translation>%1 mag niet worden geopend: word lid van de groep ‘%2’ en meld u opnieuw aan</translation>
     </message>
     <message>
         <source>ODB (tab-delimited)</source>
