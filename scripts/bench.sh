@@ -10,7 +10,7 @@ for program in build-bench/bench/*_bench; do
   echo "== $(basename "$program")"
   "$program" --benchmark_min_time=0.3 2> /dev/null
 done
-for script in end_to_end line_share wakeups; do
+for script in end_to_end line_share wakeups window_answers; do
   echo
   echo "== bench/$script.sh"
   "bench/$script.sh" build-bench

@@ -1,0 +1,6 @@
+if(UNIX AND VELMORA_DESKTOP)
+  add_executable(velmora-window-answers window_answers.cpp)
+  target_link_libraries(velmora-window-answers PRIVATE velmora_desktop_server velmora_flags)
+  set_target_properties(velmora-window-answers PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bench)
+  add_dependencies(benchmarks velmora-window-answers)
+endif()
