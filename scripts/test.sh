@@ -44,7 +44,8 @@ scripts/build.sh build -DCMAKE_BUILD_TYPE=Release -DCMAKE_CXX_FLAGS_RELEASE="-O2
 stage "Simulation"
 VELMORA_SIMULATION_BUILD=build scripts/simulate.sh --seconds 30
 stage "End-to-end tests"
-ctest --test-dir build --output-on-failure -j "$jobs" -L e2e --progress
+# They wait for each other's lines more than for a processor.
+ctest --test-dir build --output-on-failure -j "$((3 * jobs))" -L e2e --progress
 stage "Windows"
 scripts/test-windows.sh core
 stage "Linter"
