@@ -97,7 +97,7 @@ class Files {
     /// folder, for this user alone. The caller deletes it.
     virtual std::string createTemporaryFile(const std::string& folder = {}) = 0;
     /// Deletes the temporary files in a folder that a program did not live to delete. Those that a program
-    /// has open stay, and so does what cannot be deleted. Never fails.
+    /// has open or is replacing a file with stay, and so does what cannot be deleted. Never fails.
     virtual void removeLeftovers(const std::string& folder) = 0;
     /// Calls `visit` for every file of the folder, not for folders and temporary files, in the order of their
     /// names.

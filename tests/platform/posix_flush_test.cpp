@@ -61,6 +61,22 @@ TEST_F(PosixFlushTest, ADiskThatFailsBeforeTheRenameLeavesTheOldFile) {
     EXPECT_EQ(folder.read("old"), "old");
 }
 
+TEST_F(PosixFlushTest, AFileThatIsAboutToTakeItsNameIsNoLeftover) {
+    const std::string fresh = files.createTemporaryFile(folder.path());
+    files.open(fresh, OpenMode::ReadWrite)->write("new");
+    PosixFiles another{folder.path()};
+    calls.meanwhile = [&] { another.removeLeftovers(folder.path()); };
+    files.replaceFile(fresh, folder.path("saved"));
+    EXPECT_EQ(folder.read("saved"), "new");
+}
+
+TEST_F(PosixFlushTest, AFileThatAnotherProgramLocksTakesItsNameAllTheSame) {
+    const std::string fresh = folder.write("new", "new");
+    const auto locked = files.open(fresh, OpenMode::ReadWrite);
+    files.replaceFile(fresh, folder.path("saved"));
+    EXPECT_EQ(folder.read("saved"), "new");
+}
+
 TEST_F(PosixFlushTest, AFileSystemThatKeepsNothingBackIsFine) {
     const auto file = files.open(folder.path("new"), OpenMode::CreateNew);
     for (const std::string& path : {folder.path("new"), folder.path()}) {

@@ -8,6 +8,7 @@
 
 #include <array>
 #include <cerrno>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -17,8 +18,9 @@ namespace velmora::test {
 /// flushes fail on demand. All tests share the one object; begin with a new one.
 struct DiskCalls {
     std::vector<std::string> made;
-    int flushError = 0;       ///< errno of flushes that fail, 0 for none
-    std::string failingPath;  ///< what cannot be flushed
+    int flushError = 0;                       ///< errno of flushes that fail, 0 for none
+    std::string failingPath;                  ///< what cannot be flushed
+    std::function<void()> meanwhile = [] {};  ///< what others do before each flush and rename
 };
 
 inline DiskCalls& diskCalls() {
@@ -35,6 +37,7 @@ extern "C" int fsync(int descriptor) {
     if (readlink(entry.c_str(), path.data(), path.size() - 1) > 0) {
         calls.made.push_back(std::string("flush ") + path.data());
     }
+    calls.meanwhile();
     if (calls.flushError != 0 && calls.failingPath == path.data()) {
         errno = calls.flushError;
         return -1;
@@ -44,5 +47,6 @@ extern "C" int fsync(int descriptor) {
 
 extern "C" int rename(const char* from, const char* to) noexcept {
     velmora::test::diskCalls().made.push_back("rename " + std::string(from) + " to " + to);
+    velmora::test::diskCalls().meanwhile();
     return static_cast<int>(syscall(SYS_renameat2, AT_FDCWD, from, AT_FDCWD, to, 0));
 }

@@ -70,13 +70,19 @@ void lock(int descriptor, bool writable, const std::string& path) {
     }
 }
 
-/// Hands the bytes to the disk before the name changes hands, so that a power failure leaves one whole file.
-void flushContents(const std::string& path) {
-    const Descriptor file(withoutInterruption([&] { return ::open(path.c_str(), O_RDONLY | O_CLOEXEC); }));
+/// Hands the bytes to the disk before the name changes hands, so that a power failure leaves one whole file;
+/// locked meanwhile, so that no other program that starts takes it for a leftover.
+void flushAndRename(const std::string& from, const std::string& to) {
+    const Descriptor file(withoutInterruption([&] { return ::open(from.c_str(), O_RDONLY | O_CLOEXEC); }));
     if (file.number() == -1) {
-        throw systemError(errno, path);
+        throw systemError(errno, from);
     }
-    flushFile(file.number(), path);
+    // Refused where the caller holds it, which keeps the others off as well.
+    std::ignore = flock(file.number(), LOCK_SH | LOCK_NB);
+    flushFile(file.number(), from);
+    if (rename(from.c_str(), to.c_str()) != 0) {
+        throw systemError(errno, to);
+    }
 }
 
 /// Gives a new file the rights of the one that it replaces and, where the system lets it, owner and group.
@@ -226,10 +232,7 @@ void PosixFiles::replaceFile(const std::string& from, const std::string& to) {
         }
         takeOver(source, *old);
     }
-    flushContents(source);
-    if (rename(source.c_str(), target.c_str()) != 0) {
-        throw systemError(errno, target);
-    }
+    flushAndRename(source, target);
     flushEntry(target);
 }
 
