@@ -134,9 +134,16 @@ TEST_F(PosixFailuresTest, BytesThatAreLostInClosingAreTold) {
 // Replacing and deleting.
 
 TEST_F(PosixFailuresTest, AFileThatCannotGetTheRightsOfTheOldOneDoesNotReplaceIt) {
+    std::filesystem::permissions(folder.write("old", "old"), std::filesystem::perms(0600));
     const FailingCall rights("chmod", EPERM);
     EXPECT_EQ(replaceError(), 75);
     EXPECT_EQ(folder.read("old"), "old");
+}
+
+TEST_F(PosixFailuresTest, OnAFileSystemThatKeepsNoRightsTheOldFileIsReplaced) {
+    const FailingCall rights("chmod", EPERM);
+    EXPECT_EQ(replaceError(), 0);
+    EXPECT_EQ(folder.read("old"), "new");
 }
 
 TEST_F(PosixFailuresTest, AnotherUsersFileIsReplacedAllTheSame) {
@@ -172,6 +179,15 @@ TEST_F(PosixFailuresTest, ATemporaryFileThatCannotGetItsRightsIsNotLeft) {
     const FailingCall rights("fchmod", EIO);
     EXPECT_EQ(errorOf([&] { files.createTemporaryFile(folder.path()); }), 57);
     EXPECT_THAT(folder.names(), IsEmpty());
+}
+
+TEST_F(PosixFailuresTest, AFileSystemThatKeepsNoRightsTakesNewFiles) {
+    // FAT as Linux mounts it says EPERM to what it cannot keep.
+    for (const int error : {EPERM, EOPNOTSUPP, ENOSYS}) {
+        const FailingCall rights("fchmod", error);
+        const std::string path = files.createTemporaryFile(folder.path());
+        EXPECT_TRUE(files.fileExists(path)) << error;
+    }
 }
 
 TEST_F(PosixFailuresTest, AFolderThatCannotBeReadToItsEndIsNoShorterFolder) {

@@ -85,10 +85,17 @@ void flushAndRename(const std::string& from, const std::string& to) {
     }
 }
 
+/// Whether the error of a change of rights says that the file system keeps none, as FAT and some that are
+/// mounted over a network: its owner may change them anywhere else.
+bool keepsNoRights(int error) {
+    return error == EPERM || error == EOPNOTSUPP || error == ENOSYS;
+}
+
 /// Gives a new file the rights of the one that it replaces and, where the system lets it, owner and group.
-void takeOver(const std::string& path, const struct stat& old) {
+void takeOver(const std::string& path, const struct stat& fresh, const struct stat& old) {
     constexpr auto kSameOwner = static_cast<uid_t>(-1);
-    if (chmod(path.c_str(), old.st_mode & 07777) != 0) {
+    // Where a file system keeps no rights all files have the same, and it refuses to set any.
+    if (fresh.st_mode != old.st_mode && chmod(path.c_str(), old.st_mode & 07777) != 0) {
         throw systemError(errno, path);
     }
     if (chown(path.c_str(), old.st_uid, old.st_gid) != 0) {
@@ -225,12 +232,12 @@ std::string PosixFiles::followLinks(const std::string& path) const {
 void PosixFiles::replaceFile(const std::string& from, const std::string& to) {
     const std::string source = lookup_.lookUp(from).path;
     const std::string target = followLinks(to);
-    requireFile(source);
+    const struct stat fresh = requireFile(source);
     if (const std::optional<struct stat> old = statusOf(target)) {
         if (!S_ISREG(old->st_mode)) {
             throw RunTimeError(ErrorNumber::PathFileAccess, target);
         }
-        takeOver(source, *old);
+        takeOver(source, fresh, *old);
     }
     flushAndRename(source, target);
     flushEntry(target);
@@ -250,7 +257,7 @@ std::string PosixFiles::createTemporaryFile(const std::string& folder) {
         // It is going to be a file of its folder, so it gets the rights that any new file gets there.
         const mode_t mask = umask(0);
         umask(mask);
-        if (fchmod(file.number(), 0666 & ~mask) != 0) {
+        if (fchmod(file.number(), 0666 & ~mask) != 0 && !keepsNoRights(errno)) {
             const int error = errno;
             unlink(path.c_str());
             throw systemError(error, path);
