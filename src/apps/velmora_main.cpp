@@ -10,6 +10,7 @@
 #include "arguments/program.h"
 #include "eventloop/only_instance.h"
 #include "eventloop/stop_signals.h"
+#include "platform/closed_pipe.h"
 #include "platform/file_size_limit.h"
 #include "platform/native.h"
 #include "startup/start_paths.h"
@@ -22,6 +23,7 @@ namespace {
 using namespace velmora;
 
 int serve(int argc, char** argv) {
+    outliveClosedPipes();
     HeldStopSignals held;
     answerWithoutDisplay(systemArguments(argc, argv));
     // It takes its own arguments out of argc and argv.

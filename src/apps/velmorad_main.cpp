@@ -1,6 +1,5 @@
 // velmorad: the server without a window.
 #include <QCoreApplication>
-#include <csignal>
 #include <iostream>
 
 #include "apps/console.h"
@@ -11,6 +10,7 @@
 #include "arguments/program.h"
 #include "arguments/syntax.h"
 #include "eventloop/stop_signals.h"
+#include "platform/closed_pipe.h"
 #include "platform/console_output.h"
 #include "platform/file_size_limit.h"
 #ifdef _WIN32
@@ -22,10 +22,7 @@ namespace {
 using namespace velmora;
 
 int serve(const ServerArguments& arguments, int argc, char** argv) {
-#ifdef SIGPIPE
-    // Whoever reads the output may go away; the Organiser is served all the same.
-    std::signal(SIGPIPE, SIG_IGN);
-#endif
+    outliveClosedPipes();
     HeldStopSignals held;
     QCoreApplication application(argc, argv);
     HeadlessServer server(arguments);

@@ -2,7 +2,9 @@
 #include <gtest/gtest.h>
 #include <signal.h>
 
+#include <memory>
 #include <string>
+#include <vector>
 
 #include "e2e/support/desktop_session_fixture.h"
 
@@ -41,6 +43,22 @@ TEST_F(DesktopTest, ASignalEndsItInOrderGivesThePortBackAndChangesNoSetting) {
         EXPECT_EQ(server->wait(), 0) << "signal " << number;
         EXPECT_EQ(contentsOf(ini()), before);
     }
+}
+
+TEST_F(DesktopTest, WhoeverReadItsWarningsMayGo) {
+    if (serverSide->windows()) {
+        GTEST_SKIP() << "a pipe without a reader ends no program there";
+    }
+    writeIni();
+    std::vector<std::string> command{"bash", "-c", R"(exec 2> >(:); wait $!; exec "$@")", "bash"};
+    for (const std::string& word : serverSide->command("velmora", {})) {
+        command.push_back(word);
+    }
+    session["QT_LOGGING_RULES"] = "*=true";  // the toolkit has something to say
+    server = std::make_unique<Process>(command, desktopVariables());
+    save("NAMES", "one\r\n");
+    server->signal(SIGTERM);
+    EXPECT_EQ(server->wait(), 0);
 }
 
 TEST_F(DesktopTest, DebugSwitchInAnyCaseStartsToo) {

@@ -47,13 +47,16 @@ class DesktopFixture : public ServerFixture {
     void startDesktop(const std::vector<std::string>& options = {}) { server = desktopProcess(options); }
     /// The program, started beside whatever runs.
     std::unique_ptr<Process> desktopProcess(const std::vector<std::string>& options) const {
+        return std::make_unique<Process>(serverSide->command("velmora", options), desktopVariables());
+    }
+    std::map<std::string, std::string> desktopVariables() const {
         std::map<std::string, std::string> variables = serverSide->environment(home, zone);
         variables.insert(session.begin(), session.end());
         if (display) {
             variables["QT_QPA_PLATFORM"] = "xcb";
             variables["DISPLAY"] = display->name();
         }
-        return std::make_unique<Process>(serverSide->command("velmora", options), variables);
+        return variables;
     }
     /// Saves a file through the Organiser, which keeps asking for the link until the server is there.
     void save(const std::string& name, const std::string& contents) {
