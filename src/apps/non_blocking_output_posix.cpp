@@ -19,6 +19,10 @@ const char* const kStreamLineEnd = "\n";
 
 namespace {
 
+bool mayHaveRoomLater(int error) {
+    return error == EAGAIN || error == EWOULDBLOCK || error == ENOSPC || error == EDQUOT;
+}
+
 /// The flag O_NONBLOCK belongs to everybody who has the stream, a shell's terminal among them, so the stream
 /// is opened once more where that is possible.
 class NonBlockingDescriptor {
@@ -51,7 +55,7 @@ class NonBlockingDescriptor {
         if (count >= 0) {
             return static_cast<std::size_t>(count);
         }
-        return errno == EAGAIN || errno == EWOULDBLOCK ? 0 : bytes.size();
+        return mayHaveRoomLater(errno) ? 0 : bytes.size();
     }
 
   private:

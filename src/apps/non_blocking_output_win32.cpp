@@ -17,7 +17,8 @@ LineOutput::Write nonBlockingOutput(std::FILE* stream) {
         DWORD count = 0;
         const BOOL written =
             WriteFile(handle, bytes.data(), static_cast<DWORD>(bytes.size()), &count, nullptr);
-        return written != FALSE ? std::size_t{count} : bytes.size();
+        const bool full = written == FALSE && GetLastError() == ERROR_DISK_FULL;
+        return written != FALSE || full ? std::size_t{count} : bytes.size();
     };
 }
 

@@ -68,6 +68,11 @@ TEST(NonBlockingOutputTest, AFullTerminalTakesNothing) {
     ::close(master);
 }
 
+TEST(NonBlockingOutputTest, AFullDiskTakesNothing) {
+    const Stream stream = streamOn(::open("/dev/full", O_WRONLY));
+    EXPECT_EQ(nonBlockingOutput(stream.get())("more"), 0U);
+}
+
 TEST(NonBlockingOutputTest, APipeWhoseReaderHasGoneTakesEverything) {
     ::signal(SIGPIPE, SIG_IGN);
     std::array<int, 2> ends{};
