@@ -79,6 +79,11 @@ std::string describe(const Transfer& transfer, const TransferEnd& end) {
                : what + " incomplete: " + amountText(transfer) + ", " + reasonText(end);
 }
 
+std::string endSentence(const Transfer& transfer, const TransferEnd& end) {
+    const std::string deed = transfer.direction == TransferDirection::Save ? "Save of " : "Load of ";
+    return (transfer.name.empty() ? "Request" : deed + transfer.name) + ": " + resultText(transfer, end);
+}
+
 std::string durationText(const Transfer& transfer) {
     const auto tenths = std::llround(static_cast<double>(transfer.duration.count()) * 10 / kSecond);
     return groupedText(tenths / 10) + '.' + std::to_string(tenths % 10) + " s";

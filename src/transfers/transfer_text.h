@@ -13,6 +13,10 @@ namespace velmora {
 /// Memo.odb refused: no such file (189)", "told TIME".
 std::string describe(const Transfer& transfer, const TransferEnd& end);
 
+/// The same of a file, for those who see or hear nothing else of it, and without figures: "Save of
+/// Journal.odb: complete", "Load of Memo.odb: refused: no such file (189)".
+std::string endSentence(const Transfer& transfer, const TransferEnd& end);
+
 // Parts of such a line, for tables.
 
 /// "17.2 s".

@@ -7,9 +7,7 @@ namespace velmora {
 
 void Notices::transferEnded(const Transfer& transfer, const TransferEnd& end) {
     if (movesFile(transfer) && end.result != TransferResult::Refused) {
-        const std::string deed = transfer.direction == TransferDirection::Save ? "Save of " : "Load of ";
-        tell({deed + transfer.name + ": " + resultText(transfer, end),
-              end.result == TransferResult::Incomplete});
+        tell({endSentence(transfer, end), end.result == TransferResult::Incomplete});
     }
 }
 

@@ -6,7 +6,7 @@ namespace velmora {
 
 void TransferSpeech::transferEnded(const Transfer& transfer, const TransferEnd& end) {
     if (movesFile(transfer)) {
-        say_(describe(transfer, end));
+        say_(endSentence(transfer, end));
     }
 }
 

@@ -9,8 +9,8 @@
 
 namespace velmora {
 
-/// Says how each file ended, as the server without a window prints it. Listings and the clock, which come
-/// with most files, are not said.
+/// Says how each file ended, in few words: whoever hears them goes on with something else meanwhile. Listings
+/// and the clock, which come with most files, are not said.
 class TransferSpeech : public TransferObserver {
   public:
     /// Takes one line of Windows-1252.

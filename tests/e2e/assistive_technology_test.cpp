@@ -97,10 +97,10 @@ TEST_F(AssistiveTechnologyTest, EveryFinishedFileIsSpoken) {
     writeIni();
     startDesktop();
     save("NAMES", "one\ttwo\r\n");
-    expectHeard("shows alert message: saved Names.odb 9 bytes in ");
+    expectHeard("shows alert message: Save of Names.odb: complete");
     const Finished missing = organiser({"load", "GONE"});
     EXPECT_NE(missing.status, 0);
-    expectHeard("shows alert message: load of Gone.odb refused: no such file (189)");
+    expectHeard("shows alert message: Load of Gone.odb: refused: no such file (189)");
 }
 
 TEST_F(AssistiveTechnologyTest, AWarningIsSpoken) {

@@ -49,6 +49,15 @@ TEST(TransferTextTest, ARefusalHasItsReason) {
               "request refused: invalid request (190)");
 }
 
+TEST(TransferTextTest, ASentenceSaysWhatBecameOfAFile) {
+    EXPECT_EQ(endSentence(journal(), {}), "Save of Journal.odb: complete");
+    EXPECT_EQ(
+        endSentence(journal(TransferDirection::Load), {TransferResult::Incomplete, 0, "the link ended"}),
+        "Load of Journal.odb: incomplete: the link ended");
+    EXPECT_EQ(endSentence({}, {TransferResult::Refused, 190, "invalid request"}),
+              "Request: refused: invalid request (190)");
+}
+
 TEST(TransferTextTest, ListingsAndTheClockHaveVerbsOfTheirOwn) {
     Transfer transfer = journal(TransferDirection::Load);
     transfer.name = "*.odb";

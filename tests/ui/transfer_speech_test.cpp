@@ -17,17 +17,14 @@ std::vector<std::string> saidOf(const Transfer& transfer, const TransferEnd& end
 }
 
 TEST(TransferSpeech, AFileIsSaidOnceWhenItHasEnded) {
-    Transfer transfer{"Journal.odb", "/psion/Journal.odb"};
-    transfer.bytes = 16392;
-    transfer.duration = std::chrono::milliseconds(17200);
-    EXPECT_EQ(saidOf(transfer, {}),
-              std::vector<std::string>{"saved Journal.odb 16,392 bytes in 17.2 s (953 bytes/s)"});
+    EXPECT_EQ(saidOf({"Journal.odb", "/psion/Journal.odb"}, {}),
+              std::vector<std::string>{"Save of Journal.odb: complete"});
 }
 
 TEST(TransferSpeech, ARefusedOneIsSaidWithItsReason) {
     const Transfer transfer{"Memo.odb", {}, TransferDirection::Load};
     EXPECT_EQ(saidOf(transfer, {TransferResult::Refused, 189, "no such file"}),
-              std::vector<std::string>{"load of Memo.odb refused: no such file (189)"});
+              std::vector<std::string>{"Load of Memo.odb: refused: no such file (189)"});
 }
 
 TEST(TransferSpeech, ListingsAndTheClockAreNotSaid) {

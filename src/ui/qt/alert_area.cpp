@@ -3,6 +3,7 @@
 #include <QAccessible>
 #include <QAccessibleWidget>
 #include <QDialog>
+#include <QTimer>
 
 namespace velmora {
 namespace {
@@ -31,8 +32,13 @@ AlertArea::AlertArea(QWidget* parent) : QWidget(parent) {
 }
 
 void AlertArea::announce() {
+    if (announced_ && !isHidden()) {
+        return;
+    }
     hide();
     show();
+    announced_ = true;
+    QTimer::singleShot(0, this, [this] { announced_ = false; });
 }
 
 void installAccessibleRoles() {

@@ -12,8 +12,13 @@ class AlertArea : public QWidget {
   public:
     explicit AlertArea(QWidget* parent = nullptr);
 
-    /// Begins to show, also when it is shown already: what it holds is new.
+    /// Begins to show, also when it is shown already: what it holds is new. It does so once for all that is
+    /// put into it before the event loop runs again, when readers ask for the words: they speak all of them
+    /// each time.
     void announce();
+
+  private:
+    bool announced_ = false;  // since the event loop ran last
 };
 
 /// Gives our windows the role of a window, in place of a mere part, and alert areas that of an alert. For all

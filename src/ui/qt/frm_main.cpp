@@ -98,14 +98,14 @@ void frmMain::setDisplayLine(int line, const std::string& text) {
 void frmMain::showStatus(const std::string& text) {
     imgBGround->setToolTip(qtText(text));
     imgBGround->setAccessibleDescription(qtText(text));
-    say(text);
+    announcer_->say(qtText(text));
     QAccessibleEvent event(imgBGround, QAccessible::DescriptionChanged);
     QAccessible::updateAccessibility(&event);
     Q_EMIT statusShown(qtText(text));
 }
 
 void frmMain::say(const std::string& words) {
-    announcer_->say(qtText(words));
+    announcer_->say(coreText(qtText(words)));
 }
 
 void frmMain::showMessages(const MessageLines& messages) {
@@ -299,8 +299,22 @@ void frmMain::changeEvent(QEvent* event) {
     }
 }
 
+/// What hides the window instead may come and go; so the tip is made anew each time it is asked for.
+bool frmMain::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == pbHide && event->type() == QEvent::ToolTip) {
+        tellWhereHideGoes();
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void frmMain::tellWhereHideGoes() {
+    pbHide->setToolTip(hides_ && hides_() ? tr("Put the window into the tray; the server goes on")
+                                          : tr("Minimise the window; the server goes on"));
+}
+
 void frmMain::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
+    tellWhereHideGoes();
     if (!event->spontaneous() && actions_.resized) {
         actions_.resized(isMinimized());
     }

@@ -72,7 +72,8 @@ class frmMain : public QWidget, public MainView {
     /// The button that starts and stops the server, for what stands in for it.
     const QAbstractButton& startStopButton() const;
 
-    /// Has a screen reader speak what the window does not show. Words are Windows-1252 bytes.
+    /// Has a screen reader speak what the window does not show, sentences of the core in the user's language.
+    /// Words are Windows-1252 bytes.
     void say(const std::string& words);
 
     // MainView
@@ -112,6 +113,7 @@ class frmMain : public QWidget, public MainView {
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
     void showEvent(QShowEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     static void call(const std::function<void()>& action);
@@ -124,6 +126,7 @@ class frmMain : public QWidget, public MainView {
     int messageWidth(bool besideSign) const;
     static QString withKey(const std::string& caption);
     void nameCounters();
+    void tellWhereHideGoes();
     QLabel* counter(StatsLabel label) const;
     QPushButton* button(MainButton button) const;
     void tellOf(MainButton changed);

@@ -126,8 +126,9 @@ void frmMain::makeButtons() {
     pbFolder =
         makeButton("pbFolder", tr("&Folder…"),
                    tr("Choose the folder that files are saved to and loaded from"), &Actions::pbFolder_Click);
-    pbHide = makeButton("pbHide", tr("&Hide"), tr("Minimise the window; the server goes on"),
-                        &Actions::pbHide_Click);
+    pbHide = makeButton("pbHide", tr("&Hide"), {}, &Actions::pbHide_Click);
+    pbHide->installEventFilter(this);
+    tellWhereHideGoes();
     pbShutDown = makeButton("pbShutDown", tr("Shut &down"), tr("Stop the server and end the program"),
                             &Actions::pbShutDown_Click);
     pbTransfers = makeButton("pbTransfers", tr("&Transfers…"), tr("Show what was saved and loaded (Ctrl+T)"),

@@ -18,6 +18,7 @@
 #include "ui/qt/qt_text.h"
 #include "ui/qt/transfer_table.h"
 #include "ui/qt/translation.h"
+#include "ui/transfer_speech.h"
 
 namespace velmora {
 namespace {
@@ -147,6 +148,16 @@ class CoreTextsTest : public QObject {
         for (const TransferDirection direction : {TransferDirection::Save, TransferDirection::Load}) {
             isTranslated(nameOf(direction));
         }
+    }
+
+    void everySpokenEndOfATransferIsTranslated() {
+        const Translation german("de");
+        TransferSpeech speech([](const std::string& words) { isTranslated(words); });
+        speech.transferEnded(transferCalled("Sums.wks"), {});
+        speech.transferEnded({},
+                             {TransferResult::Refused, kCodeInvalidRequest, reasonOf(kCodeInvalidRequest)});
+        QCOMPARE(coreText("Save of Sums.wks: incomplete: the link ended"),
+                 QStringLiteral("Speichern von Sums.wks: unvollständig: die Verbindung endete"));
     }
 
     void everyNoticeIsTranslated() {

@@ -3,6 +3,7 @@
 
 #include <QAccessible>
 #include <QDir>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QSet>
@@ -12,6 +13,7 @@
 
 #include "server/caption.h"
 #include "support/window_rig.h"
+#include "ui/qt/translation.h"
 
 namespace velmora {
 namespace {
@@ -53,6 +55,7 @@ class FrmMainTest : public QObject {
     void theWarningSignIsSharpAtEachScale();
     void screenReadersAreToldOfAWindowAndOfEachWarning();
     void screenReadersAreToldOfEachState();
+    void whatScreenReadersSpeakIsInTheUsersLanguage();
     void wordsSaidOneAfterTheOtherAllStayForAWhile();
     void theDebugSwitchStandsOnTheLineOfTheVersion();
     void startAndStopByClickAndKey();
@@ -353,10 +356,17 @@ void FrmMainTest::screenReadersAreToldOfAWindowAndOfEachWarning() {
     const Shows shows(*area);
     rig->controller.ShowWarning("Port COM5 is not accessible!", "");
     QCOMPARE(shows.count, 1);
+    QCoreApplication::processEvents();
     rig->controller.ShowWarning("Port COM6 is not accessible!", "");
     QCOMPARE(shows.count, 2);
-    rig->controller.ShowClear();
+    // What is added to it is read with it: a reader asks when all of it stands.
+    rig->window.showAdvice("Plug in the adapter.");
     QCOMPARE(shows.count, 2);
+    QCoreApplication::processEvents();
+    rig->window.showAdvice("Plug in the adapter.");
+    QCOMPARE(shows.count, 3);
+    rig->controller.ShowClear();
+    QCOMPARE(shows.count, 3);
     QVERIFY(!area->isVisible());
 }
 
@@ -391,6 +401,13 @@ void FrmMainTest::screenReadersAreToldOfEachState() {
     QCOMPARE(announcements.said,
              QStringList({QStringLiteral("Waiting for link"), QStringLiteral("saved Journal.odb"),
                           QStringLiteral("saved Journal.odb")}));
+}
+
+void FrmMainTest::whatScreenReadersSpeakIsInTheUsersLanguage() {
+    const Translation german("de");
+    const Announcements announcements(rig->window);
+    rig->window.say("Save of Journal.odb: complete");
+    QCOMPARE(announcements.said, QStringList(QStringLiteral("Speichern von Journal.odb: vollständig")));
 }
 
 void FrmMainTest::wordsSaidOneAfterTheOtherAllStayForAWhile() {
@@ -543,12 +560,19 @@ void FrmMainTest::hideButtonMinimises() {
 void FrmMainTest::hideButtonHidesWhereSomethingBringsTheWindowBack() {
     bool there = true;
     rig->window.hideInsteadOfMinimising([&there] { return there; });
+    const auto tip = [this] {
+        QHelpEvent asked(QEvent::ToolTip, {}, {});
+        QCoreApplication::sendEvent(button("pbHide"), &asked);
+        return button("pbHide")->toolTip();
+    };
+    QCOMPARE(tip(), QStringLiteral("Put the window into the tray; the server goes on"));
     click("pbHide");
     QVERIFY(!rig->window.isVisible());
     QVERIFY(!rig->window.isMinimized());
     rig->window.restore();
     QVERIFY(rig->window.isVisible());
     there = false;
+    QCOMPARE(tip(), QStringLiteral("Minimise the window; the server goes on"));
     click("pbHide");
     QVERIFY(rig->window.isVisible());
     QVERIFY(rig->window.isMinimized());

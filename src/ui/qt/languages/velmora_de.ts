@@ -668,6 +668,14 @@ Bitte einen anderen Ordner oder Namen wählen.</translation>
         <source>Load of %1: %9</source>
         <translation>Laden von %1: %9</translation>
     </message>
+    <message>
+        <source>Request: %9</source>
+        <translation>Anforderung: %9</translation>
+    </message>
+    <message>
+        <source>the link ended</source>
+        <translation>die Verbindung endete</translation>
+    </message>
 </context>
 <context>
     <name>DesktopDialogs</name>
@@ -1463,6 +1471,10 @@ Bitte einen anderen Ordner oder Namen wählen.</translation>
     <message>
         <source>&amp;Stop</source>
         <translation>&amp;Stoppen</translation>
+    </message>
+    <message>
+        <source>Put the window into the tray; the server goes on</source>
+        <translation>Das Fenster in den Infobereich legen; der Server läuft weiter</translation>
     </message>
 </context>
 <context>

@@ -668,6 +668,14 @@ Elija otra carpeta u otro nombre.</translation>
         <source>Load of %1: %9</source>
         <translation>Lectura de %1: %9</translation>
     </message>
+    <message>
+        <source>Request: %9</source>
+        <translation>Petición: %9</translation>
+    </message>
+    <message>
+        <source>the link ended</source>
+        <translation>el enlace terminó</translation>
+    </message>
 </context>
 <context>
     <name>DesktopDialogs</name>
@@ -1463,6 +1471,10 @@ Elija otra carpeta u otro nombre.</translation>
     <message>
         <source>&amp;Stop</source>
         <translation>&amp;Detener</translation>
+    </message>
+    <message>
+        <source>Put the window into the tray; the server goes on</source>
+        <translation>Llevar la ventana a la bandeja del sistema; el servidor sigue funcionando</translation>
     </message>
 </context>
 <context>

@@ -668,6 +668,14 @@ Veuillez choisir un autre dossier ou un autre nom.</translation>
         <source>Load of %1: %9</source>
         <translation>Lecture de %1 : %9</translation>
     </message>
+    <message>
+        <source>Request: %9</source>
+        <translation>Demande : %9</translation>
+    </message>
+    <message>
+        <source>the link ended</source>
+        <translation>la liaison s’est terminée</translation>
+    </message>
 </context>
 <context>
     <name>DesktopDialogs</name>
@@ -1463,6 +1471,10 @@ Veuillez choisir un autre dossier ou un autre nom.</translation>
     <message>
         <source>&amp;Stop</source>
         <translation>A&amp;rrêter</translation>
+    </message>
+    <message>
+        <source>Put the window into the tray; the server goes on</source>
+        <translation>Ranger la fenêtre dans la zone de notification ; le serveur continue</translation>
     </message>
 </context>
 <context>

@@ -668,6 +668,14 @@ Scegliere un’altra cartella o un altro nome.</translation>
         <source>Load of %1: %9</source>
         <translation>Lettura di %1: %9</translation>
     </message>
+    <message>
+        <source>Request: %9</source>
+        <translation>Richiesta: %9</translation>
+    </message>
+    <message>
+        <source>the link ended</source>
+        <translation>il collegamento è terminato</translation>
+    </message>
 </context>
 <context>
     <name>DesktopDialogs</name>
@@ -1463,6 +1471,10 @@ Scegliere un’altra cartella o un altro nome.</translation>
     <message>
         <source>&amp;Stop</source>
         <translation>&amp;Arresta</translation>
+    </message>
+    <message>
+        <source>Put the window into the tray; the server goes on</source>
+        <translation>Riponi la finestra nell’area di notifica; il server continua</translation>
     </message>
 </context>
 <context>

@@ -668,6 +668,14 @@ Kies een andere map of naam.</translation>
         <source>Load of %1: %9</source>
         <translation>Laden van %1: %9</translation>
     </message>
+    <message>
+        <source>Request: %9</source>
+        <translation>Aanvraag: %9</translation>
+    </message>
+    <message>
+        <source>the link ended</source>
+        <translation>de verbinding eindigde</translation>
+    </message>
 </context>
 <context>
     <name>DesktopDialogs</name>
@@ -1463,6 +1471,10 @@ Kies een andere map of naam.</translation>
     <message>
         <source>&amp;Stop</source>
         <translation>&amp;Stoppen</translation>
+    </message>
+    <message>
+        <source>Put the window into the tray; the server goes on</source>
+        <translation>Het venster in het systeemvak plaatsen; de server gaat door</translation>
     </message>
 </context>
 <context>
