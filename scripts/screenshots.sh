@@ -1,10 +1,15 @@
 #!/usr/bin/env bash
 # Makes pictures of the windows, without a display:
-#   scripts/screenshots.sh [FOLDER]     those of the documents
+#   scripts/screenshots.sh [FOLDER]     those of the documents, but for those of a story
+#   scripts/screenshots.sh --story [FOLDER]
+#                                       a newcomer's first five minutes, taken of the running programs
 #   scripts/screenshots.sh --all FOLDER every window in each language, in light and dark, at scale 1 and 2, for a look at
 #                                       what a change does
 set -euo pipefail
 cd "$(dirname "$0")/.."
+if [[ "${1:-}" == --story ]]; then
+  exec scripts/screenshots-story.sh "${2:-docs/images}"
+fi
 scripts/setup.sh tests
 scripts/build.sh build -DCMAKE_BUILD_TYPE=RelWithDebInfo -DBUILD_TESTING=ON -- velmora-screenshots
 

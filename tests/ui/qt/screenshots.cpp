@@ -3,6 +3,7 @@
 // what a change does; with a language, every window in it, in light and dark.
 #include <QApplication>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QDir>
 #include <QMessageBox>
 #include <QPalette>
@@ -95,7 +96,9 @@ const std::vector<Scene>& scenes() {
          [](WindowRig& rig) {
              rig.controller.ShowWarning("No port selected!", "");
              rig.controller.setState(NoPort);
-             rig.window.showAdvice("Plug in the adapter, then click Setup.");
+             rig.window.showAdvice(
+                 QCoreApplication::translate("DesktopServer", "Plug in the adapter, then click Setup.")
+                     .toStdString());
          }},
         {"stopped-by-organiser", false,
          [](WindowRig& rig) {

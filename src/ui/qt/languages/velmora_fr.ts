@@ -218,7 +218,7 @@ Veuillez choisir un autre dossier ou un autre nom.</translation>
     </message>
     <message>
         <source>save</source>
-        <translation>enregistré</translation>
+        <translation>enregistrement</translation>
     </message>
     <message>
         <source>load</source>
