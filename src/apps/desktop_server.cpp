@@ -191,18 +191,19 @@ void DesktopServer::closeOtherWindows() {
 }
 
 void DesktopServer::placeWindow() {
+    QtWindowGeometry geometry(window_);
+    registry_.LoadWindowSize(geometry);
     if (desktopPlacesByProgram()) {
-        window_.adjustSize();
-        QtWindowGeometry geometry(window_);
         registry_.LoadWindowPos(geometry);
     }
 }
 
 void DesktopServer::saveWindowPlace() {
+    QtWindowGeometry geometry(window_);
     if (desktopPlacesByProgram()) {
-        QtWindowGeometry geometry(window_);
         registry_.SaveWindowPos(geometry);
     }
+    registry_.SaveWindowSize(geometry);
 }
 
 bool DesktopServer::start(const std::string& commandLine) {

@@ -1,5 +1,6 @@
 #include "ui/registry.h"
 
+#include <algorithm>
 #include <charconv>
 #include <string_view>
 
@@ -10,6 +11,8 @@ namespace {
 
 constexpr const char* kLeft = "XPos";
 constexpr const char* kTop = "YPos";
+constexpr const char* kWidth = "Width";
+constexpr const char* kHeight = "Height";
 /// How far, in twips, a window may stand off the screen without being moved.
 constexpr std::int32_t kMargin = 200;
 
@@ -20,6 +23,11 @@ std::string hexText(std::uint32_t number) {
         text += kDigits[(number >> shift) & 0xF];
     }
     return text;
+}
+
+/// Whether so much of a window stands beyond the end of the screen that it is to stand flush with it.
+bool isBeyond(std::int32_t position, std::int32_t size, std::int32_t screen) {
+    return std::int64_t{screen} - position - size < -kMargin;
 }
 
 /// The 32-bit number that a whole text stands for, decimal or "&h" and hexadecimal digits.
@@ -61,15 +69,27 @@ void Registry::RegDeleteSettingsKey() {
 }
 
 // 16 bits would end at 2184 pixels; screens do not.
-std::optional<std::int32_t> Registry::readPosition(const std::string& name) {
+std::optional<std::int32_t> Registry::readNumber(const std::string& name) {
     return wholeNumber(RegReadValue(name).value_or(std::string()));
 }
 
 void Registry::LoadWindowPos(WindowGeometry& window) {
-    const auto left = readPosition(kLeft);
-    const auto top = readPosition(kTop);
-    window.setLeft(left ? *left : (window.screenWidth() - window.width()) / 2);
-    window.setTop(top ? *top : (window.screenHeight() - window.height()) / 2);
+    const auto position = [this](const char* name, std::int32_t size, std::int32_t screen, bool grown) {
+        const auto stored = readNumber(name);
+        if (!stored) {
+            return (screen - size) / 2;
+        }
+        return grown && isBeyond(*stored, size, screen) ? screen - size : *stored;
+    };
+    const Extent grown = window.grownSize();
+    window.setLeft(position(kLeft, window.width(), window.screenWidth(), grown.width > 0));
+    window.setTop(position(kTop, window.height(), window.screenHeight(), grown.height > 0));
+}
+
+void Registry::LoadWindowSize(WindowGeometry& window) {
+    const Extent largest = window.largestSize();
+    window.setGrownSize({std::clamp(readNumber(kWidth).value_or(0), 0, std::max(largest.width, 0)),
+                         std::clamp(readNumber(kHeight).value_or(0), 0, std::max(largest.height, 0))});
 }
 
 void Registry::writePosition(const std::string& name, std::int32_t position, std::int32_t size,
@@ -78,7 +98,7 @@ void Registry::writePosition(const std::string& name, std::int32_t position, std
         RegWriteValue(name, std::string());
         return;
     }
-    const bool beyond = std::int64_t{screen} - position - size < -kMargin;
+    const bool beyond = isBeyond(position, size, screen);
     RegWriteValue(name, static_cast<std::uint32_t>(beyond ? screen - size : position));
 }
 
@@ -87,6 +107,12 @@ void Registry::SaveWindowPos(WindowGeometry& window) {
     window.normalise();
     writePosition(kLeft, window.left(), window.width(), window.screenWidth());
     writePosition(kTop, window.top(), window.height(), window.screenHeight());
+}
+
+void Registry::SaveWindowSize(const WindowGeometry& window) {
+    const Extent size = window.grownSize();
+    RegWriteValue(kWidth, static_cast<std::uint32_t>(size.width));
+    RegWriteValue(kHeight, static_cast<std::uint32_t>(size.height));
 }
 
 }  // namespace velmora

@@ -1,6 +1,7 @@
 // Where a window that closes at one place stands at the next start, for every store of positions.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <vector>
 
@@ -8,22 +9,26 @@
 
 namespace velmora::test {
 
-/// A window of 4000 by 3000 twips on a screen of 1024 by 768 pixels.
+/// A window of 4000 by 3000 twips, unless it has grown, on a screen of 1024 by 768 pixels.
 class FakeWindow : public WindowGeometry {
   public:
     std::int32_t left() const override { return x; }
     std::int32_t top() const override { return y; }
-    std::int32_t width() const override { return 4000; }
-    std::int32_t height() const override { return 3000; }
+    std::int32_t width() const override { return std::max(4000, grown.width); }
+    std::int32_t height() const override { return std::max(3000, grown.height); }
     void setLeft(std::int32_t left) override { x = left; }
     void setTop(std::int32_t top) override { y = top; }
     std::int32_t screenWidth() const override { return 15'360; }
     std::int32_t screenHeight() const override { return 11'520; }
+    Extent grownSize() const override { return grown; }
+    void setGrownSize(const Extent& size) override { grown = size; }
+    Extent largestSize() const override { return {14'000, 11'000}; }
     void normalise() override {
         x = minimised ? normalX : x;
         minimised = false;
     }
 
+    Extent grown;
     std::int32_t x = 77;
     std::int32_t y = 77;
     std::int32_t normalX = 0;

@@ -78,6 +78,66 @@ TEST_F(WindowPosition, AMinimisedWindowIsSavedWhereItStandsOtherwise) {
     EXPECT_EQ(load().x, 90);
 }
 
+class WindowSize : public WindowPosition {
+  protected:
+    /// The window at the next start, after one of a size that closed at a place.
+    FakeWindow next(const Extent& size, std::int32_t x = 0, std::int32_t y = 0) {
+        FakeWindow old;
+        old.grown = size;
+        old.x = x;
+        old.y = y;
+        registry_.SaveWindowPos(old);
+        registry_.SaveWindowSize(old);
+        return reopened();
+    }
+    FakeWindow reopened() {
+        FakeWindow window;
+        window.grown = {5000, 5000};
+        registry_.LoadWindowSize(window);
+        registry_.LoadWindowPos(window);
+        return window;
+    }
+};
+
+TEST_F(WindowSize, TheFirstStartIsAsSmallAsCanBe) {
+    EXPECT_EQ(reopened().grown, Extent());
+}
+
+TEST_F(WindowSize, ASizeComesBackOnTheAxisThatGrew) {
+    EXPECT_EQ(next({9000, 8000}).grown, (Extent{9000, 8000}));
+    EXPECT_EQ(next({9000, 0}).grown, (Extent{9000, 0}));
+    EXPECT_EQ(next({0, 8000}).grown, (Extent{0, 8000}));
+    EXPECT_EQ(next({0, 0}).grown, Extent());
+}
+
+TEST_F(WindowSize, ASizeOfALargerScreenIsCutToThisOneAndStandsOnIt) {
+    store_.values = {{"XPos", std::uint32_t{10'000}},
+                     {"YPos", std::uint32_t{9000}},
+                     {"Width", std::uint32_t{40'000}},
+                     {"Height", std::uint32_t{30'000}}};
+    const FakeWindow window = reopened();
+    EXPECT_EQ(window.grown, (Extent{14'000, 11'000}));
+    EXPECT_EQ(window.x, 15'360 - 14'000);
+    EXPECT_EQ(window.y, 11'520 - 11'000);
+}
+
+TEST_F(WindowSize, AGrownWindowThatReachesBeyondThisScreenStandsFlushWithItsEdge) {
+    store_.values = {
+        {"XPos", std::uint32_t{8000}}, {"YPos", std::uint32_t{9000}}, {"Width", std::uint32_t{9000}}};
+    const FakeWindow window = reopened();
+    EXPECT_EQ(window.x, 15'360 - 9000);
+    // As small as it can be in height, it stands where it stood.
+    EXPECT_EQ(window.y, 9000);
+}
+
+TEST_F(WindowSize, WhatIsNoSizeIsNone) {
+    for (const char* text : {"", "abc", "-9000", "&hFFFFFF6A", "99999999999"}) {
+        store_.values["Width"] = std::string(text);
+        store_.values["Height"] = std::string(text);
+        EXPECT_EQ(reopened().grown, Extent()) << text;
+    }
+}
+
 TEST_F(WindowPosition, FailuresAreSilent) {
     store_.broken = true;
     EXPECT_EQ(test::restarted(registry_, {"", 5, 6, 5, 6}).x, kCentredLeft);

@@ -1,7 +1,5 @@
 #include "ui/qt/artwork.h"
 
-#include <QLayout>
-#include <QLinearGradient>
 #include <QPainter>
 #include <QPolygonF>
 #include <QStyle>
@@ -15,10 +13,6 @@ namespace velmora {
 namespace {
 
 constexpr QSize kNameSize(136, 28);
-constexpr QColor kFrameTop(0x3A, 0x3E, 0x42);
-constexpr QColor kFrameBottom(0x24, 0x27, 0x2A);
-constexpr QColor kFrameEdge(0x5B, 0x61, 0x66);
-constexpr qreal kFrameRadius = 8;
 constexpr QColor kSignGround(0xF9, 0xC5, 0x2E);
 constexpr QColor kSignEdge(0xC7, 0x8A, 0x0A);
 constexpr QColor kSignMark(0x2A, 0x21, 0x05);
@@ -64,22 +58,6 @@ void WarningSign::paintEvent(QPaintEvent* /*event*/) {
     painter.setPen(QPen(kSignMark, 3.2, Qt::SolidLine, Qt::RoundCap));
     painter.drawLine(QPointF(16, 12), QPointF(16, 18.5));
     painter.drawPoint(QPointF(16, 23.8));
-}
-
-// A label's own hint knows its text only; this one is as large as what is laid out in it.
-QSize DisplayFrame::sizeHint() const {
-    return layout() != nullptr ? layout()->sizeHint() : QLabel::sizeHint();
-}
-
-void DisplayFrame::paintEvent(QPaintEvent* /*event*/) {
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    QLinearGradient shade(rect().topLeft(), rect().bottomLeft());
-    shade.setColorAt(0, kFrameTop);
-    shade.setColorAt(1, kFrameBottom);
-    painter.setBrush(shade);
-    painter.setPen(kFrameEdge);
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), kFrameRadius, kFrameRadius);
 }
 
 }  // namespace velmora

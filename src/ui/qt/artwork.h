@@ -41,18 +41,4 @@ class WarningSign : public QLabel {
     void paintEvent(QPaintEvent* event) override;
 };
 
-/// The background of the display: the dark frame that the glass sits in.
-class DisplayFrame : public QLabel {
-    Q_OBJECT
-
-  public:
-    using QLabel::QLabel;
-
-    QSize sizeHint() const override;
-    QSize minimumSizeHint() const override { return sizeHint(); }
-
-  protected:
-    void paintEvent(QPaintEvent* event) override;
-};
-
 }  // namespace velmora

@@ -7,6 +7,7 @@
 #include <QLayout>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QResizeEvent>
 #include <QShortcut>
 #include <algorithm>
 #include <utility>
@@ -18,13 +19,14 @@
 #include "ui/qt/core_texts.h"
 #include "ui/qt/debug_switch.h"
 #include "ui/qt/elided_label.h"
+#include "ui/qt/lcd_display.h"
 #include "ui/qt/lcd_line.h"
 #include "ui/qt/message_label.h"
 #include "ui/qt/qt_text.h"
 
 namespace velmora {
 
-frmMain::frmMain(QWidget* parent) : QWidget(parent) {
+frmMain::frmMain(QWidget* parent) : GrowingWindow(parent) {
     installAccessibleRoles();
     setObjectName(QStringLiteral("frmMain"));
     setWindowTitle(QString::fromLatin1(kProgramName));
@@ -51,6 +53,11 @@ frmMain::frmMain(QWidget* parent) : QWidget(parent) {
     connect(new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_D), this), &QShortcut::activated, this,
             [this] { call(actions_.lblDebug_DblClick); });
     arrange();
+    connect(this, &GrowingWindow::resizedByUser, this, [this] {
+        if (actions_.resized) {
+            actions_.resized(isMinimized());
+        }
+    });
 }
 
 void frmMain::call(const std::function<void()>& action) {
@@ -90,9 +97,9 @@ QPushButton* frmMain::button(MainButton button) const {
 }
 
 void frmMain::setDisplayLine(int line, const std::string& text) {
-    LcdLine* shown = tlDisplay[line == 1 ? 0 : 1];
-    shown->setText(qtText(text));
-    shown->setAccessibleDescription(shown->text().trimmed());
+    LcdLine& shown = imgBGround->line(line == 1 ? 0 : 1);
+    shown.setText(qtText(text));
+    shown.setAccessibleDescription(shown.text().trimmed());
 }
 
 void frmMain::showStatus(const std::string& text) {
@@ -109,42 +116,58 @@ void frmMain::say(const std::string& words) {
 }
 
 void frmMain::showMessages(const MessageLines& messages) {
+    messages_ = messages;
+    adviceText_.clear();
     warningSign_->setVisible(messages.warning);
     tlWarning->setVisible(messages.warning);
     advice_->hide();
-    for (std::size_t i = 0; i < tlBottomText.size(); ++i) {
-        tlBottomText[i]->show(messages.lines[i], messageWidth(messages.warning));
-    }
+    layOutMessages();
     const bool any = std::any_of(messages.lines.begin(), messages.lines.end(),
                                  [](const MessageLine& line) { return line.visible && !line.text.empty(); });
     if (any || messages.warning) {
         messageArea_->announce();
     } else {
         messageArea_->hide();
+        messageArea_->updateGeometry();  // what is hidden does not ask for less room by itself
     }
 }
 
 void frmMain::showAdvice(const std::string& text) {
-    const QString whole = coreText(qtSystemText(text));
-    const QRect room(0, 0, messageWidth(warningSign_->isVisibleTo(this)), 0);
-    advice_->setText(elideWords(whole, advice_->fontMetrics(), room.width()));
-    advice_->setToolTip(advice_->text() == whole ? QString() : whole);
-    advice_->setAccessibleName(whole);
-    advice_->setFixedHeight(
-        advice_->fontMetrics().boundingRect(room, Qt::TextWordWrap, advice_->text()).height());
+    adviceText_ = coreText(qtSystemText(text));
+    layOutAdvice(messageWidth());
+    advice_->setAccessibleName(adviceText_);
     advice_->setVisible(!text.empty());
     if (!text.empty()) {
         messageArea_->announce();
+    }
+}
+
+/// Breaks the messages and the advice into lines of the width that there is.
+void frmMain::layOutMessages() {
+    const int width = messageWidth();
+    for (std::size_t i = 0; i < tlBottomText.size(); ++i) {
+        tlBottomText[i]->show(messages_.lines[i], width);
+    }
+    layOutAdvice(width);
+}
+
+void frmMain::layOutAdvice(int width) {
+    advice_->setText(elideWords(adviceText_, advice_->fontMetrics(), width));
+    advice_->setToolTip(advice_->text() == adviceText_ ? QString() : adviceText_);
+    const QRect room(0, 0, width, 0);
+    advice_->setFixedHeight(
+        advice_->fontMetrics().boundingRect(room, Qt::TextWordWrap, advice_->text()).height());
+    if (!adviceText_.isEmpty()) {
         // The room of a second line would part the advice from what it is about.
         tlBottomText[1]->fitToText();
     }
 }
 
 // The width of a message line, known also while the lines or the window are hidden.
-int frmMain::messageWidth(bool besideSign) const {
-    layout()->activate();
+int frmMain::messageWidth() {
+    fit();
     const int sign = warningSign_->sizeHint().width() + messageArea_->layout()->spacing();
-    return messageArea_->width() - (besideSign ? sign : 0);
+    return messageArea_->width() - (messages_.warning ? sign : 0);
 }
 
 std::string frmMain::statsText(StatsLabel label) const {
@@ -293,7 +316,7 @@ void frmMain::closeEvent(QCloseEvent* event) {
 }
 
 void frmMain::changeEvent(QEvent* event) {
-    QWidget::changeEvent(event);
+    GrowingWindow::changeEvent(event);
     if (event->type() == QEvent::WindowStateChange && actions_.resized) {
         actions_.resized(isMinimized());
     }
@@ -304,7 +327,7 @@ bool frmMain::eventFilter(QObject* watched, QEvent* event) {
     if (watched == pbHide && event->type() == QEvent::ToolTip) {
         tellWhereHideGoes();
     }
-    return QWidget::eventFilter(watched, event);
+    return GrowingWindow::eventFilter(watched, event);
 }
 
 void frmMain::tellWhereHideGoes() {
@@ -313,10 +336,17 @@ void frmMain::tellWhereHideGoes() {
 }
 
 void frmMain::showEvent(QShowEvent* event) {
-    QWidget::showEvent(event);
+    GrowingWindow::showEvent(event);
     tellWhereHideGoes();
     if (!event->spontaneous() && actions_.resized) {
         actions_.resized(isMinimized());
+    }
+}
+
+void frmMain::resizeEvent(QResizeEvent* event) {
+    GrowingWindow::resizeEvent(event);
+    if (event->size().width() != event->oldSize().width()) {
+        layOutMessages();
     }
 }
 

@@ -1,19 +1,20 @@
 // The main window.
 #pragma once
 
-#include <QWidget>
 #include <array>
 #include <functional>
 #include <string>
 
 #include "server/main_view.h"
 #include "server/server_controller.h"
+#include "ui/qt/growing_window.h"
 
 class QAbstractButton;
 class QCloseEvent;
 class QGridLayout;
 class QLabel;
 class QPushButton;
+class QResizeEvent;
 class QShowEvent;
 
 namespace velmora {
@@ -21,15 +22,14 @@ namespace velmora {
 class AlertArea;
 class Announcer;
 class DebugSwitch;
-class DisplayFrame;
 class ElidedLabel;
-class LcdLine;
+class LcdDisplay;
 class MessageLabel;
 class NameImage;
 class WarningSign;
 
 /// Shows what the server controller tells it, and hands over what the user does. It decides nothing.
-class frmMain : public QWidget, public MainView {
+class frmMain : public GrowingWindow, public MainView {
     Q_OBJECT
 
   public:
@@ -114,6 +114,7 @@ class frmMain : public QWidget, public MainView {
     void changeEvent(QEvent* event) override;
     void showEvent(QShowEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
   private:
     static void call(const std::function<void()>& action);
@@ -123,7 +124,9 @@ class frmMain : public QWidget, public MainView {
     void makeButtons();
     QGridLayout* arrangeStatistics();
     void arrange();
-    int messageWidth(bool besideSign) const;
+    void layOutMessages();
+    void layOutAdvice(int width);
+    int messageWidth();
     static QString withKey(const std::string& caption);
     void nameCounters();
     void tellWhereHideGoes();
@@ -140,14 +143,15 @@ class frmMain : public QWidget, public MainView {
     NameImage* imgProgName;
     QLabel* tlProgVers;
     DebugSwitch* lblDebug;
-    DisplayFrame* imgBGround;
-    std::array<LcdLine*, 2> tlDisplay{};
+    LcdDisplay* imgBGround;
     Announcer* announcer_;
     AlertArea* messageArea_;
     WarningSign* warningSign_;
     QLabel* tlWarning;
     std::array<MessageLabel*, 3> tlBottomText{};
+    MessageLines messages_;
     QLabel* advice_;
+    QString adviceText_;  // whole; empty without any
     std::array<QLabel*, 4> tlStatLabel{};
     QLabel* tlBytesRecv;
     QLabel* tlBytesSent;

@@ -13,6 +13,7 @@
 #include "ui/qt/debug_switch.h"
 #include "ui/qt/elided_label.h"
 #include "ui/qt/frm_main.h"
+#include "ui/qt/lcd_display.h"
 #include "ui/qt/lcd_line.h"
 #include "ui/qt/message_label.h"
 
@@ -29,18 +30,14 @@ QString indexed(const char* name, std::size_t index) {
 }  // namespace
 
 void frmMain::makeDisplay() {
-    imgBGround = new DisplayFrame(this);
+    imgBGround = new LcdDisplay(this);
     imgBGround->setObjectName(QStringLiteral("imgBGround"));
     imgBGround->setAccessibleName(tr("Organiser display"));
-    auto* layout = new QVBoxLayout(imgBGround);
-    layout->setContentsMargins(14, 14, 14, 14);
-    layout->setSpacing(0);
-    for (std::size_t i = 0; i < tlDisplay.size(); ++i) {
-        tlDisplay[i] = new LcdLine(imgBGround);
-        tlDisplay[i]->setObjectName(indexed("tlDisplay", i));
-        tlDisplay[i]->setAccessibleName(tr("Organiser display line %1").arg(i + 1));
-        tlDisplay[i]->setText(QString(LcdLine::kColumns, QLatin1Char(' ')));
-        layout->addWidget(tlDisplay[i], 0, Qt::AlignHCenter);
+    for (std::size_t i = 0; i < LcdDisplay::kLines; ++i) {
+        LcdLine& line = imgBGround->line(i);
+        line.setObjectName(indexed("tlDisplay", i));
+        line.setAccessibleName(tr("Organiser display line %1").arg(i + 1));
+        line.setText(QString(LcdLine::kColumns, QLatin1Char(' ')));
     }
 }
 
@@ -71,6 +68,7 @@ void frmMain::makeMessages() {
     advice_ = new QLabel(messageArea_);
     advice_->setObjectName(QStringLiteral("lblAdvice"));
     advice_->setTextFormat(Qt::PlainText);
+    advice_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     advice_->setWordWrap(true);
     advice_->setTextInteractionFlags(Qt::TextSelectableByMouse);
     advice_->hide();
@@ -207,13 +205,13 @@ void frmMain::arrange() {
     layout->setContentsMargins(16, 14, 16, 14);
     layout->setSpacing(12);
     layout->addLayout(heading);
-    layout->addWidget(imgBGround);
+    layout->addWidget(imgBGround, 1);
     layout->addWidget(messageArea_);
     layout->addWidget(rule);
     layout->addLayout(arrangeStatistics());
     layout->addLayout(folder);
     layout->addLayout(buttons);
-    layout->setSizeConstraint(QLayout::SetFixedSize);
+    layout->setSizeConstraint(QLayout::SetNoConstraint);  // the window sees to its size itself
 
     QWidget* previous = pbStartStop;
     for (QWidget* next : std::initializer_list<QWidget*>{pbSetup, pbFolder, pbHide, pbShutDown, pbTransfers,

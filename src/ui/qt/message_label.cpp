@@ -10,6 +10,7 @@ namespace velmora {
 
 MessageLabel::MessageLabel(QWidget* parent) : QLabel(parent) {
     setTextFormat(Qt::PlainText);
+    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);  // it takes the width that there is
     setWordWrap(true);
 }
 

@@ -2,6 +2,8 @@
 
 #include <QGuiApplication>
 #include <QScreen>
+#include <QStyle>
+#include <QWindow>
 
 namespace velmora {
 namespace {
@@ -83,8 +85,33 @@ std::int32_t QtWindowGeometry::screenHeight() const {
     return screenSize().height() * kTwipsPerPixel;
 }
 
+Extent QtWindowGeometry::grownSize() const {
+    return {window_.grownSize().width() * kTwipsPerPixel, window_.grownSize().height() * kTwipsPerPixel};
+}
+
+void QtWindowGeometry::setGrownSize(const Extent& size) {
+    window_.setGrownSize({pixels(size.width), pixels(size.height)});
+}
+
+Extent QtWindowGeometry::largestSize() const {
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    const QSize room = screen != nullptr ? screen->availableSize() : QSize();
+    // A window that was never shown has no frame yet, and a title above all.
+    const int title = window_.style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, &window_);
+    const QWindow* shown = window_.windowHandle();
+    const QSize largest = room.shrunkBy(shown != nullptr ? shown->frameMargins() : QMargins(0, title, 0, 0));
+    return {largest.width() * kTwipsPerPixel, largest.height() * kTwipsPerPixel};
+}
+
+// A desktop may take its time to give a window its own place and size back; both are known before.
 void QtWindowGeometry::normalise() {
+    const bool large = window_.isMaximized() || window_.isFullScreen();
+    const QRect own = window_.normalGeometry();
     window_.setWindowState(Qt::WindowNoState);
+    if (large && own.isValid()) {
+        window_.setGeometry(own);
+        window_.fit();
+    }
 }
 
 bool desktopPlacesByProgram() {

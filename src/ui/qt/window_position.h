@@ -2,10 +2,10 @@
 #pragma once
 
 #include <QSettings>
-#include <QWidget>
 #include <optional>
 #include <string>
 
+#include "ui/qt/growing_window.h"
 #include "ui/registry.h"
 
 namespace velmora {
@@ -27,10 +27,10 @@ class QtPositionStore : public WindowPositionStore {
 };
 
 /// A window's place on the primary screen, 15 twips to a device-independent pixel. Its place is that of its
-/// frame.
+/// frame. The window must outlive it.
 class QtWindowGeometry : public WindowGeometry {
   public:
-    explicit QtWindowGeometry(QWidget& window) : window_(window) {}
+    explicit QtWindowGeometry(GrowingWindow& window) : window_(window) {}
 
     std::int32_t left() const override;
     std::int32_t top() const override;
@@ -40,10 +40,13 @@ class QtWindowGeometry : public WindowGeometry {
     void setTop(std::int32_t top) override;
     std::int32_t screenWidth() const override;
     std::int32_t screenHeight() const override;
+    Extent grownSize() const override;
+    void setGrownSize(const Extent& size) override;
+    Extent largestSize() const override;
     void normalise() override;
 
   private:
-    QWidget& window_;
+    GrowingWindow& window_;
 };
 
 /// Whether programs place their windows on this desktop; on some only the desktop does.

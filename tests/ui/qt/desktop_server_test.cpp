@@ -442,9 +442,18 @@ void DesktopServerTest::aProfileHasItsTitleAndItsPlace() {
     QCOMPARE(server->window().windowTitle(), QStringLiteral("Velmora (attic)"));
     QVERIFY(server->start(""));
     QCOMPARE(server->controller().state(), int{WaitLink});
+    const QSize size = server->window().size() + QSize(60, 40);
+    server->window().resize(size);
     QVERIFY(server->controller().queryUnload(CloseReason::User));
     QSettings place(QStringLiteral("Quillbrook"), QStringLiteral("Velmora-attic"));
     QVERIFY(place.contains(QStringLiteral("XPos")));
+    server = std::make_unique<DesktopServer>(overrides);
+    QVERIFY(server->start(""));
+    QCOMPARE(server->window().size(), size);
+    server = std::make_unique<DesktopServer>();
+    QVERIFY(server->start(""));
+    QVERIFY(server->window().width() < size.width());
+    place.sync();
     place.clear();
 }
 

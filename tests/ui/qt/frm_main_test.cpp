@@ -84,6 +84,10 @@ class FrmMainTest : public QObject {
     void popupRaisesAMinimisedWindow();
     void autoHideMinimises();
     void windowHiddenBeforeItIsShownAppearsMinimised();
+    void theRoomOfALargerWindowGoesToTheDisplay();
+    void aLargerWindowBreaksItsMessagesAnew();
+    void aWindowThatGrewForALongMessageGoesBack();
+    void resizingTheWindowFocusesStartStop();
     void everyControlIsNamedAndInTheKeyboardsOrder();
     void mnemonicsAreUnique();
 
@@ -699,6 +703,65 @@ void FrmMainTest::windowHiddenBeforeItIsShownAppearsMinimised() {
     QVERIFY(!window.isVisible());
     window.show();
     QVERIFY(window.isMinimised());
+}
+
+void FrmMainTest::theRoomOfALargerWindowGoesToTheDisplay() {
+    const QSize least = rig->window.size();
+    const QSize display = label("imgBGround")->size();
+    const int letters = label("tlDisplay_1")->font().pointSize();
+    const int message = label("tlBottomText_1")->parentWidget()->height();
+    rig->window.resize(least * 2);
+    QCoreApplication::processEvents();
+    QCOMPARE(label("imgBGround")->size(), display + least);
+    QCOMPARE(label("tlBottomText_1")->parentWidget()->height(), message);
+    QVERIFY(label("tlDisplay_1")->font().pointSize() > letters);
+    rig->controller.setState(WaitLink);
+    QCOMPARE(line1(), QStringLiteral("Waiting for link"));
+    QCOMPARE(rig->window.size(), least * 2);
+    // No smaller than it was.
+    rig->window.resize(10, 10);
+    QCoreApplication::processEvents();
+    QCOMPARE(rig->window.size(), least);
+    QCOMPARE(label("tlDisplay_1")->font().pointSize(), letters);
+}
+
+void FrmMainTest::aLargerWindowBreaksItsMessagesAnew() {
+    const std::string path = "/home/" + std::string(70, 'x');
+    rig->controller.ShowWarning("Port COM5 is not accessible!", "");
+    rig->window.showAdvice("The adapter was there before it was pulled out of the machine, as " + path);
+    QCoreApplication::processEvents();
+    const int narrow = label("lblAdvice")->height();
+    QVERIFY(label("lblAdvice")->text().contains(QChar(0x2026)));
+    rig->window.resize(rig->window.size() * 3);
+    QCoreApplication::processEvents();
+    QVERIFY(label("lblAdvice")->height() < narrow);
+    QVERIFY(label("lblAdvice")->text().endsWith(QString(70, QLatin1Char('x'))));
+    QCOMPARE(label("lblAdvice")->toolTip(), QString());
+    QVERIFY(label("lblAdvice")->y() <=
+            label("tlBottomText_2")->y() + label("tlBottomText_2")->fontMetrics().lineSpacing());
+    rig->controller.ShowClear();
+    rig->window.resize(rig->window.minimumSize());
+    QCoreApplication::processEvents();
+    QVERIFY(!label("lblAdvice")->isVisible());
+}
+
+void FrmMainTest::aWindowThatGrewForALongMessageGoesBack() {
+    const QSize least = rig->window.size();
+    std::string words;
+    for (int i = 0; i < 40; ++i) {
+        words += "several words ";
+    }
+    rig->controller.ShowWarning(words, "");
+    QTRY_VERIFY(rig->window.height() > least.height());
+    QCOMPARE(rig->window.width(), least.width());
+    rig->controller.ShowClear();
+    QTRY_COMPARE(rig->window.size(), least);
+}
+
+void FrmMainTest::resizingTheWindowFocusesStartStop() {
+    button("pbHide")->setFocus();
+    rig->window.resize(rig->window.size() * 2);
+    QVERIFY(button("pbStartStop")->hasFocus());
 }
 
 void FrmMainTest::everyControlIsNamedAndInTheKeyboardsOrder() {

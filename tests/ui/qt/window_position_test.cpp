@@ -5,6 +5,7 @@
 #include <QScreen>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QVBoxLayout>
 
 namespace velmora {
 namespace {
@@ -13,9 +14,17 @@ class WindowPositionTest : public QObject {
     Q_OBJECT
 
   private Q_SLOTS:
+    void initTestCase() {
+        auto* contents = new QWidget(&window);
+        contents->setMinimumSize(300, 200);
+        auto* layout = new QVBoxLayout(&window);
+        layout->setContentsMargins(0, 0, 0, 0);
+        layout->setSizeConstraint(QLayout::SetNoConstraint);
+        layout->addWidget(contents);
+    }
     void init() {
         QFile::remove(file());
-        window.setFixedSize(300, 200);
+        window.setGrownSize({0, 0});
     }
 
     void valuesComeBack();
@@ -24,6 +33,9 @@ class WindowPositionTest : public QObject {
     void placeComesBack();
     void placeBetweenTwoPixelsIsTheLowerOne();
     void minimisedWindowIsStoredWhereItStood();
+    void sizeComesBack();
+    void sizeOfALargerScreenIsBroughtOntoThisOne();
+    void maximisedWindowIsStoredInItsOwnSize();
 
   private:
     QString file() const { return folder.filePath(QStringLiteral("Velmora.conf")); }
@@ -31,10 +43,12 @@ class WindowPositionTest : public QObject {
         QtPositionStore store(file());
         QtWindowGeometry geometry(window);
         Registry(store).SaveWindowPos(geometry);
+        Registry(store).SaveWindowSize(geometry);
     }
     void load() {
         QtPositionStore store(file());
         QtWindowGeometry geometry(window);
+        Registry(store).LoadWindowSize(geometry);
         Registry(store).LoadWindowPos(geometry);
     }
     QPoint centre() const {
@@ -43,7 +57,7 @@ class WindowPositionTest : public QObject {
     }
 
     QTemporaryDir folder;
-    QWidget window;
+    GrowingWindow window;
 };
 
 void WindowPositionTest::valuesComeBack() {
@@ -103,6 +117,48 @@ void WindowPositionTest::minimisedWindowIsStoredWhereItStood() {
     load();
     QCOMPARE(window.pos(), QPoint(70, 80));
     window.hide();
+}
+
+void WindowPositionTest::sizeComesBack() {
+    window.move(20, 30);
+    window.setGrownSize({420, 310});
+    save();
+    window.setGrownSize({0, 0});
+    load();
+    QCOMPARE(window.size(), QSize(420, 310));
+    QCOMPARE(window.pos(), QPoint(20, 30));
+    // A window that is as small as it can be stays so.
+    window.setGrownSize({0, 310});
+    save();
+    load();
+    QCOMPARE(window.grownSize(), QSize(0, 310));
+}
+
+void WindowPositionTest::sizeOfALargerScreenIsBroughtOntoThisOne() {
+    QtPositionStore store(file());
+    store.write("XPos", std::uint32_t{1500 * 15});
+    store.write("YPos", std::uint32_t{900 * 15});
+    store.write("Width", std::uint32_t{3000 * 15});
+    store.write("Height", std::uint32_t{2000 * 15});
+    load();
+    QVERIFY2(QGuiApplication::primaryScreen()->geometry().contains(window.frameGeometry()),
+             qPrintable(QStringLiteral("%1 x %2").arg(window.width()).arg(window.height())));
+    QVERIFY(window.width() > 300 && window.height() > 200);
+}
+
+void WindowPositionTest::maximisedWindowIsStoredInItsOwnSize() {
+    window.move(70, 80);
+    window.setGrownSize({420, 310});
+    window.show();
+    window.showMaximized();
+    QTRY_VERIFY(window.width() > 420);
+    save();
+    QVERIFY(!window.isMaximized());
+    window.hide();
+    window.move(1, 1);
+    window.setGrownSize({0, 0});
+    load();
+    QCOMPARE(window.size(), QSize(420, 310));
 }
 
 }  // namespace
