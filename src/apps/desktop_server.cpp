@@ -13,6 +13,7 @@
 #include "ui/qt/desktop_files.h"
 #include "ui/qt/dropped_files_box.h"
 #include "ui/qt/file_drop.h"
+#include "ui/qt/first_frame.h"
 #include "ui/qt/help_key.h"
 #include "ui/qt/qt_text.h"
 
@@ -193,9 +194,15 @@ void DesktopServer::closeOtherWindows() {
 void DesktopServer::placeWindow() {
     QtWindowGeometry geometry(window_);
     registry_.LoadWindowSize(geometry);
-    if (desktopPlacesByProgram()) {
-        registry_.LoadWindowPos(geometry);
+    if (!desktopPlacesByProgram()) {
+        return;
     }
+    registry_.LoadWindowPos(geometry);
+    // What is in the middle without its frame is too low with it.
+    whenFramed(window_, [this] {
+        QtWindowGeometry framed(window_);
+        registry_.LoadWindowPos(framed);
+    });
 }
 
 void DesktopServer::saveWindowPlace() {

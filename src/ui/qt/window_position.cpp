@@ -21,6 +21,12 @@ QSize screenSize() {
     return screen != nullptr ? screen->size() : QSize();
 }
 
+/// The toolkit's own frameGeometry() may be that of the time before the frame was known.
+QSize framedSize(const QWidget& window) {
+    const QWindow* shown = window.windowHandle();
+    return shown != nullptr ? window.size().grownBy(shown->frameMargins()) : window.size();
+}
+
 }  // namespace
 
 QtPositionStore::QtPositionStore(const QString& organisation, const QString& program)
@@ -62,11 +68,11 @@ std::int32_t QtWindowGeometry::top() const {
 }
 
 std::int32_t QtWindowGeometry::width() const {
-    return window_.frameGeometry().width() * kTwipsPerPixel;
+    return framedSize(window_).width() * kTwipsPerPixel;
 }
 
 std::int32_t QtWindowGeometry::height() const {
-    return window_.frameGeometry().height() * kTwipsPerPixel;
+    return framedSize(window_).height() * kTwipsPerPixel;
 }
 
 void QtWindowGeometry::setLeft(std::int32_t left) {

@@ -1,5 +1,4 @@
 // Windows that are closed on a desktop: a display of the test's own, and a window manager's requests.
-#include <QApplication>
 #include <QPushButton>
 #include <QTest>
 #include <QWindow>
@@ -7,7 +6,7 @@
 #include <vector>
 
 #include "doctor/stoppable_line.h"
-#include "e2e/support/x_server.h"
+#include "support/own_display.h"
 #include "support/scripted_port.h"
 #include "support/window_frame.h"
 #include "support/window_rig.h"
@@ -118,17 +117,6 @@ class ClosingTest : public QObject {
 }  // namespace velmora
 
 int main(int argc, char* argv[]) {
-    constexpr int kSkipped = 77;
-    if (!velmora::e2e::XServer::installed()) {
-        return kSkipped;
-    }
-    const velmora::e2e::XServer display;
-    qputenv("DISPLAY", display.name().c_str());
-    qputenv("QT_QPA_PLATFORM", "xcb");
-    // A display, and nothing else of anybody's session.
-    qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
-    const QApplication program(argc, argv);
-    velmora::ClosingTest test;
-    return QTest::qExec(&test, argc, argv);
+    return velmora::test::runOnOwnDisplay<velmora::ClosingTest>(argc, argv);
 }
 #include "closing_test.moc"
