@@ -121,6 +121,10 @@ bool FolderDialog::mayBeChosen(const QString& path) const {
     return insideRoot(path) && (info.isDir() || (options_.files && info.isFile()));
 }
 
+QString FolderDialog::faultOf(const QString& path) {
+    return tr("%1 is no folder to choose").arg(QDir::toNativeSeparators(path));
+}
+
 void FolderDialog::accept() {
     if (!okAllowed_) {
         return;
@@ -130,7 +134,7 @@ void FolderDialog::accept() {
         done(Accepted);
         return;
     }
-    lblFault->setText(tr("%1 is no folder to choose").arg(QDir::toNativeSeparators(path)));
+    lblFault->setText(faultOf(path));
     lblFault->show();
     Q_EMIT validationFailed();
 }

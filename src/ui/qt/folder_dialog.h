@@ -30,6 +30,9 @@ class FolderDialog : public QFileDialog {
     QString chosenPath() const;
     void accept() override;
 
+    /// What is wrong with a path that is no folder, for its user.
+    static QString faultOf(const QString& path);
+
   Q_SIGNALS:
     void selectionMoved();
     void validationFailed();

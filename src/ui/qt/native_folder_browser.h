@@ -8,8 +8,8 @@
 
 namespace velmora {
 
-/// Asks for a folder over `window`: the shell's dialog on Windows, the toolkit's elsewhere. Empty when the
-/// user cancels or the window is closed meanwhile.
+/// Asks for a folder over `window`: the shell's dialog on Windows, elsewhere the desktop's where it has one
+/// and otherwise our own. Empty when the user cancels or the window is closed meanwhile.
 std::string browseForFolderOver(QWidget& window, const FolderQuestion& question);
 
 }  // namespace velmora
