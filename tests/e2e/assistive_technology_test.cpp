@@ -65,7 +65,7 @@ class AssistiveTechnologyTest : public DesktopSessionFixture {
 TEST_F(AssistiveTechnologyTest, WindowsControlsAndDisplayHaveRolesAndNames) {
     writeIni();
     startDesktop();
-    expectHeard("shows alert message: Waiting for link");
+    expectHeard("shows notification: Waiting for link");
     const std::string list = listed();
     for (const char* object :
          {"\n  frame: Velmora", "\n   label: Organiser display\n", "\n   push button: Stop\n",
@@ -77,9 +77,9 @@ TEST_F(AssistiveTechnologyTest, WindowsControlsAndDisplayHaveRolesAndNames) {
 TEST_F(AssistiveTechnologyTest, ChoicesMadeByActionsCount) {
     writeIni("[OnExit]\r\nAskUser=False\r\n");
     startDesktop();
-    expectHeard("shows alert message: Waiting for link");
+    expectHeard("shows notification: Waiting for link");
     press("Stop");
-    expectHeard("shows alert message: Server Offline. Click Start!");
+    expectHeard("shows notification: Server Offline. Click Start!");
     press("Setup");
     expectHeard("shows dialog: Velmora Setup");
     waitUntil([this] { return listed().find("label: Testing the ports...") == std::string::npos; });
@@ -97,18 +97,18 @@ TEST_F(AssistiveTechnologyTest, EveryFinishedFileIsSpoken) {
     writeIni();
     startDesktop();
     save("NAMES", "one\ttwo\r\n");
-    expectHeard("shows alert message: Save of Names.odb: complete");
+    expectHeard("shows notification: Save of Names.odb: complete");
     const Finished missing = organiser({"load", "GONE"});
     EXPECT_NE(missing.status, 0);
-    expectHeard("shows alert message: Load of Gone.odb: refused: no such file (189)");
+    expectHeard("shows notification: Load of Gone.odb: refused: no such file (189)");
 }
 
 TEST_F(AssistiveTechnologyTest, AWarningIsSpoken) {
     writeIni();
     startDesktop();
-    expectHeard("shows alert message: Waiting for link");
+    expectHeard("shows notification: Waiting for link");
     cable.reset();
-    expectHeard("shows label: Error\n");
+    expectHeard("shows notification: Error ");
     expectHeard("is the adapter plugged in, and is it the right port?");
     serverSide->stop(*server);
     server->wait();

@@ -14,7 +14,7 @@ QAccessibleInterface* withRole(const QString& className, QObject* object) {
         return nullptr;
     }
     if (qobject_cast<AlertArea*>(widget) != nullptr) {
-        return new QAccessibleWidget(widget, QAccessible::AlertMessage);
+        return new QAccessibleWidget(widget, QAccessible::Notification);
     }
     // The toolkit knows dialogs itself.
     if (widget->isWindow() && qobject_cast<QDialog*>(widget) == nullptr) {

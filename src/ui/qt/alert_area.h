@@ -5,7 +5,8 @@
 
 namespace velmora {
 
-/// Holds words that a screen reader speaks when they begin to show. It keeps its room while it is hidden.
+/// Holds words that a screen reader speaks when they begin to show: its accessible name. It keeps its room
+/// while it is hidden.
 class AlertArea : public QWidget {
     Q_OBJECT
 
@@ -21,8 +22,9 @@ class AlertArea : public QWidget {
     bool announced_ = false;  // since the event loop ran last
 };
 
-/// Gives our windows the role of a window, in place of a mere part, and alert areas that of an alert. For all
-/// that is asked for later; calling it again does nothing.
+/// Gives our windows the role of a window, in place of a mere part, and alert areas that of a notification:
+/// it is what Orca speaks when it begins to show, by its name, while an alert is passed over. For all that is
+/// asked for later; calling it again does nothing.
 void installAccessibleRoles();
 
 }  // namespace velmora

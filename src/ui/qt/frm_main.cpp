@@ -9,7 +9,9 @@
 #include <QRegularExpression>
 #include <QResizeEvent>
 #include <QShortcut>
+#include <QStringList>
 #include <algorithm>
+#include <initializer_list>
 #include <utility>
 
 #include "server/caption.h"
@@ -125,7 +127,7 @@ void frmMain::showMessages(const MessageLines& messages) {
     const bool any = std::any_of(messages.lines.begin(), messages.lines.end(),
                                  [](const MessageLine& line) { return line.visible && !line.text.empty(); });
     if (any || messages.warning) {
-        messageArea_->announce();
+        announceMessages();
     } else {
         messageArea_->hide();
         messageArea_->updateGeometry();  // what is hidden does not ask for less room by itself
@@ -138,7 +140,7 @@ void frmMain::showAdvice(const std::string& text) {
     advice_->setAccessibleName(adviceText_);
     advice_->setVisible(!text.empty());
     if (!text.empty()) {
-        messageArea_->announce();
+        announceMessages();
     }
 }
 
@@ -161,6 +163,19 @@ void frmMain::layOutAdvice(int width) {
         // The room of a second line would part the advice from what it is about.
         tlBottomText[1]->fitToText();
     }
+}
+
+/// Readers speak the name of the area, not what stands in it.
+void frmMain::announceMessages() {
+    QStringList words;
+    for (const QLabel* label : std::initializer_list<const QLabel*>{
+             tlWarning, tlBottomText[0], tlBottomText[1], tlBottomText[2], advice_}) {
+        if (!label->isHidden() && !label->accessibleName().isEmpty()) {
+            words << label->accessibleName();
+        }
+    }
+    messageArea_->setAccessibleName(words.join(u' '));
+    messageArea_->announce();
 }
 
 // The width of a message line, known also while the lines or the window are hidden.

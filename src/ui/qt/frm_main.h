@@ -130,6 +130,7 @@ class frmMain : public GrowingWindow, public MainView {
     static QString withKey(const std::string& caption);
     void nameCounters();
     void tellWhereHideGoes();
+    void announceMessages();
     QLabel* counter(StatsLabel label) const;
     QPushButton* button(MainButton button) const;
     void tellOf(MainButton changed);

@@ -355,7 +355,7 @@ class Shows : public QObject {
 void FrmMainTest::screenReadersAreToldOfAWindowAndOfEachWarning() {
     QCOMPARE(QAccessible::queryAccessibleInterface(&rig->window)->role(), QAccessible::Window);
     QWidget* area = label("tlBottomText_2")->parentWidget();
-    QCOMPARE(QAccessible::queryAccessibleInterface(area)->role(), QAccessible::AlertMessage);
+    QCOMPARE(QAccessible::queryAccessibleInterface(area)->role(), QAccessible::Notification);
     QVERIFY(!area->isVisible());
     const Shows shows(*area);
     rig->controller.ShowWarning("Port COM5 is not accessible!", "");
@@ -366,6 +366,8 @@ void FrmMainTest::screenReadersAreToldOfAWindowAndOfEachWarning() {
     // What is added to it is read with it: a reader asks when all of it stands.
     rig->window.showAdvice("Plug in the adapter.");
     QCOMPARE(shows.count, 2);
+    QCOMPARE(area->accessibleName(),
+             QStringLiteral("Error Port COM6 is not accessible! Plug in the adapter."));
     QCoreApplication::processEvents();
     rig->window.showAdvice("Plug in the adapter.");
     QCOMPARE(shows.count, 3);
@@ -396,7 +398,7 @@ class Announcements : public QObject {
 void FrmMainTest::screenReadersAreToldOfEachState() {
     const Announcements announcements(rig->window);
     auto* area = rig->window.findChild<QWidget*>(QStringLiteral("announcement"));
-    QCOMPARE(QAccessible::queryAccessibleInterface(area)->role(), QAccessible::AlertMessage);
+    QCOMPARE(QAccessible::queryAccessibleInterface(area)->role(), QAccessible::Notification);
     rig->controller.setState(WaitLink);
     rig->controller.setState(WaitLink);
     rig->window.say("saved Journal.odb");
