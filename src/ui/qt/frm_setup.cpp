@@ -410,8 +410,8 @@ void frmSetup::deviceChosen(const PortIdentity& device) {
 void frmSetup::setDeviceHint(const QString& hint) {
     lblDeviceHint->setText(hint);
     lblDeviceHint->setVisible(!hint.isEmpty());
-    // A wrapped hint does not make the window grow by itself.
-    if (!hint.isEmpty() && layout()->hasHeightForWidth()) {
+    // A wrapped hint does not make a window grow by itself that is shown already.
+    if (!hint.isEmpty() && isVisible() && layout()->hasHeightForWidth()) {
         resize(width(), std::max(height(), layout()->totalHeightForWidth(width())));
     }
 }

@@ -3,6 +3,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
+#include <QLayout>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -103,6 +104,14 @@ class FrmSetupTest : public QObject {
         dialog->refreshDevices();
         QCOMPARE(list->currentIndex(), -1);
         QCOMPARE(text()->text(), QString("6"));
+    }
+    void aHintThatIsThereFromTheStartMakesTheDialogNoLargerThanItNeeds() {
+        make();
+        dialog->setDeviceHint("The system tells nothing of adapters: the list is looked up twice a second.");
+        dialog->show();
+        QTRY_VERIFY(ok()->isEnabled());
+        QCOMPARE(dialog->height(), dialog->layout()->totalHeightForWidth(dialog->width()));
+        QCOMPARE(dialog->width(), dialog->sizeHint().width());
     }
     void theCableIsCheckedAtTheChosenPortAndRate() {
         devices = {adapter(6, "/dev/ttyUSB1", "BBBB1234")};
@@ -365,6 +374,7 @@ class FrmSetupTest : public QObject {
     }
     void whatIsClosedBeforeItsFirstProbeProbesNothing() {
         make();
+        dialog->show();
         dialog->reject();
         QCoreApplication::processEvents();
         QVERIFY(probed.empty());
@@ -570,11 +580,11 @@ class FrmSetupTest : public QObject {
             port, options, transfer, [this](std::int16_t number) { return probe(number); },
             [this] { return devices; });
         dialog->setBeep([this] { ++beeps; });
-        dialog->show();
-        dialog->activateWindow();
     }
     void openProbing() {
         make();
+        dialog->show();
+        dialog->activateWindow();
         QTRY_VERIFY(find<QPushButton>("pbCheckPort") && dialog->isActiveWindow() && !probed.empty() &&
                     find<QLabel>("lblBusy")->text().isEmpty());
     }
