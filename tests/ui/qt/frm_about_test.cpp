@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QDir>
 #include <QFile>
 #include <QLabel>
 #include <QMessageBox>
@@ -51,7 +52,7 @@ class FrmAboutTest : public QObject {
         QFile file(path);
         QVERIFY(file.open(QIODevice::ReadOnly));
         QCOMPARE(file.readAll(), QByteArray("a capture"));
-        QVERIFY(told().endsWith(path + "."));
+        QVERIFY(told().endsWith(QDir::toNativeSeparators(path) + "."));
         click("pbCopyDetails");
         QVERIFY(QApplication::clipboard()->text().endsWith(path));
         QVERIFY(told().contains("attach the capture"));
