@@ -43,7 +43,7 @@ std::string specialFolder(int number) {
 void cSHFolder::setDefaultPath(const std::string& path) {
     defaultPath_ = path;
     if (dialog_) {
-        dialog_->setDirectory(qtSystemText(path));
+        dialog_->select(qtSystemText(path));
     }
 }
 
@@ -99,7 +99,7 @@ std::string cSHFolder::BrowseForFolder(QWidget* owner, const std::optional<std::
     setStatusText(statusText_);
     const std::string special = specialFolder(defaultPidl_.value_or(0));
     if (!special.empty()) {
-        dialog.setDirectory(qtSystemText(special));
+        dialog.select(qtSystemText(special));
     }
     if (!caption_.empty()) {
         setCaption(caption_);

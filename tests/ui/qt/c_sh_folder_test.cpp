@@ -4,9 +4,9 @@
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QFile>
-#include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPushButton>
 #include <QScreen>
 #include <QSignalSpy>
@@ -15,6 +15,9 @@
 #include <QTest>
 #include <QTimer>
 #include <functional>
+#include <utility>
+
+#include "ui/qt/folder_dialog.h"
 
 namespace velmora {
 
@@ -32,7 +35,7 @@ class CSHFolderTest : public QObject {
         cSHFolder folder;
         folder.setDefaultPath(path());
         whenOpen(folder, [&] {
-            opened(folder)->selectFile(place.filePath("inner"));
+            opened(folder)->select(place.filePath("inner"));
             accept(folder);
         });
         QCOMPARE(folder.BrowseForFolder(nullptr), path() + "/inner");
@@ -81,12 +84,12 @@ class CSHFolderTest : public QObject {
         QString title;
         QString prompt;
         QTimer::singleShot(0, this, [&] {
-            auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            auto* dialog = qobject_cast<FolderDialog*>(QApplication::activeModalWidget());
             QVERIFY(dialog);
             title = dialog->windowTitle();
             prompt = dialog->findChild<QLabel*>("lblPrompt")->text();
-            QVERIFY(dialog->findChild<QLineEdit*>("fileNameEdit")->isVisible());
-            dialog->findChild<QLineEdit*>("fileNameEdit")->setText("inner");
+            QVERIFY(dialog->findChild<QLineEdit*>("txtPath")->isVisible());
+            dialog->findChild<QLineEdit*>("txtPath")->setText("inner");
             QMetaObject::invokeMethod(dialog, "accept", Qt::DirectConnection);
         });
         QCOMPARE(folderBrowser(nullptr)(question), path() + "/inner");
@@ -128,7 +131,7 @@ class CSHFolderTest : public QObject {
         folder.setDefaultPath(path());
         whenOpen(folder, [&] {
             folder.setOKEnabled(false);
-            opened(folder)->selectFile(place.filePath("inner"));
+            opened(folder)->select(place.filePath("inner"));
             QVERIFY(!okOf(folder)->isEnabled());
             accept(folder);
             QVERIFY(folder.hWnd()->isVisible());
@@ -144,7 +147,7 @@ class CSHFolderTest : public QObject {
         QSignalSpy initialized(&folder, &cSHFolder::Initialized);
         QSignalSpy moved(&folder, &cSHFolder::SelectionChanged);
         whenOpen(folder, [&] {
-            Q_EMIT opened(folder)->currentChanged(place.filePath("inner"));
+            opened(folder)->select(place.filePath("inner"));
             opened(folder)->reject();
         });
         folder.BrowseForFolder(nullptr);
@@ -157,7 +160,7 @@ class CSHFolderTest : public QObject {
         folder.setEditBox(true);
         QSignalSpy failed(&folder, &cSHFolder::ValidationFailed);
         whenOpen(folder, [&] {
-            auto* box = folder.hWnd()->findChild<QLineEdit*>("fileNameEdit");
+            auto* box = folder.hWnd()->findChild<QLineEdit*>("txtPath");
             QVERIFY(box->isVisible());
             box->setText("missing");
             accept(folder);
@@ -174,7 +177,7 @@ class CSHFolderTest : public QObject {
     void withoutTheOptionThereIsNoEditBox() {
         cSHFolder folder;
         whenOpen(folder, [&] {
-            QVERIFY(!folder.hWnd()->findChild<QLineEdit*>("fileNameEdit")->isVisible());
+            QVERIFY(!folder.hWnd()->findChild<QLineEdit*>("txtPath")->isVisible());
             opened(folder)->reject();
         });
         folder.BrowseForFolder(nullptr);
@@ -186,8 +189,8 @@ class CSHFolderTest : public QObject {
             folder.setDefaultPath(path());
             folder.setIncludeFiles(included);
             whenOpen(folder, [&] {
-                opened(folder)->selectFile(place.filePath("plain.txt"));
-                folder.hWnd()->findChild<QLineEdit*>("fileNameEdit")->setText("plain.txt");
+                opened(folder)->select(place.filePath("plain.txt"));
+                folder.hWnd()->findChild<QLineEdit*>("txtPath")->setText("plain.txt");
                 accept(folder);
                 if (folder.hWnd() && folder.hWnd()->isVisible()) {
                     opened(folder)->reject();
@@ -217,7 +220,7 @@ class CSHFolderTest : public QObject {
         cSHFolder folder;
         QSignalSpy failed(&folder, &cSHFolder::ValidationFailed);
         whenOpen(folder, [&] {
-            opened(folder)->setDirectory(QDir::rootPath());
+            opened(folder)->select(QDir::rootPath());
             accept(folder);
             QVERIFY(folder.hWnd()->isVisible());
             opened(folder)->reject();
@@ -225,20 +228,144 @@ class CSHFolderTest : public QObject {
         QCOMPARE(folder.BrowseForFolder(nullptr, std::nullopt, 40), std::string());
         QCOMPARE(failed.count(), 1);
     }
-    void wayOutOfTheRootLeadsBackToIt() {
+    void noWayLeadsOutOfTheRoot() {
         cSHFolder folder;
-        QSignalSpy moved(&folder, &cSHFolder::SelectionChanged);
         whenOpen(folder, [&] {
-            const QString home = opened(folder)->directory().absolutePath();
-            opened(folder)->setDirectory(QDir::rootPath());
-            Q_EMIT opened(folder)->directoryEntered(QDir::rootPath());
-            QCOMPARE(opened(folder)->directory().absolutePath(), home);
-            QDir(home).mkdir("below");
-            Q_EMIT opened(folder)->directoryEntered(home + "/below");
-            QVERIFY(moved.count() >= 2);
+            QCOMPARE(opened(folder)->chosenPath(), QDir::homePath());
+            QVERIFY(list(folder)->findItems("..", Qt::MatchExactly).isEmpty());
+            QTest::keyClick(list(folder), Qt::Key_Left);
+            QCOMPARE(opened(folder)->chosenPath(), QDir::homePath());
             opened(folder)->reject();
         });
         folder.BrowseForFolder(nullptr, std::nullopt, 40);
+        QCOMPARE(seen, 1);
+    }
+    void aFolderIsChosenInTheList() {
+        cSHFolder folder;
+        folder.setDefaultPath(path());
+        folder.setEditBox(true);
+        QSignalSpy moved(&folder, &cSHFolder::SelectionChanged);
+        whenOpen(folder, [&] {
+            QCOMPARE(names(folder), QStringList({"..", "inner"}));
+            moved.clear();
+            QTest::keyClick(list(folder), Qt::Key_End);
+            QCOMPARE(moved.count(), 1);
+            QCOMPARE(pathBox(folder)->text(), QString::fromStdString(path() + "/inner"));
+            accept(folder);
+        });
+        QCOMPARE(folder.BrowseForFolder(nullptr), path() + "/inner");
+    }
+    void foldersAreEnteredAndLeft() {
+        QVERIFY(QDir(place.filePath("inner")).mkdir("below"));
+        cSHFolder folder;
+        folder.setDefaultPath(path());
+        const QString start = QString::fromStdString(path());
+        whenOpen(folder, [&] {
+            QTest::keyClick(list(folder), Qt::Key_End);
+            QTest::keyClick(list(folder), Qt::Key_Right);
+            QCOMPARE(opened(folder)->chosenPath(), start + "/inner");
+            QCOMPARE(names(folder), QStringList({"..", "below"}));
+            QTest::keyClick(list(folder), Qt::Key_Backspace);
+            QCOMPARE(list(folder)->currentItem()->text(), QString("inner"));
+            QCOMPARE(opened(folder)->chosenPath(), start + "/inner");
+            list(folder)->itemDoubleClicked(list(folder)->currentItem());
+            QCOMPARE(names(folder), QStringList({"..", "below"}));
+            list(folder)->setCurrentRow(0);
+            QTest::keyClick(list(folder), Qt::Key_Right);
+            QCOMPARE(opened(folder)->chosenPath(), start);
+            opened(folder)->reject();
+        });
+        folder.BrowseForFolder(nullptr);
+        QCOMPARE(seen, 1);
+        QVERIFY(QDir(place.filePath("inner")).removeRecursively());
+    }
+    void aFileIsNotEntered() {
+        cSHFolder folder;
+        folder.setDefaultPath(path());
+        folder.setIncludeFiles(true);
+        whenOpen(folder, [&] {
+            opened(folder)->select(place.filePath("plain.txt"));
+            QCOMPARE(list(folder)->currentItem()->text(), QString("plain.txt"));
+            QTest::keyClick(list(folder), Qt::Key_Right);
+            QCOMPARE(list(folder)->currentItem()->text(), QString("plain.txt"));
+            opened(folder)->reject();
+        });
+        folder.BrowseForFolder(nullptr);
+        QCOMPARE(seen, 1);
+    }
+    void aboveTheRootOfTheFileSystemIsNothing() {
+        cSHFolder folder;
+        folder.setDefaultPath("/");
+        whenOpen(folder, [&] {
+            QVERIFY(!names(folder).contains(".."));
+            QTest::keyClick(list(folder), Qt::Key_Left);
+            QCOMPARE(opened(folder)->chosenPath(), QString("/"));
+            opened(folder)->reject();
+        });
+        folder.BrowseForFolder(nullptr);
+        QCOMPARE(seen, 1);
+    }
+    void aPathBeginsAtTheHomeFolderOrAtTheSelectedOne() {
+        cSHFolder folder;
+        folder.setDefaultPath(path());
+        folder.setEditBox(true);
+        whenOpen(folder, [&] {
+            for (const auto& [typed, whole] : {std::pair{QString("~"), QDir::homePath()},
+                                               {QString("~/x"), QDir::homePath() + "/x"},
+                                               {QString("inner/.."), QString::fromStdString(path())},
+                                               {QString(""), QString::fromStdString(path())}}) {
+                pathBox(folder)->setText(typed);
+                QCOMPARE(opened(folder)->chosenPath(), whole);
+            }
+            opened(folder)->reject();
+        });
+        folder.BrowseForFolder(nullptr);
+        QCOMPARE(seen, 1);
+    }
+    void aNewFolderIsNamedAndMadeWhenItIsChosen() {
+        QVERIFY(QDir(place.filePath("inner")).mkdir("New folder"));
+        cSHFolder folder;
+        folder.setDefaultPath(path() + "/inner");
+        folder.setNewDialog(true);
+        whenOpen(folder, [&] {
+            button(folder, "pbNewFolder")->click();
+            QVERIFY(pathBox(folder)->isVisible());
+            QCOMPARE(pathBox(folder)->selectedText(), QString("New folder 2"));
+            QTest::keyClicks(pathBox(folder), "Psion");
+            QVERIFY(!QDir(place.filePath("inner")).exists("Psion"));
+            accept(folder);
+        });
+        QCOMPARE(folder.BrowseForFolder(nullptr), path() + "/inner/Psion");
+        QVERIFY(QDir(place.filePath("inner")).exists("Psion"));
+        QVERIFY(QDir(place.filePath("inner")).removeRecursively());
+    }
+    void whoeverChoosesAnotherFolderMakesNone() {
+        cSHFolder folder;
+        folder.setDefaultPath(path() + "/inner");
+        folder.setNewDialog(true);
+        whenOpen(folder, [&] {
+            button(folder, "pbNewFolder")->click();
+            opened(folder)->select(place.path());
+            pathBox(folder)->setText("typed");
+            accept(folder);
+            QVERIFY(!QDir(place.path()).exists("typed"));
+            opened(folder)->reject();
+        });
+        folder.BrowseForFolder(nullptr);
+        QCOMPARE(seen, 1);
+    }
+    void whereNoFolderCanBeMadeThatIsTold() {
+        cSHFolder folder;
+        folder.setDefaultPath("/proc");
+        folder.setNewDialog(true);
+        whenOpen(folder, [&] {
+            button(folder, "pbNewFolder")->click();
+            accept(folder);
+            QVERIFY(label(folder, "lblFault")->isVisible());
+            QCOMPARE(label(folder, "lblFault")->text(), QString("No folder can be made in /proc"));
+            opened(folder)->reject();
+        });
+        folder.BrowseForFolder(nullptr);
         QCOMPARE(seen, 1);
     }
     void theRootOfTheComputerHoldsEveryFolder() {
@@ -255,7 +382,7 @@ class CSHFolderTest : public QObject {
         folder.setEditBox(true);
         QSignalSpy failed(&folder, &cSHFolder::ValidationFailed);
         whenOpen(folder, [&] {
-            folder.hWnd()->findChild<QLineEdit*>("fileNameEdit")->setText("missing");
+            folder.hWnd()->findChild<QLineEdit*>("txtPath")->setText("missing");
             accept(folder);
             QVERIFY(folder.hWnd()->isVisible());
             opened(folder)->reject();
@@ -306,7 +433,25 @@ class CSHFolderTest : public QObject {
             play();
         });
     }
-    static QFileDialog* opened(const cSHFolder& folder) { return qobject_cast<QFileDialog*>(folder.hWnd()); }
+    static FolderDialog* opened(const cSHFolder& folder) {
+        return qobject_cast<FolderDialog*>(folder.hWnd());
+    }
+    static QListWidget* list(const cSHFolder& folder) {
+        return folder.hWnd()->findChild<QListWidget*>("lstFolders");
+    }
+    static QStringList names(const cSHFolder& folder) {
+        QStringList names;
+        for (int row = 0; row < list(folder)->count(); ++row) {
+            names << list(folder)->item(row)->text();
+        }
+        return names;
+    }
+    static QLineEdit* pathBox(const cSHFolder& folder) {
+        return folder.hWnd()->findChild<QLineEdit*>("txtPath");
+    }
+    static QPushButton* button(const cSHFolder& folder, const char* name) {
+        return folder.hWnd()->findChild<QPushButton*>(name);
+    }
     static void accept(const cSHFolder& folder) {
         QMetaObject::invokeMethod(folder.hWnd(), "accept", Qt::DirectConnection);
     }
@@ -314,7 +459,7 @@ class CSHFolderTest : public QObject {
         return folder.hWnd()->findChild<QLabel*>(name);
     }
     static QPushButton* okOf(const cSHFolder& folder) {
-        return folder.hWnd()->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Open);
+        return folder.hWnd()->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok);
     }
     std::string path() const { return QFile::encodeName(QDir(place.path()).canonicalPath()).toStdString(); }
 

@@ -125,6 +125,7 @@ class Shown {
         if (name == QLatin1String("folder")) {
             FolderDialog::Options options;
             options.pathBox = true;
+            options.resizable = true;
             own_ = std::make_unique<FolderDialog>(options, nullptr);
         }
 #endif

@@ -1080,12 +1080,24 @@ Bitte den Ordnernamen prüfen.</translation>
 <context>
     <name>velmora::FolderDialog</name>
     <message>
-        <source>OK</source>
-        <translation>OK</translation>
-    </message>
-    <message>
         <source>%1 is no folder to choose</source>
         <translation>%1 ist kein Ordner, der sich wählen lässt</translation>
+    </message>
+    <message>
+        <source>&amp;Path:</source>
+        <translation>&amp;Pfad:</translation>
+    </message>
+    <message>
+        <source>&amp;New folder</source>
+        <translation>&amp;Neuer Ordner</translation>
+    </message>
+    <message>
+        <source>New folder</source>
+        <translation>Neuer Ordner</translation>
+    </message>
+    <message>
+        <source>No folder can be made in %1</source>
+        <translation>In %1 lässt sich kein Ordner anlegen</translation>
     </message>
 </context>
 <context>

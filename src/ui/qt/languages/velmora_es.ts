@@ -1080,12 +1080,24 @@ Compruebe el nombre de la carpeta.</translation>
 <context>
     <name>velmora::FolderDialog</name>
     <message>
-        <source>OK</source>
-        <translation>Aceptar</translation>
-    </message>
-    <message>
         <source>%1 is no folder to choose</source>
         <translation>%1 no es una carpeta que se pueda elegir</translation>
+    </message>
+    <message>
+        <source>&amp;Path:</source>
+        <translation>&amp;Ruta:</translation>
+    </message>
+    <message>
+        <source>&amp;New folder</source>
+        <translation>&amp;Nueva carpeta</translation>
+    </message>
+    <message>
+        <source>New folder</source>
+        <translation>Nueva carpeta</translation>
+    </message>
+    <message>
+        <source>No folder can be made in %1</source>
+        <translation>No se puede crear una carpeta en %1</translation>
     </message>
 </context>
 <context>

@@ -1080,12 +1080,24 @@ Veuillez vérifier le nom du dossier.</translation>
 <context>
     <name>velmora::FolderDialog</name>
     <message>
-        <source>OK</source>
-        <translation>OK</translation>
-    </message>
-    <message>
         <source>%1 is no folder to choose</source>
         <translation>%1 n’est pas un dossier que l’on puisse choisir</translation>
+    </message>
+    <message>
+        <source>&amp;Path:</source>
+        <translation>&amp;Chemin :</translation>
+    </message>
+    <message>
+        <source>&amp;New folder</source>
+        <translation>&amp;Nouveau dossier</translation>
+    </message>
+    <message>
+        <source>New folder</source>
+        <translation>Nouveau dossier</translation>
+    </message>
+    <message>
+        <source>No folder can be made in %1</source>
+        <translation>Impossible de créer un dossier dans %1</translation>
     </message>
 </context>
 <context>

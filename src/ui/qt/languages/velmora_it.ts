@@ -1080,12 +1080,24 @@ Verificare il nome della cartella.</translation>
 <context>
     <name>velmora::FolderDialog</name>
     <message>
-        <source>OK</source>
-        <translation>OK</translation>
-    </message>
-    <message>
         <source>%1 is no folder to choose</source>
         <translation>%1 non è una cartella che si possa scegliere</translation>
+    </message>
+    <message>
+        <source>&amp;Path:</source>
+        <translation>&amp;Percorso:</translation>
+    </message>
+    <message>
+        <source>&amp;New folder</source>
+        <translation>&amp;Nuova cartella</translation>
+    </message>
+    <message>
+        <source>New folder</source>
+        <translation>Nuova cartella</translation>
+    </message>
+    <message>
+        <source>No folder can be made in %1</source>
+        <translation>Impossibile creare una cartella in %1</translation>
     </message>
 </context>
 <context>

@@ -1080,12 +1080,24 @@ Controleer de naam van de map.</translation>
 <context>
     <name>velmora::FolderDialog</name>
     <message>
-        <source>OK</source>
-        <translation>OK</translation>
-    </message>
-    <message>
         <source>%1 is no folder to choose</source>
         <translation>%1 is geen map die gekozen kan worden</translation>
+    </message>
+    <message>
+        <source>&amp;Path:</source>
+        <translation>&amp;Pad:</translation>
+    </message>
+    <message>
+        <source>&amp;New folder</source>
+        <translation>&amp;Nieuwe map</translation>
+    </message>
+    <message>
+        <source>New folder</source>
+        <translation>Nieuwe map</translation>
+    </message>
+    <message>
+        <source>No folder can be made in %1</source>
+        <translation>In %1 kan geen map worden gemaakt</translation>
     </message>
 </context>
 <context>
