@@ -105,5 +105,12 @@ TEST(AdapterChipsTest, KnowsTheUsualChipsAndNoOthers) {
     EXPECT_EQ(adapterChip("0403", "ffff"), "");
 }
 
+TEST(AdapterKeyTest, AMakerAloneNamesNoAdapter) {
+    PortIdentity port;
+    port.vendorId = "0403";
+    port.serial = "A50285BI";
+    EXPECT_EQ(keyOf(port, {port}), std::nullopt);
+}
+
 }  // namespace
 }  // namespace velmora

@@ -97,5 +97,14 @@ TEST(ModeStringTest, SettingsHaveAModeStringThatGivesThemBack) {
     }
 }
 
+TEST(LineSettingsTest, EachPartMakesADifference) {
+    const LineSettings line{9600, Parity::None, 8, StopBits::One};
+    EXPECT_EQ(line, (LineSettings{9600, Parity::None, 8, StopBits::One}));
+    EXPECT_NE(line, (LineSettings{1200, Parity::None, 8, StopBits::One}));
+    EXPECT_NE(line, (LineSettings{9600, Parity::Even, 8, StopBits::One}));
+    EXPECT_NE(line, (LineSettings{9600, Parity::None, 7, StopBits::One}));
+    EXPECT_NE(line, (LineSettings{9600, Parity::None, 8, StopBits::Two}));
+}
+
 }  // namespace
 }  // namespace velmora
