@@ -80,25 +80,23 @@ std::string TransferList::text(std::size_t row, Column column) const {
 }
 
 std::string TransferList::details(std::size_t row) const {
-    const ListedTransfer& listed = at(row);
-    const Transfer& transfer = listed.transfer;
-    std::string text =
-        this->text(row, Time) + ' ' +
-        showControls(listed.end ? describe(transfer, *listed.end) : transfer.name + ' ' + stateText(listed));
+    const Transfer& transfer = at(row).transfer;
+    std::string lines;
+    const auto add = [&lines](const std::string& line) { lines += (lines.empty() ? "" : "\n") + line; };
     if (!transfer.path.empty()) {
-        text += "\n" + shownText(transfer.path);
+        add(shownText(transfer.path));
     }
     if (!transfer.earlierCopy.empty()) {
-        text += "\nEarlier copy: " + shownText(transfer.earlierCopy);
+        add("Earlier copy: " + shownText(transfer.earlierCopy));
     }
     const std::size_t shown = std::min(transfer.remarks.size(), kShownRemarks);
     for (std::size_t i = 0; i < shown; ++i) {
-        text += "\n" + showControls(transfer.remarks[i]);
+        add(showControls(transfer.remarks[i]));
     }
     if (shown < transfer.remarks.size()) {
-        text += "\nand " + std::to_string(transfer.remarks.size() - shown) + " more";
+        add("and " + std::to_string(transfer.remarks.size() - shown) + " more");
     }
-    return text;
+    return lines;
 }
 
 void TransferList::transferBegan(const Transfer& transfer) {

@@ -51,9 +51,8 @@ class TransferList : public TransferObserver {
     static const char* heading(Column column);
     /// What stands in the table. Requires: row < size().
     std::string text(std::size_t row, Column column) const;
-    /// All that is known, line by line, for the clipboard and for a pointer that rests on the row: what
-    /// happened, the path, the earlier copy, the cells. Of more than kShownRemarks cells the others are
-    /// counted.
+    /// What has no column, line by line: the path, the earlier copy, the cells. Of more than kShownRemarks
+    /// cells the others are counted. Requires: row < size().
     std::string details(std::size_t row) const;
 
     void transferBegan(const Transfer& transfer) override;

@@ -46,9 +46,7 @@ class OrcaTest : public DesktopSessionFixture {
         bus.reset();
     }
 
-    static std::string spoken(const std::string& words) {
-        return "SPEECH OUTPUT: 'notification " + words;
-    }
+    static std::string spoken(const std::string& words) { return "SPEECH OUTPUT: 'notification " + words; }
     void expectSpoken(const std::string& words) {
         EXPECT_TRUE(reader->waitForError(spoken(words))) << words << "\n" << reader->error();
     }

@@ -130,7 +130,7 @@ TEST_F(TransferListTest, TheOldestAreDropped) {
     EXPECT_EQ(list.text(TransferList::kMost - 1, Column::Size), "1");
 }
 
-TEST_F(TransferListTest, DetailsTellAll) {
+TEST_F(TransferListTest, DetailsTellWhatHasNoColumn) {
     Transfer sheet = memo();
     sheet.name = "Sums.wks";
     sheet.direction = TransferDirection::Save;
@@ -138,16 +138,12 @@ TEST_F(TransferListTest, DetailsTellAll) {
     sheet.remarks = {"A1: =1-(2-3) comes back as =1-2-3"};
     list.transferBegan(sheet);
     EXPECT_EQ(list.details(0),
-              "2026-11-22 19:39:35 Sums.wks under way\n/psion/Memo.odb\nEarlier copy: /copies/Sums.wks\n"
-              "A1: =1-(2-3) comes back as =1-2-3");
+              "/psion/Memo.odb\nEarlier copy: /copies/Sums.wks\nA1: =1-(2-3) comes back as =1-2-3");
     sheet.remarks.resize(TransferList::kShownRemarks + 3);
     list.transferEnded(far(sheet, 28, 0), {});
-    const std::string details = list.details(0);
-    EXPECT_TRUE(
-        details.starts_with("2026-11-22 19:39:35 saved Sums.wks 28 bytes in 0.0 s, 23 formulas changed\n"));
-    EXPECT_TRUE(details.ends_with("\nand 3 more"));
+    EXPECT_TRUE(list.details(0).ends_with("\n\nand 3 more"));
     list.transferEnded({}, {TransferResult::Refused, 190, "invalid request"});
-    EXPECT_EQ(list.details(0), "1970-01-01 01:00:00 request refused: invalid request (190)");
+    EXPECT_EQ(list.details(0), "");
 }
 
 TEST_F(TransferListTest, WhatANameHoldsDoesNotBreakTheTable) {

@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QList>
+#include <QLocale>
 #include <QStringList>
 #include <algorithm>
 #include <optional>
@@ -54,6 +55,23 @@ std::optional<QList<Filling>> fillings(QString text, QString pattern) {
     return text == pattern ? std::optional(found) : std::nullopt;
 }
 
+/// "16,392" as the user's language groups it. What has no groups, a rate of a line, gets none.
+QString regrouped(QString number) {
+    if (!number.contains(u',')) {
+        return number;
+    }
+    return QLocale().toString(number.remove(u',').toLongLong());
+}
+
+/// What stands in the translation for what stood in the text.
+QString translated(const Filling& filling) {
+    constexpr QChar kSentence = u'9';
+    if (filling.place == kSentence) {
+        return coreText(filling.text);
+    }
+    return mustBeNumber(filling.place) ? regrouped(filling.text) : filling.text;
+}
+
 QString filled(const QString& translation, const QList<Filling>& fillings) {
     QString text;
     for (qsizetype i = 0; i < translation.size(); ++i) {
@@ -63,8 +81,7 @@ QString filled(const QString& translation, const QList<Filling>& fillings) {
             text += translation.at(i);
             continue;
         }
-        constexpr QChar kSentence = u'9';
-        text += next == kSentence ? coreText(filling->text) : filling->text;
+        text += translated(*filling);
         ++i;
     }
     return text;

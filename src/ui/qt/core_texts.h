@@ -7,7 +7,8 @@
 namespace velmora {
 
 /// The sentences, as patterns: %1 to %6 stand for a name, a number or a reason of the system, %7 and %8 for a
-/// number and nothing else, %9 for a sentence that is one of these itself. The places of a pattern go up.
+/// whole number and nothing else, which is grouped as the language does, %9 for a sentence that is one of
+/// these itself. The places of a pattern go up.
 std::span<const char* const> coreSentences();
 
 /// A text of the core in the user's language: line by line, and sentence by sentence where it has several.

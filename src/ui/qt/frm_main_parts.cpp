@@ -173,6 +173,7 @@ QGridLayout* frmMain::arrangeStatistics() {
     statistics->setColumnStretch(0, 1);
     statistics->setColumnStretch(3, 1);
     auto* others = new QHBoxLayout;
+    others->setSpacing(6);
     others->addWidget(pbTransfers);
     others->addWidget(pbAbout);
     statistics->addLayout(others, 0, 4, 3, 1, Qt::AlignRight | Qt::AlignBottom);

@@ -9,6 +9,7 @@
 #include <QLabel>
 #include <QMenu>
 #include <QShowEvent>
+#include <QStyledItemDelegate>
 #include <QTableView>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -31,6 +32,17 @@ constexpr std::array<const char*, TransferList::kColumns> kWidest = {"2026-12-30
                                                                      "1,000 bytes/s ",
                                                                      ""};
 
+/// Words that keep away from the numbers before them, which end where these begin.
+class IndentedWords : public QStyledItemDelegate {
+  public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QString displayText(const QVariant& value, const QLocale& locale) const override {
+        constexpr QChar kEnSpace(0x2002);
+        return kEnSpace + QStyledItemDelegate::displayText(value, locale);
+    }
+};
+
 }  // namespace
 
 frmTransfers::frmTransfers(TransferList& list, Actions actions, QWidget* parent)
@@ -50,9 +62,8 @@ frmTransfers::frmTransfers(TransferList& list, Actions actions, QWidget* parent)
     connect(&table_, &TransferTable::rowsInserted, this, &frmTransfers::showWhetherEmpty);
     showWhetherEmpty();
     offerActions();
-    const QString longest = coreText(QStringLiteral("refused: no such file (189)"));
     const int wanted = tblTransfers->horizontalHeader()->sectionPosition(TransferList::Result) +
-                       fontMetrics().horizontalAdvance(longest) + 8 * fontMetrics().averageCharWidth();
+                       resultWidth() + 8 * fontMetrics().averageCharWidth();
     resize(std::max(860, wanted), 420);
 }
 
@@ -72,6 +83,7 @@ void frmTransfers::buildTable() {
     tblTransfers->verticalHeader()->hide();
     tblTransfers->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     tblTransfers->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
+    tblTransfers->setItemDelegateForColumn(TransferList::Result, new IndentedWords(tblTransfers));
     QHeaderView* header = tblTransfers->horizontalHeader();
     header->setHighlightSections(false);
     header->setStretchLastSection(true);
@@ -107,6 +119,19 @@ int frmTransfers::columnWidth(int column) const {
         width = std::max(width, fontMetrics().horizontalAdvance(word + QLatin1Char(' ')));
     }
     return width + 2 * fontMetrics().averageCharWidth();
+}
+
+/// Room for the results that are met every day; rarer ones are cut, and whole in the tip.
+int frmTransfers::resultWidth() const {
+    Transfer sheet;
+    sheet.remarks.resize(23);
+    int width = 0;
+    for (const std::string& result : {resultText(sheet, {TransferResult::Complete, 0, {}}),
+                                      resultText({}, {TransferResult::Incomplete, 0, "the link ended"}),
+                                      resultText({}, {TransferResult::Refused, 189, "no such file"})}) {
+        width = std::max(width, fontMetrics().horizontalAdvance(coreText(qtText(result))));
+    }
+    return width;
 }
 
 QAction* frmTransfers::addEntry(const QString& name, const QString& text, const QKeySequence& keys,

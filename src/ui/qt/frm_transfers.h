@@ -39,6 +39,7 @@ class frmTransfers : public QWidget {
   private:
     void buildTable();
     int columnWidth(int column) const;
+    int resultWidth() const;
     void buildMenu();
     QAction* addEntry(const QString& name, const QString& text, const QKeySequence& keys,
                       void (frmTransfers::*deed)());

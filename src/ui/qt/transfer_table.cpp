@@ -80,7 +80,19 @@ const ListedTransfer* TransferTable::transfer(int row) const {
 }
 
 QString TransferTable::details(int row) const {
-    return coreText(qtText(list_.details(listRow(row))));
+    QStringList lines;
+    for (int column = 0; column < TransferList::kColumns; ++column) {
+        const QString text = shownText(index(row, column));
+        if (!text.isEmpty()) {
+            lines.append(
+                tr("%1: %2").arg(headerData(column, Qt::Horizontal, Qt::DisplayRole).toString(), text));
+        }
+    }
+    const QString more = coreText(qtText(list_.details(listRow(row))));
+    if (!more.isEmpty()) {
+        lines.append(more);
+    }
+    return lines.join(u'\n');
 }
 
 int TransferTable::rowCount(const QModelIndex& parent) const {

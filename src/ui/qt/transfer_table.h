@@ -25,7 +25,8 @@ class TransferTable : public QAbstractTableModel, private TransferListView {
     /// The transfer of a row of the table; null when the list has dropped it, and the row goes with the next
     /// batch. Requires: the row is there.
     const ListedTransfer* transfer(int row) const;
-    /// All that is known of it. Requires: it is not dropped.
+    /// All that is known of it, line by line, for the clipboard and for a pointer that rests on the row.
+    /// Requires: it is not dropped.
     QString details(int row) const;
 
     int rowCount(const QModelIndex& parent = {}) const override;

@@ -2,7 +2,6 @@
 
 #include <QCoreApplication>
 #include <QLibraryInfo>
-#include <QLocale>
 
 #ifdef VELMORA_TRANSLATIONS
 /// Makes the translations known that are linked in with this library. The macro wants the global namespace.
@@ -26,6 +25,7 @@ std::vector<std::string> desktopLanguages() {
 Translation::Translation(std::string_view language) {
     loadTranslations();
     const QString code = QString::fromLatin1(language.data(), static_cast<qsizetype>(language.size()));
+    QLocale::setDefault(QLocale(code));
     // What the toolkit's own dialogs say, where its translations are installed. The later one counts first.
     if (toolkit_.load(QStringLiteral("qtbase_") + code, QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
         QCoreApplication::installTranslator(&toolkit_);
@@ -38,6 +38,7 @@ Translation::Translation(std::string_view language) {
 Translation::~Translation() {
     QCoreApplication::removeTranslator(&own_);
     QCoreApplication::removeTranslator(&toolkit_);
+    QLocale::setDefault(before_);
 }
 
 }  // namespace velmora

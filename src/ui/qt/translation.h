@@ -1,6 +1,7 @@
 // The windows in the user's language.
 #pragma once
 
+#include <QLocale>
 #include <QTranslator>
 #include <string>
 #include <string_view>
@@ -12,7 +13,7 @@ namespace velmora {
 std::vector<std::string> desktopLanguages();
 
 /// All texts of the windows, and those of the toolkit that they show, in one language for as long as this
-/// lives. Windows that are there already keep their texts.
+/// lives, and numbers as that language writes them. Windows that are there already keep their texts.
 class Translation {
   public:
     /// `language`: a code of knownLanguages().
@@ -22,6 +23,7 @@ class Translation {
     Translation& operator=(const Translation&) = delete;
 
   private:
+    QLocale before_;  // the numbers' signs
     QTranslator toolkit_;
     QTranslator own_;
 };

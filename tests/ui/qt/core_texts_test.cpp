@@ -63,13 +63,41 @@ class CoreTextsTest : public QObject {
 
     void namesAndNumbersStandAtTheirPlaces() {
         const Translation german("de");
-        QCOMPARE(coreText("9,633 of 32,110"), QStringLiteral("9,633 von 32,110"));
+        QCOMPARE(coreText("9,633 of 32,110"), QStringLiteral("9.633 von 32.110"));
         QCOMPARE(coreText("under way, 30 %, 0:23 left"), QStringLiteral("läuft, 30 %, noch 0:23"));
         QCOMPARE(coreText("under way, 30 %"), QStringLiteral("läuft, 30 %"));
         QCOMPARE(coreText("The Organiser uses 1200 baud, and the server 9600 baud."),
                  QStringLiteral("Der Organiser verwendet 1200 Baud, der Server 9600 Baud."));
         QCOMPARE(coreText("Port COM5 is not accessible!"),
                  QStringLiteral("Der Anschluss COM5 ist nicht zugänglich!"));
+    }
+
+    void numbersAreWrittenAsTheLanguageDoes() {
+        {
+            const Translation german("de");
+            QCOMPARE(coreText("16,392"), QStringLiteral("16.392"));
+            QCOMPARE(coreText("1,017.2 s"), QStringLiteral("1.017,2 s"));
+            QCOMPARE(coreText("1,953 bytes/s"), QStringLiteral("1.953 Bytes/s"));
+            QCOMPARE(coreText("complete, 1,203 formulas changed"),
+                     QStringLiteral("vollständig, 1.203 Formeln geändert"));
+            QCOMPARE(coreText("and 3 more"), QStringLiteral("und 3 weitere"));
+            // No speed of a line has groups.
+            QCOMPARE(coreText("115200 baud"), QStringLiteral("115200 Baud"));
+        }
+        QCOMPARE(coreText("1,017.2 s"), QStringLiteral("1,017.2 s"));
+        const Translation french("fr");
+        QCOMPARE(coreText("16,392"), QString::fromUtf8("16\u202f392"));
+    }
+    void whatAFormulaBecomesIsTold() {
+        const Translation german("de");
+        QCOMPARE(coreText("A1: =1-(2-3) comes back as =1-2-3"),
+                 QStringLiteral("A1: =1-(2-3) kommt als =1-2-3 zurück"));
+        QCOMPARE(coreText("A1: =1 comes back as =2, and saved again, as =3"),
+                 QStringLiteral("A1: =1 kommt als =2 zurück, und noch einmal gespeichert als =3"));
+        QCOMPARE(coreText("A1: =1 comes back as =2, which cannot be saved"),
+                 QStringLiteral("A1: =1 kommt als =2 zurück, und das kann nicht gespeichert werden"));
+        QCOMPARE(coreText("A1: =FOO(1) cannot be saved: it cannot be converted"),
+                 QStringLiteral("A1: =FOO(1) kann nicht gespeichert werden: it cannot be converted"));
     }
 
     void sentencesAndLinesAreTakenOneByOne() {

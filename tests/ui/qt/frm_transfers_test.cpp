@@ -15,6 +15,7 @@
 
 #include "support/accessibility_walk.h"
 #include "ui/qt/desktop_files.h"
+#include "ui/qt/translation.h"
 
 namespace velmora {
 namespace {
@@ -159,6 +160,20 @@ class FrmTransfersTest : public QObject {
         QVERIFY(QGuiApplication::clipboard()->text().endsWith(
             QStringLiteral("A1: =1-(2-3) comes back as =1-2-3\n")));
         QVERIFY(tip(0).contains(QStringLiteral("Earlier copy: /copies/Sums.wks")));
+    }
+    void theDetailsTellAllInTheLanguageOfTheWindows() {
+        const Translation german("de");
+        Transfer sheet = transferOf("Sums.wks", 16'392);
+        sheet.duration = std::chrono::milliseconds(17'200);
+        sheet.earlierCopy = "/copies/Sums.wks";
+        sheet.remarks = {"A1: =1-(2-3) comes back as =1-2-3"};
+        list->transferEnded(sheet, {});
+        QTRY_COMPARE(table()->model()->rowCount(), 1);
+        QCOMPARE(
+            tip(0).section(u'\n', 1),
+            QStringLiteral("Name: Sums.wks\nRichtung: Laden\nBytes: 16.392\nDauer: 17,2 s\n"
+                           "Tempo: 953 Bytes/s\nErgebnis: vollständig, 1 Formel geändert\n/psion/Sums.wks\n"
+                           "Frühere Fassung: /copies/Sums.wks\nA1: =1-(2-3) kommt als =1-2-3 zurück"));
     }
     void theMenuOffersOnlyWhatCanBeDone() {
         Transfer listing = transferOf("*.odb");

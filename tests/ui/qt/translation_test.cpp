@@ -9,6 +9,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QTableView>
 #include <QTableWidget>
 #include <QTest>
 #include <QWindow>
@@ -93,7 +94,7 @@ const QStringList kAlike = {
     "Version",    "Version %1", "Debug",          "Bytes",    "Options",      "&File",
     "Transferts", "Error",      "Help",           "&Help",    "&Start",       "&Stop",
     "Data",       "&No",        "Setup",          "Hide",     "&Transferts…", "Apply",
-    "%8 baud",    "%8 bytes/s", "%1, driver %2.",
+    "%8 baud",    "%8 bytes/s", "%1, driver %2.", "%8",       "%1: %2",
 };
 
 /// A window as users meet it, with all of its controls, and what it stands on.
@@ -323,6 +324,36 @@ class TranslationTest : public QObject {
         const QAbstractItemView& view = *steps;
         QVERIFY2(view.sizeHintForColumn(0) <= steps->columnWidth(0),
                  QByteArray::number(view.sizeHintForColumn(0)));
+    }
+
+    void noCellOfTheTransfersIsCutOff_data() { languages(); }
+    void noCellOfTheTransfersIsCutOff() {
+        QFETCH(QString, language);
+        const Translation translation(language.toStdString());
+        TransferList list([](const DateTime& moment) { return moment; });
+        Transfer contacts;
+        contacts.name = "CONTACTS.odb";
+        contacts.bytes = 32'110;
+        contacts.size = 32'110;
+        contacts.duration = std::chrono::seconds(100);
+        Transfer sheet = contacts;
+        sheet.remarks.resize(23);
+        list.transferEnded(contacts, {TransferResult::Refused, 189, "no such file"});
+        list.transferEnded(contacts, {TransferResult::Incomplete, 0, "the link ended"});
+        list.transferEnded(sheet, {TransferResult::Complete, 0, {}});
+        list.transferBegan(contacts);
+        frmTransfers window(list, frmTransfers::Actions());
+        window.present();
+        const auto* const table = window.findChild<QTableView*>("tblTransfers");
+        QCOMPARE(table->model()->rowCount(), 4);
+        const QAbstractItemView& view = *table;
+        for (int row = 0; row < 4; ++row) {
+            for (int column = 0; column < TransferList::kColumns; ++column) {
+                const QModelIndex cell = table->model()->index(row, column);
+                const int wanted = view.sizeHintForIndex(cell).width();
+                QVERIFY2(wanted <= table->columnWidth(column), qPrintable(cell.data().toString()));
+            }
+        }
     }
 
     void buttonsOfTheToolkitSpeakTheLanguage() {

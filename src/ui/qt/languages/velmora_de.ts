@@ -233,10 +233,6 @@ Bitte einen anderen Ordner oder Namen wählen.</translation>
         <translation>vollständig, 1 Formel geändert</translation>
     </message>
     <message>
-        <source>complete, %1 formulas changed</source>
-        <translation>vollständig, %1 Formeln geändert</translation>
-    </message>
-    <message>
         <source>incomplete: %9</source>
         <translation>unvollständig: %9</translation>
     </message>
@@ -676,6 +672,34 @@ Bitte einen anderen Ordner oder Namen wählen.</translation>
         <source>the link ended</source>
         <translation>die Verbindung endete</translation>
     </message>
+    <message>
+        <source>complete, %8 formulas changed</source>
+        <translation>vollständig, %8 Formeln geändert</translation>
+    </message>
+    <message>
+        <source>%8</source>
+        <translation>%8</translation>
+    </message>
+    <message>
+        <source>%7.%8 s</source>
+        <translation>%7,%8 s</translation>
+    </message>
+    <message>
+        <source>%1: =%2 comes back as =%3, and saved again, as =%4</source>
+        <translation>%1: =%2 kommt als =%3 zurück, und noch einmal gespeichert als =%4</translation>
+    </message>
+    <message>
+        <source>%1: =%2 comes back as =%3, which cannot be saved</source>
+        <translation>%1: =%2 kommt als =%3 zurück, und das kann nicht gespeichert werden</translation>
+    </message>
+    <message>
+        <source>%1: =%2 comes back as =%3</source>
+        <translation>%1: =%2 kommt als =%3 zurück</translation>
+    </message>
+    <message>
+        <source>%1: =%2 cannot be saved: %3</source>
+        <translation>%1: =%2 kann nicht gespeichert werden: %3</translation>
+    </message>
 </context>
 <context>
     <name>DesktopDialogs</name>
@@ -1098,6 +1122,13 @@ Bitte den Ordnernamen prüfen.</translation>
     <message>
         <source>No folder can be made in %1</source>
         <translation>In %1 lässt sich kein Ordner anlegen</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::TransferTable</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>

@@ -233,10 +233,6 @@ Elija otra carpeta u otro nombre.</translation>
         <translation>completa, 1 fórmula cambiada</translation>
     </message>
     <message>
-        <source>complete, %1 formulas changed</source>
-        <translation>completa, %1 fórmulas cambiadas</translation>
-    </message>
-    <message>
         <source>incomplete: %9</source>
         <translation>incompleta: %9</translation>
     </message>
@@ -676,6 +672,34 @@ Elija otra carpeta u otro nombre.</translation>
         <source>the link ended</source>
         <translation>el enlace terminó</translation>
     </message>
+    <message>
+        <source>complete, %8 formulas changed</source>
+        <translation>completa, %8 fórmulas cambiadas</translation>
+    </message>
+    <message>
+        <source>%8</source>
+        <translation>%8</translation>
+    </message>
+    <message>
+        <source>%7.%8 s</source>
+        <translation>%7,%8 s</translation>
+    </message>
+    <message>
+        <source>%1: =%2 comes back as =%3, and saved again, as =%4</source>
+        <translation>%1: =%2 vuelve como =%3 y, guardada otra vez, como =%4</translation>
+    </message>
+    <message>
+        <source>%1: =%2 comes back as =%3, which cannot be saved</source>
+        <translation>%1: =%2 vuelve como =%3, que no se puede guardar</translation>
+    </message>
+    <message>
+        <source>%1: =%2 comes back as =%3</source>
+        <translation>%1: =%2 vuelve como =%3</translation>
+    </message>
+    <message>
+        <source>%1: =%2 cannot be saved: %3</source>
+        <translation>%1: =%2 no se puede guardar: %3</translation>
+    </message>
 </context>
 <context>
     <name>DesktopDialogs</name>
@@ -1098,6 +1122,13 @@ Compruebe el nombre de la carpeta.</translation>
     <message>
         <source>No folder can be made in %1</source>
         <translation>No se puede crear una carpeta en %1</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::TransferTable</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>

@@ -233,10 +233,6 @@ Veuillez choisir un autre dossier ou un autre nom.</translation>
         <translation>complet, 1 formule modifiée</translation>
     </message>
     <message>
-        <source>complete, %1 formulas changed</source>
-        <translation>complet, %1 formules modifiées</translation>
-    </message>
-    <message>
         <source>incomplete: %9</source>
         <translation>incomplet : %9</translation>
     </message>
@@ -676,6 +672,34 @@ Veuillez choisir un autre dossier ou un autre nom.</translation>
         <source>the link ended</source>
         <translation>la liaison s’est terminée</translation>
     </message>
+    <message>
+        <source>complete, %8 formulas changed</source>
+        <translation>complet, %8 formules modifiées</translation>
+    </message>
+    <message>
+        <source>%8</source>
+        <translation>%8</translation>
+    </message>
+    <message>
+        <source>%7.%8 s</source>
+        <translation>%7,%8 s</translation>
+    </message>
+    <message>
+        <source>%1: =%2 comes back as =%3, and saved again, as =%4</source>
+        <translation>%1 : =%2 revient comme =%3 et, enregistrée de nouveau, comme =%4</translation>
+    </message>
+    <message>
+        <source>%1: =%2 comes back as =%3, which cannot be saved</source>
+        <translation>%1 : =%2 revient comme =%3, qui ne peut pas être enregistrée</translation>
+    </message>
+    <message>
+        <source>%1: =%2 comes back as =%3</source>
+        <translation>%1 : =%2 revient comme =%3</translation>
+    </message>
+    <message>
+        <source>%1: =%2 cannot be saved: %3</source>
+        <translation>%1 : =%2 ne peut pas être enregistrée : %3</translation>
+    </message>
 </context>
 <context>
     <name>DesktopDialogs</name>
@@ -1098,6 +1122,13 @@ Veuillez vérifier le nom du dossier.</translation>
     <message>
         <source>No folder can be made in %1</source>
         <translation>Impossible de créer un dossier dans %1</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::TransferTable</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
     </message>
 </context>
 <context>

@@ -233,10 +233,6 @@ Scegliere un’altra cartella o un altro nome.</translation>
         <translation>completo, 1 formula cambiata</translation>
     </message>
     <message>
-        <source>complete, %1 formulas changed</source>
-        <translation>completo, %1 formule cambiate</translation>
-    </message>
-    <message>
         <source>incomplete: %9</source>
         <translation>incompleto: %9</translation>
     </message>
@@ -676,6 +672,34 @@ Scegliere un’altra cartella o un altro nome.</translation>
         <source>the link ended</source>
         <translation>il collegamento è terminato</translation>
     </message>
+    <message>
+        <source>complete, %8 formulas changed</source>
+        <translation>completo, %8 formule cambiate</translation>
+    </message>
+    <message>
+        <source>%8</source>
+        <translation>%8</translation>
+    </message>
+    <message>
+        <source>%7.%8 s</source>
+        <translation>%7,%8 s</translation>
+    </message>
+    <message>
+        <source>%1: =%2 comes back as =%3, and saved again, as =%4</source>
+        <translation>%1: =%2 torna come =%3 e, salvata di nuovo, come =%4</translation>
+    </message>
+    <message>
+        <source>%1: =%2 comes back as =%3, which cannot be saved</source>
+        <translation>%1: =%2 torna come =%3, che non si può salvare</translation>
+    </message>
+    <message>
+        <source>%1: =%2 comes back as =%3</source>
+        <translation>%1: =%2 torna come =%3</translation>
+    </message>
+    <message>
+        <source>%1: =%2 cannot be saved: %3</source>
+        <translation>%1: =%2 non si può salvare: %3</translation>
+    </message>
 </context>
 <context>
     <name>DesktopDialogs</name>
@@ -1098,6 +1122,13 @@ Verificare il nome della cartella.</translation>
     <message>
         <source>No folder can be made in %1</source>
         <translation>Impossibile creare una cartella in %1</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::TransferTable</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>

@@ -233,10 +233,6 @@ Kies een andere map of naam.</translation>
         <translation>volledig, 1 formule gewijzigd</translation>
     </message>
     <message>
-        <source>complete, %1 formulas changed</source>
-        <translation>volledig, %1 formules gewijzigd</translation>
-    </message>
-    <message>
         <source>incomplete: %9</source>
         <translation>onvolledig: %9</translation>
     </message>
@@ -676,6 +672,34 @@ Kies een andere map of naam.</translation>
         <source>the link ended</source>
         <translation>de verbinding eindigde</translation>
     </message>
+    <message>
+        <source>complete, %8 formulas changed</source>
+        <translation>volledig, %8 formules gewijzigd</translation>
+    </message>
+    <message>
+        <source>%8</source>
+        <translation>%8</translation>
+    </message>
+    <message>
+        <source>%7.%8 s</source>
+        <translation>%7,%8 s</translation>
+    </message>
+    <message>
+        <source>%1: =%2 comes back as =%3, and saved again, as =%4</source>
+        <translation>%1: =%2 komt terug als =%3, en nog eens opgeslagen als =%4</translation>
+    </message>
+    <message>
+        <source>%1: =%2 comes back as =%3, which cannot be saved</source>
+        <translation>%1: =%2 komt terug als =%3, en dat kan niet worden opgeslagen</translation>
+    </message>
+    <message>
+        <source>%1: =%2 comes back as =%3</source>
+        <translation>%1: =%2 komt terug als =%3</translation>
+    </message>
+    <message>
+        <source>%1: =%2 cannot be saved: %3</source>
+        <translation>%1: =%2 kan niet worden opgeslagen: %3</translation>
+    </message>
 </context>
 <context>
     <name>DesktopDialogs</name>
@@ -1098,6 +1122,13 @@ Controleer de naam van de map.</translation>
     <message>
         <source>No folder can be made in %1</source>
         <translation>In %1 kan geen map worden gemaakt</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::TransferTable</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
