@@ -35,7 +35,9 @@ endfunction()
 
 # velmora_test(NAME SOURCES a_test.cpp … [LIBS layer …] [LABELS label …] [TOOLKIT])
 # One GoogleTest program of a folder; each test case becomes a test of its own in CTest. Where another system
-# is emulated the program is one test, since starting it takes longer than what it tests.
+# is emulated, or the sanitizers set their memory up first, the program is one test, since starting it takes
+# longer than what it tests; not so those with the toolkit under the sanitizers, whose threads and signals are
+# those of the whole program.
 function(velmora_test name)
   cmake_parse_arguments(ARG "TOOLKIT" "" "SOURCES;LIBS;LABELS" ${ARGN})
   add_executable(${name} ${ARG_SOURCES})
@@ -47,7 +49,7 @@ function(velmora_test name)
     target_precompile_headers(${name} REUSE_FROM velmora_test_headers)
   endif()
   set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
-  if(CMAKE_CROSSCOMPILING)
+  if(CMAKE_CROSSCOMPILING OR (VELMORA_SANITIZE AND NOT ARG_TOOLKIT))
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES TIMEOUT 300 LABELS "${ARG_LABELS}")
   else()

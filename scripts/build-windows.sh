@@ -16,14 +16,14 @@ case "$what" in
   core)
     scripts/setup.sh tests
     scripts/setup-windows.sh tools
-    options+=(-DVELMORA_TOOLKIT=OFF -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_FLAGS_DEBUG=-O0
+    options+=(-DVELMORA_TOOLKIT=OFF -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_FLAGS_DEBUG=-O0 -DVELMORA_LLD=ON
       -DCMAKE_UNITY_BUILD=ON -DCMAKE_UNITY_BUILD_BATCH_SIZE=16)
     ;;
   all | programs)
     scripts/setup-windows.sh
     # The linker strips the programs.
     options+=(-DVELMORA_TOOLKIT=ON -DCMAKE_BUILD_TYPE=Release -DCMAKE_CXX_FLAGS_RELEASE="-O2 -DNDEBUG"
-      -DCMAKE_UNITY_BUILD=OFF -DCMAKE_EXE_LINKER_FLAGS_RELEASE=-s
+      -DCMAKE_UNITY_BUILD=OFF -DVELMORA_LLD=OFF -DCMAKE_EXE_LINKER_FLAGS_RELEASE=-s
       -DCMAKE_PREFIX_PATH="$(scripts/setup-windows.sh prefix)" -DQT_HOST_PATH=/usr
       -DQT_HOST_PATH_CMAKE_DIR="/usr/lib/$(uname -m)-linux-gnu/cmake")
     ;;

@@ -12,7 +12,7 @@ source "$(dirname "$0")/install-missing.sh"
 
 packages=(g++ cmake ninja-build qt6-base-dev qt6-l10n-tools libcli11-dev nlohmann-json3-dev libudev-dev ccache libwps-tools fonts-dejavu-core)
 if [[ "${1:-}" == tests || "${1:-}" == valgrind ]]; then
-  packages+=(libgtest-dev libgmock-dev libbenchmark-dev clang clang-format clang-tidy libclang-rt-dev llvm
+  packages+=(libgtest-dev libgmock-dev libbenchmark-dev clang clang-format clang-tidy libclang-rt-dev lld llvm
     xvfb xauth libxcb1-dev dbus-daemon at-spi2-core orca tzdata gnumeric python3 desktop-file-utils appstream pandoc cmark-gfm man-db zsh fish reuse tshark)
 fi
 if [[ "${1:-}" == valgrind ]]; then

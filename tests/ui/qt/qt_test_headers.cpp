@@ -1,0 +1,1 @@
+// A target with a precompiled header needs a source.
