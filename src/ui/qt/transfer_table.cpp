@@ -81,7 +81,7 @@ const ListedTransfer* TransferTable::transfer(int row) const {
 
 QString TransferTable::details(int row) const {
     QStringList lines;
-    for (int column = 0; column < TransferList::kColumns; ++column) {
+    for (int column = 0; column < columnCount({}); ++column) {
         const QString text = shownText(index(row, column));
         if (!text.isEmpty()) {
             lines.append(
