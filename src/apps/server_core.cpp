@@ -71,6 +71,10 @@ void ServerCore::adaptersChanged() {
 
 ServerCore::~ServerCore() {
     // The link may still be up when a program ends early; the services must be there for its last event.
+    stopLink();
+}
+
+void ServerCore::stopLink() {
     link_.PLP_Stop();
 }
 

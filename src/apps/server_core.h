@@ -106,6 +106,8 @@ class ServerCore {
 
     /// As PLP has it.
     std::chrono::nanoseconds soonestFrame() const { return link_.soonestFrame(); }
+    /// Takes the link down and closes the port, when they are not yet; tells whoever watches them.
+    void stopLink();
     /// Adds somebody who hears of all transfers; it must outlive the server.
     void observe(TransferObserver& observer) { transfers_.observe(observer); }
     /// What turns an Organiser's names into paths.

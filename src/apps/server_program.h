@@ -44,6 +44,8 @@ class ServerProgram {
   public:
     /// `platform` must outlive it and polls the controller below.
     ServerProgram(PlatformParts& platform, RunOverrides overrides, const ServerFace& face);
+    /// Closes the port while all that watches it is still there.
+    ~ServerProgram() { core_.stopLink(); }
     ServerProgram(const ServerProgram&) = delete;
     ServerProgram& operator=(const ServerProgram&) = delete;
 
