@@ -11,7 +11,8 @@ optimisation=-O1
 # Several sources at a time compile much faster than one by one. That hides a missing #include, which the other
 # builds find.
 scripts/build.sh build-sanitize -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_FLAGS_DEBUG="$optimisation -g1" \
-  -DCMAKE_CXX_COMPILER=clang++ -DVELMORA_LLD=ON -DBUILD_TESTING=ON -DVELMORA_FUZZ=ON -DVELMORA_SANITIZE=ON -DVELMORA_COVERAGE=ON \
+  -DCMAKE_CXX_COMPILER=clang++ -DVELMORA_LLD=ON -DBUILD_TESTING=ON \
+  -DVELMORA_FUZZ=ON -DVELMORA_SANITIZE=ON -DVELMORA_COVERAGE=ON \
   -DCMAKE_UNITY_BUILD=ON -DCMAKE_UNITY_BUILD_BATCH_SIZE=16 -- "$@" \
   > build-sanitize.log 2>&1 || {
   tail -40 build-sanitize.log

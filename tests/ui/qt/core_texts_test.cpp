@@ -97,7 +97,7 @@ class CoreTextsTest : public QObject {
         QCOMPARE(coreText("A1: =1 comes back as =2, which cannot be saved"),
                  QStringLiteral("A1: =1 kommt als =2 zurück, und das kann nicht gespeichert werden"));
         QCOMPARE(coreText("A1: =FOO(1) cannot be saved: it cannot be converted"),
-                 QStringLiteral("A1: =FOO(1) kann nicht gespeichert werden: it cannot be converted"));
+                 QStringLiteral("A1: =FOO(1) kann nicht gespeichert werden: sie lässt sich nicht umwandeln"));
     }
 
     void sentencesAndLinesAreTakenOneByOne() {

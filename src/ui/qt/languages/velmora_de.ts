@@ -697,8 +697,28 @@ Bitte einen anderen Ordner oder Namen wählen.</translation>
         <translation>%1: =%2 kommt als =%3 zurück</translation>
     </message>
     <message>
-        <source>%1: =%2 cannot be saved: %3</source>
-        <translation>%1: =%2 kann nicht gespeichert werden: %3</translation>
+        <source>%1: =%2 cannot be saved: %9</source>
+        <translation>%1: =%2 kann nicht gespeichert werden: %9</translation>
+    </message>
+    <message>
+        <source>it cannot be converted</source>
+        <translation>sie lässt sich nicht umwandeln</translation>
+    </message>
+    <message>
+        <source>more than 255 arguments</source>
+        <translation>mehr als 255 Argumente</translation>
+    </message>
+    <message>
+        <source>too many parentheses</source>
+        <translation>zu viele Klammern</translation>
+    </message>
+    <message>
+        <source>the formula is too deep</source>
+        <translation>die Formel ist zu tief verschachtelt</translation>
+    </message>
+    <message>
+        <source>the formula&apos;s calls are nested too deep</source>
+        <translation>die Aufrufe der Formel sind zu tief verschachtelt</translation>
     </message>
 </context>
 <context>

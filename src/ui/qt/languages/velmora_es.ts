@@ -697,8 +697,28 @@ Elija otra carpeta u otro nombre.</translation>
         <translation>%1: =%2 vuelve como =%3</translation>
     </message>
     <message>
-        <source>%1: =%2 cannot be saved: %3</source>
-        <translation>%1: =%2 no se puede guardar: %3</translation>
+        <source>%1: =%2 cannot be saved: %9</source>
+        <translation>%1: =%2 no se puede guardar: %9</translation>
+    </message>
+    <message>
+        <source>it cannot be converted</source>
+        <translation>no se puede convertir</translation>
+    </message>
+    <message>
+        <source>more than 255 arguments</source>
+        <translation>más de 255 argumentos</translation>
+    </message>
+    <message>
+        <source>too many parentheses</source>
+        <translation>demasiados paréntesis</translation>
+    </message>
+    <message>
+        <source>the formula is too deep</source>
+        <translation>la fórmula es demasiado profunda</translation>
+    </message>
+    <message>
+        <source>the formula&apos;s calls are nested too deep</source>
+        <translation>las llamadas de la fórmula están anidadas a demasiada profundidad</translation>
     </message>
 </context>
 <context>

@@ -697,8 +697,28 @@ Veuillez choisir un autre dossier ou un autre nom.</translation>
         <translation>%1 : =%2 revient comme =%3</translation>
     </message>
     <message>
-        <source>%1: =%2 cannot be saved: %3</source>
-        <translation>%1 : =%2 ne peut pas être enregistrée : %3</translation>
+        <source>%1: =%2 cannot be saved: %9</source>
+        <translation>%1 : =%2 ne peut pas être enregistrée : %9</translation>
+    </message>
+    <message>
+        <source>it cannot be converted</source>
+        <translation>elle ne peut pas être convertie</translation>
+    </message>
+    <message>
+        <source>more than 255 arguments</source>
+        <translation>plus de 255 arguments</translation>
+    </message>
+    <message>
+        <source>too many parentheses</source>
+        <translation>trop de parenthèses</translation>
+    </message>
+    <message>
+        <source>the formula is too deep</source>
+        <translation>la formule est trop profonde</translation>
+    </message>
+    <message>
+        <source>the formula&apos;s calls are nested too deep</source>
+        <translation>les appels de la formule sont trop imbriqués</translation>
     </message>
 </context>
 <context>

@@ -697,8 +697,28 @@ Scegliere un’altra cartella o un altro nome.</translation>
         <translation>%1: =%2 torna come =%3</translation>
     </message>
     <message>
-        <source>%1: =%2 cannot be saved: %3</source>
-        <translation>%1: =%2 non si può salvare: %3</translation>
+        <source>%1: =%2 cannot be saved: %9</source>
+        <translation>%1: =%2 non si può salvare: %9</translation>
+    </message>
+    <message>
+        <source>it cannot be converted</source>
+        <translation>non si può convertire</translation>
+    </message>
+    <message>
+        <source>more than 255 arguments</source>
+        <translation>più di 255 argomenti</translation>
+    </message>
+    <message>
+        <source>too many parentheses</source>
+        <translation>troppe parentesi</translation>
+    </message>
+    <message>
+        <source>the formula is too deep</source>
+        <translation>la formula è troppo profonda</translation>
+    </message>
+    <message>
+        <source>the formula&apos;s calls are nested too deep</source>
+        <translation>le chiamate della formula sono annidate troppo in profondità</translation>
     </message>
 </context>
 <context>

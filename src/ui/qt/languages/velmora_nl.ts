@@ -697,8 +697,28 @@ Kies een andere map of naam.</translation>
         <translation>%1: =%2 komt terug als =%3</translation>
     </message>
     <message>
-        <source>%1: =%2 cannot be saved: %3</source>
-        <translation>%1: =%2 kan niet worden opgeslagen: %3</translation>
+        <source>%1: =%2 cannot be saved: %9</source>
+        <translation>%1: =%2 kan niet worden opgeslagen: %9</translation>
+    </message>
+    <message>
+        <source>it cannot be converted</source>
+        <translation>ze kan niet worden omgezet</translation>
+    </message>
+    <message>
+        <source>more than 255 arguments</source>
+        <translation>meer dan 255 argumenten</translation>
+    </message>
+    <message>
+        <source>too many parentheses</source>
+        <translation>te veel haakjes</translation>
+    </message>
+    <message>
+        <source>the formula is too deep</source>
+        <translation>de formule is te diep</translation>
+    </message>
+    <message>
+        <source>the formula&apos;s calls are nested too deep</source>
+        <translation>de aanroepen van de formule zijn te diep genest</translation>
     </message>
 </context>
 <context>
